@@ -1,0 +1,27 @@
+# The one target that every other target of the project links: language level, warnings as errors, strict Qt.
+add_library(sweepwise_options INTERFACE)
+
+target_compile_features(sweepwise_options INTERFACE cxx_std_20)
+target_compile_options(sweepwise_options INTERFACE
+    -Wall -Wextra -Wpedantic -Werror
+    -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual
+    -Wnull-dereference -Wduplicated-cond -Wlogical-op -Wuseless-cast)
+target_compile_definitions(sweepwise_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_CONTEXTLESS_CONNECT
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_FOREACH
+    QT_NO_KEYWORDS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_include_directories(sweepwise_options INTERFACE ${PROJECT_BINARY_DIR}/generated)
+
+if(SWEEPWISE_SANITIZE)
+    target_compile_options(sweepwise_options INTERFACE
+        -fsanitize=${SWEEPWISE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(sweepwise_options INTERFACE -fsanitize=${SWEEPWISE_SANITIZE})
+    # The sanitizers' instrumentation makes GCC's flow analysis see null pointers that are not there.
+    target_compile_options(sweepwise_options INTERFACE -Wno-null-dereference)
+endif()

@@ -1,0 +1,273 @@
+#include "fileremove.h"
+
+#include "openfolder_unix.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <cerrno>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+using Status = FileRemover::Status;
+using Outcome = FileRemover::Outcome;
+
+Outcome failure(int error, bool wasFolder = false)
+{
+    return {Status::Failed, wasFolder,
+            QString::fromStdString(std::generic_category().message(error))};
+}
+
+bool isFolderAt(int folder, const char *name)
+{
+    struct stat status {
+    };
+    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// Empties and removes one folder, level by level without recursion. Only the deepest levels are
+/// held open; a level further up is opened anew, link-free from the top of the folder, when the
+/// work comes back to it.
+class FolderRemoval
+{
+public:
+    FolderRemoval(int parent, const QByteArray &name, const std::atomic_bool *stopRequested)
+        : m_parent(parent)
+        , m_name(name)
+        , m_stopRequested(stopRequested)
+    {
+    }
+
+    Outcome run()
+    {
+        m_top = openFolderBelow(m_parent, m_name, Mounts::Stay);
+        if (!m_top.isValid())
+            return failure(errno, true);
+        if (!enter(openFolderBelow(m_top.get(), {}, Mounts::Stay), {}))
+            return failure(m_error, true);
+        while (!m_levels.empty() && !isStopped())
+            step();
+        if (isStopped())
+            return failure(ECANCELED, true);
+        if (m_error == 0 && ::unlinkat(m_parent, m_name.constData(), AT_REMOVEDIR) != 0)
+            note(errno);
+        return m_error == 0 ? Outcome{Status::Removed, true, {}} : failure(m_error, true);
+    }
+
+private:
+    static constexpr std::size_t levelsHeldOpen = 64;
+
+    struct Level {
+        UniqueFd fd;
+        QByteArray name; ///< in its parent level; empty at the top
+        std::vector<QByteArray> subfolders; ///< still to be removed
+    };
+
+    bool isStopped() const { return m_stopRequested && m_stopRequested->load(); }
+
+    void note(int error)
+    {
+        if (m_error == 0)
+            m_error = error;
+    }
+
+    // Removes everything in the folder but its subfolders, and puts it on the stack with those.
+    bool enter(UniqueFd fd, const QByteArray &name)
+    {
+        if (!fd.isValid()) {
+            note(errno);
+            return false;
+        }
+        Level level{std::move(fd), name, {}};
+        if (!clear(level))
+            return false;
+        m_levels.push_back(std::move(level));
+        if (m_levels.size() > levelsHeldOpen)
+            m_levels[m_levels.size() - levelsHeldOpen - 1].fd.reset();
+        return true;
+    }
+
+    bool clear(Level &level)
+    {
+        char buffer[32 * 1024];
+        for (;;) {
+            const ssize_t length = ::getdents64(level.fd.get(), buffer, sizeof buffer);
+            if (length == 0)
+                return true;
+            if (length < 0) {
+                note(errno);
+                return false;
+            }
+            for (ssize_t offset = 0; offset < length;) {
+                if (isStopped())
+                    return true;
+                const auto *entry = reinterpret_cast<const dirent64 *>(buffer + offset);
+                offset += entry->d_reclen;
+                if (qstrcmp(entry->d_name, ".") != 0 && qstrcmp(entry->d_name, "..") != 0)
+                    removeEntry(level, *entry);
+            }
+        }
+    }
+
+    void removeEntry(Level &level, const dirent64 &entry)
+    {
+        const int fd = level.fd.get();
+        const bool isFolder =
+            entry.d_type == DT_DIR || (entry.d_type == DT_UNKNOWN && isFolderAt(fd, entry.d_name));
+        if (isFolder) {
+            level.subfolders.emplace_back(entry.d_name);
+        } else if (::unlinkat(fd, entry.d_name, 0) != 0 && errno != ENOENT) {
+            // A folder that its owner made read-only does not protect what is in it from being
+            // cleaned.
+            const int error = errno;
+            if (error != EACCES || !makeWritable(fd) || ::unlinkat(fd, entry.d_name, 0) != 0)
+                note(error);
+        }
+    }
+
+    static bool makeWritable(int fd)
+    {
+        struct stat status {
+        };
+        return ::fstat(fd, &status) == 0 && (status.st_mode & S_IWUSR) == 0
+            && ::fchmod(fd, (status.st_mode & 07777) | S_IRWXU) == 0;
+    }
+
+    void step()
+    {
+        Level &level = m_levels.back();
+        if (!level.fd.isValid()) {
+            level.fd = openFolderBelow(m_top.get(), relativePath(), Mounts::Stay);
+            if (!level.fd.isValid()) {
+                note(errno);
+                m_levels.pop_back();
+                return;
+            }
+        }
+        if (level.subfolders.empty()) {
+            leave();
+            return;
+        }
+        const QByteArray name = std::move(level.subfolders.back());
+        level.subfolders.pop_back();
+        const int fd = level.fd.get();
+        UniqueFd subfolder = openFolderBelow(fd, name, Mounts::Stay);
+        if (!subfolder.isValid() && (errno == ELOOP || errno == ENOTDIR)) {
+            // It was exchanged for something else since its parent was read: that goes as what it
+            // is.
+            if (::unlinkat(fd, name.constData(), 0) != 0 && errno != ENOENT)
+                note(errno);
+            return;
+        }
+        enter(std::move(subfolder), name);
+    }
+
+    // The deepest level is empty: back to its parent, which removes it.
+    void leave()
+    {
+        const QByteArray name = m_levels.back().name;
+        m_levels.pop_back();
+        if (m_levels.empty())
+            return;
+        Level &parent = m_levels.back();
+        if (!parent.fd.isValid())
+            parent.fd = openFolderBelow(m_top.get(), relativePath(), Mounts::Stay);
+        if (!parent.fd.isValid()) {
+            note(errno);
+            return;
+        }
+        const int fd = parent.fd.get();
+        if (::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0 || errno == ENOENT)
+            return;
+        const int error = errno;
+        if (error != EACCES || !makeWritable(fd)
+            || ::unlinkat(fd, name.constData(), AT_REMOVEDIR) != 0) {
+            note(error);
+        }
+    }
+
+    QByteArray relativePath() const
+    {
+        QByteArray path;
+        for (const Level &level : m_levels) {
+            if (!path.isEmpty())
+                path += '/';
+            path += level.name;
+        }
+        return path;
+    }
+
+    const int m_parent;
+    const QByteArray m_name;
+    const std::atomic_bool *const m_stopRequested;
+    UniqueFd m_top;
+    std::vector<Level> m_levels;
+    int m_error = 0;
+};
+
+} // namespace
+
+class FileRemover::Private
+{
+public:
+    // Opens the folder of the next entry, unless it is the one that is open already.
+    bool openParent(const QByteArray &path)
+    {
+        if (fd.isValid() && folder == path)
+            return true;
+        fd = openFolder(path);
+        folder = path;
+        return fd.isValid();
+    }
+
+    QByteArray folder;
+    UniqueFd fd;
+};
+
+FileRemover::FileRemover()
+    : d(std::make_unique<Private>())
+{
+}
+
+FileRemover::~FileRemover() = default;
+
+FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
+{
+    const SplitPath split = splitPath(path);
+    if (split.name.isEmpty())
+        return failure(EINVAL);
+
+    // An open folder may have been removed and made again under the same name: then one fresh look.
+    const bool wasOpen = d->fd.isValid() && d->folder == split.folder;
+    int error = ENOENT;
+    for (int attempts = wasOpen ? 2 : 1; attempts > 0 && error == ENOENT; --attempts) {
+        if (!d->openParent(split.folder)) {
+            error = errno;
+            return error == ENOENT ? Outcome{Status::NotFound, false, {}} : failure(error);
+        }
+        if (::unlinkat(d->fd.get(), split.name.constData(), 0) == 0)
+            return {Status::Removed, false, {}};
+        error = errno;
+        if (error == ENOENT)
+            d->fd.reset();
+    }
+    if (error == ENOENT)
+        return {Status::NotFound, false, {}};
+    if (isFolderAt(d->fd.get(), split.name.constData()))
+        return FolderRemoval(d->fd.get(), split.name, stopRequested).run();
+    return failure(error);
+}
+
+} // namespace platform

@@ -1,0 +1,127 @@
+#include "folders.h"
+#include "folders_p.h"
+
+#include "wineprefix_unix.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+// The environment's word first, then the prefix's folder, then whatever the desktop has.
+QString firstSet(const char *variable, const QString &inPrefix, const QString &otherwise)
+{
+    const QString fromEnvironment = qEnvironmentVariable(variable);
+    if (!fromEnvironment.isEmpty())
+        return QDir::fromNativeSeparators(fromEnvironment).replace(u'\\', u'/');
+    return inPrefix.isEmpty() ? otherwise : inPrefix;
+}
+
+QString below(const QString &base, const QString &relative)
+{
+    return base.isEmpty() ? QString() : wineprefix::matchCase(base, relative);
+}
+
+bool startsWithDrive(const QString &path)
+{
+    return path.size() >= 2 && path.at(1) == u':' && path.at(0).isLetter()
+        && (path.size() == 2 || path.at(2) == u'/');
+}
+
+} // namespace
+
+QString temporaryFolder()
+{
+    return firstSet("TMPDIR", below(wineprefix::userFolder(), u"AppData/Local/Temp"_s),
+                    QDir::tempPath());
+}
+
+QString localDataFolder()
+{
+    return firstSet("LOCALAPPDATA", below(wineprefix::userFolder(), u"AppData/Local"_s),
+                    QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+}
+
+QString roamingDataFolder()
+{
+    return firstSet("APPDATA", below(wineprefix::userFolder(), u"AppData/Roaming"_s),
+                    QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+}
+
+QString homeFolder()
+{
+    return firstSet("USERPROFILE", wineprefix::userFolder(), QDir::homePath());
+}
+
+QString programDataFolder()
+{
+    return firstSet("PROGRAMDATA", below(wineprefix::systemDrive(), u"ProgramData"_s), {});
+}
+
+QString windowsFolder()
+{
+    return firstSet("WINDIR", below(wineprefix::systemDrive(), u"windows"_s), u"C:/Windows"_s);
+}
+
+QString systemDrive()
+{
+    return firstSet("SYSTEMDRIVE", wineprefix::systemDrive(), u"C:"_s);
+}
+
+QString locate(const QString &base, const QString &relative)
+{
+    QString folder = QDir::fromNativeSeparators(base).replace(u'\\', u'/');
+    if (startsWithDrive(folder)) {
+        const QString drive = wineprefix::drive(folder.at(0));
+        folder = drive.isEmpty() ? QString() : wineprefix::matchCase(drive, folder.mid(2));
+    }
+    folder = canonicalPath(folder);
+    if (folder.isEmpty())
+        return {};
+
+    QString rest = relative;
+    rest.replace(u'\\', u'/');
+    const QStringList names = rest.split(u'/', Qt::SkipEmptyParts);
+    if (names.contains(".."_L1) || names.contains("."_L1))
+        return {};
+    rest = names.join(u'/');
+    if (rest.isEmpty())
+        return folder;
+
+    const QString prefix = wineprefix::folder();
+    if (!prefix.isEmpty() && (folder + u'/').startsWith(prefix + u'/'))
+        return wineprefix::matchCase(folder, rest);
+    return (folder == u'/' ? folder : folder + u'/') + rest;
+}
+
+QString canonicalPath(const QString &path)
+{
+    return QDir::isAbsolutePath(path) ? QFileInfo(path).canonicalFilePath() : QString();
+}
+
+QStringList protectedFolders()
+{
+    const QString drive = wineprefix::systemDrive();
+    QStringList folders{QDir::homePath(),
+                        homeFolder(),
+                        locate(windowsFolder(), {}),
+                        locate(windowsFolder(), u"system32"_s),
+                        drive,
+                        below(drive, u"Program Files"_s),
+                        below(drive, u"Program Files (x86)"_s)};
+    folders += {u"/usr"_s, u"/etc"_s, u"/bin"_s, u"/sbin"_s, u"/lib"_s, u"/boot"_s, u"/var"_s};
+    return folders;
+}
+
+Qt::CaseSensitivity pathCase()
+{
+    return Qt::CaseSensitive;
+}
+
+} // namespace platform

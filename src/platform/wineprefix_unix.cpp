@@ -1,0 +1,94 @@
+#include "wineprefix_unix.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <pwd.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform::wineprefix {
+
+namespace {
+
+QString existing(const QString &path)
+{
+    return QFileInfo(path).isDir() ? path : QString();
+}
+
+QString userName()
+{
+    const QString name = qEnvironmentVariable("USER");
+    if (!name.isEmpty())
+        return name;
+    const passwd *entry = ::getpwuid(::getuid());
+    return entry ? QString::fromLocal8Bit(entry->pw_name) : QString();
+}
+
+} // namespace
+
+QString folder()
+{
+    QString path = qEnvironmentVariable("WINEPREFIX");
+    if (path.isEmpty())
+        path = QDir::homePath() + "/.wine"_L1;
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() || existing(canonical + "/drive_c"_L1).isEmpty() ? QString()
+                                                                                : canonical;
+}
+
+QString systemDrive()
+{
+    const QString prefix = folder();
+    return prefix.isEmpty() ? QString() : QFileInfo(prefix + "/drive_c"_L1).canonicalFilePath();
+}
+
+QString userFolder()
+{
+    const QString drive = systemDrive();
+    if (drive.isEmpty())
+        return {};
+    const QString users = matchCase(drive, u"users"_s);
+    const QString own = existing(matchCase(users, userName()));
+    if (!own.isEmpty() && own != users)
+        return own;
+    // A prefix that somebody else made: only one profile beside the public one leaves no doubt.
+    QStringList profiles = QDir(users).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    profiles.removeIf(
+        [](const QString &name) { return name.compare("Public"_L1, Qt::CaseInsensitive) == 0; });
+    return profiles.size() == 1 ? users + u'/' + profiles.constFirst() : QString();
+}
+
+QString drive(QChar letter)
+{
+    const QString prefix = folder();
+    if (prefix.isEmpty())
+        return {};
+    return QFileInfo(prefix + "/dosdevices/"_L1 + letter.toLower() + u':').canonicalFilePath();
+}
+
+QString matchCase(const QString &base, const QString &relative)
+{
+    QString path = base;
+    const QStringList names = relative.split(u'/', Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        const QString exact = path + u'/' + name;
+        const QFileInfo info(exact);
+        QString found = name;
+        if (!info.exists() && !info.isSymLink()) {
+            const QStringList entries = QDir(path).entryList(QDir::AllEntries | QDir::Hidden
+                                                             | QDir::System | QDir::NoDotAndDotDot);
+            for (const QString &entry : entries) {
+                if (entry.compare(name, Qt::CaseInsensitive) == 0) {
+                    found = entry;
+                    break;
+                }
+            }
+        }
+        path += u'/' + found;
+    }
+    return path;
+}
+
+} // namespace platform::wineprefix

@@ -1,0 +1,87 @@
+#include "logger.h"
+
+#include "text.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QMutexLocker>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QLatin1StringView levelText(int level)
+{
+    switch (level) {
+    case Logger::Debug:
+        return "DEBUG"_L1;
+    case Logger::Info:
+        return "INFO"_L1;
+    case Logger::Warning:
+        return "WARN"_L1;
+    case Logger::Error:
+        return "ERROR"_L1;
+    default:
+        return "UNKNOWN"_L1;
+    }
+}
+
+} // namespace
+
+Logger &Logger::instance()
+{
+    // Never destroyed: engines may still log while static objects are taken down.
+    static auto *const logger = new Logger;
+    return *logger;
+}
+
+Logger::Logger() = default;
+
+Logger::~Logger()
+{
+    if (m_file.isOpen())
+        m_file.close();
+}
+
+void Logger::init(const QString &logDirectory)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (m_file.isOpen())
+        m_file.close();
+    m_fileReady = false;
+
+    QDir().mkpath(logDirectory);
+    const QDateTime now = QDateTime::currentDateTime();
+    m_file.setFileName(logDirectory + "/sweepwise_"_L1 + now.toString(u"yyyyMMdd"_s) + ".log"_L1);
+    if (!m_file.open(QIODevice::Append | QIODevice::Text))
+        return;
+    m_fileReady = true;
+
+    const QString rule(40, u'=');
+    QTextStream stream(&m_file);
+    stream << '\n' << rule << '\n';
+    stream << "Sweepwise Log Started: " << now.toString(Qt::TextDate) << '\n';
+    stream << rule << '\n';
+}
+
+void Logger::log(int level, const QString &message)
+{
+    if (level < m_minimumLevel)
+        return;
+
+    const QString line =
+        u"[%1] [%2] %3"_s.arg(QDateTime::currentDateTime().toString(u"yyyy-MM-dd hh:mm:ss.zzz"_s),
+                              levelText(level), singleLine(message));
+    qDebug().noquote() << line;
+
+    if (!m_fileReady)
+        return;
+    const QMutexLocker lock(&m_mutex);
+    if (!m_file.isOpen())
+        return;
+    QTextStream stream(&m_file);
+    stream << line << '\n';
+    stream.flush();
+}

@@ -1,0 +1,102 @@
+#include "cleanengine.h"
+
+#include <QThread>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+CleanEngine::CleanEngine(QObject *parent)
+    : QObject(parent)
+{
+    qRegisterMetaType<ScanResult>("ScanResult");
+    qRegisterMetaType<CleanEngine::State>();
+}
+
+CleanEngine::~CleanEngine()
+{
+    stopAndWait();
+}
+
+void CleanEngine::loadRules(const QString &) { }
+
+void CleanEngine::startScan()
+{
+    stopAndWait();
+    m_stopRequested = false;
+    // A million records take a noticeable time to free: the worker does it, once the pages have let
+    // go.
+    QList<CleanCategory> discarded = std::exchange(m_result.categories, {});
+    setState(State::Scanning);
+
+    const quint64 run = ++m_run;
+    startWorker(
+        std::unique_ptr<QThread>(QThread::create([this, run, old = std::move(discarded)]() mutable {
+            old.clear();
+            doScan();
+            if (!isStopRequested())
+                QMetaObject::invokeMethod(
+                    this, [this, run] { completeScan(run); }, Qt::QueuedConnection);
+        })));
+}
+
+void CleanEngine::startClean()
+{
+    stopAndWait();
+    m_stopRequested = false;
+    m_selection = m_result.checkedOnly();
+    m_failures.clear();
+    setState(State::Cleaning);
+
+    ++m_run;
+    startWorker(std::unique_ptr<QThread>(QThread::create([this] {
+        doClean();
+        m_selection.categories.clear();
+    })));
+}
+
+void CleanEngine::cancel()
+{
+    m_stopRequested = true;
+    setState(State::Cancelled);
+}
+
+void CleanEngine::stopAndWait()
+{
+    if (!m_worker)
+        return;
+    m_stopRequested = true;
+    m_worker->wait();
+    m_worker.reset();
+}
+
+void CleanEngine::setState(State state)
+{
+    if (m_state.exchange(state) != state)
+        Q_EMIT stateChanged(state);
+}
+
+void CleanEngine::endClean(State end)
+{
+    State expected = State::Cleaning;
+    if (m_state.compare_exchange_strong(expected, end))
+        Q_EMIT stateChanged(end);
+}
+
+void CleanEngine::startWorker(std::unique_ptr<QThread> worker)
+{
+    m_worker = std::move(worker);
+    m_worker->setObjectName(QString::fromLatin1(metaObject()->className()) + "Worker"_L1);
+    m_worker->start();
+}
+
+// Posted by the worker. A completion that was overtaken by cancel() or by another run is dropped:
+// its number is old.
+void CleanEngine::completeScan(quint64 run)
+{
+    if (run != m_run || state() != State::Scanning)
+        return;
+    setState(State::Finished);
+    if (run == m_run)
+        Q_EMIT scanFinished(m_result);
+}

@@ -1,0 +1,258 @@
+#include "junkcleaner.h"
+
+#include "appinfo.h"
+#include "fileremove.h"
+#include "filewalk.h"
+#include "folders.h"
+#include "logger.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <iterator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char utf8ByteOrderMark[] = "\xEF\xBB\xBF";
+
+// The application's own folder with its name taken out again: what is left ends in the
+// organisation's folder.
+QString organisationDataFolder()
+{
+    QString folder =
+        platform::roamingDataFolder() + u'/' + appinfo::organisation + u'/' + appinfo::name;
+    return folder.remove(u'/' + appinfo::name);
+}
+
+// The location's leading folder, which the environment names, and what the rule appends to it.
+struct Location {
+    QString base;
+    QString relative;
+};
+
+Location splitLocation(const QString &location)
+{
+    const auto isSeparator = [](QChar c) { return c == u'\\' || c == u'/'; };
+    const auto separator = std::find_if(location.begin(), location.end(), isSeparator);
+    const QString base(location.constData(), std::distance(location.begin(), separator));
+    return {base.isEmpty() && !location.isEmpty() ? u"/"_s : base, location.mid(base.size())};
+}
+
+} // namespace
+
+JunkCleaner::JunkCleaner(QObject *parent)
+    : CleanEngine(parent)
+{
+}
+
+JunkCleaner::~JunkCleaner()
+{
+    stopAndWait();
+}
+
+void JunkCleaner::loadRules(const QString &path)
+{
+    qDebug() << "[JunkCleaner] ========== Loading Rules ==========";
+    qDebug() << "[JunkCleaner] Path:" << path;
+    qDebug() << "[JunkCleaner] File exists:" << QFile::exists(path);
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        Logger::instance().error("Failed to load junk rules: "_L1 + path);
+        qDebug() << "[JunkCleaner] ✗ Open failed:" << file.errorString();
+        return;
+    }
+    QByteArray data = file.readAll();
+    file.close();
+    qDebug() << "[JunkCleaner] File size:" << data.size() << "bytes";
+    if (data.startsWith(utf8ByteOrderMark)) {
+        data.remove(0, 3);
+        qDebug() << "[JunkCleaner] Removed UTF-8 BOM";
+    }
+    qDebug() << "[JunkCleaner] First 100 chars:" << QString::fromUtf8(data.left(100));
+
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(data, &parseError);
+    if (parseError.error != QJsonParseError::NoError) {
+        Logger::instance().error("JSON parse error: "_L1 + parseError.errorString());
+        qDebug() << "[JunkCleaner] ✗ Parse error:" << parseError.errorString();
+        qDebug() << "[JunkCleaner] Error at offset:" << parseError.offset;
+        return;
+    }
+    if (!document.isObject()) {
+        Logger::instance().error(u"Invalid junk rules format"_s);
+        qDebug() << "[JunkCleaner] ✗ Document is not an object!";
+        qDebug() << "[JunkCleaner] isNull:" << document.isNull();
+        qDebug() << "[JunkCleaner] isArray:" << document.isArray();
+        return;
+    }
+    qDebug() << "[JunkCleaner] ✓ JSON parsed successfully";
+
+    m_rules.clear();
+    const QJsonArray rules = document.object()["rules"_L1].toArray();
+    qDebug() << "[JunkCleaner] Rules array count:" << rules.size();
+    for (const QJsonValue &rule : rules)
+        m_rules.append(JunkRule::fromJson(rule.toObject()));
+
+    Logger::instance().info(u"Loaded %1 junk rules"_s.arg(m_rules.size()));
+    qDebug() << "[JunkCleaner] ✓ Loaded" << m_rules.size() << "rules successfully";
+    qDebug() << "[JunkCleaner] ========================================";
+}
+
+QString JunkCleaner::expandPath(const QString &text)
+{
+    QString path = text;
+    path.replace("%TEMP%"_L1, platform::temporaryFolder());
+    path.replace("%LOCALAPPDATA%"_L1, platform::localDataFolder());
+    path.replace("%APPDATA%"_L1, organisationDataFolder());
+    path.replace("%USERPROFILE%"_L1, platform::homeFolder());
+    path.replace("%PROGRAMDATA%"_L1, platform::programDataFolder());
+    path.replace("%WINDIR%"_L1, platform::windowsFolder());
+    path.replace("%SYSTEMROOT%"_L1, platform::windowsFolder());
+    path.replace("%SYSTEMDRIVE%"_L1, platform::systemDrive());
+    return QDir::toNativeSeparators(path.replace(u'\\', u'/'));
+}
+
+void JunkCleaner::doScan()
+{
+    Logger::instance().info(u"Starting junk scan..."_s);
+    const int ruleCount = static_cast<int>(m_rules.size());
+    for (int i = 1; i <= ruleCount; ++i) {
+        if (isStopRequested()) {
+            setState(State::Cancelled);
+            return;
+        }
+        const JunkRule &rule = m_rules.at(i - 1);
+        Q_EMIT scanProgress(i, ruleCount, rule.name);
+        scanRule(rule);
+    }
+    result().scanTime = QDateTime::currentDateTime();
+    Logger::instance().info(u"Junk scan finished. Found %1 items, %2"_s.arg(
+        QString::number(result().totalCount()), formatSize(result().totalSize())));
+}
+
+void JunkCleaner::scanRule(const JunkRule &rule)
+{
+    CleanCategory category(rule.id, rule.name, rule.description);
+    category.checked = rule.defaultChecked;
+    category.riskLevel = rule.riskLevel;
+    for (const QString &location : rule.paths) {
+        if (isStopRequested())
+            return;
+        scanLocation(location, rule, category.items);
+    }
+    if (category.items.isEmpty())
+        return;
+    category.items.squeeze();
+    result().categories.append(std::move(category));
+}
+
+void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
+                               QList<CleanItem> &items)
+{
+    const Location split = splitLocation(location);
+    const QString path = platform::locate(expandPath(split.base), split.relative);
+    if (path.isEmpty())
+        return;
+    const platform::Entry entry = platform::inspect(path);
+    switch (entry.kind) {
+    case platform::EntryKind::Folder:
+        if (rule.takesWholeTrees() && platform::isProtectedRoot(path)) {
+            Logger::instance().warning(
+                u"Skipped %1: rule %2 would take everything in it"_s.arg(path, rule.id));
+            return;
+        }
+        scanDirectory(path, rule.patterns, items, rule.recursive);
+        return;
+    case platform::EntryKind::File: {
+        CleanItem item(QFileInfo(path).fileName(), path, entry.size);
+        item.checked = rule.defaultChecked;
+        item.riskLevel = rule.riskLevel;
+        items.append(item);
+        return;
+    }
+    case platform::EntryKind::Link:
+        Logger::instance().warning(u"Skipped %1: a link leads elsewhere"_s.arg(path));
+        return;
+    case platform::EntryKind::Missing:
+    case platform::EntryKind::Other:
+        return;
+    }
+}
+
+void JunkCleaner::scanDirectory(const QString &directory, const QStringList &patterns,
+                                QList<CleanItem> &items, bool recursive)
+{
+    const platform::WalkOptions options{patterns, recursive, &stopFlag()};
+    const platform::WalkReport report =
+        platform::walkFiles(directory, options, [&items](platform::WalkedFile &&file) {
+            items.emplaceBack(file.name, file.path, file.size);
+        });
+    for (const platform::WalkFailure &failure : report.failures)
+        Logger::instance().warning(
+            u"Cannot read folder: %1 - %2"_s.arg(failure.path, failure.reason));
+    const qint64 unnamed = report.failureCount - report.failures.size();
+    if (unnamed > 0)
+        Logger::instance().warning(
+            u"Cannot read %1 more folders below %2"_s.arg(QString::number(unnamed), directory));
+}
+
+void JunkCleaner::doClean()
+{
+    Logger::instance().info(u"Starting junk clean..."_s);
+    int cleanedCount = 0;
+    int failedCount = 0;
+    qint64 cleanedSize = 0;
+    const int total = selection().checkedCount();
+    int index = 0;
+    platform::FileRemover remover;
+    for (const CleanCategory &category : selection().categories) {
+        for (const CleanItem &item : category.items) {
+            if (isStopRequested()) {
+                endClean(State::Cancelled);
+                Q_EMIT cleanFinished(cleanedSize, cleanedCount);
+                return;
+            }
+            ++index;
+            Q_EMIT cleanProgress(index, total, cleanedSize);
+            if (removePath(remover, item.path)) {
+                cleanedSize += item.size;
+                ++cleanedCount;
+            } else {
+                ++failedCount;
+            }
+        }
+    }
+    endClean(State::Finished);
+    Q_EMIT cleanFinished(cleanedSize, cleanedCount);
+    Logger::instance().info(u"Junk clean finished. Cleaned %1 items, %2. Failed: %3 items"_s.arg(
+        QString::number(cleanedCount), formatSize(cleanedSize), QString::number(failedCount)));
+}
+
+bool JunkCleaner::removePath(platform::FileRemover &remover, const QString &path)
+{
+    using Status = platform::FileRemover::Status;
+    const platform::FileRemover::Outcome outcome = remover.remove(path, &stopFlag());
+    QString line;
+    switch (outcome.status) {
+    case Status::Removed:
+        return true;
+    case Status::NotFound:
+        line = u"File not found: %1"_s.arg(path);
+        break;
+    case Status::Failed:
+        line = outcome.wasFolder ? u"Failed to remove directory: %1"_s.arg(path)
+                                 : u"Failed to remove file: %1 - %2"_s.arg(path, outcome.error);
+        break;
+    }
+    Logger::instance().warning(line);
+    addFailure({path, outcome.status == Status::NotFound ? tr("File not found") : outcome.error});
+    return false;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// One rule of the junk rule file: where to look and what to take there.
+struct JunkRule {
+    QString id;
+    QString name;
+    QString description;
+    QStringList paths; ///< files or folders, with placeholders and backslashes
+    QStringList patterns; ///< file-name wildcards for the folders; empty takes every file
+    bool defaultChecked = true;
+    int riskLevel = 0;
+    bool recursive = true;
+
+    /// @p object as a rule. A member that is missing or of another type gets the default above; an
+    /// element of a list that is no string becomes an empty one and is kept.
+    [[nodiscard]] static JunkRule fromJson(const QJsonObject &object);
+
+    /// Whether the rule takes every file of every folder below its locations.
+    [[nodiscard]] bool takesWholeTrees() const;
+};

@@ -1,0 +1,207 @@
+#include "itemdetaildialog.h"
+
+#include "detailitemwidget.h"
+#include "filemanager.h"
+#include "scanresult.h"
+#include "svgicon.h"
+#include "text.h"
+#include "theme.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype batchSize = 50;
+
+} // namespace
+
+ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+    , m_category(category)
+{
+    setObjectName("itemDetailDialog"_L1);
+    setWindowTitle(singleLine(category->name));
+    setStyleSheet(u"#itemDetailDialog { background-color: %1; border: 1px solid %2; }"_s.arg(
+        QString(theme::white), QString(theme::border)));
+    resize(760, 540);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(0);
+    m_titleBar = buildTitleBar();
+    layout->addWidget(m_titleBar);
+    layout->addWidget(buildColumnHeader());
+
+    m_scrollArea = new QScrollArea(this);
+    m_scrollArea->setObjectName("detailScrollArea"_L1);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *list = new QWidget(m_scrollArea);
+    list->setObjectName("detailList"_L1);
+    list->setStyleSheet(u"#detailList { background-color: %1; }"_s.arg(theme::white));
+    m_rows = new QVBoxLayout(list);
+    m_rows->setContentsMargins(0, 0, 0, 0);
+    m_rows->setSpacing(0);
+    m_rows->setAlignment(Qt::AlignTop);
+    m_scrollArea->setWidget(list);
+    layout->addWidget(m_scrollArea, 1);
+
+    connect(m_scrollArea->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &ItemDetailDialog::onScrollChanged);
+    loadMoreItems();
+}
+
+QWidget *ItemDetailDialog::buildTitleBar()
+{
+    auto *bar = new QWidget(this);
+    bar->setObjectName("detailTitleBar"_L1);
+    bar->setAttribute(Qt::WA_StyledBackground);
+    bar->setStyleSheet(
+        u"#detailTitleBar { background-color: %1; } QLabel { background: transparent; color: white; }"_s
+            .arg(theme::accent));
+    bar->setFixedHeight(60);
+    auto *layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(12, 0, 20, 0);
+    layout->setSpacing(12);
+
+    auto *back = new QPushButton(
+        QIcon(svgPixmap(u":/icons/chevron-left.svg"_s, {24, 24}, devicePixelRatioF())), {}, bar);
+    back->setObjectName("backBtn"_L1);
+    back->setIconSize({24, 24});
+    back->setFixedSize(36, 36);
+    back->setCursor(Qt::PointingHandCursor);
+    back->setToolTip(tr("Back"));
+    back->setAccessibleName(tr("Back"));
+    back->setAutoDefault(false);
+    back->setStyleSheet(u"QPushButton { background: transparent; border: 2px solid transparent; "
+                        u"border-radius: 8px; }"
+                        "QPushButton:hover { background-color: %1; }"
+                        "QPushButton:focus { border-color: white; }"_s.arg(theme::accentHover));
+    connect(back, &QPushButton::clicked, this, &QDialog::reject);
+    layout->addWidget(back);
+
+    auto *name = new QLabel(singleLine(m_category->name), bar);
+    name->setObjectName("detailTitle"_L1);
+    name->setTextFormat(Qt::PlainText);
+    name->setStyleSheet(u"font-size: 16px; font-weight: 600;"_s);
+    layout->addWidget(name, 1);
+    auto *summary = new QLabel(
+        tr("%1  |  %2 files")
+            .arg(formatSize(m_category->totalSize()), QString::number(m_category->items.size())),
+        bar);
+    summary->setObjectName("detailSummary"_L1);
+    summary->setStyleSheet(u"font-size: 13px;"_s);
+    layout->addWidget(summary);
+    return bar;
+}
+
+QWidget *ItemDetailDialog::buildColumnHeader()
+{
+    auto *header = new QWidget(this);
+    header->setObjectName("detailHeader"_L1);
+    header->setAttribute(Qt::WA_StyledBackground);
+    header->setStyleSheet(
+        u"#detailHeader { background-color: %1; border-bottom: 1px solid %2; }"_s.arg(
+            QString(theme::hover), QString(theme::border)));
+    header->setFixedHeight(38);
+    auto *layout = new QHBoxLayout(header);
+    layout->setContentsMargins(20, 0, 20, 0);
+    layout->setSpacing(12);
+    const auto addColumn = [&](const QString &text, Qt::Alignment alignment, int width) {
+        auto *label = new QLabel(text, header);
+        label->setStyleSheet(theme::label(theme::muted, 12, 600));
+        label->setAlignment(alignment | Qt::AlignVCenter);
+        if (width > 0)
+            label->setFixedWidth(width);
+        layout->addWidget(label, width > 0 ? 0 : 1);
+    };
+    addColumn(tr("Name"), Qt::AlignLeft, 0);
+    addColumn(tr("Size"), Qt::AlignRight, 100);
+    addColumn(tr("Action"), Qt::AlignHCenter, 190);
+    return header;
+}
+
+void ItemDetailDialog::loadMoreItems()
+{
+    if (m_loading || m_loadedCount >= m_category->items.size())
+        return;
+    m_loading = true;
+    const qsizetype end = qMin(m_loadedCount + batchSize, m_category->items.size());
+    for (qsizetype index = m_loadedCount; index < end; ++index) {
+        auto *row = new DetailItemWidget(m_category->items.at(index), index % 2 == 1, this);
+        connect(row, &DetailItemWidget::openLocationRequested, this,
+                &ItemDetailDialog::onOpenLocation);
+        m_rows->addWidget(row);
+    }
+    m_loadedCount = end;
+    m_loading = false;
+    QTimer::singleShot(0, this, &ItemDetailDialog::fillScreen);
+}
+
+// Until the first screen is full there is nothing to scroll and nothing that would ask for the next
+// batch.
+void ItemDetailDialog::fillScreen()
+{
+    const int listHeight = m_scrollArea->widget()->sizeHint().height();
+    if (isVisible() && listHeight < m_scrollArea->viewport()->height() + 50)
+        loadMoreItems();
+}
+
+void ItemDetailDialog::onScrollChanged(int value)
+{
+    if (m_scrollArea->verticalScrollBar()->maximum() - value < 100 && !m_loading)
+        loadMoreItems();
+}
+
+void ItemDetailDialog::onOpenLocation(const QString &path)
+{
+    if (QFileInfo::exists(path)) {
+        platform::revealFile(path);
+        return;
+    }
+    QMessageBox box(QMessageBox::Information, tr("Notice"), tr("This file no longer exists."),
+                    QMessageBox::Ok, this);
+    box.setStyleSheet(theme::messageBox());
+    box.exec();
+}
+
+void ItemDetailDialog::mousePressEvent(QMouseEvent *event)
+{
+    if (m_titleBar->geometry().contains(event->position().toPoint()))
+        m_drag.press(event);
+}
+
+void ItemDetailDialog::mouseMoveEvent(QMouseEvent *event)
+{
+    m_drag.move(event);
+}
+
+void ItemDetailDialog::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_drag.release(event);
+}
+
+void ItemDetailDialog::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    fillScreen();
+}
+
+void ItemDetailDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    QTimer::singleShot(0, this, &ItemDetailDialog::fillScreen);
+}

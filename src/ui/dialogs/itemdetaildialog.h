@@ -1,0 +1,47 @@
+#pragma once
+
+#include "windowdrag.h"
+
+#include <QDialog>
+
+class QLabel;
+class QScrollArea;
+class QVBoxLayout;
+struct CleanCategory;
+
+/// Lists every file of a category in batches of fifty as the user scrolls. Reads the record only,
+/// which outlives the dialog.
+class ItemDetailDialog final : public QDialog
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ItemDetailDialog)
+public:
+    explicit ItemDetailDialog(const CleanCategory *category, QWidget *parent = nullptr);
+
+    [[nodiscard]] qsizetype loadedCount() const { return m_loadedCount; }
+
+public Q_SLOTS:
+    void loadMoreItems();
+    void onScrollChanged(int value);
+    void onOpenLocation(const QString &path);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QWidget *buildTitleBar();
+    QWidget *buildColumnHeader();
+    void fillScreen();
+
+    const CleanCategory *m_category;
+    qsizetype m_loadedCount = 0;
+    bool m_loading = false;
+    WindowDrag m_drag{this};
+    QWidget *m_titleBar = nullptr;
+    QScrollArea *m_scrollArea = nullptr;
+    QVBoxLayout *m_rows = nullptr;
+};

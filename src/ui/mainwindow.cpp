@@ -1,0 +1,351 @@
+#include "mainwindow.h"
+
+#include "application.h"
+#include "emptypage.h"
+#include "junkpage.h"
+#include "navbutton.h"
+#include "svgicon.h"
+#include "theme.h"
+#include "titlebar.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QGraphicsDropShadowEffect>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QTranslator>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int settingsIndex = 6;
+
+} // namespace
+
+MainWindow::MainWindow()
+    : m_translator(new QTranslator(this))
+{
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setMinimumSize(970, 670);
+    resize(970, 670);
+    setWindowTitle(tr("Sweepwise"));
+    setWindowIcon(QIcon(u":/icons/app.svg"_s));
+
+    buildLayout();
+    buildTray();
+    connectTitleBar();
+    applyStyleSheet();
+    switchToPage(0);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::buildLayout()
+{
+    auto *outer = new QVBoxLayout(this);
+    outer->setContentsMargins(10, 10, 10, 10);
+
+    auto *container = new QFrame(this);
+    container->setObjectName("mainContainer"_L1);
+    auto *shadow = new QGraphicsDropShadowEffect(container);
+    shadow->setBlurRadius(20);
+    shadow->setColor(QColor(0, 0, 0, 50));
+    shadow->setOffset(0, 5);
+    container->setGraphicsEffect(shadow);
+    outer->addWidget(container);
+
+    m_navWidget = new QWidget(container);
+    m_navWidget->setObjectName("navWidget"_L1);
+    auto *rightContent = new QWidget(container);
+    rightContent->setObjectName("rightContent"_L1);
+    auto *columns = new QHBoxLayout(container);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(0);
+    columns->addWidget(m_navWidget, 0);
+    columns->addWidget(rightContent, 1);
+
+    m_titleBar = new TitleBar(rightContent);
+    m_pageStack = new QStackedWidget(rightContent);
+    m_pageStack->setObjectName("pageStack"_L1);
+    auto *rows = new QVBoxLayout(rightContent);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(m_titleBar, 0);
+    rows->addWidget(m_pageStack, 1);
+
+    buildNavigation();
+    buildPages();
+}
+
+QWidget *MainWindow::buildLogo()
+{
+    auto *logo = new QWidget(m_navWidget);
+    logo->setObjectName("logoWidget"_L1);
+    auto *layout = new QVBoxLayout(logo);
+    layout->setContentsMargins(0, 8, 0, 16);
+    layout->setSpacing(10);
+    layout->setAlignment(Qt::AlignCenter);
+
+    auto *box = new QWidget(logo);
+    box->setFixedSize(72, 72);
+    auto *broom = new QLabel(u"🧹"_s, box);
+    broom->setGeometry(10, 10, 52, 52);
+    broom->setAlignment(Qt::AlignCenter);
+    broom->setStyleSheet(
+        u"font-size: 28px;background-color: white;border-radius: 12px;border: none;"_s);
+    auto *badge = new QLabel(u"✨"_s, box);
+    badge->setGeometry(48, 0, 24, 24);
+    badge->setAlignment(Qt::AlignCenter);
+    badge->setStyleSheet(
+        u"font-size: 14px;background-color: %1;border-radius: 12px;border: none;"_s.arg(
+            theme::sparkle));
+    layout->addWidget(box, 0, Qt::AlignCenter);
+
+    auto *label = new QLabel(u"Sweepwise 5.0"_s, logo);
+    label->setObjectName("logoLabel"_L1);
+    label->setAlignment(Qt::AlignCenter);
+    label->setStyleSheet(
+        u"font-size: 20px;font-weight: 700;color: white;background: transparent;border: none;"_s);
+    layout->addWidget(label);
+    return logo;
+}
+
+void MainWindow::buildNavigation()
+{
+    m_navWidget->setFixedWidth(240);
+    m_navButtons = {
+        new NavButton(tr("Dashboard"), u":/icons/dashboard.svg"_s, m_navWidget),
+        new NavButton(tr("Junk Cleaner"), u":/icons/trash.svg"_s, m_navWidget),
+        new NavButton(tr("Browser Cleaner"), u":/icons/browser.svg"_s, m_navWidget),
+        new NavButton(tr("Registry Cleaner"), u":/icons/registry.svg"_s, m_navWidget),
+        new NavButton(tr("Startup Manager"), u":/icons/startup.svg"_s, m_navWidget),
+        new NavButton(tr("Large Files"), u":/icons/largefile.svg"_s, m_navWidget),
+        new NavButton(tr("Settings"), u":/icons/settings.svg"_s, m_navWidget),
+    };
+    auto *separator = new QFrame(m_navWidget);
+    separator->setObjectName("navSeparator"_L1);
+    separator->setFrameShape(QFrame::HLine);
+    separator->setStyleSheet(
+        u"background-color: rgba(255,255,255,0.2); max-height: 1px; border: none;"_s);
+
+    auto *layout = new QVBoxLayout(m_navWidget);
+    layout->setContentsMargins(16, 20, 16, 20);
+    layout->setSpacing(6);
+    layout->addWidget(buildLogo());
+    layout->addWidget(separator);
+    layout->addSpacing(10);
+    for (int index = 0; index < m_navButtons.size(); ++index) {
+        NavButton *button = m_navButtons.at(index);
+        if (index == settingsIndex) {
+            layout->addStretch();
+            button->setProperty("isSettings", true);
+            button->setCentered(true);
+        }
+        layout->addWidget(button);
+        connect(button, &NavButton::clicked, this, [this, index] { onNavButtonClicked(index); });
+    }
+}
+
+void MainWindow::buildPages()
+{
+    auto *junkPage = new JunkPage(m_pageStack);
+    m_pageStack->addWidget(new EmptyPage(tr("Dashboard"), m_pageStack));
+    m_pageStack->addWidget(junkPage);
+    m_pageStack->addWidget(new EmptyPage(tr("Browser Cleaner"), m_pageStack));
+    m_pageStack->addWidget(new EmptyPage(tr("Registry Cleaner"), m_pageStack));
+    m_pageStack->addWidget(new EmptyPage(tr("Startup Manager"), m_pageStack));
+    m_pageStack->addWidget(new EmptyPage(tr("Large Files"), m_pageStack));
+    connect(junkPage, &BasePage::scanFinished, this, &MainWindow::updateStats);
+}
+
+void MainWindow::buildTray()
+{
+    m_trayMenu = new QMenu(this);
+    m_trayMenu->addAction(tr("显示主窗口"), this, &MainWindow::onTrayShowWindow);
+    m_trayMenu->addSeparator();
+    m_trayMenu->addAction(tr("退出"), this, &MainWindow::onTrayExit);
+
+    m_trayIcon = new QSystemTrayIcon(QIcon(u":/icons/app.svg"_s), this);
+    m_trayIcon->setToolTip(tr("Sweepwise - PC Cleaning Tool"));
+    m_trayIcon->setContextMenu(m_trayMenu);
+    connect(m_trayIcon, &QSystemTrayIcon::activated, this, &MainWindow::onTrayIconActivated);
+    m_trayIcon->show();
+}
+
+void MainWindow::connectTitleBar()
+{
+    connect(m_titleBar, &TitleBar::minimizeClicked, this, &MainWindow::onMinimizeClicked);
+    connect(m_titleBar, &TitleBar::maximizeClicked, this, &MainWindow::onMaximizeClicked);
+    connect(m_titleBar, &TitleBar::closeClicked, this, &MainWindow::onCloseClicked);
+    connect(m_titleBar, &TitleBar::aboutClicked, this, &MainWindow::onAboutClicked);
+    connect(m_titleBar, &TitleBar::helpClicked, this, &MainWindow::onHelpClicked);
+    connect(m_titleBar, &TitleBar::supportClicked, this, &MainWindow::onSupportClicked);
+    connect(m_titleBar, &TitleBar::languageChanged, this, &MainWindow::onLanguageChanged);
+}
+
+void MainWindow::applyStyleSheet()
+{
+    QFile file(u":/styles/style.qss"_s);
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+        setStyleSheet(QString::fromUtf8(file.readAll()));
+}
+
+void MainWindow::switchToPage(int index)
+{
+    if (index < 0 || index >= m_pageStack->count())
+        return;
+    for (int i = 0; i < settingsIndex; ++i)
+        m_navButtons.at(i)->setChecked(i == index);
+    m_currentPage = index;
+    m_pageStack->setCurrentIndex(index);
+}
+
+void MainWindow::onNavButtonClicked(int index)
+{
+    if (index == settingsIndex)
+        onSettingsClicked();
+    else
+        switchToPage(index);
+}
+
+void MainWindow::onMinimizeClicked()
+{
+    showMinimized();
+}
+
+void MainWindow::onMaximizeClicked()
+{
+    const bool maximize = !isMaximized();
+    if (maximize)
+        showMaximized();
+    else
+        showNormal();
+    m_titleBar->setMaximized(maximize);
+}
+
+void MainWindow::onCloseClicked()
+{
+    close();
+}
+
+void MainWindow::onSettingsClicked() { }
+
+void MainWindow::onHelpClicked() { }
+
+void MainWindow::onSupportClicked() { }
+
+void MainWindow::updateStats() { }
+
+void MainWindow::onAboutClicked()
+{
+    QMessageBox box(this);
+    box.setWindowTitle(tr("About Sweepwise"));
+    box.setTextFormat(Qt::RichText);
+    box.setText(tr("<h3>Sweepwise - PC Cleaning Tool</h3><p>Version 1.0.0</p>"
+                   "<p>Clean your PC with one click!<br>"
+                   "Remove junk files, browser data, and registry issues.</p>"
+                   "<p>© 2026 Norvak. All rights reserved.</p>"));
+    const QPixmap icon = svgPixmap(u":/icons/app.svg"_s, {64, 64}, devicePixelRatioF());
+    if (!icon.isNull())
+        box.setIconPixmap(icon);
+    box.setStyleSheet(theme::messageBox());
+    box.exec();
+}
+
+void MainWindow::onDashboardNavigate(int pageId)
+{
+    switchToPage(pageId);
+}
+
+void MainWindow::onTrayIconActivated(QSystemTrayIcon::ActivationReason reason)
+{
+    if (reason == QSystemTrayIcon::DoubleClick || reason == QSystemTrayIcon::Trigger)
+        onTrayShowWindow();
+}
+
+void MainWindow::onTrayShowWindow()
+{
+    show();
+    raise();
+    activateWindow();
+    if (isMinimized())
+        showNormal();
+}
+
+void MainWindow::onTrayExit()
+{
+    m_trayIcon->hide();
+    QCoreApplication::quit();
+}
+
+void MainWindow::onLanguageChanged(QString language)
+{
+    qDebug() << "[MainWindow] 语言已切换为:" << language;
+}
+
+bool MainWindow::isTrayShown() const
+{
+    return m_trayIcon && m_trayIcon->isVisible() && QSystemTrayIcon::isSystemTrayAvailable();
+}
+
+void MainWindow::showTrayMessage()
+{
+    m_trayIcon->showMessage(
+        tr("Sweepwise"), tr("Program minimized to system tray. Double-click the icon to restore."),
+        QSystemTrayIcon::Information, 2000);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    const bool toTray =
+        Application::instance()->settings()->value("general/minimizeToTray"_L1, false).toBool();
+    if (toTray && isTrayShown()) {
+        hide();
+        showTrayMessage();
+        event->ignore();
+        return;
+    }
+    m_trayIcon->hide();
+    event->accept();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    // The desktop can maximise and restore the window as well, by a key or a gesture.
+    if (event->type() == QEvent::WindowStateChange && m_titleBar)
+        m_titleBar->setMaximized(isMaximized());
+    QWidget::changeEvent(event);
+}
+
+bool MainWindow::isInside(const QWidget *part, QPoint position) const
+{
+    return QRect(part->mapTo(this, QPoint(0, 0)), part->size()).contains(position);
+}
+
+void MainWindow::mousePressEvent(QMouseEvent *event)
+{
+    const QPoint position = event->position().toPoint();
+    if (isInside(m_titleBar, position) || isInside(m_navWidget, position))
+        m_drag.press(event);
+}
+
+void MainWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    m_drag.move(event);
+}
+
+void MainWindow::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_drag.release(event);
+}

@@ -1,0 +1,137 @@
+#include "navbutton.h"
+
+#include "svgicon.h"
+#include "theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+NavButton::NavButton(const QString &text, const QString &iconPath, QWidget *parent)
+    : QWidget(parent)
+    , m_iconPath(iconPath)
+    , m_icon(new QLabel(this))
+    , m_text(new QLabel(text, this))
+{
+    setFixedHeight(48);
+    setCursor(Qt::PointingHandCursor);
+    setAttribute(Qt::WA_Hover);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(text);
+
+    m_icon->setFixedSize(24, 24);
+    m_icon->setStyleSheet(u"background: transparent; border: none;"_s);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(14, 0, 14, 0);
+    layout->setSpacing(12);
+    layout->addWidget(m_icon);
+    layout->addWidget(m_text);
+    setCentered(false);
+    updateLook();
+}
+
+QString NavButton::text() const
+{
+    return m_text->text();
+}
+
+void NavButton::setChecked(bool checked)
+{
+    if (m_checked == checked)
+        return;
+    m_checked = checked;
+    Q_EMIT checkedChanged(checked);
+    updateLook();
+}
+
+void NavButton::setCentered(bool centered)
+{
+    layout()->setAlignment(centered ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void NavButton::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_pressed = true;
+    // The window would take a press that is left to it for the start of a drag.
+    event->accept();
+}
+
+void NavButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_pressed)
+        return;
+    m_pressed = false;
+    if (rect().contains(event->position().toPoint()))
+        Q_EMIT clicked();
+}
+
+void NavButton::enterEvent(QEnterEvent *)
+{
+    m_hovered = true;
+    update();
+}
+
+void NavButton::leaveEvent(QEvent *)
+{
+    m_hovered = false;
+    update();
+}
+
+void NavButton::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT clicked();
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void NavButton::focusInEvent(QFocusEvent *)
+{
+    update();
+}
+
+void NavButton::focusOutEvent(QFocusEvent *)
+{
+    update();
+}
+
+void NavButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    if (m_checked || m_hovered) {
+        painter.setBrush(m_checked ? theme::color(theme::white) : theme::color(theme::white, 38));
+        painter.drawRoundedRect(rect(), 12, 12);
+    }
+    if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(theme::color(m_checked ? theme::text : theme::white), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 10, 10);
+    }
+}
+
+void NavButton::updateLook()
+{
+    const QColor iconColour =
+        m_checked ? theme::color(theme::accent) : theme::color(theme::white, 217);
+    m_icon->setPixmap(svgPixmap(m_iconPath, m_icon->size(), devicePixelRatioF(), iconColour));
+    m_text->setStyleSheet(
+        m_checked
+            ? u"font-size: 14px; font-weight: 600; color: %1; background: transparent; border: none;"_s
+                  .arg(theme::accent)
+            : u"font-size: 14px; font-weight: 500; color: rgba(255,255,255,230); "
+              "background: transparent; border: none;"_s);
+    update();
+}

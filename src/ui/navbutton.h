@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+/// One entry of the navigation column: an icon and a text on a painted highlight.
+class NavButton final : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(NavButton)
+    Q_PROPERTY(bool checked READ isChecked WRITE setChecked NOTIFY checkedChanged)
+public:
+    /// @p iconPath names an SVG resource; one that does not exist leaves the icon empty.
+    NavButton(const QString &text, const QString &iconPath, QWidget *parent = nullptr);
+
+    [[nodiscard]] QString text() const;
+    [[nodiscard]] bool isChecked() const { return m_checked; }
+    void setChecked(bool checked);
+    /// Moves icon and text to the middle of the button, or back to its left end.
+    void setCentered(bool centered);
+
+Q_SIGNALS:
+    void clicked();
+    void checkedChanged(bool checked);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void updateLook();
+
+    QString m_iconPath;
+    QLabel *m_icon;
+    QLabel *m_text;
+    bool m_checked = false;
+    bool m_hovered = false;
+    bool m_pressed = false;
+};

@@ -1,0 +1,394 @@
+#include "basepage.h"
+
+#include "application.h"
+#include "categorywidget.h"
+#include "cleanengine.h"
+#include "progressdialog.h"
+#include "svgicon.h"
+#include "theme.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSettings>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+BasePage::BasePage(QWidget *parent)
+    : QWidget(parent)
+    , m_layout(new QVBoxLayout(this))
+{
+    m_layout->setContentsMargins(28, 8, 28, 20);
+    m_layout->setSpacing(16);
+    BasePage::setupHeader();
+    BasePage::setupContent();
+    BasePage::setupFooter();
+    BasePage::retranslateUi();
+}
+
+BasePage::~BasePage() = default;
+
+void BasePage::setEngine(CleanEngine *engine)
+{
+    if (m_engine)
+        m_engine->disconnect(this);
+    letGoOfResult();
+    m_engine = engine;
+    if (!engine)
+        return;
+    // A signal that was queued before the disconnection still arrives: it is dropped by its engine.
+    const auto current = [this, engine] { return m_engine == engine; };
+    connect(engine, &CleanEngine::stateChanged, this, [this, current] {
+        if (current() && m_engine->state() == CleanEngine::State::Scanning)
+            letGoOfResult();
+    });
+    connect(engine, &CleanEngine::scanProgress, this,
+            [this, current](int done, int total, const QString &path) {
+                if (current())
+                    onScanProgress(done, total, path);
+            });
+    connect(engine, &CleanEngine::scanFinished, this, [this, current](const ScanResult &result) {
+        if (current())
+            onScanFinished(result);
+    });
+    connect(engine, &CleanEngine::cleanProgress, this,
+            [this, current](int done, int total, qint64 cleanedSize) {
+                if (current())
+                    onCleanProgress(done, total, cleanedSize);
+            });
+    connect(engine, &CleanEngine::cleanFinished, this,
+            [this, current](qint64 totalCleaned, int itemsCleaned) {
+                if (current())
+                    onCleanFinished(totalCleaned, itemsCleaned);
+            });
+    connect(engine, &CleanEngine::errorOccurred, this, [this, current](const QString &error) {
+        if (current())
+            onEngineError(error);
+    });
+}
+
+void BasePage::setupHeader()
+{
+    auto *header = new QHBoxLayout;
+    header->setSpacing(16);
+    m_icon = new QLabel(this);
+    m_icon->setObjectName("pageIcon"_L1);
+    m_icon->setFixedSize(48, 48);
+    m_icon->setAlignment(Qt::AlignCenter);
+    m_icon->setPixmap(svgPixmap(u":/icons/trash.svg"_s, {26, 26}, devicePixelRatioF(),
+                                theme::color(theme::accent)));
+    header->addWidget(m_icon);
+
+    auto *titles = new QVBoxLayout;
+    titles->setSpacing(2);
+    m_title = new QLabel(this);
+    m_title->setStyleSheet(theme::label(theme::text, 24, 600));
+    m_subtitle = new QLabel(this);
+    m_subtitle->setStyleSheet(theme::label(theme::muted, 14));
+    titles->addWidget(m_title);
+    titles->addWidget(m_subtitle);
+    header->addLayout(titles, 1);
+
+    auto *statistic = new QVBoxLayout;
+    statistic->setSpacing(2);
+    m_statisticCaption = new QLabel(this);
+    m_statisticCaption->setStyleSheet(theme::label(theme::muted, 13));
+    m_statisticCaption->setAlignment(Qt::AlignRight);
+    m_statisticValue = new QLabel(u"--"_s, this);
+    m_statisticValue->setObjectName("statisticValue"_L1);
+    m_statisticValue->setStyleSheet(theme::label(theme::accentHover, 24, 700));
+    m_statisticValue->setAlignment(Qt::AlignRight);
+    statistic->addWidget(m_statisticCaption);
+    statistic->addWidget(m_statisticValue);
+    header->addLayout(statistic);
+    m_layout->addLayout(header);
+}
+
+void BasePage::setupContent()
+{
+    m_scrollArea = new QScrollArea(this);
+    m_scrollArea->setObjectName("contentScrollArea"_L1);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->setStyleSheet(u"QScrollArea { background: transparent; }"_s);
+    m_scrollArea->viewport()->setAutoFillBackground(false);
+
+    auto *list = new QWidget(m_scrollArea);
+    list->setObjectName("categoryList"_L1);
+    m_listLayout = new QVBoxLayout(list);
+    m_listLayout->setContentsMargins(0, 0, 8, 0);
+    m_listLayout->setSpacing(10);
+
+    m_emptyState = new QWidget(list);
+    m_emptyState->setObjectName("emptyState"_L1);
+    auto *emptyLayout = new QVBoxLayout(m_emptyState);
+    auto *emptyIcon = new QLabel(u"🔍"_s, m_emptyState);
+    emptyIcon->setStyleSheet(u"font-size: 48px;"_s);
+    emptyIcon->setAlignment(Qt::AlignCenter);
+    m_emptyText = new QLabel(m_emptyState);
+    m_emptyText->setStyleSheet(theme::label(theme::faint, 14));
+    m_emptyText->setAlignment(Qt::AlignCenter);
+    m_emptyText->setWordWrap(true);
+    emptyLayout->addStretch();
+    emptyLayout->addWidget(emptyIcon);
+    emptyLayout->addWidget(m_emptyText);
+    emptyLayout->addStretch();
+    m_listLayout->addWidget(m_emptyState);
+
+    m_scrollArea->setWidget(list);
+    list->setAutoFillBackground(false);
+    m_layout->addWidget(m_scrollArea, 1);
+}
+
+void BasePage::setupFooter()
+{
+    auto *footer = new QHBoxLayout;
+    footer->setSpacing(12);
+    m_selection = new QLabel(this);
+    m_selection->setObjectName("selectionLabel"_L1);
+    m_selection->setStyleSheet(theme::label(theme::muted, 13));
+    footer->addWidget(m_selection, 1);
+
+    m_scanButton = new QPushButton(this);
+    m_scanButton->setObjectName("scanBtn"_L1);
+    m_scanButton->setStyleSheet(
+        theme::filledButton(theme::accent, theme::accentHover, 10, 14, u"0 22px"_s));
+    m_cleanButton = new QPushButton(this);
+    m_cleanButton->setObjectName("cleanBtn"_L1);
+    m_cleanButton->setStyleSheet(
+        theme::filledButton(theme::danger, theme::dangerHover, 10, 14, u"0 22px"_s));
+    m_cleanButton->setEnabled(false);
+    for (QPushButton *button : {m_scanButton, m_cleanButton}) {
+        button->setMinimumHeight(44);
+        button->setCursor(Qt::PointingHandCursor);
+        footer->addWidget(button);
+    }
+    connect(m_scanButton, &QPushButton::clicked, this, &BasePage::startScan);
+    connect(m_cleanButton, &QPushButton::clicked, this, &BasePage::startClean);
+    m_layout->addLayout(footer);
+}
+
+void BasePage::retranslateUi()
+{
+    setTitle(tr("Cleanup Tool"));
+    setSubtitle(tr("Scan and clean up unnecessary files"));
+    setStatisticCaption(tr("Cleanable"));
+    m_emptyText->setText(tr("Click \"Start Scanning\" to find cleanable items"));
+    m_scanButton->setText(tr("Start Scanning"));
+    m_cleanButton->setText(tr("Clean Now"));
+    if (isResultShown())
+        updateSelection();
+    else
+        m_selection->setText(tr("Selected: --"));
+}
+
+void BasePage::setTitle(const QString &text)
+{
+    m_title->setText(text);
+}
+
+void BasePage::setSubtitle(const QString &text)
+{
+    m_subtitle->setText(text);
+}
+
+void BasePage::setStatisticCaption(const QString &text)
+{
+    m_statisticCaption->setText(text);
+}
+
+bool BasePage::isEngineBusy() const
+{
+    return m_engine->state() == CleanEngine::State::Scanning
+        || m_engine->state() == CleanEngine::State::Cleaning;
+}
+
+void BasePage::startScan()
+{
+    if (!m_engine || isEngineBusy())
+        return;
+    deliverLateSignals();
+    openProgressDialog(ProgressDialog::Scanning);
+    m_engine->startScan();
+}
+
+void BasePage::startClean()
+{
+    if (!m_engine || isEngineBusy())
+        return;
+    // Only what is listed can have been chosen: a scan that was cancelled leaves records that
+    // nobody has seen.
+    const int count = isResultShown() ? m_engine->result().checkedCount() : 0;
+    if (count == 0) {
+        QMessageBox box(QMessageBox::Information, tr("Notice"), tr("No items selected"),
+                        QMessageBox::Ok, this);
+        box.setStyleSheet(theme::messageBox());
+        box.exec();
+        return;
+    }
+    const bool confirm =
+        Application::instance()->settings()->value("clean/confirmClean"_L1, true).toBool();
+    if (confirm) {
+        QMessageBox box(QMessageBox::Question, tr("Confirm Clean"),
+                        tr("Are you sure you want to clean %1 selected items?\n"
+                           "This action cannot be undone!")
+                            .arg(count),
+                        QMessageBox::Yes | QMessageBox::No, this);
+        box.setDefaultButton(QMessageBox::No);
+        box.setStyleSheet(theme::messageBox());
+        // While the question stood open the list may have gone, by a scan that was started
+        // elsewhere.
+        if (box.exec() != QMessageBox::Yes || isEngineBusy() || !isResultShown())
+            return;
+    }
+    deliverLateSignals();
+    openProgressDialog(ProgressDialog::Cleaning);
+    m_engine->startClean();
+}
+
+// The engine would wait for a cancelled run in any case. Waiting here lets that run's last signals
+// arrive before this run's dialog exists, so that they cannot finish it.
+void BasePage::deliverLateSignals()
+{
+    m_engine->stopAndWait();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+}
+
+ProgressDialog *BasePage::openProgressDialog(int mode)
+{
+    m_scanButton->setEnabled(false);
+    m_cleanButton->setEnabled(false);
+    closeProgressDialog();
+    m_progressDialog = new ProgressDialog(static_cast<ProgressDialog::Mode>(mode), this);
+    connect(m_progressDialog, &ProgressDialog::cancelRequested, this, &BasePage::cancelOperation);
+    m_progressDialog->show();
+    return m_progressDialog;
+}
+
+void BasePage::closeProgressDialog()
+{
+    if (!m_progressDialog)
+        return;
+    m_progressDialog->hide();
+    m_progressDialog->deleteLater();
+    m_progressDialog.clear();
+}
+
+void BasePage::cancelOperation()
+{
+    if (m_engine)
+        m_engine->cancel();
+    closeProgressDialog();
+    m_scanButton->setEnabled(true);
+    // The list, not the engine's result: that still belongs to the worker, which winds down.
+    m_cleanButton->setEnabled(isResultShown());
+}
+
+void BasePage::onScanProgress(int current, int total, QString currentPath)
+{
+    if (!m_progressDialog)
+        return;
+    m_progressDialog->setProgress(current, total);
+    m_progressDialog->setDetail(currentPath);
+}
+
+void BasePage::onScanFinished(ScanResult)
+{
+    if (m_progressDialog) {
+        m_progressDialog->hide();
+        delete m_progressDialog.data();
+    }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (isEngineBusy())
+        return; // One of those events started the next run, whose records these are no more.
+    m_scanButton->setEnabled(true);
+    m_cleanButton->setEnabled(!std::as_const(*m_engine).result().categories.isEmpty());
+    displayResults();
+    updateSelection();
+    Q_EMIT scanFinished();
+}
+
+void BasePage::displayResults()
+{
+    clearResults();
+    if (!m_engine || std::as_const(*m_engine).result().categories.isEmpty()) {
+        m_emptyState->show();
+        return;
+    }
+    m_emptyState->hide();
+    for (CleanCategory &category : m_engine->result().categories) {
+        auto *widget = new CategoryWidget(&category, m_emptyState->parentWidget());
+        widget->setShowSizes(m_showSizes);
+        connect(widget, &CategoryWidget::selectionChanged, this, &BasePage::updateSelection);
+        m_categoryWidgets.append(widget);
+        m_listLayout->addWidget(widget);
+    }
+    m_listLayout->addStretch();
+}
+
+void BasePage::clearResults()
+{
+    qDeleteAll(m_categoryWidgets);
+    m_categoryWidgets.clear();
+    while (m_listLayout->count() > 1)
+        delete m_listLayout->takeAt(1);
+}
+
+void BasePage::updateSelection()
+{
+    if (!m_engine)
+        return;
+    const ScanResult &result = std::as_const(*m_engine).result();
+    const int count = result.checkedCount();
+    if (m_showSizes) {
+        const QString size = formatSize(result.checkedSize());
+        m_statisticValue->setText(size);
+        m_selection->setText(tr("Selected: %1 items, %2").arg(QString::number(count), size));
+    } else {
+        m_statisticValue->setText(tr("%1 items").arg(count));
+        m_selection->setText(tr("Selected: %1 items").arg(count));
+    }
+    m_cleanButton->setEnabled(count >= 1 && !isEngineBusy());
+}
+
+void BasePage::onCleanProgress(int current, int total, qint64 cleanedSize)
+{
+    if (!m_progressDialog)
+        return;
+    m_progressDialog->setProgress(current, total);
+    m_progressDialog->setCleanedSize(cleanedSize);
+}
+
+void BasePage::onCleanFinished(qint64 totalCleaned, int itemsCleaned)
+{
+    if (m_progressDialog)
+        m_progressDialog->showResult(
+            true,
+            tr("Cleaned %1 items, freed %2")
+                .arg(QString::number(itemsCleaned), formatSize(totalCleaned)));
+    m_scanButton->setEnabled(true);
+    m_cleanButton->setEnabled(false);
+    letGoOfResult();
+    Q_EMIT cleanFinished();
+}
+
+void BasePage::onEngineError(QString error)
+{
+    if (m_progressDialog)
+        m_progressDialog->showResult(false, error);
+    m_scanButton->setEnabled(true);
+    m_cleanButton->setEnabled(isResultShown());
+}
+
+void BasePage::letGoOfResult()
+{
+    clearResults();
+    m_emptyState->show();
+    m_statisticValue->setText(u"--"_s);
+    m_selection->setText(tr("Selected: --"));
+}

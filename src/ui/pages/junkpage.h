@@ -1,0 +1,14 @@
+#pragma once
+
+#include "basepage.h"
+
+/// The page of the junk cleaner.
+class JunkPage final : public BasePage
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(JunkPage)
+public:
+    explicit JunkPage(QWidget *parent = nullptr);
+
+    void retranslateUi() override;
+};

@@ -1,0 +1,146 @@
+#include "titlebar.h"
+
+#include "appinfo.h"
+#include "theme.h"
+
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProcess>
+#include <QSettings>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Language {
+    QLatin1StringView code;
+    QStringView text;
+};
+
+// Each in its own language, so that it is found by those who read no other.
+constexpr std::array languages{
+    Language{QLatin1StringView("en"), u"🇺🇸  English"},
+    Language{QLatin1StringView("fr"), u"🇫🇷  Français"},
+    Language{QLatin1StringView("de"), u"🇩🇪  Deutsch"},
+    Language{QLatin1StringView("ja"), u"🇯🇵  日本語"},
+    Language{QLatin1StringView("es"), u"🇪🇸  Español"},
+    Language{QLatin1StringView("ko"), u"🇰🇷  한국어"},
+    Language{QLatin1StringView("nl"), u"🇳🇱  Nederlands"},
+    Language{QLatin1StringView("pt"), u"🇵🇹  Português"},
+    Language{QLatin1StringView("it"), u"🇮🇹  Italiano"},
+};
+
+} // namespace
+
+TitleBar::TitleBar(QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName("titleBar"_L1);
+    setAttribute(Qt::WA_StyledBackground);
+    setFixedHeight(48);
+    m_currentLanguage =
+        QSettings(appinfo::organisation, appinfo::name).value("language"_L1, u"en"_s).toString();
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(16, 0, 1, 0);
+    layout->setSpacing(0);
+    for (const QLatin1StringView name : {"titleIcon"_L1, "titleLabel"_L1}) {
+        auto *label = new QLabel(this);
+        label->setObjectName(name);
+        label->hide();
+        layout->addWidget(label);
+    }
+    layout->addStretch();
+    layout->addSpacing(8);
+
+    m_menuButton = addButton(WinButton::Menu, tr("Menu"));
+    connect(m_menuButton, &QPushButton::clicked, this, &TitleBar::showMenu);
+    connect(addButton(WinButton::Minimize, tr("Minimize")), &QPushButton::clicked, this,
+            &TitleBar::minimizeClicked);
+    m_maximizeButton = addButton(WinButton::Maximize, tr("Maximize"));
+    connect(m_maximizeButton, &QPushButton::clicked, this, &TitleBar::maximizeClicked);
+    connect(addButton(WinButton::Close, tr("Close")), &QPushButton::clicked, this,
+            &TitleBar::closeClicked);
+    buildMenu();
+}
+
+WinButton *TitleBar::addButton(WinButton::Type type, const QString &name)
+{
+    auto *button = new WinButton(type, this);
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    layout()->addWidget(button);
+    return button;
+}
+
+void TitleBar::setMaximized(bool maximized)
+{
+    m_maximized = maximized;
+    m_maximizeButton->setType(maximized ? WinButton::Restore : WinButton::Maximize);
+    const QString name = maximized ? tr("Restore") : tr("Maximize");
+    m_maximizeButton->setToolTip(name);
+    m_maximizeButton->setAccessibleName(name);
+}
+
+void TitleBar::showMenu()
+{
+    m_menu->popup(m_menuButton->mapToGlobal(m_menuButton->rect().bottomLeft()));
+}
+
+void TitleBar::buildMenu()
+{
+    m_menu = new QMenu(this);
+    m_menu->setStyleSheet(theme::menu());
+    m_menu->addAction(tr("About"), this, &TitleBar::aboutClicked);
+    m_menu->addSeparator();
+
+    QMenu *languageMenu = m_menu->addMenu(tr("Language"));
+    languageMenu->setStyleSheet(theme::menu());
+    m_languages = new QActionGroup(this);
+    m_languages->setExclusive(true);
+    for (const Language &language : languages) {
+        QAction *action = languageMenu->addAction(language.text.toString());
+        action->setCheckable(true);
+        action->setData(QString(language.code));
+        action->setChecked(language.code == m_currentLanguage);
+        m_languages->addAction(action);
+    }
+    connect(m_languages, &QActionGroup::triggered, this,
+            [this](QAction *action) { changeLanguage(action->data().toString()); });
+
+    m_menu->addSeparator();
+    m_menu->addAction(tr("Help"), this, &TitleBar::helpClicked);
+    m_menu->addAction(tr("Support"), this, &TitleBar::supportClicked);
+}
+
+void TitleBar::changeLanguage(const QString &code)
+{
+    if (code == m_currentLanguage)
+        return;
+    m_currentLanguage = code;
+    QSettings store(appinfo::organisation, appinfo::name);
+    store.setValue("language"_L1, code);
+    store.sync();
+    Q_EMIT languageChanged(code);
+
+    QMessageBox box(QMessageBox::Information, tr("Language Changed"),
+                    tr("Language has been changed.\n\nThe application will restart now."),
+                    QMessageBox::Ok, window());
+    box.setStyleSheet(theme::messageBox());
+    box.exec();
+    restartProgram();
+}
+
+void TitleBar::restartProgram()
+{
+    QProcess::startDetached(QCoreApplication::applicationFilePath(),
+                            QCoreApplication::arguments().mid(1));
+    // Not quit(): that asks the window first, which may answer by going to the tray.
+    QCoreApplication::exit();
+}

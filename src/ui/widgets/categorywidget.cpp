@@ -1,0 +1,238 @@
+#include "categorywidget.h"
+
+#include "cleanitemwidget.h"
+#include "itemdetaildialog.h"
+#include "scanresult.h"
+#include "svgicon.h"
+#include "text.h"
+#include "theme.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype pageSize = 10;
+
+// A browser's category has the icon of the kind of data, whichever browser it belongs to.
+QString iconPath(const QString &categoryId)
+{
+    QString id = categoryId;
+    for (const QLatin1StringView prefix : {"google_chrome_"_L1, "microsoft_edge_"_L1,
+                                           "mozilla_firefox_"_L1, "opera_"_L1, "brave_"_L1}) {
+        if (id.startsWith(prefix)) {
+            id.remove(0, prefix.size());
+            break;
+        }
+    }
+    const QString path = u":/icons/categories/%1.svg"_s.arg(id);
+    return QFile::exists(path) ? path : u":/icons/categories/default.svg"_s;
+}
+
+} // namespace
+
+CategoryWidget::CategoryWidget(CleanCategory *category, QWidget *parent)
+    : QWidget(parent)
+    , m_category(category)
+    , m_header(new QWidget(this))
+    , m_content(new QWidget(this))
+    , m_contentLayout(new QVBoxLayout(m_content))
+{
+    setObjectName("categoryWidget"_L1);
+    setAttribute(Qt::WA_StyledBackground);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+
+    m_header->setObjectName("categoryHeader"_L1);
+    m_header->setAttribute(Qt::WA_StyledBackground);
+    m_header->installEventFilter(this);
+    m_header->setToolTip(singleLine(category->description).toHtmlEscaped());
+    buildHeader();
+    layout->addWidget(m_header);
+
+    m_content->setObjectName("categoryContent"_L1);
+    m_content->setAttribute(Qt::WA_StyledBackground);
+    m_content->hide();
+    m_contentLayout->setContentsMargins(8, 4, 8, 8);
+    m_contentLayout->setSpacing(0);
+    layout->addWidget(m_content);
+
+    refreshHeader();
+    showCheckState();
+}
+
+void CategoryWidget::buildHeader()
+{
+    auto *layout = new QHBoxLayout(m_header);
+    layout->setContentsMargins(16, 12, 16, 12);
+    layout->setSpacing(12);
+
+    m_icon = new QLabel(m_header);
+    m_icon->setObjectName("categoryIcon"_L1);
+    m_icon->setFixedSize(32, 32);
+    m_icon->setAlignment(Qt::AlignCenter);
+    m_icon->setStyleSheet(
+        u"background-color: %1; border-radius: 6px; padding: 4px;"_s.arg(theme::accent));
+    m_icon->setPixmap(svgPixmap(iconPath(m_category->id), {22, 22}, devicePixelRatioF()));
+    layout->addWidget(m_icon);
+
+    m_name = new QLabel(singleLine(m_category->name), m_header);
+    m_name->setTextFormat(Qt::PlainText);
+    m_name->setStyleSheet(theme::label(theme::text, 14, 500));
+    layout->addWidget(m_name);
+
+    m_count = new QPushButton(m_header);
+    m_count->setObjectName("itemCount"_L1);
+    m_count->setStyleSheet(theme::badge(theme::muted, theme::button, 10, 12) + " border: none;"_L1);
+    m_count->setCursor(Qt::PointingHandCursor);
+    m_count->setToolTip(tr("View Details"));
+    connect(m_count, &QPushButton::clicked, this, &CategoryWidget::showDetails);
+    layout->addWidget(m_count);
+    layout->addStretch();
+
+    m_size = new QLabel(m_header);
+    m_size->setObjectName("categorySize"_L1);
+    m_size->setStyleSheet(theme::label(theme::accent, 13, 600));
+    layout->addWidget(m_size);
+
+    m_checkBox = new QCheckBox(m_header);
+    m_checkBox->setObjectName("categoryCheck"_L1);
+    m_checkBox->setAccessibleName(m_name->text());
+    connect(m_checkBox, &QCheckBox::clicked, this, &CategoryWidget::setChecked);
+    layout->addWidget(m_checkBox);
+
+    m_expandButton = new QPushButton(u"▼"_s, m_header);
+    m_expandButton->setObjectName("expandBtn"_L1);
+    m_expandButton->setFixedSize(28, 28);
+    m_expandButton->setCursor(Qt::PointingHandCursor);
+    m_expandButton->setStyleSheet(theme::expandButton());
+    m_expandButton->setAccessibleName(tr("Show items of %1").arg(m_name->text()));
+    connect(m_expandButton, &QPushButton::clicked, this, &CategoryWidget::toggleExpanded);
+    layout->addWidget(m_expandButton);
+}
+
+bool CategoryWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    // The whole header expands and collapses; its own controls keep their clicks to themselves.
+    if (watched == m_header && event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        if (mouse->button() == Qt::LeftButton
+            && m_header->rect().contains(mouse->position().toPoint())) {
+            toggleExpanded();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CategoryWidget::setShowSizes(bool show)
+{
+    m_showSizes = show;
+    refreshHeader();
+    for (CleanItemWidget *widget : std::as_const(m_itemWidgets))
+        widget->setShowSizes(show);
+}
+
+void CategoryWidget::setChecked(bool checked)
+{
+    m_category->setChecked(checked);
+    for (CleanItemWidget *widget : std::as_const(m_itemWidgets))
+        widget->showChecked(checked);
+    refreshHeader();
+    Q_EMIT selectionChanged();
+}
+
+void CategoryWidget::toggleExpanded()
+{
+    m_expanded = !m_expanded;
+    m_category->expanded = m_expanded;
+    m_expandButton->setText(m_expanded ? u"▲"_s : u"▼"_s);
+    if (m_expanded && m_loadedCount == 0)
+        loadMore();
+    m_content->setVisible(m_expanded);
+    Q_EMIT expandedChanged(m_expanded);
+}
+
+void CategoryWidget::showDetails()
+{
+    ItemDetailDialog dialog(m_category, window());
+    dialog.exec();
+}
+
+void CategoryWidget::loadMore()
+{
+    if (m_loadMoreButton)
+        m_contentLayout->removeWidget(m_loadMoreButton);
+    const qsizetype end = qMin(m_loadedCount + pageSize, m_category->items.size());
+    for (qsizetype index = m_loadedCount; index < end; ++index) {
+        auto *widget = new CleanItemWidget(m_category, index, m_content);
+        widget->setShowSizes(m_showSizes);
+        connect(widget, &CleanItemWidget::checkChanged, this, &CategoryWidget::onItemCheckChanged);
+        m_itemWidgets.append(widget);
+        m_contentLayout->addWidget(widget);
+    }
+    m_loadedCount = end;
+    showRemaining();
+}
+
+void CategoryWidget::showRemaining()
+{
+    const qsizetype remaining = m_category->items.size() - m_loadedCount;
+    if (remaining < 1) {
+        if (m_loadMoreButton)
+            m_loadMoreButton->hide();
+        return;
+    }
+    if (!m_loadMoreButton) {
+        m_loadMoreButton = new QPushButton(m_content);
+        m_loadMoreButton->setObjectName("loadMoreBtn"_L1);
+        m_loadMoreButton->setStyleSheet(theme::loadMoreButton());
+        m_loadMoreButton->setCursor(Qt::PointingHandCursor);
+        connect(m_loadMoreButton, &QPushButton::clicked, this, &CategoryWidget::loadMore);
+    }
+    m_loadMoreButton->setText(tr("Load more (%1 remaining)").arg(remaining));
+    m_contentLayout->addWidget(m_loadMoreButton);
+}
+
+void CategoryWidget::onItemCheckChanged()
+{
+    for (CleanItemWidget *widget : std::as_const(m_itemWidgets))
+        widget->storeChecked();
+    m_category->checked = m_category->checkedCount() != 0;
+    refreshHeader();
+    showCheckState();
+    Q_EMIT selectionChanged();
+}
+
+void CategoryWidget::refreshHeader()
+{
+    m_count->setText(tr("%1 items").arg(m_category->items.size()));
+    m_count->setAccessibleName(tr("%1: %2 items, view details")
+                                   .arg(m_name->text(), QString::number(m_category->items.size())));
+    if (m_showSizes)
+        m_size->setText(formatSize(m_category->checkedSize()));
+    m_size->setVisible(m_showSizes);
+    const QSignalBlocker blocker(m_checkBox);
+    m_checkBox->setTristate(false);
+    m_checkBox->setChecked(m_category->checked);
+}
+
+// Partly ticked is shown, but a click never chooses it: it ticks all.
+void CategoryWidget::showCheckState()
+{
+    const int checked = m_category->checked ? m_category->checkedCount() : 0;
+    if (checked == 0 || checked == m_category->items.size())
+        return;
+    const QSignalBlocker blocker(m_checkBox);
+    m_checkBox->setTristate(true);
+    m_checkBox->setCheckState(Qt::PartiallyChecked);
+}

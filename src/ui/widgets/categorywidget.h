@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QList>
+#include <QWidget>
+
+class CleanItemWidget;
+class QCheckBox;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+struct CleanCategory;
+
+/// One category of a scan result: a header with a tri-state check box and, once expanded, its items
+/// in pages of ten.
+///
+/// Bound to a record inside the engine's result, which outlives the widget and into which the ticks
+/// are written.
+class CategoryWidget final : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(CategoryWidget)
+public:
+    explicit CategoryWidget(CleanCategory *category, QWidget *parent = nullptr);
+
+    void setShowSizes(bool show);
+    /// Ticks or unticks the category with all its items.
+    void setChecked(bool checked);
+    [[nodiscard]] bool isExpanded() const { return m_expanded; }
+
+public Q_SLOTS:
+    void toggleExpanded();
+    /// Opens the dialog that lists every item of the category.
+    void showDetails();
+
+Q_SIGNALS:
+    void selectionChanged();
+    void expandedChanged(bool expanded);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildHeader();
+    void loadMore();
+    void showRemaining();
+    void onItemCheckChanged();
+    void refreshHeader();
+    void showCheckState();
+
+    CleanCategory *m_category;
+    qsizetype m_loadedCount = 0;
+    bool m_showSizes = true;
+    bool m_expanded = false;
+    QWidget *m_header;
+    QWidget *m_content;
+    QVBoxLayout *m_contentLayout;
+    QLabel *m_icon = nullptr;
+    QLabel *m_name = nullptr;
+    QPushButton *m_count = nullptr;
+    QLabel *m_size = nullptr;
+    QCheckBox *m_checkBox = nullptr;
+    QPushButton *m_expandButton = nullptr;
+    QPushButton *m_loadMoreButton = nullptr;
+    QList<CleanItemWidget *> m_itemWidgets;
+};

@@ -1,0 +1,145 @@
+#include "cleanitemwidget.h"
+
+#include "elidedlabel.h"
+#include "scanresult.h"
+#include "text.h"
+#include "theme.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What check box, risk badge and size take of the row.
+constexpr int reservedWidth = 186;
+
+QString riskText(int level)
+{
+    switch (level) {
+    case HighRisk:
+        return CleanItemWidget::tr("High");
+    case MediumRisk:
+        return CleanItemWidget::tr("Medium");
+    default:
+        return CleanItemWidget::tr("Low");
+    }
+}
+
+QString riskStyle(int level)
+{
+    switch (level) {
+    case HighRisk:
+        return theme::badge(theme::danger, theme::highRiskTint, 4, 11);
+    case MediumRisk:
+        return theme::badge(theme::warning, theme::mediumRiskTint, 4, 11);
+    default:
+        return theme::badge(theme::accent, theme::lowRiskTint, 4, 11);
+    }
+}
+
+} // namespace
+
+CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidget *parent)
+    : QWidget(parent)
+    , m_category(category)
+    , m_index(index)
+{
+    setObjectName("cleanItemWidget"_L1);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(16, 8, 16, 8);
+    layout->setSpacing(12);
+
+    m_checkBox = new QCheckBox(this);
+    m_checkBox->setChecked(item().checked);
+    m_checkBox->setAccessibleName(singleLine(item().name));
+    connect(m_checkBox, &QCheckBox::toggled, this, &CleanItemWidget::checkChanged);
+    layout->addWidget(m_checkBox);
+
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    m_name = new ElidedLabel(item().name, this);
+    m_name->setObjectName("itemName"_L1);
+    m_name->setStyleSheet(theme::label(theme::text, 13));
+    m_path = new ElidedLabel(item().path, this);
+    m_path->setObjectName("itemPath"_L1);
+    m_path->setStyleSheet(theme::label(theme::faint, 11));
+    texts->addWidget(m_name);
+    texts->addWidget(m_path);
+    layout->addLayout(texts, 1);
+
+    m_risk = new QLabel(riskText(item().riskLevel), this);
+    m_risk->setObjectName("itemRisk"_L1);
+    m_risk->setStyleSheet(riskStyle(item().riskLevel));
+    layout->addWidget(m_risk, 0, Qt::AlignVCenter);
+    m_size = new QLabel(formatSize(item().size), this);
+    m_size->setObjectName("itemSize"_L1);
+    m_size->setStyleSheet(theme::label(theme::muted, 12, 500));
+    m_size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_size->setMinimumWidth(70);
+    layout->addWidget(m_size);
+}
+
+const CleanItem &CleanItemWidget::item() const
+{
+    return m_category->items.at(m_index);
+}
+
+bool CleanItemWidget::isChecked() const
+{
+    return m_checkBox->isChecked();
+}
+
+void CleanItemWidget::showChecked(bool checked)
+{
+    const QSignalBlocker blocker(m_checkBox);
+    m_checkBox->setChecked(checked);
+}
+
+void CleanItemWidget::storeChecked()
+{
+    if (item().checked != isChecked())
+        m_category->items[m_index].checked = isChecked();
+}
+
+void CleanItemWidget::setShowSizes(bool show)
+{
+    m_size->setVisible(show);
+}
+
+void CleanItemWidget::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_name->elideTo(width() - reservedWidth);
+    m_path->elideTo(width() - reservedWidth);
+}
+
+void CleanItemWidget::enterEvent(QEnterEvent *)
+{
+    m_hovered = true;
+    update();
+}
+
+void CleanItemWidget::leaveEvent(QEvent *)
+{
+    m_hovered = false;
+    update();
+}
+
+void CleanItemWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        m_checkBox->toggle();
+}
+
+void CleanItemWidget::paintEvent(QPaintEvent *)
+{
+    if (!m_hovered)
+        return;
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::color(theme::hover));
+}

@@ -1,0 +1,66 @@
+#include "detailitemwidget.h"
+
+#include "elidedlabel.h"
+#include "scanresult.h"
+#include "svgicon.h"
+#include "text.h"
+#include "theme.h"
+
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int sizeColumn = 100;
+constexpr int actionColumn = 190;
+
+} // namespace
+
+DetailItemWidget::DetailItemWidget(const CleanItem &item, bool striped, QWidget *parent)
+    : QWidget(parent)
+    , m_path(item.path)
+{
+    setObjectName("detailItem"_L1);
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(
+        u"#detailItem { background-color: %1; } #detailItem:hover { background-color: %2; }"_s.arg(
+            QString(striped ? theme::stripe : theme::white), QString(theme::button)));
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(20, 6, 20, 6);
+    layout->setSpacing(12);
+
+    m_name = new ElidedLabel(item.name, this);
+    m_name->setObjectName("itemName"_L1);
+    m_name->setStyleSheet(theme::label(theme::text, 13));
+    m_name->setToolTip(singleLine(item.path).left(1024).toHtmlEscaped());
+    layout->addWidget(m_name, 1);
+
+    auto *size = new QLabel(formatSize(item.size), this);
+    size->setObjectName("itemSize"_L1);
+    size->setStyleSheet(theme::label(theme::muted, 12, 500));
+    size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    size->setFixedWidth(sizeColumn);
+    layout->addWidget(size);
+
+    auto *button = new QPushButton(
+        QIcon(svgPixmap(u":/icons/folder-open.svg"_s, {18, 18}, devicePixelRatioF())),
+        tr("Open file location"), this);
+    button->setObjectName("openLocationBtn"_L1);
+    button->setIconSize({18, 18});
+    button->setCursor(Qt::PointingHandCursor);
+    button->setFixedWidth(actionColumn);
+    button->setStyleSheet(theme::quietButton(6, 12));
+    button->setMinimumHeight(30);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this] { Q_EMIT openLocationRequested(m_path); });
+    layout->addWidget(button);
+}
+
+void DetailItemWidget::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_name->elideTo(width() - sizeColumn - actionColumn - 64);
+}

@@ -1,0 +1,31 @@
+#include "elidedlabel.h"
+
+#include "text.h"
+
+namespace {
+
+// Measuring a text takes time with its length; more than this fits no screen, so only the ends of
+// it are measured.
+constexpr qsizetype longestMeasured = 1024;
+
+} // namespace
+
+ElidedLabel::ElidedLabel(const QString &fullText, QWidget *parent)
+    : QLabel(parent)
+    , m_fullText(singleLine(fullText))
+{
+    setTextFormat(Qt::PlainText);
+    setAccessibleName(m_fullText);
+    setToolTip(m_fullText.left(longestMeasured).toHtmlEscaped());
+    if (m_fullText.size() > longestMeasured)
+        m_fullText =
+            m_fullText.left(longestMeasured / 2) + u'…' + m_fullText.right(longestMeasured / 2);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setText(m_fullText);
+}
+
+void ElidedLabel::elideTo(int width)
+{
+    ensurePolished();
+    setText(fontMetrics().elidedText(m_fullText, Qt::ElideMiddle, qMax(width, 0)));
+}

@@ -1,0 +1,134 @@
+#include "report.h"
+
+#include "text.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+namespace report {
+
+namespace {
+
+QJsonObject itemAsJson(const CleanItem &item)
+{
+    return {
+        {u"name"_s, item.name},
+        {u"path"_s, item.path},
+        {u"size"_s, item.size},
+        {u"checked"_s, item.checked},
+        {u"riskLevel"_s, item.riskLevel},
+        {u"description"_s, item.description},
+        {u"isDirectory"_s, item.isDirectory},
+        {u"registryRoot"_s, item.registryRoot},
+        {u"registryKey"_s, item.registryKey},
+    };
+}
+
+QJsonObject categoryAsJson(const CleanCategory &category, Items items)
+{
+    QJsonObject object{
+        {u"id"_s, category.id},
+        {u"name"_s, category.name},
+        {u"description"_s, category.description},
+        {u"checked"_s, category.checked},
+        {u"riskLevel"_s, category.riskLevel},
+        {u"totalSize"_s, category.totalSize()},
+        {u"checkedCount"_s, category.checkedCount()},
+    };
+    if (items == Items::Listed) {
+        QJsonArray list;
+        for (const CleanItem &item : category.items)
+            list.append(itemAsJson(item));
+        object.insert("items"_L1, list);
+    }
+    return object;
+}
+
+QString timeStamp(const QDateTime &time)
+{
+    return time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
+}
+
+QString riskWord(int level)
+{
+    return level == HighRisk ? u"high risk"_s : level == MediumRisk ? u"medium risk"_s : QString();
+}
+
+} // namespace
+
+QByteArray scanAsJson(const QString &engine, const ScanResult &result, Items items)
+{
+    QJsonArray categories;
+    for (const CleanCategory &category : result.categories)
+        categories.append(categoryAsJson(category, items));
+    const QJsonObject object{
+        {u"engine"_s, engine},
+        {u"scanTime"_s, timeStamp(result.scanTime)},
+        {u"totalCount"_s, result.totalCount()},
+        {u"totalSize"_s, result.totalSize()},
+        {u"checkedCount"_s, result.checkedCount()},
+        {u"checkedSize"_s, result.checkedSize()},
+        {u"categories"_s, categories},
+    };
+    return QJsonDocument(object).toJson();
+}
+
+QString scanAsText(const ScanResult &result, Items items)
+{
+    QString text;
+    QTextStream stream(&text);
+    for (const CleanCategory &category : result.categories) {
+        stream << (category.checked ? "[x] " : "[ ] ");
+        stream << qSetFieldWidth(32) << Qt::left << singleLine(category.name);
+        stream << qSetFieldWidth(9) << Qt::right << category.items.size() << qSetFieldWidth(0)
+               << " items  ";
+        stream << qSetFieldWidth(11) << Qt::right << formatSize(category.totalSize())
+               << qSetFieldWidth(0);
+        stream << "  " << singleLine(category.id);
+        if (category.riskLevel > LowRisk)
+            stream << " (" << riskWord(category.riskLevel) << ')';
+        stream << '\n';
+        if (items == Items::Left)
+            continue;
+        for (const CleanItem &item : category.items)
+            stream << "      " << formatSize(item.size) << "  " << singleLine(item.path) << '\n';
+    }
+    stream << "Found " << result.totalCount() << " items, " << formatSize(result.totalSize())
+           << "; selected " << result.checkedCount() << " items, "
+           << formatSize(result.checkedSize()) << ".\n";
+    return text;
+}
+
+QByteArray cleanAsJson(const QString &engine, const CleanOutcome &outcome)
+{
+    QJsonArray failures;
+    for (const CleanFailure &failure : outcome.failures)
+        failures.append(QJsonObject{{u"path"_s, failure.path}, {u"reason"_s, failure.reason}});
+    const QJsonObject object{
+        {u"engine"_s, engine},
+        {u"cleanedCount"_s, outcome.cleanedCount},
+        {u"cleanedSize"_s, outcome.cleanedSize},
+        {u"failedCount"_s, outcome.failures.size()},
+        {u"failures"_s, failures},
+    };
+    return QJsonDocument(object).toJson();
+}
+
+QString cleanAsText(const CleanOutcome &outcome)
+{
+    QString text;
+    QTextStream stream(&text);
+    for (const CleanFailure &failure : outcome.failures)
+        stream << "Not cleaned: " << singleLine(failure.path) << " - " << singleLine(failure.reason)
+               << '\n';
+    stream << "Cleaned " << outcome.cleanedCount << " items, freed "
+           << formatSize(outcome.cleanedSize) << "; " << outcome.failures.size() << " failed.\n";
+    return text;
+}
+
+} // namespace report

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "cleanengine.h"
+#include "scanresult.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// How a scan and a clean are told on standard output: the same shape for every engine.
+namespace report {
+
+enum class Items { Left, Listed };
+
+/// @p result as one JSON object whose members are named as the records' fields are; ends with a
+/// line feed.
+[[nodiscard]] QByteArray scanAsJson(const QString &engine, const ScanResult &result, Items items);
+/// @p result as text for people, one line a category and, when listed, one an item.
+[[nodiscard]] QString scanAsText(const ScanResult &result, Items items);
+
+struct CleanOutcome {
+    qint64 cleanedSize = 0; ///< bytes
+    int cleanedCount = 0;
+    QList<CleanFailure> failures;
+};
+
+[[nodiscard]] QByteArray cleanAsJson(const QString &engine, const CleanOutcome &outcome);
+[[nodiscard]] QString cleanAsText(const CleanOutcome &outcome);
+
+} // namespace report

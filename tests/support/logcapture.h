@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// Collects the debug output while it lives, from every thread. One at a time.
+class LogCapture final
+{
+    Q_DISABLE_COPY_MOVE(LogCapture)
+public:
+    LogCapture();
+    ~LogCapture();
+
+    [[nodiscard]] QStringList lines() const;
+    /// Whether any line contains @p text.
+    [[nodiscard]] bool contains(const QString &text) const;
+    [[nodiscard]] qsizetype count(const QString &text) const;
+};

@@ -1,0 +1,35 @@
+#include "testhome.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+TestHome::TestHome()
+    : m_folder(QFileInfo(m_temporary.path()).canonicalFilePath())
+{
+    point("HOME", u"home"_s);
+    point("XDG_CONFIG_HOME", u"config"_s);
+    point("XDG_DATA_HOME", u"data"_s);
+    point("XDG_CACHE_HOME", u"cache"_s);
+    point("WINEPREFIX", u"prefix"_s);
+#ifdef Q_OS_UNIX
+    for (const char *variable : {"LOCALAPPDATA", "APPDATA", "USERPROFILE", "PROGRAMDATA", "WINDIR",
+                                 "SYSTEMDRIVE", "TMPDIR"})
+        qunsetenv(variable);
+#endif
+}
+
+QString TestHome::folder(const QString &relative) const
+{
+    const QString path = m_folder + u'/' + relative;
+    QDir().mkpath(path);
+    return path;
+}
+
+QString TestHome::point(const char *variable, const QString &relative) const
+{
+    const QString path = folder(relative);
+    qputenv(variable, path.toUtf8());
+    return path;
+}

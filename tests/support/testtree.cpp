@@ -1,0 +1,89 @@
+#include "testtree.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+using namespace Qt::StringLiterals;
+
+TestTree::TestTree()
+    : m_path(QFileInfo(m_temporary.path()).canonicalFilePath())
+{
+}
+
+TestTree::~TestTree() = default;
+
+QString TestTree::file(const QString &relative, const QByteArray &content) const
+{
+    const QString filePath = path(relative);
+    QDir().mkpath(QFileInfo(filePath).path());
+    QFile file(filePath);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(filePath));
+    return filePath;
+}
+
+QString TestTree::folder(const QString &relative) const
+{
+    if (!QDir().mkpath(path(relative)))
+        qFatal("cannot make %s", qPrintable(path(relative)));
+    return path(relative);
+}
+
+QString TestTree::link(const QString &target, const QString &relative) const
+{
+    const QString linkPath = path(relative);
+    QDir().mkpath(QFileInfo(linkPath).path());
+    if (!QFile::link(target, linkPath))
+        qFatal("cannot link %s", qPrintable(linkPath));
+    return linkPath;
+}
+
+bool TestTree::has(const QString &relative) const
+{
+    const QFileInfo info(path(relative));
+    return info.exists() || info.isSymLink();
+}
+
+QMap<QString, QString> TestTree::snapshot() const
+{
+    QMap<QString, QString> entries;
+    QDirIterator it(m_path, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QFileInfo info(it.next());
+        QString what = u"folder"_s;
+        if (info.isSymLink()) {
+            what = u"link to "_s + info.symLinkTarget();
+        } else if (info.isFile()) {
+            QFile file(info.filePath());
+            what = file.open(QIODevice::ReadOnly)
+                ? u"file %1 %2"_s.arg(QString::number(int(info.permissions())),
+                                      QString::fromLatin1(file.readAll().toHex()))
+                : u"unreadable file"_s;
+        }
+        entries.insert(info.filePath(), what);
+    }
+    return entries;
+}
+
+OrdinaryUser::OrdinaryUser()
+{
+#ifdef Q_OS_UNIX
+    constexpr uid_t nobody = 65534;
+    m_changed = ::geteuid() == 0 && ::seteuid(nobody) == 0;
+#endif
+}
+
+OrdinaryUser::~OrdinaryUser()
+{
+#ifdef Q_OS_UNIX
+    if (m_changed && ::seteuid(0) != 0)
+        qFatal("cannot become the administrator again");
+#endif
+}

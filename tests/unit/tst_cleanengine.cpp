@@ -1,0 +1,424 @@
+#include "cleanengine.h"
+
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using State = CleanEngine::State;
+
+namespace {
+
+constexpr int patience = 10'000; // milliseconds, for what happens at once on an idle machine
+
+CleanCategory category(const QString &id, int items)
+{
+    CleanCategory result(id, id, {});
+    for (int i = 0; i < items; ++i)
+        result.items.append(CleanItem(QString::number(i), u"/x/"_s + QString::number(i), 10));
+    return result;
+}
+
+/// An engine whose runs the test holds in its hands.
+class ScriptedEngine final : public CleanEngine
+{
+public:
+    ~ScriptedEngine() override { stopAndWait(); }
+
+    std::function<void()> onScan = [] {};
+    std::function<void()> onClean = [this] { finishClean(0, 0); };
+
+    using CleanEngine::isStopRequested;
+    using CleanEngine::selection;
+    using CleanEngine::setState;
+
+    void add(const CleanCategory &found) { result().categories.append(found); }
+    void finishClean(qint64 bytes, int items)
+    {
+        endClean(isStopRequested() ? State::Cancelled : State::Finished);
+        Q_EMIT cleanFinished(bytes, items);
+    }
+    void waitForStop() const
+    {
+        while (!isStopRequested())
+            QThread::msleep(1);
+    }
+
+protected:
+    void doScan() override { onScan(); }
+    void doClean() override { onClean(); }
+};
+
+QList<State> states(const QSignalSpy &spy)
+{
+    QList<State> list;
+    for (const QList<QVariant> &arguments : spy)
+        list.append(arguments.constFirst().value<State>());
+    return list;
+}
+
+} // namespace
+
+class TestCleanEngine : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void startsIdleWithoutAResult()
+    {
+        const ScriptedEngine engine;
+        QCOMPARE(engine.state(), State::Idle);
+        QVERIFY(engine.result().categories.isEmpty());
+    }
+
+    void theStatesHaveTheirNamesAndValues()
+    {
+        const QMetaEnum states = QMetaEnum::fromType<State>();
+        const QByteArrayList names{"Idle",     "Scanning",  "Cleaning",
+                                   "Finished", "Cancelled", "Error"};
+        QCOMPARE(states.keyCount(), names.size());
+        for (int i = 0; i < names.size(); ++i) {
+            QCOMPARE(QByteArray(states.key(i)), names.at(i));
+            QCOMPARE(states.value(i), i);
+        }
+    }
+
+    void aScanGoesThroughScanningToFinished()
+    {
+        ScriptedEngine engine;
+        QThread *scanThread = nullptr;
+        QThread *finishThread = nullptr;
+        State stateAtFinish = State::Idle;
+        engine.onScan = [&] {
+            scanThread = QThread::currentThread();
+            engine.add(category(u"a"_s, 2));
+        };
+        connect(
+            &engine, &CleanEngine::scanFinished, &engine,
+            [&] {
+                finishThread = QThread::currentThread();
+                stateAtFinish = engine.state();
+            },
+            Qt::DirectConnection);
+        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        engine.startScan();
+        QCOMPARE(engine.state(), State::Scanning);
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(states(stateSpy), (QList<State>{State::Scanning, State::Finished}));
+        QCOMPARE(stateAtFinish, State::Finished);
+        QCOMPARE(finishThread, thread());
+        QVERIFY(scanThread && scanThread != thread());
+        QCOMPARE(finished.constFirst().constFirst().value<ScanResult>().totalCount(), 2);
+        QCOMPARE(engine.result().totalCount(), 2);
+    }
+
+    void aCleanReportsFromTheWorkerAfterTheState()
+    {
+        ScriptedEngine engine;
+        QThread *finishThread = nullptr;
+        State stateAtFinish = State::Idle;
+        connect(
+            &engine, &CleanEngine::cleanFinished, &engine,
+            [&] {
+                finishThread = QThread::currentThread();
+                stateAtFinish = engine.state();
+            },
+            Qt::DirectConnection);
+        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        engine.startClean();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        engine.stopAndWait();
+        QCOMPARE(states(stateSpy), (QList<State>{State::Cleaning, State::Finished}));
+        QCOMPARE(stateAtFinish, State::Finished);
+        QVERIFY(finishThread != thread());
+    }
+
+    void aCleanWithoutAScanFinishesWithNothing()
+    {
+        ScriptedEngine engine;
+        int selected = -1;
+        engine.onClean = [&] {
+            selected = engine.selection().checkedCount();
+            engine.finishClean(0, 0);
+        };
+        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        engine.startClean();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        engine.stopAndWait();
+        QCOMPARE(selected, 0);
+        QCOMPARE(engine.state(), State::Finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
+    }
+
+    void cancelWhileIdleIsSignalledOnce()
+    {
+        ScriptedEngine engine;
+        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        engine.cancel();
+        QCOMPARE(states(stateSpy), QList<State>{State::Cancelled});
+        engine.cancel();
+        QCOMPARE(stateSpy.size(), 1);
+    }
+
+    void cancelDoesNotWaitForTheWorker()
+    {
+        ScriptedEngine engine;
+        QSemaphore release;
+        engine.onScan = [&] { release.acquire(); };
+        engine.startScan();
+        engine.cancel(); // would never return if it waited
+        QCOMPARE(engine.state(), State::Cancelled);
+        release.release();
+    }
+
+    void aCancelledScanFinishesNothing()
+    {
+        ScriptedEngine engine;
+        engine.onScan = [&] { engine.waitForStop(); };
+        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        engine.startScan();
+        engine.cancel();
+        engine.stopAndWait();
+        QTest::qWait(20);
+        QCOMPARE(finished.size(), 0);
+        QCOMPARE(states(stateSpy), (QList<State>{State::Scanning, State::Cancelled}));
+    }
+
+    void cancelBetweenTheEndOfTheScanAndItsCompletionIsHeeded()
+    {
+        ScriptedEngine engine;
+        QSemaphore done;
+        engine.onScan = [&] { done.release(); };
+        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        engine.startScan();
+        done.acquire();
+        QThread::msleep(50); // the completion is queued by now; this thread has not run its loop
+        engine.cancel();
+        QTest::qWait(50);
+        QCOMPARE(finished.size(), 0);
+        QCOMPARE(states(stateSpy), (QList<State>{State::Scanning, State::Cancelled}));
+    }
+
+    void aCompletionOfAnEarlierRunIsDropped()
+    {
+        ScriptedEngine engine;
+        QSemaphore done;
+        engine.onScan = [&] { done.release(); };
+        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        engine.startScan();
+        done.acquire();
+        QThread::msleep(50); // its completion is queued now
+        engine.cancel();
+        engine.stopAndWait();
+        QSemaphore release;
+        engine.onScan = [&] {
+            release.acquire();
+            engine.add(category(u"second"_s, 3));
+        };
+        engine.startScan();
+        QTest::qWait(50); // the old completion arrives while the new scan is running
+        QCOMPARE(engine.state(), State::Scanning);
+        QCOMPARE(finished.size(), 0);
+        release.release();
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(engine.result().totalCount(), 3);
+    }
+
+    void aSecondScanStopsAndJoinsTheFirst()
+    {
+        ScriptedEngine engine;
+        std::atomic_int scans = 0;
+        std::atomic_bool firstEnded = false;
+        QSemaphore firstStarted;
+        engine.onScan = [&] {
+            if (++scans > 1)
+                return;
+            firstStarted.release();
+            engine.waitForStop();
+            QThread::msleep(30);
+            firstEnded = true;
+        };
+        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        engine.startScan();
+        firstStarted.acquire();
+        engine.startScan();
+        QVERIFY(firstEnded);
+        QVERIFY(finished.wait(patience));
+        QTest::qWait(20);
+        QCOMPARE(finished.size(), 1);
+    }
+
+    void aScanDuringACleanJoinsItAndStartsEmpty()
+    {
+        ScriptedEngine engine;
+        engine.add(category(u"a"_s, 5));
+        std::atomic_bool cleanEnded = false;
+        engine.onClean = [&] {
+            engine.waitForStop();
+            cleanEnded = true;
+            engine.finishClean(10, 1);
+        };
+        qsizetype atStart = -1;
+        engine.onScan = [&] { atStart = std::as_const(engine).result().categories.size(); };
+        QSignalSpy cleaned(&engine, &CleanEngine::cleanFinished);
+        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        engine.startClean();
+        engine.startScan();
+        QVERIFY(cleanEnded);
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(atStart, 0);
+        QCOMPARE(cleaned.size(), 1);
+    }
+
+    void aCleanKeepsTheResult()
+    {
+        ScriptedEngine engine;
+        engine.add(category(u"a"_s, 5));
+        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        engine.startClean();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        QCOMPARE(engine.result().totalCount(), 5);
+    }
+
+    void ticksAfterTheStartDoNotReachTheWorker()
+    {
+        ScriptedEngine engine;
+        engine.add(category(u"a"_s, 5));
+        CleanItem *bound = &engine.result().categories[0].items[0];
+        QSemaphore ticked;
+        int selected = -1;
+        engine.onClean = [&] {
+            ticked.acquire();
+            selected = engine.selection().checkedCount();
+            engine.finishClean(0, 0);
+        };
+        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        engine.startClean();
+        bound->checked = false;
+        QCOMPARE(engine.result().checkedCount(), 4);
+        ticked.release();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        engine.stopAndWait();
+        QCOMPARE(selected, 5);
+    }
+
+    void aTickWhileThousandsAreCleanedIsNoRace()
+    {
+        ScriptedEngine engine;
+        engine.add(category(u"a"_s, 20'000));
+        QList<CleanItem> &items = engine.result().categories[0].items;
+        qint64 sum = 0;
+        engine.onClean = [&] {
+            for (const CleanItem &item : engine.selection().categories.constFirst().items)
+                sum += item.checked ? item.size : 0;
+            engine.finishClean(sum, 0);
+        };
+        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        engine.startClean();
+        for (CleanItem &item : items)
+            item.checked = false;
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        engine.stopAndWait();
+        QCOMPARE(sum, 200'000);
+    }
+
+    void boundRecordsSurviveTheCopyThatTheSignalCarries()
+    {
+        ScriptedEngine engine;
+        engine.onScan = [&] { engine.add(category(u"a"_s, 5)); };
+        QSignalSpy finished(&engine, &CleanEngine::scanFinished); // keeps a copy
+        engine.startScan();
+        QVERIFY(finished.wait(patience));
+        CleanCategory *bound = &engine.result().categories[0];
+        const ScanResult copy = std::as_const(engine).result();
+        bound->setChecked(false);
+        QCOMPARE(std::as_const(engine).result().checkedCount(), 0);
+        QCOMPARE(&std::as_const(engine).result().categories.constFirst(), bound);
+        QCOMPARE(finished.constFirst().constFirst().value<ScanResult>().checkedCount(), 5);
+    }
+
+    void cancelDuringACleanEndsCancelled()
+    {
+        ScriptedEngine engine;
+        engine.onClean = [&] {
+            engine.waitForStop();
+            engine.finishClean(10, 1);
+        };
+        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        engine.startClean();
+        engine.cancel();
+        engine.stopAndWait();
+        QCOMPARE(engine.state(), State::Cancelled);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        QCOMPARE(states(stateSpy), (QList<State>{State::Cleaning, State::Cancelled}));
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(10), 1}));
+    }
+
+    void aStateThatBothThreadsSetIsSignalledOnce()
+    {
+        for (int round = 0; round < 50; ++round) {
+            ScriptedEngine engine;
+            QSemaphore go;
+            engine.onScan = [&] {
+                go.acquire();
+                engine.setState(State::Cancelled);
+            };
+            std::atomic_int cancelled = 0;
+            connect(
+                &engine, &CleanEngine::stateChanged, &engine,
+                [&cancelled](State state) { cancelled += state == State::Cancelled ? 1 : 0; },
+                Qt::DirectConnection);
+            engine.startScan();
+            go.release();
+            engine.cancel();
+            engine.stopAndWait();
+            QCOMPARE(cancelled.load(), 1);
+        }
+    }
+
+    void anEngineMayBeDestroyedWhileItsWorkerRuns()
+    {
+        for (int round = 0; round < 20; ++round) {
+            auto engine = std::make_unique<ScriptedEngine>();
+            ScriptedEngine *raw = engine.get();
+            std::atomic_bool ended = false;
+            engine->onScan = [&ended, raw] {
+                raw->waitForStop();
+                Q_EMIT raw->scanProgress(1, 1, QString());
+                ended = true;
+            };
+            engine->startScan();
+            engine.reset();
+            QVERIFY(ended);
+        }
+    }
+
+    void aRestartFromWithinTheStateChangeReportsOneResult()
+    {
+        ScriptedEngine engine;
+        int scans = 0;
+        engine.onScan = [&] { engine.add(category(u"run"_s, ++scans)); };
+        bool restarted = false;
+        connect(&engine, &CleanEngine::stateChanged, &engine, [&](State state) {
+            if (state == State::Finished && !std::exchange(restarted, true))
+                engine.startScan();
+        });
+        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        engine.startScan();
+        QVERIFY(finished.wait(patience));
+        QTest::qWait(20);
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(finished.constFirst().constFirst().value<ScanResult>().totalCount(), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCleanEngine)
+#include "tst_cleanengine.moc"

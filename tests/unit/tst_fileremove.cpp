@@ -1,0 +1,334 @@
+#include "fileremove.h"
+
+#include "testtree.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using platform::FileRemover;
+using Status = FileRemover::Status;
+
+class TestFileRemove : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        // The fence: whatever a test removes, nothing out here may change.
+        m_fence = std::make_unique<TestTree>();
+        m_fence->file(u"canary"_s, "alive");
+        m_fence->file(u"folder/canary"_s, "alive");
+        m_before = m_fence->snapshot();
+    }
+
+    void cleanup() { QCOMPARE(m_fence->snapshot(), m_before); }
+
+    void aFileGoes()
+    {
+        const TestTree tree;
+        const QString path = tree.file(u"a"_s);
+        tree.file(u"b"_s);
+        FileRemover remover;
+        QCOMPARE(remover.remove(path).status, Status::Removed);
+        QVERIFY(!tree.has(u"a"_s));
+        QVERIFY(tree.has(u"b"_s));
+    }
+
+    void whatIsNotThereIsNotFound()
+    {
+        const TestTree tree;
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.path(u"a"_s)).status, Status::NotFound);
+        QCOMPARE(remover.remove(tree.path(u"no/folder/a"_s)).status, Status::NotFound);
+    }
+
+    void theSecondRemovalOfAFileIsNotFound()
+    {
+        const TestTree tree;
+        const QString path = tree.file(u"a"_s);
+        FileRemover remover;
+        QCOMPARE(remover.remove(path).status, Status::Removed);
+        QCOMPARE(remover.remove(path).status, Status::NotFound);
+    }
+
+    void aFolderThatWasMadeAnewUnderItsNameIsFound()
+    {
+        const TestTree tree;
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.file(u"d/a"_s)).status, Status::Removed);
+        QVERIFY(QDir(tree.path(u"d"_s)).removeRecursively());
+        QCOMPARE(remover.remove(tree.file(u"d/b"_s)).status, Status::Removed);
+    }
+
+    void oddPathsAreRefused_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("relative") << u"a/b"_s;
+        QTest::newRow("root") << u"/"_s;
+        QTest::newRow("dot") << u"/tmp/."_s;
+        QTest::newRow("dot-dot") << u"/tmp/.."_s;
+        QTest::newRow("dot-dot inside") << u"/tmp/../etc/x"_s;
+        QTest::newRow("slash at the end") << u"/tmp/nothing-here/"_s;
+    }
+
+    void oddPathsAreRefused()
+    {
+        QFETCH(QString, path);
+        FileRemover remover;
+        const FileRemover::Outcome outcome = remover.remove(path);
+        QCOMPARE(outcome.status, Status::Failed);
+        QVERIFY(!outcome.error.isEmpty());
+    }
+
+    void aFolderGoesWithItsContents()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 300; ++i)
+            tree.file(u"d/sub%1/deep/f%2"_s.arg(i % 7).arg(i));
+        tree.file(u"d/.hidden"_s);
+        tree.file(u"beside"_s);
+        FileRemover remover;
+        const FileRemover::Outcome outcome = remover.remove(tree.path(u"d"_s));
+        QVERIFY2(outcome.status == Status::Removed, qPrintable(outcome.error));
+        QVERIFY(outcome.wasFolder);
+        QVERIFY(!tree.has(u"d"_s));
+        QVERIFY(tree.has(u"beside"_s));
+    }
+
+    void aStopEndsTheRemovalOfAFolder()
+    {
+        const TestTree tree;
+        tree.file(u"d/a/b/c"_s);
+        const std::atomic_bool stop = true;
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.path(u"d"_s), &stop).status, Status::Failed);
+        QVERIFY(tree.has(u"d/a/b/c"_s));
+    }
+
+#ifdef Q_OS_UNIX
+    void aLinkGoesAsALink()
+    {
+        const TestTree tree;
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.link(m_fence->path(), u"to-folder"_s)).status,
+                 Status::Removed);
+        QCOMPARE(remover.remove(tree.link(m_fence->path(u"canary"_s), u"to-file"_s)).status,
+                 Status::Removed);
+        QCOMPARE(remover.remove(tree.link(u"nowhere"_s, u"broken"_s)).status, Status::Removed);
+        QVERIFY(!tree.has(u"to-folder"_s));
+        QVERIFY(!tree.has(u"to-file"_s));
+        QVERIFY(!tree.has(u"broken"_s));
+    }
+
+    void linksInsideARemovedFolderGoAsLinks()
+    {
+        const TestTree tree;
+        tree.file(u"d/sub/f"_s);
+        tree.link(m_fence->path(), u"d/sub/to-folder"_s);
+        tree.link(m_fence->path(u"canary"_s), u"d/to-file"_s);
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.path(u"d"_s)).status, Status::Removed);
+        QVERIFY(!tree.has(u"d"_s));
+    }
+
+    void nothingIsRemovedThroughALink()
+    {
+        const TestTree tree;
+        tree.link(m_fence->path(), u"link"_s);
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.path(u"link/canary"_s)).status, Status::Failed);
+        QCOMPARE(remover.remove(tree.path(u"link/folder/canary"_s)).status, Status::Failed);
+        QCOMPARE(remover.remove(tree.path(u"link/folder"_s)).status, Status::Failed);
+    }
+
+    void aParentThatBecameALinkIsNotFollowed()
+    {
+        const TestTree tree;
+        tree.file(u"d/canary"_s);
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.file(u"e/x"_s)).status, Status::Removed);
+        QVERIFY(QDir(tree.path(u"d"_s)).removeRecursively());
+        tree.link(m_fence->path(), u"d"_s);
+        QCOMPARE(remover.remove(tree.path(u"d/canary"_s)).status, Status::Failed);
+    }
+
+    void parentsExchangedForLinksWhileDeletingLoseNothingOutside()
+    {
+        constexpr int folders = 20;
+        constexpr int filesPerFolder = 2500;
+        const TestTree tree;
+        QStringList paths;
+        for (int folder = 0; folder < folders; ++folder) {
+            tree.folder(u"d%1"_s.arg(folder));
+            m_fence->folder(u"d%1"_s.arg(folder));
+            for (int i = 0; i < filesPerFolder; ++i) {
+                const QString name = u"d%1/f%2"_s.arg(folder).arg(i);
+                paths.append(tree.path(name));
+                ::close(::creat(QFile::encodeName(tree.path(name)).constData(), 0600));
+                ::close(::creat(QFile::encodeName(m_fence->path(name)).constData(), 0600));
+            }
+        }
+        m_before = m_fence->snapshot();
+
+        std::atomic_bool done = false;
+        std::atomic_int exchanges = 0;
+        const std::unique_ptr<QThread> attacker(QThread::create([&] {
+            const QByteArray root = QFile::encodeName(tree.path());
+            const QByteArray outside = QFile::encodeName(m_fence->path());
+            while (!done) {
+                for (int folder = 0; folder < folders && !done; ++folder) {
+                    const QByteArray name = "/d" + QByteArray::number(folder);
+                    if (::rename((root + name).constData(), (root + name + ".away").constData())
+                            == 0
+                        && ::symlink((outside + name).constData(), (root + name).constData()) == 0)
+                        ++exchanges;
+                    ::unlink((root + name).constData());
+                    ::rename((root + name + ".away").constData(), (root + name).constData());
+                }
+            }
+        }));
+        attacker->start();
+        int removed = 0;
+        // A remover for a few files each, so that the folder is opened often while it is being
+        // exchanged.
+        for (qsizetype i = 0; i < paths.size();) {
+            FileRemover remover;
+            for (int n = 0; n < 5 && i < paths.size(); ++n, ++i)
+                removed += remover.remove(paths.at(i)).status == Status::Removed ? 1 : 0;
+        }
+        done = true;
+        QVERIFY(attacker->wait(30'000));
+        QVERIFY(exchanges > 10);
+        QVERIFY(removed > 0);
+    }
+
+    void hardLinkedFilesKeepTheirModeAndContent()
+    {
+        const TestTree tree;
+        const QString kept = tree.file(u"kept"_s, "content");
+        tree.folder(u"d"_s);
+        QCOMPARE(::chmod(QFile::encodeName(kept).constData(), 0444), 0);
+        for (const QString &name : {u"alone"_s, u"d/inside"_s})
+            QCOMPARE(::link(QFile::encodeName(kept).constData(),
+                            QFile::encodeName(tree.path(name)).constData()),
+                     0);
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.path(u"alone"_s)).status, Status::Removed);
+        QCOMPARE(remover.remove(tree.path(u"d"_s)).status, Status::Removed);
+        struct stat status {
+        };
+        QCOMPARE(::stat(QFile::encodeName(kept).constData(), &status), 0);
+        QCOMPARE(status.st_mode & 0777, 0444u);
+        QCOMPARE(status.st_size, 7);
+        QCOMPARE(status.st_nlink, 1u);
+    }
+
+    void aReadOnlyFolderKeepsItsFilesButNotInsideARemovedOne()
+    {
+        const OrdinaryUser user;
+        const TestTree tree;
+        tree.file(u"d/locked/sub/f"_s);
+        const QByteArray locked = QFile::encodeName(tree.path(u"d/locked"_s));
+        const QByteArray sub = QFile::encodeName(tree.path(u"d/locked/sub"_s));
+        QCOMPARE(::chmod(sub.constData(), 0500), 0);
+        QCOMPARE(::chmod(locked.constData(), 0500), 0);
+        FileRemover remover;
+        const FileRemover::Outcome direct = remover.remove(tree.path(u"d/locked/sub/f"_s));
+        QCOMPARE(direct.status, Status::Failed);
+        QVERIFY(!direct.wasFolder);
+        QVERIFY(!direct.error.isEmpty());
+        QVERIFY(tree.has(u"d/locked/sub/f"_s));
+        const FileRemover::Outcome whole = remover.remove(tree.path(u"d"_s));
+        QVERIFY2(whole.status == Status::Removed, qPrintable(whole.error));
+        QVERIFY(!tree.has(u"d"_s));
+    }
+
+    void whatIsMountedInsideAFolderStays()
+    {
+        const TestTree tree;
+        tree.file(u"d/a"_s);
+        const QByteArray bound = QFile::encodeName(tree.folder(u"d/bound"_s));
+        if (::mount(QFile::encodeName(m_fence->path()).constData(), bound.constData(), nullptr,
+                    MS_BIND, nullptr)
+            != 0)
+            QSKIP("mounting is not allowed here");
+        FileRemover remover;
+        const FileRemover::Outcome outcome = remover.remove(tree.path(u"d"_s));
+        const bool stillThere = tree.has(u"d/bound/canary"_s);
+        ::umount2(bound.constData(), MNT_DETACH);
+        QCOMPARE(outcome.status, Status::Failed);
+        QVERIFY(stillThere);
+        QVERIFY(!tree.has(u"d/a"_s));
+    }
+
+    void aPipeIsRemovedWithoutBeingOpened()
+    {
+        const TestTree tree;
+        const QByteArray pipe = QFile::encodeName(tree.path(u"pipe"_s));
+        QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+        FileRemover remover;
+        QCOMPARE(remover.remove(tree.path(u"pipe"_s)).status, Status::Removed);
+    }
+
+    void fiveThousandNestedFoldersAreRemoved()
+    {
+        const TestTree tree;
+        tree.folder(u"d"_s);
+        int fd = ::open(QFile::encodeName(tree.path(u"d"_s)).constData(), O_RDONLY | O_DIRECTORY);
+        for (int depth = 0; depth < 5000; ++depth) {
+            QCOMPARE(::mkdirat(fd, "nested", 0700), 0);
+            ::close(::openat(fd, "file", O_CREAT | O_WRONLY, 0600));
+            const int next = ::openat(fd, "nested", O_RDONLY | O_DIRECTORY);
+            ::close(fd);
+            fd = next;
+        }
+        ::close(fd);
+        FileRemover remover;
+        const FileRemover::Outcome outcome = remover.remove(tree.path(u"d"_s));
+        QVERIFY2(outcome.status == Status::Removed, qPrintable(outcome.error));
+        QVERIFY(!tree.has(u"d"_s));
+    }
+
+    void aPathLongerThanOneCallAllowsIsRemoved()
+    {
+        const TestTree tree;
+        const QByteArray name(200, 'n');
+        QString path = tree.path();
+        int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY);
+        while (path.size() < 6000) {
+            QCOMPARE(::mkdirat(fd, name.constData(), 0700), 0);
+            const int next = ::openat(fd, name.constData(), O_RDONLY | O_DIRECTORY);
+            ::close(fd);
+            fd = next;
+            path += u'/' + QString::fromLatin1(name);
+        }
+        ::close(::openat(fd, "file", O_CREAT | O_WRONLY, 0600));
+        FileRemover remover;
+        QCOMPARE(remover.remove(path + "/file"_L1).status, Status::Removed);
+        QCOMPARE(::faccessat(fd, "file", F_OK, 0), -1);
+        ::close(fd);
+        QCOMPARE(remover.remove(tree.path() + u'/' + QString::fromLatin1(name)).status,
+                 Status::Removed);
+    }
+#endif
+
+private:
+    std::unique_ptr<TestTree> m_fence;
+    QMap<QString, QString> m_before;
+};
+
+QTEST_GUILESS_MAIN(TestFileRemove)
+#include "tst_fileremove.moc"

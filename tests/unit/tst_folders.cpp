@@ -1,0 +1,197 @@
+#include "folders.h"
+
+#include "appinfo.h"
+#include "testhome.h"
+#include "testtree.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// The folders of the Linux build, which come from the environment, a Wine prefix or the desktop.
+class TestFolders : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestFolders(const TestHome &home)
+        : m_home(home)
+    {
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        for (const char *variable : {"LOCALAPPDATA", "APPDATA", "USERPROFILE", "PROGRAMDATA",
+                                     "WINDIR", "SYSTEMDRIVE", "TMPDIR"})
+            qunsetenv(variable);
+        QVERIFY(QDir(m_home.path() + "/prefix"_L1).removeRecursively());
+        qputenv("USER", "jane");
+    }
+
+    void withoutAPrefixTheDesktopsFoldersServe()
+    {
+        QCOMPARE(platform::temporaryFolder(), QDir::tempPath());
+        QCOMPARE(platform::localDataFolder(), m_home.path() + "/data"_L1);
+        QCOMPARE(platform::roamingDataFolder(), m_home.path() + "/data"_L1);
+        QCOMPARE(platform::homeFolder(), m_home.path() + "/home"_L1);
+        QCOMPARE(platform::programDataFolder(), QString());
+        QCOMPARE(platform::windowsFolder(), u"C:/Windows"_s);
+        QCOMPARE(platform::systemDrive(), u"C:"_s);
+    }
+
+    void aPrefixSuppliesItsOwnFolders()
+    {
+        const QString drive = makePrefix();
+        const QString user = drive + "/users/jane"_L1;
+        QCOMPARE(platform::temporaryFolder(), user + "/AppData/Local/Temp"_L1);
+        QCOMPARE(platform::localDataFolder(), user + "/AppData/Local"_L1);
+        QCOMPARE(platform::roamingDataFolder(), user + "/AppData/Roaming"_L1);
+        QCOMPARE(platform::homeFolder(), user);
+        QCOMPARE(platform::programDataFolder(), drive + "/ProgramData"_L1);
+        QCOMPARE(platform::windowsFolder(), drive + "/windows"_L1);
+        QCOMPARE(platform::systemDrive(), drive);
+    }
+
+    void theEnvironmentComesFirst()
+    {
+        makePrefix();
+        const QString set = m_home.point("LOCALAPPDATA", u"elsewhere"_s);
+        QCOMPARE(platform::localDataFolder(), set);
+        qputenv("TMPDIR", "/tmp");
+        QCOMPARE(platform::temporaryFolder(), u"/tmp"_s);
+        qputenv("WINDIR", "C:\\Windows");
+        QCOMPARE(platform::windowsFolder(), u"C:/Windows"_s);
+    }
+
+    void theOnlyProfileOfAForeignPrefixServes()
+    {
+        const QString drive = makePrefix();
+        qputenv("USER", "somebody-else");
+        QCOMPARE(platform::homeFolder(), drive + "/users/jane"_L1);
+        m_home.folder(u"prefix/drive_c/users/john"_s);
+        QCOMPARE(platform::homeFolder(), QDir::homePath());
+    }
+
+    void namesBelowThePrefixAreFoundInAnyCase()
+    {
+        const QString drive = makePrefix();
+        m_home.folder(u"prefix/drive_c/windows/softwaredistribution/DataStore"_s);
+        QCOMPARE(platform::locate(platform::windowsFolder(),
+                                  u"\\SoftwareDistribution\\DATASTORE\\Logs"_s),
+                 drive + "/windows/softwaredistribution/DataStore/Logs"_L1);
+    }
+
+    void anExactNameWinsOverAnotherCase()
+    {
+        const QString drive = makePrefix();
+        m_home.folder(u"prefix/drive_c/windows/TEMP"_s);
+        m_home.folder(u"prefix/drive_c/windows/Temp"_s);
+        QCOMPARE(platform::locate(platform::windowsFolder(), u"\\Temp"_s),
+                 drive + "/windows/Temp"_L1);
+    }
+
+    void namesOutsideThePrefixKeepTheirCase()
+    {
+        const TestTree tree;
+        tree.folder(u"Cache"_s);
+        QCOMPARE(platform::locate(tree.path(), u"/cache"_s), tree.path(u"cache"_s));
+    }
+
+    void windowsPathsLeadThroughThePrefixsDrives()
+    {
+        const QString drive = makePrefix();
+        QCOMPARE(platform::locate(u"C:"_s, u"\\Windows.old"_s), drive + "/Windows.old"_L1);
+        QCOMPARE(platform::locate(u"c:"_s, QString()), drive);
+        QCOMPARE(platform::locate(u"C:\\Windows"_s, u"\\x"_s), drive + "/windows/x"_L1);
+        QCOMPARE(platform::locate(u"Q:"_s, u"\\x"_s), QString());
+    }
+
+    void withoutAPrefixWindowsPathsLeadNowhere()
+    {
+        QCOMPARE(platform::locate(u"C:"_s, u"\\Windows.old"_s), QString());
+        QCOMPARE(platform::locate(u"C:/Windows"_s, u"\\Temp"_s), QString());
+    }
+
+    void unsetAndRelativeBasesLeadNowhere()
+    {
+        QCOMPARE(platform::locate(QString(), u"\\Microsoft"_s), QString());
+        QCOMPARE(platform::locate(u"relative"_s, u"\\x"_s), QString());
+        QCOMPARE(platform::locate(u"%UNKNOWN%"_s, u"\\x"_s), QString());
+    }
+
+    void dotsInARuleAreRefused()
+    {
+        const TestTree tree;
+        QCOMPARE(platform::locate(tree.path(), u"/../x"_s), QString());
+        QCOMPARE(platform::locate(tree.path(), u"\\a\\..\\..\\x"_s), QString());
+        QCOMPARE(platform::locate(tree.path(), u"/./x"_s), QString());
+    }
+
+    void linksInTheBaseAreResolvedButNotInWhatTheRuleAppends()
+    {
+        const TestTree tree;
+        tree.folder(u"real/sub"_s);
+        tree.link(tree.path(u"real"_s), u"base"_s);
+        tree.link(tree.path(u"real/sub"_s), u"real/planted"_s);
+        QCOMPARE(platform::locate(tree.path(u"base"_s), u"/sub"_s), tree.path(u"real/sub"_s));
+        QCOMPARE(platform::locate(tree.path(u"base"_s), u"/planted"_s),
+                 tree.path(u"real/planted"_s));
+    }
+
+    void rootsThatHoldMoreThanClutterAreProtected_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("file system") << u"/"_s << true;
+        QTest::newRow("home") << u"HOME"_s << true;
+        QTest::newRow("above the home") << u"HOME/.."_s << true;
+        QTest::newRow("below the home") << u"HOME/cache"_s << false;
+        QTest::newRow("drive") << u"DRIVE"_s << true;
+        QTest::newRow("Windows folder") << u"DRIVE/windows"_s << true;
+        QTest::newRow("system folder") << u"DRIVE/windows/system32"_s << true;
+        QTest::newRow("program folder") << u"DRIVE/Program Files"_s << true;
+        QTest::newRow("profile") << u"DRIVE/users/jane"_s << true;
+        QTest::newRow("all profiles") << u"DRIVE/users"_s << true;
+        QTest::newRow("temporary folder") << u"DRIVE/windows/temp"_s << false;
+        QTest::newRow("missing") << u"/no/such/folder"_s << true;
+        QTest::newRow("/usr") << u"/usr"_s << true;
+    }
+
+    void rootsThatHoldMoreThanClutterAreProtected()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, expected);
+        const QString drive = makePrefix();
+        m_home.folder(u"home/cache"_s);
+        path.replace("HOME"_L1, QDir::homePath()).replace("DRIVE"_L1, drive);
+        QCOMPARE(platform::isProtectedRoot(path), expected);
+    }
+
+    void aLinkToAProtectedRootIsProtected()
+    {
+        const TestTree tree;
+        QVERIFY(platform::isProtectedRoot(tree.link(QDir::homePath(), u"innocent"_s)));
+    }
+
+private:
+    QString makePrefix() const
+    {
+        for (const QString &folder :
+             {u"users/jane/AppData/Local/Temp"_s, u"users/jane/AppData/Roaming"_s,
+              u"users/Public"_s, u"windows/system32"_s, u"windows/temp"_s, u"ProgramData"_s,
+              u"Program Files"_s})
+            m_home.folder("prefix/drive_c/"_L1 + folder);
+        m_home.folder(u"prefix/dosdevices"_s);
+        QFile::link(u"../drive_c"_s, m_home.path() + "/prefix/dosdevices/c:"_L1);
+        return m_home.path() + "/prefix/drive_c"_L1;
+    }
+
+    const TestHome &m_home;
+};
+
+SWEEPWISE_TEST_MAIN(TestFolders, QCoreApplication)
+#include "tst_folders.moc"

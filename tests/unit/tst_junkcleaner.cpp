@@ -1,0 +1,779 @@
+#include "junkcleaner.h"
+
+#include "appinfo.h"
+#include "folders.h"
+#include "logcapture.h"
+#include "testhome.h"
+#include "testtree.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+#include <QThread>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using State = CleanEngine::State;
+
+namespace {
+
+constexpr int patience = 30'000;
+
+const CleanCategory *find(const ScanResult &result, const QString &id)
+{
+    for (const CleanCategory &category : result.categories) {
+        if (category.id == id)
+            return &category;
+    }
+    return nullptr;
+}
+
+QStringList names(const CleanCategory *category)
+{
+    QStringList list;
+    if (category) {
+        for (const CleanItem &item : category->items)
+            list.append(item.name);
+    }
+    list.sort();
+    return list;
+}
+
+QByteArray rule(const QString &path, const QByteArray &more = {})
+{
+    QByteArray quoted = QString(path).replace(u'\\', u"\\\\"_s).toUtf8();
+    return R"({"id": "r", "name": "Rule", "description": "Text", "paths": [")" + quoted + "\"]"
+        + (more.isEmpty() ? QByteArray() : ", " + more) + "}";
+}
+
+} // namespace
+
+class TestJunkCleaner : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestJunkCleaner(const TestHome &home)
+        : m_home(home)
+    {
+    }
+
+private Q_SLOTS:
+    // --- the shipped rules
+
+    void theShippedFileHasItsTwentyFiveRules()
+    {
+        JunkCleaner cleaner;
+        const LogCapture log;
+        cleaner.loadRules(u":/rules/junk_rules.json"_s);
+        QCOMPARE(cleaner.rules().size(), 25);
+        QVERIFY(log.contains(u"[INFO] Loaded 25 junk rules"_s));
+        QVERIFY(log.contains(u"[JunkCleaner] ========== Loading Rules =========="_s));
+        QVERIFY(log.contains(u"[JunkCleaner] ✓ Loaded 25 rules successfully"_s));
+        QStringList ids;
+        for (const JunkRule &rule : cleaner.rules()) {
+            ids.append(rule.id);
+            QVERIFY2(!rule.name.isEmpty() && !rule.description.isEmpty(), qPrintable(rule.id));
+            QVERIFY2(!rule.paths.isEmpty() && !rule.patterns.isEmpty(), qPrintable(rule.id));
+        }
+        QCOMPARE(ids,
+                 QString::fromLatin1("temp_files prefetch thumbnails log_files windows_update_log "
+                                     "iis_logs memory_dumps windows_update "
+                                     "error_reports delivery_optimization defender_cache "
+                                     "dotnet_cache sfc_logs installer_cache recent_files "
+                                     "font_cache windows_old web_cache office_cache tencent_logs "
+                                     "nvidia_cache amd_cache directx_cache "
+                                     "windows_search diagnostic_logs")
+                     .split(u' '));
+    }
+
+    void onlyThreeShippedRulesStartUnticked()
+    {
+        JunkCleaner cleaner;
+        cleaner.loadRules(u":/rules/junk_rules.json"_s);
+        QStringList unticked;
+        QStringList highRisk;
+        QStringList mediumRisk;
+        QStringList flat;
+        for (const JunkRule &rule : cleaner.rules()) {
+            if (!rule.defaultChecked)
+                unticked.append(rule.id);
+            if (rule.riskLevel == 2)
+                highRisk.append(rule.id);
+            if (rule.riskLevel == 1)
+                mediumRisk.append(rule.id);
+            if (!rule.recursive)
+                flat.append(rule.id);
+        }
+        QCOMPARE(unticked,
+                 (QStringList{u"installer_cache"_s, u"recent_files"_s, u"windows_old"_s}));
+        QCOMPARE(highRisk, (QStringList{u"installer_cache"_s, u"windows_old"_s}));
+        QCOMPARE(
+            mediumRisk,
+            (QStringList{u"windows_update"_s, u"delivery_optimization"_s, u"windows_search"_s}));
+        QCOMPARE(flat,
+                 (QStringList{u"prefetch"_s, u"thumbnails"_s, u"windows_update_log"_s,
+                              u"memory_dumps"_s, u"recent_files"_s}));
+    }
+
+    // --- loading
+
+    void aMissingFileKeepsTheOldRules()
+    {
+        JunkCleaner cleaner;
+        cleaner.loadRules(u":/rules/junk_rules.json"_s);
+        const LogCapture log;
+        cleaner.loadRules(u"/no/such/file.json"_s);
+        QCOMPARE(cleaner.rules().size(), 25);
+        QVERIFY(log.contains(u"[ERROR] Failed to load junk rules: /no/such/file.json"_s));
+        QVERIFY(log.contains(u"[JunkCleaner] ✗ Open failed:"_s));
+    }
+
+    void aBrokenFileKeepsTheOldRules_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("empty") << QByteArray() << u"[ERROR] JSON parse error: "_s;
+        QTest::newRow("not JSON") << QByteArray("rules?") << u"[ERROR] JSON parse error: "_s;
+        QTest::newRow("cut off") << QByteArray(R"({"rules": [)") << u"[ERROR] JSON parse error: "_s;
+        QTest::newRow("binary") << QByteArray("\x00\x01\xff\xfe", 4)
+                                << u"[ERROR] JSON parse error: "_s;
+        QTest::newRow("mark only") << QByteArray("\xEF\xBB\xBF") << u"[ERROR] JSON parse error: "_s;
+        QTest::newRow("an array") << QByteArray("[1, 2]") << u"[ERROR] Invalid junk rules format"_s;
+    }
+
+    void aBrokenFileKeepsTheOldRules()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, line);
+        const TestTree tree;
+        JunkCleaner cleaner;
+        cleaner.loadRules(u":/rules/junk_rules.json"_s);
+        const LogCapture log;
+        cleaner.loadRules(tree.file(u"rules.json"_s, content));
+        QCOMPARE(cleaner.rules().size(), 25);
+        QVERIFY(log.contains(line));
+    }
+
+    void aFileWithAByteOrderMarkParsesLikeOneWithout()
+    {
+        const TestTree tree;
+        const QByteArray content = "{\"version\": \"9\", \"rules\": [" + rule(u"/x"_s) + "]}";
+        JunkCleaner plain;
+        plain.loadRules(tree.file(u"plain.json"_s, content));
+        JunkCleaner marked;
+        const LogCapture log;
+        marked.loadRules(tree.file(u"marked.json"_s, "\xEF\xBB\xBF" + content));
+        QVERIFY(log.contains(u"[JunkCleaner] Removed UTF-8 BOM"_s));
+        QCOMPARE(plain.rules().size(), 1);
+        QCOMPARE(marked.rules().size(), 1);
+        QCOMPARE(marked.rules().constFirst().paths, plain.rules().constFirst().paths);
+        QCOMPARE(marked.rules().constFirst().name, u"Rule"_s);
+    }
+
+    void missingMembersGetTheirDefaults()
+    {
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [{}]}");
+        QCOMPARE(cleaner.rules().size(), 1);
+        expectDefaults(cleaner.rules().constFirst());
+    }
+
+    void membersOfTheWrongTypeGetTheirDefaults()
+    {
+        JunkCleaner cleaner;
+        load(cleaner,
+             R"({"rules": [{"id": 1, "name": [], "description": {}, "paths": "x", "patterns": true,
+                           "recursive": "no", "defaultChecked": 0, "riskLevel": "2"}, 7, null, [1]]})");
+        QCOMPARE(cleaner.rules().size(), 4);
+        for (const JunkRule &rule : cleaner.rules())
+            expectDefaults(rule);
+    }
+
+    void listElementsThatAreNoTextAreKeptEmpty()
+    {
+        JunkCleaner cleaner;
+        load(cleaner, R"({"rules": [{"paths": ["a", 1, null], "patterns": [true, "*.x"]}]})");
+        QCOMPARE(cleaner.rules().constFirst().paths, (QStringList{u"a"_s, QString(), QString()}));
+        QCOMPARE(cleaner.rules().constFirst().patterns, (QStringList{QString(), u"*.x"_s}));
+    }
+
+    void rulesThatAreNoArrayAreNoRules_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("missing") << QByteArray("{}");
+        QTest::newRow("text") << QByteArray(R"({"rules": "x"})");
+        QTest::newRow("object") << QByteArray(R"({"rules": {"id": "x"}})");
+    }
+
+    void rulesThatAreNoArrayAreNoRules()
+    {
+        QFETCH(QByteArray, content);
+        const TestTree tree;
+        JunkCleaner cleaner;
+        cleaner.loadRules(u":/rules/junk_rules.json"_s);
+        cleaner.loadRules(tree.file(u"rules.json"_s, content));
+        QCOMPARE(cleaner.rules().size(), 0);
+    }
+
+    // --- placeholders
+
+    void placeholdersAreReplacedEverywhere()
+    {
+        const QString temp = QDir::toNativeSeparators(platform::temporaryFolder());
+        QCOMPARE(JunkCleaner::expandPath(u"%TEMP%"_s), temp);
+        QCOMPARE(JunkCleaner::expandPath(u"%TEMP%|%TEMP%"_s), temp + u'|' + temp);
+        QCOMPARE(JunkCleaner::expandPath(u"%LOCALAPPDATA%\\a"_s),
+                 QDir::toNativeSeparators(platform::localDataFolder() + "/a"_L1));
+        QCOMPARE(JunkCleaner::expandPath(u"%SYSTEMROOT%"_s),
+                 JunkCleaner::expandPath(u"%WINDIR%"_s));
+        QCOMPARE(JunkCleaner::expandPath(u"%USERPROFILE%"_s),
+                 QDir::toNativeSeparators(platform::homeFolder()));
+    }
+
+    void roamingDataEndsInTheOrganisationsFolder()
+    {
+        QCOMPARE(
+            JunkCleaner::expandPath(u"%APPDATA%\\Tencent\\Logs"_s),
+            QDir::toNativeSeparators(platform::roamingDataFolder() + "/Norvak/Tencent/Logs"_L1));
+    }
+
+    void unknownAndLowerCasePlaceholdersStay()
+    {
+        QCOMPARE(JunkCleaner::expandPath(u"%temp%"_s), u"%temp%"_s);
+        QCOMPARE(JunkCleaner::expandPath(u"%FOO%"_s), u"%FOO%"_s);
+    }
+
+    void programDataIsEmptyWhenUnset()
+    {
+        const QByteArray old = qgetenv("PROGRAMDATA");
+        qunsetenv("PROGRAMDATA");
+        QCOMPARE(JunkCleaner::expandPath(u"%PROGRAMDATA%"_s), QString());
+        if (!old.isEmpty())
+            qputenv("PROGRAMDATA", old);
+    }
+
+    void windowsAndDriveHaveTheirDefaults()
+    {
+        const QByteArray windows = qgetenv("WINDIR");
+        const QByteArray drive = qgetenv("SYSTEMDRIVE");
+        qunsetenv("WINDIR");
+        qunsetenv("SYSTEMDRIVE");
+        QCOMPARE(JunkCleaner::expandPath(u"%WINDIR%"_s), QDir::toNativeSeparators(u"C:/Windows"_s));
+        QCOMPARE(JunkCleaner::expandPath(u"%SYSTEMDRIVE%"_s), u"C:"_s);
+        if (!windows.isEmpty())
+            qputenv("WINDIR", windows);
+        if (!drive.isEmpty())
+            qputenv("SYSTEMDRIVE", drive);
+    }
+
+    // --- scanning
+
+    void withoutRulesAScanFindsNothing()
+    {
+        JunkCleaner cleaner;
+        QSignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        const LogCapture log;
+        scan(cleaner);
+        QCOMPARE(progress.size(), 0);
+        QVERIFY(cleaner.result().categories.isEmpty());
+        QVERIFY(log.contains(u"[INFO] Starting junk scan..."_s));
+        QVERIFY(log.contains(u"[INFO] Junk scan finished. Found 0 items, 0 B"_s));
+    }
+
+    void aRuleWithoutPatternsTakesEveryFileAndWalksFolders()
+    {
+        const TestTree tree;
+        tree.file(u"a.txt"_s, "12");
+        tree.file(u"sub/deep/b"_s, "345");
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path()) + "]}");
+        const LogCapture log;
+        QSignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        scan(cleaner);
+        QCOMPARE(progress.size(), 1);
+        QCOMPARE(progress.constFirst(), (QList<QVariant>{1, 1, u"Rule"_s}));
+        QCOMPARE(cleaner.result().categories.size(), 1);
+        const CleanCategory &category = cleaner.result().categories.constFirst();
+        QCOMPARE(category.id, u"r"_s);
+        QCOMPARE(category.name, u"Rule"_s);
+        QCOMPARE(category.description, u"Text"_s);
+        QCOMPARE(names(&category), (QStringList{u"a.txt"_s, u"b"_s}));
+        QCOMPARE(category.items.at(1).path, tree.path(u"sub/deep/b"_s));
+        QCOMPARE(category.items.at(1).size, 3);
+        QVERIFY(!category.items.at(1).isDirectory);
+        QVERIFY(log.contains(u"[INFO] Junk scan finished. Found 2 items, 5 B"_s));
+    }
+
+    void aFlatRuleStaysAtTheTop()
+    {
+        const TestTree tree;
+        tree.file(u"a.dmp"_s);
+        tree.file(u"sub/b.dmp"_s);
+        JunkCleaner cleaner;
+        load(cleaner,
+             "{\"rules\": [" + rule(tree.path(), R"("patterns": ["*.dmp"], "recursive": false)")
+                 + "]}");
+        scan(cleaner);
+        QCOMPARE(names(find(cleaner.result(), u"r"_s)), QStringList{u"a.dmp"_s});
+    }
+
+    void itemsOfAWalkAreTickedWhateverTheRuleSays()
+    {
+        const TestTree tree;
+        tree.file(u"a"_s);
+        JunkCleaner cleaner;
+        load(cleaner,
+             "{\"rules\": [" + rule(tree.path(), R"("defaultChecked": false, "riskLevel": 2)")
+                 + "]}");
+        scan(cleaner);
+        const CleanCategory &category = cleaner.result().categories.constFirst();
+        QVERIFY(!category.checked);
+        QCOMPARE(category.riskLevel, 2);
+        QVERIFY(category.items.constFirst().checked);
+        QCOMPARE(category.items.constFirst().riskLevel, 0);
+        QCOMPARE(cleaner.result().checkedCount(), 0);
+    }
+
+    void aPathThatNamesAFileIsTakenDespiteThePatterns()
+    {
+        const TestTree tree;
+        const QString file = tree.file(u"report.txt"_s, "1234");
+        JunkCleaner cleaner;
+        load(cleaner,
+             "{\"rules\": ["
+                 + rule(file, R"("patterns": ["*.log"], "defaultChecked": false, "riskLevel": 1)")
+                 + "]}");
+        scan(cleaner);
+        QCOMPARE(cleaner.result().totalCount(), 1);
+        const CleanItem &item = cleaner.result().categories.constFirst().items.constFirst();
+        QCOMPARE(item.name, u"report.txt"_s);
+        QCOMPARE(item.path, file);
+        QCOMPARE(item.size, 4);
+        QVERIFY(!item.checked);
+        QCOMPARE(item.riskLevel, 1);
+    }
+
+    void emptyCategoriesAreNotShown()
+    {
+        const TestTree tree;
+        tree.folder(u"empty"_s);
+        JunkCleaner cleaner;
+        load(cleaner,
+             "{\"rules\": [" + rule(tree.path(u"empty"_s)) + ", " + rule(tree.path(u"missing"_s))
+                 + "]}");
+        scan(cleaner);
+        QVERIFY(cleaner.result().categories.isEmpty());
+    }
+
+    void theScanTimeIsTheEndOfTheScan()
+    {
+        JunkCleaner cleaner;
+        cleaner.result().scanTime = QDateTime();
+        const QDateTime before = QDateTime::currentDateTime();
+        scan(cleaner);
+        QVERIFY(cleaner.result().scanTime >= before);
+        QVERIFY(cleaner.result().scanTime <= QDateTime::currentDateTime());
+    }
+
+    void oddLocationsFindNothing_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("unknown placeholder") << u"%FOO%\\x"_s;
+        QTest::newRow("relative") << u"tests"_s;
+        QTest::newRow("dots") << u"%TEMP%\\..\\.."_s;
+        QTest::newRow("very long") << u"%TEMP%\\"_s + QString(4000, u'x');
+        QTest::newRow("line break") << u"%TEMP%\\a\nb"_s;
+    }
+
+    void oddLocationsFindNothing()
+    {
+        QFETCH(QString, path);
+        QJsonArray paths{path};
+        const QJsonObject document{
+            {u"rules"_s, QJsonArray{QJsonObject{{u"id"_s, u"r"_s}, {u"paths"_s, paths}}}}};
+        JunkCleaner cleaner;
+        load(cleaner, QJsonDocument(document).toJson());
+        scan(cleaner);
+        QVERIFY(cleaner.result().categories.isEmpty());
+    }
+
+#ifdef Q_OS_UNIX
+    void theSystemDriveIsNotWalkedForDumps()
+    {
+        const QString drive = m_home.point("SYSTEMDRIVE", u"drive"_s);
+        m_home.folder(u"drive/sub"_s);
+        for (const QString &name :
+             {u"a.dmp"_s, u"b.MDMP"_s, u"memory.dmp"_s, u"c.hdmp"_s, u"d.txt"_s, u"sub/e.dmp"_s}) {
+            QFile file(drive + u'/' + name);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        JunkCleaner cleaner;
+        cleaner.loadRules(u":/rules/junk_rules.json"_s);
+        scan(cleaner);
+        qunsetenv("SYSTEMDRIVE");
+        QCOMPARE(names(find(cleaner.result(), u"memory_dumps"_s)),
+                 (QStringList{u"a.dmp"_s, u"b.MDMP"_s, u"c.hdmp"_s, u"memory.dmp"_s}));
+    }
+
+    void aRuleForWholeTreesIsSkippedOnAProtectedRoot_data()
+    {
+        QTest::addColumn<QByteArray>("temp");
+        QTest::newRow("file system") << QByteArray("/");
+        QTest::newRow("home") << QFile::encodeName(QDir::homePath());
+        QTest::newRow("link to the home") << QByteArray("LINK");
+        QTest::newRow("above the home") << QFile::encodeName(QDir::homePath() + "/.."_L1);
+    }
+
+    void aRuleForWholeTreesIsSkippedOnAProtectedRoot()
+    {
+        QFETCH(QByteArray, temp);
+        const TestTree tree;
+        if (temp == "LINK")
+            temp = QFile::encodeName(tree.link(QDir::homePath(), u"link"_s));
+        QFile canary(QDir::homePath() + "/canary"_L1);
+        QVERIFY(canary.open(QIODevice::WriteOnly));
+        qputenv("TMPDIR", temp);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(u"%TEMP%"_s, R"("patterns": ["*"])") + "]}");
+        const LogCapture log;
+        scan(cleaner);
+        qunsetenv("TMPDIR");
+        QVERIFY(cleaner.result().categories.isEmpty());
+        QVERIFY(log.contains(u"[WARN] Skipped "_s));
+    }
+
+    void aFlatRuleOnAProtectedRootIsUntouched()
+    {
+        QFile dump(QDir::homePath() + "/crash.dmp"_L1);
+        QVERIFY(dump.open(QIODevice::WriteOnly));
+        JunkCleaner cleaner;
+        load(cleaner,
+             "{\"rules\": ["
+                 + rule(u"%USERPROFILE%"_s, R"("patterns": ["*.dmp"], "recursive": false)") + "]}");
+        scan(cleaner);
+        dump.remove();
+        QCOMPARE(names(find(cleaner.result(), u"r"_s)), QStringList{u"crash.dmp"_s});
+    }
+
+    void aLocationBehindAPlantedLinkIsSkippedWithAWarning()
+    {
+        const TestTree outside;
+        outside.file(u"precious"_s);
+        const TestTree tree;
+        qputenv("TMPDIR", QFile::encodeName(tree.path()));
+        tree.link(outside.path(), u"Cache"_s);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(u"%TEMP%\\Cache"_s) + "]}");
+        const LogCapture log;
+        scan(cleaner);
+        qunsetenv("TMPDIR");
+        QVERIFY(cleaner.result().categories.isEmpty());
+        QVERIFY(log.contains(u"a link leads elsewhere"_s));
+    }
+
+    void anUnreadableFolderIsLoggedAndTheScanGoesOn()
+    {
+        const OrdinaryUser user;
+        const TestTree tree;
+        tree.file(u"open/a"_s);
+        tree.file(u"closed/b"_s);
+        const QByteArray closed = QFile::encodeName(tree.path(u"closed"_s));
+        QCOMPARE(::chmod(closed.constData(), 0), 0);
+        JunkCleaner cleaner;
+        cleaner.loadRules(tree.file(u"rules.json"_s, "{\"rules\": [" + rule(tree.path()) + "]}"));
+        QFile::remove(tree.path(u"rules.json"_s));
+        const LogCapture log;
+        scan(cleaner);
+        QCOMPARE(::chmod(closed.constData(), 0700), 0);
+        QCOMPARE(names(find(cleaner.result(), u"r"_s)), QStringList{u"a"_s});
+        QVERIFY(log.contains(u"[WARN] Cannot read folder: "_s + tree.path(u"closed"_s) + " - "_L1));
+    }
+
+    void oddNamesAreListedAndCleaned()
+    {
+        const TestTree tree;
+        const QStringList odd{u"new\nline"_s, u"\u202egpj.exe"_s, u"-rf"_s, u"%1 %2"_s, u"文件"_s,
+                              u"🧹"_s,      QString(80, u'長'), u" "_s,   u"*"_s};
+        for (const QString &name : odd)
+            tree.file(u"d/"_s + name);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        QStringList expected = odd;
+        expected.sort();
+        QCOMPARE(names(find(cleaner.result(), u"r"_s)), expected);
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst().at(1).toInt(), int(odd.size()));
+        QVERIFY(
+            QDir(tree.path(u"d"_s))
+                .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot));
+    }
+
+    void aFailureWithALineBreakInItsNameForgesNoLine()
+    {
+        const TestTree tree;
+        tree.file(u"d/a\n[INFO] forged"_s);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        QVERIFY(QFile::remove(tree.path(u"d/a\n[INFO] forged"_s)));
+        const LogCapture log;
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QVERIFY(log.contains(u"[WARN] File not found: "_s));
+        for (const QString &line : log.lines())
+            QVERIFY2(!line.contains(u'\n'), qPrintable(line));
+    }
+
+    void aLinkIsRemovedAsALink()
+    {
+        const TestTree outside;
+        outside.file(u"precious"_s, "123456");
+        const TestTree tree;
+        tree.link(outside.path(u"precious"_s), u"d/link"_s);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        QCOMPARE(cleaner.result().totalCount(), 1);
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QVERIFY(!tree.has(u"d/link"_s));
+        QVERIFY(outside.has(u"precious"_s));
+    }
+
+    void whatBecameAFolderOrALinkSinceTheScanGoesAsWhatItIs()
+    {
+        const TestTree outside;
+        outside.file(u"precious"_s);
+        const TestTree tree;
+        tree.file(u"d/one"_s);
+        tree.file(u"d/two"_s);
+        tree.file(u"d/three"_s);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        QVERIFY(QFile::remove(tree.path(u"d/one"_s)) && QFile::remove(tree.path(u"d/two"_s))
+                && QFile::remove(tree.path(u"d/three"_s)));
+        tree.link(outside.path(), u"d/one"_s);
+        tree.file(u"d/two/inner/f"_s);
+        tree.link(outside.path(), u"d/two/out"_s);
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst().at(1).toInt(), 2);
+        QCOMPARE(cleaner.failures().size(), 1);
+        QVERIFY(outside.has(u"precious"_s));
+        QVERIFY(!tree.has(u"d/one"_s) && !tree.has(u"d/two"_s));
+    }
+
+    void whatCannotBeRemovedIsCountedAndLogged()
+    {
+        const OrdinaryUser user;
+        const TestTree tree;
+        tree.file(u"d/locked/a"_s, "12");
+        tree.file(u"d/b"_s, "345");
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        const QByteArray locked = QFile::encodeName(tree.path(u"d/locked"_s));
+        QCOMPARE(::chmod(locked.constData(), 0500), 0);
+        const LogCapture log;
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(::chmod(locked.constData(), 0700), 0);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(3), 1}));
+        QVERIFY(tree.has(u"d/locked/a"_s));
+        QVERIFY(
+            log.contains(u"[WARN] Failed to remove file: %1 - "_s.arg(tree.path(u"d/locked/a"_s))));
+        QVERIFY(
+            log.contains(u"[INFO] Junk clean finished. Cleaned 1 items, 3 B. Failed: 1 items"_s));
+        QCOMPARE(cleaner.failures().size(), 1);
+        QCOMPARE(cleaner.failures().constFirst().path, tree.path(u"d/locked/a"_s));
+    }
+
+    void cancelEndsAWalkQuickly()
+    {
+        const TestTree tree;
+        for (int folder = 0; folder < 40; ++folder) {
+            tree.folder(u"d%1"_s.arg(folder));
+            for (int i = 0; i < 500; ++i)
+                ::close(::creat(
+                    QFile::encodeName(tree.path(u"d%1/f%2"_s.arg(folder).arg(i))).constData(),
+                    0600));
+        }
+        QByteArray rules = "{\"rules\": [" + rule(tree.path());
+        for (int i = 0; i < 30; ++i)
+            rules += ", " + rule(tree.path());
+        JunkCleaner cleaner;
+        load(cleaner, rules + "]}");
+        QSignalSpy finished(&cleaner, &CleanEngine::scanFinished);
+        QSignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        cleaner.startScan();
+        QVERIFY(progress.wait(patience));
+        cleaner.cancel();
+        cleaner.stopAndWait();
+        QCOMPARE(cleaner.state(), State::Cancelled);
+        QTest::qWait(20);
+        QCOMPARE(finished.size(), 0);
+        QVERIFY(cleaner.result().categories.size() < 31);
+    }
+#endif
+
+    // --- cleaning
+
+    void aCleanRemovesWhatIsTickedAndNothingElse()
+    {
+        const TestTree tree;
+        tree.file(u"d/a"_s, "1");
+        tree.file(u"d/b"_s, "22");
+        tree.file(u"d/sub/c"_s, "333");
+        tree.file(u"beside"_s);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        for (CleanItem &item : cleaner.result().categories[0].items)
+            item.checked = item.name != "b"_L1;
+        const LogCapture log;
+        QSignalSpy progress(&cleaner, &CleanEngine::cleanProgress);
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(4), 2}));
+        QCOMPARE(cleaner.state(), State::Finished);
+        QVERIFY(!tree.has(u"d/a"_s));
+        QVERIFY(tree.has(u"d/b"_s));
+        QVERIFY(!tree.has(u"d/sub/c"_s));
+        QVERIFY(tree.has(u"d/sub"_s)); // folders that became empty stay
+        QVERIFY(tree.has(u"beside"_s));
+        QCOMPARE(progress.size(), 2);
+        QCOMPARE(progress.at(0), (QList<QVariant>{1, 2, qint64(0)}));
+        QCOMPARE(progress.at(1), (QList<QVariant>{2, 2, qint64(1)}));
+        QCOMPARE(cleaner.result().totalCount(), 3); // the result is left as it was
+        QVERIFY(log.contains(u"[INFO] Starting junk clean..."_s));
+        QVERIFY(
+            log.contains(u"[INFO] Junk clean finished. Cleaned 2 items, 4 B. Failed: 0 items"_s));
+    }
+
+    void anUntickedCategoryIsLeftAlone()
+    {
+        const TestTree tree;
+        tree.file(u"d/a"_s);
+        JunkCleaner cleaner;
+        load(cleaner,
+             "{\"rules\": [" + rule(tree.path(u"d"_s), "\"defaultChecked\": false") + "]}");
+        scan(cleaner);
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
+        QVERIFY(tree.has(u"d/a"_s));
+    }
+
+    void aFileOfTwoRulesIsListedTwiceAndCleanedOnce()
+    {
+        const TestTree tree;
+        tree.file(u"d/a"_s, "123");
+        JunkCleaner cleaner;
+        load(cleaner,
+             "{\"rules\": [" + rule(tree.path(u"d"_s)) + ", " + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        QCOMPARE(cleaner.result().totalCount(), 2);
+        const LogCapture log;
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(3), 1}));
+        QVERIFY(log.contains(u"[WARN] File not found: "_s + tree.path(u"d/a"_s)));
+        QVERIFY(log.contains(u"Cleaned 1 items, 3 B. Failed: 1 items"_s));
+        QCOMPARE(cleaner.failures().size(), 1);
+    }
+
+    void aFileThatVanishedIsACountedFailure()
+    {
+        const TestTree tree;
+        const QString path = tree.file(u"d/a"_s);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        QVERIFY(QFile::remove(path));
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
+        QCOMPARE(cleaner.failures().size(), 1);
+        QCOMPARE(cleaner.failures().constFirst().path, path);
+    }
+
+    void cancelInTheMiddleReportsWhatWasRemovedSoFar()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 200; ++i)
+            tree.file(u"d/f%1"_s.arg(i), "12345");
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        // In the worker, so that the stop comes between two known items.
+        connect(
+            &cleaner, &CleanEngine::cleanProgress, &cleaner,
+            [&cleaner](int current) {
+                if (current == 50)
+                    cleaner.cancel();
+            },
+            Qt::DirectConnection);
+        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(250), 50}));
+        QCOMPARE(cleaner.state(), State::Cancelled);
+        QVERIFY(!log.contains(u"Junk clean finished"_s));
+        QCOMPARE(QDir(tree.path(u"d"_s)).entryList(QDir::Files).size(), 150);
+    }
+
+private:
+    static void expectDefaults(const JunkRule &rule)
+    {
+        QCOMPARE(rule.id, QString());
+        QCOMPARE(rule.name, QString());
+        QCOMPARE(rule.description, QString());
+        QVERIFY(rule.paths.isEmpty());
+        QVERIFY(rule.patterns.isEmpty());
+        QVERIFY(rule.recursive);
+        QVERIFY(rule.defaultChecked);
+        QCOMPARE(rule.riskLevel, 0);
+    }
+
+    static void load(JunkCleaner &cleaner, const QByteArray &content)
+    {
+        const TestTree tree;
+        cleaner.loadRules(tree.file(u"rules.json"_s, content));
+    }
+
+    static void scan(JunkCleaner &cleaner)
+    {
+        QSignalSpy finished(&cleaner, &CleanEngine::scanFinished);
+        cleaner.startScan();
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(cleaner.state(), State::Finished);
+    }
+
+    static void clean(JunkCleaner &cleaner, QSignalSpy &finished)
+    {
+        cleaner.startClean();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        cleaner.stopAndWait();
+    }
+
+    const TestHome &m_home;
+};
+
+SWEEPWISE_TEST_MAIN(TestJunkCleaner, QCoreApplication)
+#include "tst_junkcleaner.moc"

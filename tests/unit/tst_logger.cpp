@@ -1,0 +1,190 @@
+#include "logger.h"
+
+#include "logcapture.h"
+#include "testtree.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString contentOf(const Logger &logger)
+{
+    QFile file(logger.fileName());
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(file.readAll())
+                                                            : QString();
+}
+
+QString lastLineOf(const Logger &logger)
+{
+    return contentOf(logger).split(u'\n', Qt::SkipEmptyParts).last();
+}
+
+} // namespace
+
+class TestLogger : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void theFileIsNamedAfterTheDay()
+    {
+        const TestTree tree;
+        const QDate before = QDate::currentDate();
+        Logger logger;
+        logger.init(tree.path(u"new/logs"_s));
+        const QDate after = QDate::currentDate();
+        const QStringList names{u"sweepwise_%1.log"_s.arg(before.toString(u"yyyyMMdd"_s)),
+                                u"sweepwise_%1.log"_s.arg(after.toString(u"yyyyMMdd"_s))};
+        QVERIFY(names.contains(QFileInfo(logger.fileName()).fileName()));
+        QVERIFY(QFileInfo(logger.fileName()).isFile());
+    }
+
+    void theBannerStandsInTheFileAtOnce()
+    {
+        const TestTree tree;
+        Logger logger;
+        logger.init(tree.path());
+        const QString rule(40, u'=');
+        const QStringList lines = contentOf(logger).split(u'\n');
+        QCOMPARE(lines.size(), 5);
+        QCOMPARE(lines.at(0), QString());
+        QCOMPARE(lines.at(1), rule);
+        QVERIFY(lines.at(2).startsWith("Sweepwise Log Started: "_L1));
+        QVERIFY(QDateTime::fromString(lines.at(2).mid(23), Qt::TextDate).isValid());
+        QCOMPARE(lines.at(3), rule);
+        QCOMPARE(lines.at(4), QString());
+    }
+
+    void twoStartsOnTheSameDayAppendToTheSameFile()
+    {
+        const TestTree tree;
+        {
+            Logger first;
+            first.init(tree.path());
+            first.info(u"one"_s);
+        }
+        Logger second;
+        second.init(tree.path());
+        second.info(u"two"_s);
+        const QString content = contentOf(second);
+        QCOMPARE(content.count("Sweepwise Log Started: "_L1), 2);
+        QVERIFY(content.contains("one\n\n========================================\n"_L1));
+        QVERIFY(content.indexOf("one"_L1) < content.indexOf("two"_L1));
+    }
+
+    void aLineHasTimeLevelAndMessage_data()
+    {
+        QTest::addColumn<int>("level");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("info") << 1 << u"INFO"_s;
+        QTest::newRow("warning") << 2 << u"WARN"_s;
+        QTest::newRow("error") << 3 << u"ERROR"_s;
+        QTest::newRow("any other") << 7 << u"UNKNOWN"_s;
+    }
+
+    void aLineHasTimeLevelAndMessage()
+    {
+        QFETCH(int, level);
+        QFETCH(QString, text);
+        const TestTree tree;
+        Logger logger;
+        logger.init(tree.path());
+        logger.log(level, u"the message"_s);
+        const QRegularExpression pattern(
+            u"^\\[\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}\\] \\[%1\\] the message$"_s
+                .arg(text));
+        QVERIFY2(pattern.match(lastLineOf(logger)).hasMatch(), qPrintable(lastLineOf(logger)));
+    }
+
+    void debugMessagesAreDroppedEverywhere()
+    {
+        const TestTree tree;
+        Logger logger;
+        logger.init(tree.path());
+        const LogCapture capture;
+        logger.log(Logger::Debug, u"quiet"_s);
+        QVERIFY(!contentOf(logger).contains("quiet"_L1));
+        QVERIFY(!capture.contains(u"quiet"_s));
+    }
+
+    void percentSignsInAMessageAreLiteral()
+    {
+        const TestTree tree;
+        Logger logger;
+        logger.init(tree.path());
+        logger.info(u"100%1 %2 %L3 %%"_s);
+        QVERIFY(lastLineOf(logger).endsWith("[INFO] 100%1 %2 %L3 %%"_L1));
+    }
+
+    void aLineBreakInAMessageForgesNoLine()
+    {
+        const TestTree tree;
+        Logger logger;
+        logger.init(tree.path());
+        logger.warning(
+            u"File not found: /tmp/a\n[2026-01-01 00:00:00.000] [INFO] all is well\u202e"_s);
+        const QStringList lines = contentOf(logger).split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 4);
+        QVERIFY(lines.last().contains(u"/tmp/a\uFFFD[2026-01-01"_s));
+        QVERIFY(lines.last().endsWith(u'\uFFFD'));
+    }
+
+    void anUnwritableFolderLeavesTheDebugOutput()
+    {
+        const TestTree tree;
+        const QString blocked = tree.file(u"not a folder"_s);
+        Logger logger;
+        logger.init(blocked + "/logs"_L1);
+        const LogCapture capture;
+        logger.info(u"still heard"_s);
+        QCOMPARE(capture.lines().size(), 1);
+        QVERIFY(capture.lines().constFirst().startsWith(u'['));
+        QVERIFY(capture.lines().constFirst().endsWith("[INFO] still heard"_L1));
+        QVERIFY(!QFileInfo::exists(logger.fileName()));
+    }
+
+    void messagesBeforeTheStartReachTheDebugOutputOnly()
+    {
+        Logger logger;
+        const LogCapture capture;
+        logger.error(u"early"_s);
+        QVERIFY(capture.contains(u"[ERROR] early"_s));
+    }
+
+    void linesOfManyThreadsAreEachWrittenWhole()
+    {
+        const TestTree tree;
+        Logger logger;
+        logger.init(tree.path());
+        const LogCapture capture;
+        std::vector<std::unique_ptr<QThread>> threads;
+        for (int t = 0; t < 4; ++t) {
+            threads.emplace_back(QThread::create([&logger, t] {
+                for (int i = 0; i < 250; ++i)
+                    logger.info(
+                        u"thread %1 line %2 end"_s.arg(QString::number(t), QString::number(i)));
+            }));
+            threads.back()->start();
+        }
+        for (const auto &thread : threads)
+            QVERIFY(thread->wait(30'000));
+        const QStringList lines = contentOf(logger).split(u'\n', Qt::SkipEmptyParts).mid(3);
+        QCOMPARE(lines.size(), 1000);
+        const QRegularExpression whole(u"^\\[[^]]+\\] \\[INFO\\] thread \\d line \\d+ end$"_s);
+        for (const QString &line : lines)
+            QVERIFY2(whole.match(line).hasMatch(), qPrintable(line));
+        QCOMPARE(capture.count(u"end"_s), 1000);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestLogger)
+#include "tst_logger.moc"

@@ -1,0 +1,145 @@
+#include "scanresult.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+CleanCategory category(const QString &id, const QList<qint64> &sizes)
+{
+    CleanCategory result(id, id, {});
+    for (const qint64 size : sizes)
+        result.items.append(
+            CleanItem(QString::number(size), u"/x/"_s + QString::number(size), size));
+    return result;
+}
+
+} // namespace
+
+class TestScanResult : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void recordsStartWithTheirDefaults()
+    {
+        const CleanItem item(u"n"_s, u"/p"_s, 7);
+        QCOMPARE(item.name, u"n"_s);
+        QCOMPARE(item.path, u"/p"_s);
+        QCOMPARE(item.size, 7);
+        QVERIFY(item.checked);
+        QCOMPARE(item.riskLevel, 0);
+        QVERIFY(item.description.isEmpty());
+        QVERIFY(!item.isDirectory);
+        QVERIFY(item.registryRoot.isEmpty());
+        QVERIFY(item.registryKey.isEmpty());
+
+        const CleanCategory empty(u"i"_s, u"n"_s, u"d"_s);
+        QVERIFY(empty.checked);
+        QVERIFY(!empty.expanded);
+        QVERIFY(empty.icon.isEmpty());
+        QCOMPARE(empty.riskLevel, 0);
+        QVERIFY(empty.items.isEmpty());
+    }
+
+    void anEmptyResultYieldsZeroForAllAggregates()
+    {
+        const ScanResult result;
+        QCOMPARE(result.totalCount(), 0);
+        QCOMPARE(result.totalSize(), 0);
+        QCOMPARE(result.checkedCount(), 0);
+        QCOMPARE(result.checkedSize(), 0);
+        QCOMPARE(formatSize(0), u"0 B"_s);
+        QVERIFY(qAbs(result.scanTime.msecsTo(QDateTime::currentDateTime())) < 60'000);
+    }
+
+    void anUncheckedCategoryCountsInTheTotalsOnly()
+    {
+        ScanResult result;
+        result.categories = {category(u"a"_s, {1, 2}), category(u"b"_s, {4})};
+        result.categories[0].checked = false;
+        QCOMPARE(result.totalCount(), 3);
+        QCOMPARE(result.totalSize(), 7);
+        QCOMPARE(result.checkedCount(), 1);
+        QCOMPARE(result.checkedSize(), 4);
+        QCOMPARE(result.categories.at(0).checkedCount(), 2);
+        QCOMPARE(result.categories.at(0).checkedSize(), 3);
+    }
+
+    void settingACategoryKeepsTheTwoLevelsConsistent()
+    {
+        CleanCategory one = category(u"a"_s, {1, 2, 3});
+        one.items[1].checked = false;
+        QCOMPARE(one.checkedCount(), 2);
+        QCOMPARE(one.checkedSize(), 4);
+        one.setChecked(false);
+        QVERIFY(!one.checked);
+        QCOMPARE(one.checkedCount(), 0);
+        one.setChecked(true);
+        QVERIFY(one.checked);
+        QCOMPARE(one.checkedCount(), 3);
+    }
+
+    void checkedOnlyHoldsWhatIsChecked()
+    {
+        ScanResult result;
+        result.categories = {category(u"a"_s, {1, 2}), category(u"b"_s, {4})};
+        result.categories[0].items[0].checked = false;
+        result.categories[1].checked = false;
+        const ScanResult chosen = result.checkedOnly();
+        QCOMPARE(chosen.categories.size(), 1);
+        QCOMPARE(chosen.categories.at(0).id, u"a"_s);
+        QCOMPARE(chosen.categories.at(0).items.size(), 1);
+        QCOMPARE(chosen.categories.at(0).items.at(0).size, 2);
+        QCOMPARE(chosen.checkedCount(), result.checkedCount());
+    }
+
+    void checkedOnlySharesNoRecord()
+    {
+        ScanResult result;
+        result.categories = {category(u"a"_s, {1, 2})};
+        CleanItem *bound = &result.categories[0].items[0];
+        const ScanResult chosen = result.checkedOnly();
+        bound->checked = false;
+        QVERIFY(chosen.categories.at(0).items.at(0).checked);
+        // The original was not detached by the copy either: the bound record is still the result's
+        // own.
+        QCOMPARE(&result.categories[0].items[0], bound);
+    }
+
+    void isRegisteredForQueuedSignals()
+    {
+        QCOMPARE(QByteArray(QMetaType::fromType<ScanResult>().name()), QByteArray("ScanResult"));
+    }
+
+    void formatsSizes_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("negative") << qint64(-1) << u"0 B"_s;
+        QTest::newRow("smallest") << std::numeric_limits<qint64>::min() << u"0 B"_s;
+        QTest::newRow("zero") << qint64(0) << u"0 B"_s;
+        QTest::newRow("one") << qint64(1) << u"1 B"_s;
+        QTest::newRow("last of B") << qint64(1023) << u"1023 B"_s;
+        QTest::newRow("first of KB") << qint64(1024) << u"1.0 KB"_s;
+        QTest::newRow("half") << qint64(1536) << u"1.5 KB"_s;
+        QTest::newRow("rounds up inside KB") << qint64(1'048'575) << u"1024.0 KB"_s;
+        QTest::newRow("first of MB") << qint64(1'048'576) << u"1.0 MB"_s;
+        QTest::newRow("last of MB") << qint64(1'073'741'823) << u"1024.0 MB"_s;
+        QTest::newRow("first of GB") << qint64(1'073'741'824) << u"1.00 GB"_s;
+        QTest::newRow("three GB") << qint64(3) * 1'073'741'824 << u"3.00 GB"_s;
+        QTest::newRow("no TB") << qint64(5) * 1'099'511'627'776 << u"5120.00 GB"_s;
+    }
+
+    void formatsSizes()
+    {
+        QFETCH(qint64, bytes);
+        QFETCH(QString, expected);
+        QCOMPARE(formatSize(bytes), expected);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestScanResult)
+#include "tst_scanresult.moc"

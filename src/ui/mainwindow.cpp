@@ -47,6 +47,9 @@ MainWindow::MainWindow()
     connectTitleBar();
     applyStyleSheet();
     switchToPage(0);
+    // Nothing is focused until the user tabs: a ring around the first button would point at
+    // nothing.
+    m_pageStack->setFocus();
 }
 
 MainWindow::~MainWindow() = default;

@@ -96,6 +96,13 @@ void NavButton::keyPressEvent(QKeyEvent *event)
     }
 }
 
+void NavButton::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    // Only now is it known on which screen, and so how fine the icon has to be drawn.
+    updateLook();
+}
+
 void NavButton::focusInEvent(QFocusEvent *)
 {
     update();

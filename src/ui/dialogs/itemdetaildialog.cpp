@@ -12,7 +12,6 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -28,7 +27,7 @@ constexpr qsizetype batchSize = 50;
 } // namespace
 
 ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+    : FramelessDialog(parent)
     , m_category(category)
 {
     setObjectName("itemDetailDialog"_L1);
@@ -58,6 +57,7 @@ ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *paren
     m_rows->setAlignment(Qt::AlignTop);
     m_scrollArea->setWidget(list);
     layout->addWidget(m_scrollArea, 1);
+    m_scrollArea->setFocus();
 
     connect(m_scrollArea->verticalScrollBar(), &QScrollBar::valueChanged, this,
             &ItemDetailDialog::onScrollChanged);
@@ -178,30 +178,19 @@ void ItemDetailDialog::onOpenLocation(const QString &path)
     box.exec();
 }
 
-void ItemDetailDialog::mousePressEvent(QMouseEvent *event)
+bool ItemDetailDialog::isDragArea(QPoint position) const
 {
-    if (m_titleBar->geometry().contains(event->position().toPoint()))
-        m_drag.press(event);
-}
-
-void ItemDetailDialog::mouseMoveEvent(QMouseEvent *event)
-{
-    m_drag.move(event);
-}
-
-void ItemDetailDialog::mouseReleaseEvent(QMouseEvent *event)
-{
-    m_drag.release(event);
+    return m_titleBar->geometry().contains(position);
 }
 
 void ItemDetailDialog::resizeEvent(QResizeEvent *event)
 {
-    QDialog::resizeEvent(event);
+    FramelessDialog::resizeEvent(event);
     fillScreen();
 }
 
 void ItemDetailDialog::showEvent(QShowEvent *event)
 {
-    QDialog::showEvent(event);
+    FramelessDialog::showEvent(event);
     QTimer::singleShot(0, this, &ItemDetailDialog::fillScreen);
 }

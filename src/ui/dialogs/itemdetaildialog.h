@@ -1,8 +1,6 @@
 #pragma once
 
-#include "windowdrag.h"
-
-#include <QDialog>
+#include "framelessdialog.h"
 
 class QLabel;
 class QScrollArea;
@@ -11,7 +9,7 @@ struct CleanCategory;
 
 /// Lists every file of a category in batches of fifty as the user scrolls. Reads the record only,
 /// which outlives the dialog.
-class ItemDetailDialog final : public QDialog
+class ItemDetailDialog final : public FramelessDialog
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ItemDetailDialog)
@@ -26,9 +24,7 @@ public Q_SLOTS:
     void onOpenLocation(const QString &path);
 
 protected:
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
+    [[nodiscard]] bool isDragArea(QPoint position) const override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
@@ -40,7 +36,6 @@ private:
     const CleanCategory *m_category;
     qsizetype m_loadedCount = 0;
     bool m_loading = false;
-    WindowDrag m_drag{this};
     QWidget *m_titleBar = nullptr;
     QScrollArea *m_scrollArea = nullptr;
     QVBoxLayout *m_rows = nullptr;

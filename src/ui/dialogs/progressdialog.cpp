@@ -40,7 +40,7 @@ QPushButton *addButton(QVBoxLayout *layout, const QString &name, const QString &
 } // namespace
 
 ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+    : FramelessDialog(parent)
 {
     setAttribute(Qt::WA_TranslucentBackground);
     setFixedSize(420, 330);
@@ -148,19 +148,4 @@ void ProgressDialog::paintEvent(QPaintEvent *)
     painter.setPen(theme::color(theme::border));
     painter.setBrush(theme::color(theme::white));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 16, 16);
-}
-
-void ProgressDialog::mousePressEvent(QMouseEvent *event)
-{
-    m_drag.press(event);
-}
-
-void ProgressDialog::mouseMoveEvent(QMouseEvent *event)
-{
-    m_drag.move(event);
-}
-
-void ProgressDialog::mouseReleaseEvent(QMouseEvent *event)
-{
-    m_drag.release(event);
 }

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "windowdrag.h"
-
-#include <QDialog>
+#include "framelessdialog.h"
 
 class QLabel;
 class QProgressBar;
@@ -13,7 +11,7 @@ class QPushButton;
 ///
 /// Frameless and movable; not modal, the page behind locks what must not be touched. Escape or
 /// closing it while the work goes on asks to cancel.
-class ProgressDialog final : public QDialog
+class ProgressDialog final : public FramelessDialog
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ProgressDialog)
@@ -41,14 +39,10 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     void setIconColour(QLatin1StringView colour);
 
-    WindowDrag m_drag{this};
     bool m_finished = false;
     QLabel *m_icon;
     QLabel *m_title;

@@ -15,8 +15,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What check box, risk badge and size take of the row.
+// The row's columns beside the texts: check box, risk badge, size. With margins and spaces they
+// take what is reserved, so that the texts are shortened to exactly the room that is left.
+constexpr int margin = 10;
+constexpr int spacing = 8;
+constexpr int checkWidth = 18;
+constexpr int riskWidth = 58;
+constexpr int sizeWidth = 66;
 constexpr int reservedWidth = 186;
+static_assert(2 * margin + 3 * spacing + checkWidth + riskWidth + sizeWidth == reservedWidth);
 
 QString riskText(int level)
 {
@@ -51,13 +58,14 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
 {
     setObjectName("cleanItemWidget"_L1);
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(16, 8, 16, 8);
-    layout->setSpacing(12);
+    layout->setContentsMargins(margin, 8, margin, 8);
+    layout->setSpacing(spacing);
 
     m_checkBox = new QCheckBox(this);
     m_checkBox->setChecked(item().checked);
     m_checkBox->setAccessibleName(singleLine(item().name));
     connect(m_checkBox, &QCheckBox::toggled, this, &CleanItemWidget::checkChanged);
+    m_checkBox->setFixedWidth(checkWidth);
     layout->addWidget(m_checkBox);
 
     auto *texts = new QVBoxLayout;
@@ -75,12 +83,14 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
     m_risk = new QLabel(riskText(item().riskLevel), this);
     m_risk->setObjectName("itemRisk"_L1);
     m_risk->setStyleSheet(riskStyle(item().riskLevel));
+    m_risk->setFixedWidth(riskWidth);
+    m_risk->setAlignment(Qt::AlignCenter);
     layout->addWidget(m_risk, 0, Qt::AlignVCenter);
     m_size = new QLabel(formatSize(item().size), this);
     m_size->setObjectName("itemSize"_L1);
     m_size->setStyleSheet(theme::label(theme::muted, 12, 500));
     m_size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_size->setMinimumWidth(70);
+    m_size->setFixedWidth(sizeWidth);
     layout->addWidget(m_size);
 }
 

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "windowdrag.h"
+
+#include <QDialog>
+
+/// A dialog that draws its own frame: opens over the middle of its parent's window and is moved
+/// with the mouse.
+class FramelessDialog : public QDialog
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FramelessDialog)
+public:
+    explicit FramelessDialog(QWidget *parent = nullptr);
+
+protected:
+    /// Where a press starts to move the dialog; everywhere unless a subclass says otherwise.
+    [[nodiscard]] virtual bool isDragArea(QPoint position) const;
+
+    void showEvent(QShowEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    WindowDrag m_drag{this};
+};

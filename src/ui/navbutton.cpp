@@ -52,6 +52,7 @@ void NavButton::setChecked(bool checked)
 void NavButton::setCentered(bool centered)
 {
     layout()->setAlignment(centered ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    layout()->invalidate();
 }
 
 void NavButton::mousePressEvent(QMouseEvent *event)

@@ -34,7 +34,8 @@ QString iconPath(const QString &categoryId)
         }
     }
     const QString path = u":/icons/categories/%1.svg"_s.arg(id);
-    return QFile::exists(path) ? path : u":/icons/categories/default.svg"_s;
+    // An id comes from a rule file and is a name here, never a path.
+    return !id.contains(u'/') && QFile::exists(path) ? path : u":/icons/categories/default.svg"_s;
 }
 
 } // namespace

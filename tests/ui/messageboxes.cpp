@@ -1,0 +1,23 @@
+#include "messageboxes.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+
+MessageBoxes::MessageBoxes(QMessageBox::StandardButton answerButton)
+{
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer,
+                     [this, answerButton] { answer(answerButton); });
+    m_timer.start(5);
+}
+
+void MessageBoxes::answer(QMessageBox::StandardButton button)
+{
+    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    if (!box)
+        return;
+    m_seen.append(box->windowTitle() + u'|' + box->text());
+    QAbstractButton *wanted = box->button(button);
+    if (!wanted)
+        qFatal("the box '%s' has no such button", qPrintable(box->windowTitle()));
+    wanted->click();
+}

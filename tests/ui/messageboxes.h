@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QDialogButtonBox>
+#include <QMessageBox>
+#include <QStringList>
+#include <QTimer>
+
+/// Answers the message boxes that open while it lives, as a user would: by clicking a button.
+class MessageBoxes final
+{
+    Q_DISABLE_COPY_MOVE(MessageBoxes)
+public:
+    explicit MessageBoxes(QMessageBox::StandardButton answer);
+
+    /// "title|text" of each box that was answered.
+    [[nodiscard]] QStringList seen() const { return m_seen; }
+
+private:
+    void answer(QMessageBox::StandardButton button);
+
+    QTimer m_timer;
+    QStringList m_seen;
+};

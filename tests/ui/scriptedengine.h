@@ -1,0 +1,79 @@
+#pragma once
+
+#include "cleanengine.h"
+
+#include <QThread>
+
+#include <atomic>
+#include <functional>
+
+/// An engine that finds and removes what the test tells it to, and can be held in the middle of a
+/// run.
+class ScriptedEngine final : public CleanEngine
+{
+public:
+    ~ScriptedEngine() override
+    {
+        hold = false;
+        stopAndWait();
+    }
+
+    QList<CleanCategory> found; ///< what a scan finds
+    std::atomic_bool hold = false; ///< while set, a run goes on until it is cancelled
+    std::atomic_int scans = 0;
+    std::atomic_int cleans = 0;
+
+    void fail(const QString &error) { Q_EMIT errorOccurred(error); }
+
+protected:
+    void doScan() override
+    {
+        ++scans;
+        Q_EMIT scanProgress(1, 4, QStringLiteral("Some Files"));
+        wait();
+        if (!isStopRequested())
+            result().categories = found;
+    }
+
+    void doClean() override
+    {
+        ++cleans;
+        qint64 size = 0;
+        int count = 0;
+        const int total = selection().checkedCount();
+        for (const CleanCategory &category : selection().categories) {
+            for (const CleanItem &item : category.items) {
+                wait();
+                if (isStopRequested()) {
+                    endClean(State::Cancelled);
+                    Q_EMIT cleanFinished(size, count);
+                    return;
+                }
+                Q_EMIT cleanProgress(count + 1, total, size);
+                size += item.size;
+                ++count;
+            }
+        }
+        endClean(State::Finished);
+        Q_EMIT cleanFinished(size, count);
+    }
+
+private:
+    void wait() const
+    {
+        while (hold && !isStopRequested())
+            QThread::msleep(1);
+    }
+};
+
+/// A category of @p count items of 1 KiB each.
+inline CleanCategory scriptedCategory(const QString &id, int count)
+{
+    CleanCategory category(id, QStringLiteral("Category ") + id, QStringLiteral("Description"));
+    for (int i = 0; i < count; ++i) {
+        const QString name = QStringLiteral("item %1").arg(i);
+        category.items.append(
+            CleanItem(name, QStringLiteral("/folder/of/") + id + u'/' + name, 1024));
+    }
+    return category;
+}

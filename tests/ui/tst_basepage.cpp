@@ -1,0 +1,465 @@
+#include "basepage.h"
+
+#include "appinfo.h"
+#include "application.h"
+#include "categorywidget.h"
+#include "itemdetaildialog.h"
+#include "junkpage.h"
+#include "messageboxes.h"
+#include "progressdialog.h"
+#include "scriptedengine.h"
+#include "testhome.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using State = CleanEngine::State;
+
+namespace {
+
+constexpr int patience = 10'000;
+
+class CountingPage final : public BasePage
+{
+public:
+    CountingPage() { setShowSizes(false); }
+};
+
+QPushButton *button(const BasePage &page, const QString &name)
+{
+    return page.findChild<QPushButton *>(name);
+}
+
+void click(const BasePage &page, const QString &name)
+{
+    QTest::mouseClick(button(page, name), Qt::LeftButton);
+}
+
+QString label(const BasePage &page, const QString &name)
+{
+    return page.findChild<QLabel *>(name)->text();
+}
+
+ProgressDialog *dialog(const BasePage &page)
+{
+    for (auto *candidate : page.findChildren<ProgressDialog *>()) {
+        if (candidate->isVisible())
+            return candidate;
+    }
+    return nullptr;
+}
+
+QList<CategoryWidget *> categories(const BasePage &page)
+{
+    return page.findChildren<CategoryWidget *>();
+}
+
+bool isEmptyStateShown(const BasePage &page)
+{
+    return page.findChild<QWidget *>(u"emptyState"_s)->isVisible();
+}
+
+} // namespace
+
+class TestBasePage : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestBasePage(const TestHome &) { }
+
+private Q_SLOTS:
+    void initTestCase() { Application::instance()->initialize(); }
+
+    void init() { setConfirm(false); }
+
+    void itStartsEmpty()
+    {
+        BasePage page;
+        show(page);
+        QVERIFY(isEmptyStateShown(page));
+        QCOMPARE(label(page, u"statisticValue"_s), u"--"_s);
+        QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: --"_s);
+        QCOMPARE(button(page, u"scanBtn"_s)->text(), u"Start Scanning"_s);
+        QCOMPARE(button(page, u"cleanBtn"_s)->text(), u"Clean Now"_s);
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+        QVERIFY(hasText(page, u"Cleanup Tool"_s));
+        QVERIFY(hasText(page, u"Scan and clean up unnecessary files"_s));
+        QVERIFY(hasText(page, u"Cleanable"_s));
+        QVERIFY(hasText(page, u"Click \"Start Scanning\" to find cleanable items"_s));
+    }
+
+    void withoutAnEngineTheButtonsDoNothing()
+    {
+        BasePage page;
+        show(page);
+        page.startScan();
+        page.startClean();
+        page.cancelOperation();
+        QVERIFY(!dialog(page));
+    }
+
+    void theJunkPageHasItsTextsAndEngine()
+    {
+        JunkPage page;
+        show(page);
+        QVERIFY(hasText(page, u"Junk Cleaner"_s));
+        QVERIFY(hasText(page, u"Clean system temp files, cache and logs"_s));
+        QVERIFY(hasText(page, u"Cleanable Space"_s));
+        QVERIFY(page.engine());
+        QVERIFY(page.showsSizes());
+    }
+
+    void aScanShowsTheDialogThenTheCategories()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3), scriptedCategory(u"b"_s, 2)};
+        engine.hold = true;
+        BasePage page;
+        page.setEngine(&engine);
+        show(page);
+        QSignalSpy finished(&page, &BasePage::scanFinished);
+        click(page, u"scanBtn"_s);
+        QVERIFY(dialog(page));
+        QVERIFY(!button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+        QTRY_COMPARE_WITH_TIMEOUT(dialog(page)->findChild<QProgressBar *>()->value(), 25, patience);
+        page.startScan(); // busy: nothing happens
+        QCOMPARE(engine.scans.load(), 1);
+        engine.hold = false;
+        QVERIFY(finished.wait(patience));
+        QVERIFY(!dialog(page));
+        QCOMPARE(categories(page).size(), 2);
+        QVERIFY(!isEmptyStateShown(page));
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(button(page, u"cleanBtn"_s)->isEnabled());
+        QCOMPARE(label(page, u"statisticValue"_s), u"5.0 KB"_s);
+        QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: 5 items, 5.0 KB"_s);
+    }
+
+    void tickingWritesIntoTheEnginesResult()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3), scriptedCategory(u"b"_s, 2)};
+        BasePage page;
+        scanned(page, engine);
+        categories(page).at(0)->findChild<QCheckBox *>(u"categoryCheck"_s)->click();
+        QCOMPARE(engine.result().checkedCount(), 2);
+        QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: 2 items, 2.0 KB"_s);
+        categories(page).at(1)->findChild<QCheckBox *>(u"categoryCheck"_s)->click();
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+        QCOMPARE(label(page, u"statisticValue"_s), u"0 B"_s);
+        categories(page).at(1)->findChild<QCheckBox *>(u"categoryCheck"_s)->click();
+        QVERIFY(button(page, u"cleanBtn"_s)->isEnabled());
+    }
+
+    void aPageWithoutSizesSpeaksInCounts()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        CountingPage page;
+        scanned(page, engine);
+        QCOMPARE(label(page, u"statisticValue"_s), u"3 items"_s);
+        QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: 3 items"_s);
+        QVERIFY(
+            !categories(page).constFirst()->findChild<QLabel *>(u"categorySize"_s)->isVisible());
+    }
+
+    void aScanThatFindsNothingShowsTheEmptyState()
+    {
+        ScriptedEngine engine;
+        BasePage page;
+        scanned(page, engine);
+        QVERIFY(isEmptyStateShown(page));
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+    }
+
+    void cancelClosesTheDialogOfAScanAtOnce()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        engine.hold = true;
+        BasePage page;
+        page.setEngine(&engine);
+        show(page);
+        QSignalSpy finished(&page, &BasePage::scanFinished);
+        click(page, u"scanBtn"_s);
+        QPointer<ProgressDialog> open = dialog(page);
+        QTest::mouseClick(open->findChild<QPushButton *>(u"cancelBtn"_s), Qt::LeftButton);
+        QVERIFY(!open || !open->isVisible());
+        QCOMPARE(engine.state(), State::Cancelled);
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+        engine.stopAndWait();
+        QTest::qWait(50);
+        QVERIFY(!open);
+        QCOMPARE(finished.size(), 0);
+        QVERIFY(categories(page).isEmpty());
+        QVERIFY(isEmptyStateShown(page));
+    }
+
+    void whatACancelledScanLeftUnseenIsNeverCleaned()
+    {
+        ScriptedEngine engine;
+        BasePage page;
+        page.setEngine(&engine);
+        show(page);
+        engine.cancel();
+        engine.result().categories = {scriptedCategory(u"unseen"_s, 3)};
+        const MessageBoxes boxes(QMessageBox::Ok);
+        page.startClean();
+        QCOMPARE(boxes.seen(), QStringList{u"Notice|No items selected"_s});
+        QCOMPARE(engine.cleans.load(), 0);
+    }
+
+    void withEverythingUntickedCleaningStartsNothing()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        categories(page).constFirst()->setChecked(false);
+        const MessageBoxes boxes(QMessageBox::Ok);
+        page.startClean();
+        QCOMPARE(boxes.seen(), QStringList{u"Notice|No items selected"_s});
+        QCOMPARE(engine.cleans.load(), 0);
+        QVERIFY(!dialog(page));
+    }
+
+    void theQuestionCanBeDeclined()
+    {
+        setConfirm(true);
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        const MessageBoxes boxes(QMessageBox::No);
+        click(page, u"cleanBtn"_s);
+        QCOMPARE(boxes.seen(),
+                 QStringList{u"Confirm Clean|Are you sure you want to clean 3 selected items?\n"
+                             "This action cannot be undone!"_s});
+        QCOMPARE(engine.cleans.load(), 0);
+        QCOMPARE(categories(page).size(), 1);
+    }
+
+    void theQuestionComesByDefault()
+    {
+        Application::instance()->settings()->remove(u"clean/confirmClean"_s);
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        const MessageBoxes boxes(QMessageBox::Yes);
+        click(page, u"cleanBtn"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
+        QCOMPARE(boxes.seen().size(), 1);
+        QCOMPARE(engine.cleans.load(), 1);
+    }
+
+    void withoutTheQuestionCleaningStartsAtOnce()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        const MessageBoxes boxes(QMessageBox::No);
+        click(page, u"cleanBtn"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
+        QVERIFY(boxes.seen().isEmpty());
+    }
+
+    void aCleanEndsWithTheResultScreenAndAnEmptyList()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        engine.hold = true;
+        click(page, u"cleanBtn"_s);
+        QVERIFY(dialog(page));
+        QVERIFY(!button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+        engine.hold = false;
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
+        ProgressDialog *open = dialog(page);
+        QVERIFY(open && open->isFinished());
+        QVERIFY(hasText(*open, u"Cleaned 3 items, freed 3.0 KB"_s));
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+        QVERIFY(categories(page).isEmpty());
+        QVERIFY(isEmptyStateShown(page));
+        QCOMPARE(label(page, u"statisticValue"_s), u"--"_s);
+        QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: --"_s);
+        QTest::mouseClick(open->findChild<QPushButton *>(u"closeBtn"_s), Qt::LeftButton);
+        QVERIFY(!dialog(page));
+    }
+
+    void cancelDuringACleanResetsTheList()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        engine.hold = true;
+        click(page, u"cleanBtn"_s);
+        QTest::mouseClick(dialog(page)->findChild<QPushButton *>(u"cancelBtn"_s), Qt::LeftButton);
+        QVERIFY(!dialog(page));
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
+        QCOMPARE(engine.state(), State::Cancelled);
+        QVERIFY(!dialog(page));
+        QVERIFY(categories(page).isEmpty());
+        QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: --"_s);
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+    }
+
+    void theEndOfACancelledCleanDoesNotFinishTheNextScan()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        engine.hold = true;
+        click(page, u"cleanBtn"_s);
+        page.cancelOperation();
+        // Its end is still on the way when the next scan starts.
+        click(page, u"scanBtn"_s);
+        ProgressDialog *open = dialog(page);
+        QVERIFY(open);
+        QTest::qWait(100);
+        QCOMPARE(dialog(page), open);
+        QVERIFY(!open->isFinished());
+        QVERIFY(!button(page, u"scanBtn"_s)->isEnabled());
+        engine.hold = false;
+        QTRY_COMPARE_WITH_TIMEOUT(categories(page).size(), 1, patience);
+    }
+
+    void aScanThatSomebodyElseStartsTakesTheListAway()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 30)};
+        BasePage page;
+        scanned(page, engine);
+        categories(page).constFirst()->toggleExpanded();
+        engine.hold = true;
+        engine.startScan();
+        QVERIFY(categories(page).isEmpty());
+        QVERIFY(isEmptyStateShown(page));
+        engine.hold = false;
+        QTRY_COMPARE_WITH_TIMEOUT(categories(page).size(), 1, patience);
+    }
+
+    void anEngineErrorIsShown()
+    {
+        ScriptedEngine engine;
+        engine.hold = true;
+        BasePage page;
+        page.setEngine(&engine);
+        show(page);
+        click(page, u"scanBtn"_s);
+        engine.fail(u"the attic is locked"_s);
+        QVERIFY(dialog(page)->isFinished());
+        QVERIFY(hasText(*dialog(page), u"the attic is locked"_s));
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+    }
+
+    void aSecondEngineLetsGoOfTheFirst()
+    {
+        ScriptedEngine first;
+        first.found = {scriptedCategory(u"a"_s, 3)};
+        ScriptedEngine second;
+        BasePage page;
+        scanned(page, first);
+        QSignalSpy finished(&page, &BasePage::scanFinished);
+        QSignalSpy firstFinished(&first, &CleanEngine::scanFinished);
+        page.setEngine(&second);
+        QVERIFY(categories(page).isEmpty());
+        first.startScan();
+        QVERIFY(firstFinished.wait(patience));
+        QTest::qWait(20);
+        QCOMPARE(finished.size(), 0);
+        QVERIFY(categories(page).isEmpty());
+    }
+
+    void aSignalThatWasOnItsWayFromTheFirstEngineIsDropped()
+    {
+        ScriptedEngine first;
+        first.found = {scriptedCategory(u"a"_s, 3)};
+        ScriptedEngine second;
+        BasePage page;
+        scanned(page, first);
+        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        first.startClean();
+        while (first.state() != State::Finished)
+            QThread::msleep(1);
+        first.stopAndWait(); // cleanFinished is queued for the page now
+        page.setEngine(&second);
+        QTest::qWait(30);
+        QCOMPARE(cleaned.size(), 0);
+    }
+
+    void aNewRunReplacesTheResultScreenOfTheLast()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        click(page, u"cleanBtn"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
+        QPointer<ProgressDialog> old = dialog(page);
+        engine.hold = true;
+        click(page, u"scanBtn"_s);
+        QTRY_VERIFY(!old);
+        QVERIFY(dialog(page));
+        engine.hold = false;
+        QTRY_COMPARE_WITH_TIMEOUT(categories(page).size(), 1, patience);
+    }
+
+private:
+    static void setConfirm(bool on)
+    {
+        Application::instance()->settings()->setValue("clean/confirmClean"_L1, on);
+    }
+
+    static bool hasText(const QWidget &widget, const QString &text)
+    {
+        for (const auto *candidate : widget.findChildren<QLabel *>()) {
+            if (candidate->text() == text)
+                return true;
+        }
+        return false;
+    }
+
+    static void show(BasePage &page)
+    {
+        page.resize(700, 560);
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+    }
+
+    static void scanned(BasePage &page, ScriptedEngine &engine)
+    {
+        page.setEngine(&engine);
+        show(page);
+        QSignalSpy finished(&page, &BasePage::scanFinished);
+        click(page, u"scanBtn"_s);
+        QVERIFY(finished.wait(patience));
+    }
+};
+
+SWEEPWISE_TEST_MAIN(TestBasePage, QApplication)
+#include "tst_basepage.moc"

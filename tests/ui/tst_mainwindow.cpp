@@ -1,0 +1,427 @@
+#include "mainwindow.h"
+
+#include "appinfo.h"
+#include "application.h"
+#include "categorywidget.h"
+#include "junkcleaner.h"
+#include "logger.h"
+#include "messageboxes.h"
+#include "navbutton.h"
+#include "progressdialog.h"
+#include "testhome.h"
+#include "titlebar.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QFrame>
+#include <QGraphicsDropShadowEffect>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A window on a desktop that shows tray icons.
+class TrayWindow final : public MainWindow
+{
+public:
+    int messages = 0;
+
+protected:
+    bool isTrayShown() const override { return findChild<QSystemTrayIcon *>()->isVisible(); }
+    void showTrayMessage() override { ++messages; }
+};
+
+QList<NavButton *> navButtons(const MainWindow &window)
+{
+    return window.findChildren<NavButton *>();
+}
+
+QList<bool> checks(const MainWindow &window)
+{
+    QList<bool> list;
+    for (const NavButton *button : navButtons(window))
+        list.append(button->isChecked());
+    return list;
+}
+
+QStackedWidget *stack(const MainWindow &window)
+{
+    return window.findChild<QStackedWidget *>(u"pageStack"_s);
+}
+
+bool hasText(const QWidget &widget, const QString &text)
+{
+    const auto labels = widget.findChildren<QLabel *>();
+    return std::any_of(labels.begin(), labels.end(),
+                       [&](const QLabel *label) { return label->text() == text; });
+}
+
+void drag(QWidget *target, QPoint from, QPoint by)
+{
+    QTest::mousePress(target, Qt::LeftButton, {}, from);
+    const QPointF to = QPointF(from + by);
+    QMouseEvent move(QEvent::MouseMove, to, target->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     {});
+    QApplication::sendEvent(target, &move);
+    QTest::mouseRelease(target, Qt::LeftButton, {}, from);
+}
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestMainWindow(const TestHome &home)
+        : m_home(home)
+    {
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        Application::instance()->initialize();
+    }
+
+    void init()
+    {
+        Application::instance()->settings()->setValue("general/minimizeToTray"_L1, false);
+        Application::instance()->settings()->setValue("clean/confirmClean"_L1, true);
+    }
+
+    void theWindowIsBuiltAsItShould()
+    {
+        const MainWindow window;
+        QVERIFY(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+        QVERIFY(window.testAttribute(Qt::WA_TranslucentBackground));
+        QCOMPARE(window.minimumSize(), QSize(970, 670));
+        QCOMPARE(window.size(), QSize(970, 670));
+        QVERIFY(window.styleSheet().contains(u"#navWidget"_s));
+        const auto *container = window.findChild<QFrame *>(u"mainContainer"_s);
+        const auto *shadow = qobject_cast<QGraphicsDropShadowEffect *>(container->graphicsEffect());
+        QVERIFY(shadow);
+        QCOMPARE(shadow->blurRadius(), 20);
+        QCOMPARE(shadow->offset(), QPointF(0, 5));
+        QCOMPARE(shadow->color(), QColor(0, 0, 0, 50));
+        QCOMPARE(window.findChild<QWidget *>(u"navWidget"_s)->minimumWidth(), 240);
+        QCOMPARE(window.findChild<QLabel *>(u"logoLabel"_s)->text(), u"Sweepwise 5.0"_s);
+        QVERIFY(hasText(window, u"🧹"_s));
+        QVERIFY(hasText(window, u"✨"_s));
+        QVERIFY(window.findChild<QFrame *>(u"navSeparator"_s));
+    }
+
+    void sevenButtonsAndSixPages()
+    {
+        const MainWindow window;
+        QStringList texts;
+        for (const NavButton *button : navButtons(window))
+            texts.append(button->text());
+        QCOMPARE(texts,
+                 (QStringList{u"Dashboard"_s, u"Junk Cleaner"_s, u"Browser Cleaner"_s,
+                              u"Registry Cleaner"_s, u"Startup Manager"_s, u"Large Files"_s,
+                              u"Settings"_s}));
+        QCOMPARE(stack(window)->count(), 6);
+        QVERIFY(navButtons(window).last()->property("isSettings").toBool());
+        QCOMPARE(window.currentPage(), 0);
+        QCOMPARE(checks(window), (QList<bool>{true, false, false, false, false, false, false}));
+    }
+
+    void aClickOnAButtonShowsItsPage()
+    {
+        MainWindow window;
+        show(window);
+        for (int index : {1, 4, 5, 2, 3, 0}) {
+            QTest::mouseClick(navButtons(window).at(index), Qt::LeftButton);
+            QCOMPARE(window.currentPage(), index);
+            QCOMPARE(stack(window)->currentIndex(), index);
+            QCOMPARE(checks(window).indexOf(true), index);
+            QCOMPARE(checks(window).count(true), 1);
+        }
+    }
+
+    void settingsLeaveTheCheckedPageChecked()
+    {
+        MainWindow window;
+        show(window);
+        QTest::mouseClick(navButtons(window).at(3), Qt::LeftButton);
+        QTest::mouseClick(navButtons(window).at(6), Qt::LeftButton);
+        QCOMPARE(window.currentPage(), 3);
+        QCOMPARE(checks(window), (QList<bool>{false, false, false, true, false, false, false}));
+    }
+
+    void pagesOutsideTheStackAreIgnored()
+    {
+        MainWindow window;
+        window.onDashboardNavigate(2);
+        window.onDashboardNavigate(-1);
+        window.onDashboardNavigate(6);
+        QCOMPARE(window.currentPage(), 2);
+        QCOMPARE(stack(window)->currentIndex(), 2);
+    }
+
+    void theTitleBarDrivesTheWindow()
+    {
+        MainWindow window;
+        show(window);
+        auto *bar = window.findChild<TitleBar *>();
+        Q_EMIT bar->maximizeClicked();
+        QTRY_VERIFY(window.isMaximized());
+        QVERIFY(hasRestore(bar));
+        Q_EMIT bar->maximizeClicked();
+        QTRY_VERIFY(!window.isMaximized());
+        QVERIFY(!hasRestore(bar));
+        Q_EMIT bar->minimizeClicked();
+        QTRY_VERIFY(window.isMinimized());
+        window.showNormal();
+        Q_EMIT bar->closeClicked();
+        QVERIFY(!window.isVisible());
+    }
+
+    void theTitleBarAndTheNavigationMoveTheWindow()
+    {
+        MainWindow window;
+        show(window);
+        window.move(200, 150);
+        drag(&window, inWindow(window, window.findChild<TitleBar *>(), {100, 20}), {30, 40});
+        QTRY_COMPARE(window.pos(), QPoint(230, 190));
+        drag(&window, inWindow(window, window.findChild<QWidget *>(u"navWidget"_s), {20, 560}),
+             {-10, -20});
+        QTRY_COMPARE(window.pos(), QPoint(220, 170));
+    }
+
+    void aPressInsideAPageNeverMovesTheWindow()
+    {
+        MainWindow window;
+        show(window);
+        window.move(200, 150);
+        window.onDashboardNavigate(1);
+        for (const QPoint spot : {QPoint(50, 20), QPoint(300, 200), QPoint(600, 500)}) {
+            QWidget *target = stack(window)->currentWidget();
+            drag(target, spot, {30, 40});
+            drag(&window, inWindow(window, target, spot), {30, 40});
+            QCOMPARE(window.pos(), QPoint(200, 150));
+        }
+        // The shadow's border is no handle either.
+        drag(&window, {3, 3}, {30, 40});
+        QCOMPARE(window.pos(), QPoint(200, 150));
+    }
+
+    void aMoveAfterTheReleaseDoesNothing()
+    {
+        MainWindow window;
+        show(window);
+        window.move(200, 150);
+        const QPoint spot = inWindow(window, window.findChild<TitleBar *>(), {100, 20});
+        QTest::mousePress(&window, Qt::LeftButton, {}, spot);
+        QTest::mouseRelease(&window, Qt::LeftButton, {}, spot);
+        QMouseEvent move(QEvent::MouseMove, spot + QPoint(50, 50),
+                         window.mapToGlobal(spot + QPoint(50, 50)), Qt::NoButton, Qt::LeftButton,
+                         {});
+        QApplication::sendEvent(&window, &move);
+        QCOMPARE(window.pos(), QPoint(200, 150));
+    }
+
+    void theTrayHasItsIconAndMenu()
+    {
+        MainWindow window;
+        auto *tray = window.findChild<QSystemTrayIcon *>();
+        QVERIFY(tray->isVisible());
+        QCOMPARE(tray->toolTip(), u"Sweepwise - PC Cleaning Tool"_s);
+        QVERIFY(!tray->icon().isNull());
+        const QList<QAction *> actions = tray->contextMenu()->actions();
+        QCOMPARE(actions.size(), 3);
+        QCOMPARE(actions.at(0)->text(), u"显示主窗口"_s);
+        QVERIFY(actions.at(1)->isSeparator());
+        QCOMPARE(actions.at(2)->text(), u"退出"_s);
+    }
+
+    void closingQuitsAndTakesTheTrayIconAway()
+    {
+        TrayWindow window;
+        show(window);
+        QVERIFY(window.close());
+        QVERIFY(!window.isVisible());
+        QVERIFY(!window.findChild<QSystemTrayIcon *>()->isVisible());
+        QCOMPARE(window.messages, 0);
+    }
+
+    void closingToTheTrayHidesTheWindowAndTells()
+    {
+        Application::instance()->settings()->setValue("general/minimizeToTray"_L1, true);
+        TrayWindow window;
+        show(window);
+        QVERIFY(!window.close());
+        QVERIFY(!window.isVisible());
+        QVERIFY(window.findChild<QSystemTrayIcon *>()->isVisible());
+        QCOMPARE(window.messages, 1);
+    }
+
+    void withoutATrayToHideInClosingCloses()
+    {
+        Application::instance()->settings()->setValue("general/minimizeToTray"_L1, true);
+        MainWindow window; // this desktop shows no tray icons
+        show(window);
+        QVERIFY(!QSystemTrayIcon::isSystemTrayAvailable());
+        QVERIFY(window.close());
+    }
+
+    void aClickOrADoubleClickOnTheTrayBringsTheWindowBack_data()
+    {
+        QTest::addColumn<int>("reason");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("click") << int(QSystemTrayIcon::Trigger) << true;
+        QTest::newRow("double click") << int(QSystemTrayIcon::DoubleClick) << true;
+        QTest::newRow("context menu") << int(QSystemTrayIcon::Context) << false;
+        QTest::newRow("middle click") << int(QSystemTrayIcon::MiddleClick) << false;
+    }
+
+    void aClickOrADoubleClickOnTheTrayBringsTheWindowBack()
+    {
+        QFETCH(int, reason);
+        QFETCH(bool, expected);
+        MainWindow window;
+        show(window);
+        window.hide();
+        Q_EMIT window.findChild<QSystemTrayIcon *>()->activated(
+            static_cast<QSystemTrayIcon::ActivationReason>(reason));
+        QCOMPARE(window.isVisible(), expected);
+    }
+
+    void aMinimizedWindowIsRestored()
+    {
+        MainWindow window;
+        show(window);
+        window.showMinimized();
+        window.onTrayShowWindow();
+        QTRY_VERIFY(!window.isMinimized());
+        QVERIFY(window.isVisible());
+    }
+
+    void theTraysExitEndsTheProgramEvenWhenClosingWouldHide()
+    {
+        Application::instance()->settings()->setValue("general/minimizeToTray"_L1, true);
+        TrayWindow window;
+        show(window);
+        bool ended = false;
+        QTimer::singleShot(20, &window, [&] {
+            window.findChild<QSystemTrayIcon *>()->contextMenu()->actions().at(2)->trigger();
+        });
+        QTimer::singleShot(5'000, &window, [] { QCoreApplication::exit(7); });
+        ended = QCoreApplication::exec() == 0;
+        QVERIFY(ended);
+        QVERIFY(!window.findChild<QSystemTrayIcon *>()->isVisible());
+    }
+
+    void aDialogThatClosesBehindAHiddenWindowDoesNotEndTheProgram()
+    {
+        QGuiApplication::setQuitOnLastWindowClosed(true);
+        TrayWindow window;
+        show(window);
+        ProgressDialog dialog(ProgressDialog::Cleaning, stack(window));
+        dialog.show();
+        window.hide();
+        bool quit = false;
+        const auto connection =
+            connect(qApp, &QCoreApplication::aboutToQuit, &window, [&quit] { quit = true; });
+        QTimer::singleShot(20, &dialog, [&dialog] {
+            dialog.showResult(true, u"done"_s);
+            dialog.accept();
+        });
+        QTimer::singleShot(200, &window, [] { QCoreApplication::exit(7); });
+        const int code = QCoreApplication::exec();
+        disconnect(connection);
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        QCOMPARE(code, 7);
+    }
+
+    void theAboutBoxTellsNameAndVersion()
+    {
+        MainWindow window;
+        show(window);
+        const MessageBoxes boxes(QMessageBox::Ok);
+        Q_EMIT window.findChild<TitleBar *>()->aboutClicked();
+        QCOMPARE(boxes.seen().size(), 1);
+        QVERIFY(boxes.seen().constFirst().startsWith(
+            u"About Sweepwise|<h3>Sweepwise - PC Cleaning Tool</h3><p>Version 1.0.0</p>"
+            "<p>Clean your PC with one click!<br>Remove junk files, browser data, and registry issues.</p>"_s));
+    }
+
+    /// The whole function as its user meets it: real files, real engine, real clicks.
+    void junkIsScannedReviewedAndCleaned()
+    {
+        const QString temp = m_home.point("TMPDIR", u"temp"_s);
+        qputenv("TMP", temp.toUtf8());
+        qputenv("TEMP", temp.toUtf8());
+        for (int i = 0; i < 25; ++i) {
+            QFile file(temp + u"/junk %1.tmp"_s.arg(i));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(QByteArray(2048, 'x'));
+        }
+        MainWindow window;
+        show(window);
+        QTest::mouseClick(navButtons(window).at(1), Qt::LeftButton);
+        auto *engine = Application::instance()->junkCleaner();
+        QSignalSpy scanned(engine, &CleanEngine::scanFinished);
+        QTest::mouseClick(window.findChild<QPushButton *>(u"scanBtn"_s), Qt::LeftButton);
+        QVERIFY(scanned.wait(30'000));
+        auto *category = window.findChild<CategoryWidget *>();
+        QVERIFY(category);
+        QVERIFY(hasText(*category, u"System Temporary Files"_s));
+        category->toggleExpanded();
+
+        const QString kept = engine->result().categories.constFirst().items.constFirst().path;
+        QTest::mouseClick(category->findChildren<QCheckBox *>().at(1), Qt::LeftButton, {}, {8, 8});
+
+        const MessageBoxes boxes(QMessageBox::Yes);
+        QSignalSpy cleaned(engine, &CleanEngine::cleanFinished);
+        QTest::mouseClick(window.findChild<QPushButton *>(u"cleanBtn"_s), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, 30'000);
+        QCOMPARE(boxes.seen().size(), 1);
+        QTRY_VERIFY(hasText(window, u"Cleaned 24 items, freed 48.0 KB"_s));
+        QCOMPARE(QDir(temp).entryList(QDir::Files), QStringList{QFileInfo(kept).fileName()});
+
+        QFile log(Logger::instance().fileName());
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QByteArray content = log.readAll();
+        QVERIFY(content.contains("[INFO] Starting junk scan..."));
+        QVERIFY(content.contains("[INFO] Junk scan finished. Found 25 items, 50.0 KB"));
+        QVERIFY(content.contains(
+            "[INFO] Junk clean finished. Cleaned 24 items, 48.0 KB. Failed: 0 items"));
+    }
+
+private:
+    static void show(MainWindow &window)
+    {
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+    }
+
+    static QPoint inWindow(const MainWindow &window, const QWidget *part, QPoint position)
+    {
+        return part->mapTo(&window, position);
+    }
+
+    static bool hasRestore(const TitleBar *bar)
+    {
+        const auto buttons = bar->findChildren<WinButton *>();
+        return std::any_of(buttons.begin(), buttons.end(), [](const WinButton *button) {
+            return button->type() == WinButton::Restore;
+        });
+    }
+
+    const TestHome &m_home;
+};
+
+SWEEPWISE_TEST_MAIN(TestMainWindow, QApplication)
+#include "tst_mainwindow.moc"

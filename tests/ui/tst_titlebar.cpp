@@ -1,0 +1,218 @@
+#include "titlebar.h"
+
+#include "appinfo.h"
+#include "messageboxes.h"
+#include "testhome.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Counts restarts instead of starting the program.
+class TestedTitleBar final : public TitleBar
+{
+public:
+    using TitleBar::TitleBar;
+    int restarts = 0;
+
+protected:
+    void restartProgram() override { ++restarts; }
+};
+
+QString stored()
+{
+    return QSettings(appinfo::organisation, appinfo::name).value("language"_L1).toString();
+}
+
+QAction *language(const TitleBar &bar, const QString &code)
+{
+    for (QAction *action : bar.menu()->findChild<QMenu *>()->actions()) {
+        if (action->data().toString() == code)
+            return action;
+    }
+    return nullptr;
+}
+
+WinButton *button(const TitleBar &bar, WinButton::Type type)
+{
+    for (auto *candidate : bar.findChildren<WinButton *>()) {
+        if (candidate->type() == type)
+            return candidate;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestTitleBar : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestTitleBar(const TestHome &) { }
+
+private Q_SLOTS:
+    void init() { QSettings(appinfo::organisation, appinfo::name).clear(); }
+
+    void theButtonsStandInOrderWithTheirTips()
+    {
+        const TestedTitleBar bar;
+        QCOMPARE(bar.objectName(), u"titleBar"_s);
+        QCOMPARE(bar.minimumHeight(), 48);
+        QCOMPARE(bar.maximumHeight(), 48);
+        QStringList tips;
+        for (const auto *candidate : bar.findChildren<WinButton *>()) {
+            tips.append(candidate->toolTip());
+            QCOMPARE(candidate->accessibleName(), candidate->toolTip());
+            QCOMPARE(candidate->size(), QSize(46, 32));
+            QCOMPARE(candidate->cursor().shape(), Qt::PointingHandCursor);
+        }
+        QCOMPARE(tips, (QStringList{u"Menu"_s, u"Minimize"_s, u"Maximize"_s, u"Close"_s}));
+        for (const QLatin1StringView name : {"titleIcon"_L1, "titleLabel"_L1})
+            QVERIFY(bar.findChild<QLabel *>(name)->isHidden());
+    }
+
+    void theButtonsEmitTheirSignals()
+    {
+        TestedTitleBar bar;
+        QSignalSpy minimize(&bar, &TitleBar::minimizeClicked);
+        QSignalSpy maximize(&bar, &TitleBar::maximizeClicked);
+        QSignalSpy close(&bar, &TitleBar::closeClicked);
+        for (const WinButton::Type type :
+             {WinButton::Minimize, WinButton::Maximize, WinButton::Close})
+            QTest::mouseClick(button(bar, type), Qt::LeftButton);
+        QCOMPARE(minimize.size(), 1);
+        QCOMPARE(maximize.size(), 1);
+        QCOMPARE(close.size(), 1);
+    }
+
+    void aMaximizedWindowOffersToRestore()
+    {
+        TestedTitleBar bar;
+        WinButton *maximize = button(bar, WinButton::Maximize);
+        bar.setMaximized(true);
+        QCOMPARE(maximize->type(), WinButton::Restore);
+        QCOMPARE(maximize->toolTip(), u"Restore"_s);
+        bar.setMaximized(false);
+        QCOMPARE(maximize->type(), WinButton::Maximize);
+        QCOMPARE(maximize->toolTip(), u"Maximize"_s);
+    }
+
+    void eachGlyphIsDrawnAndDiffers()
+    {
+        QList<QImage> pictures;
+        for (const WinButton::Type type : {WinButton::Minimize, WinButton::Maximize,
+                                           WinButton::Restore, WinButton::Close, WinButton::Menu}) {
+            WinButton one(type);
+            const QImage picture = one.grab().toImage();
+            QVERIFY(!pictures.contains(picture));
+            pictures.append(picture);
+        }
+    }
+
+    void theMenuHasItsEntriesInOrder()
+    {
+        const TestedTitleBar bar;
+        QStringList texts;
+        for (const QAction *action : bar.menu()->actions())
+            texts.append(action->isSeparator() ? u"-"_s : action->text());
+        QCOMPARE(texts,
+                 (QStringList{u"About"_s, u"-"_s, u"Language"_s, u"-"_s, u"Help"_s, u"Support"_s}));
+    }
+
+    void theMenuEntriesEmitTheirSignals()
+    {
+        TestedTitleBar bar;
+        QSignalSpy about(&bar, &TitleBar::aboutClicked);
+        QSignalSpy help(&bar, &TitleBar::helpClicked);
+        QSignalSpy support(&bar, &TitleBar::supportClicked);
+        bar.menu()->actions().at(0)->trigger();
+        bar.menu()->actions().at(4)->trigger();
+        bar.menu()->actions().at(5)->trigger();
+        QCOMPARE(about.size(), 1);
+        QCOMPARE(help.size(), 1);
+        QCOMPARE(support.size(), 1);
+    }
+
+    void theMenuOpensBelowItsButton()
+    {
+        QWidget window;
+        window.resize(600, 400);
+        TestedTitleBar bar(&window);
+        bar.setGeometry(0, 0, 600, 48);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        WinButton *menu = button(bar, WinButton::Menu);
+        QTest::mouseClick(menu, Qt::LeftButton);
+        QTRY_VERIFY(bar.menu()->isVisible());
+        QCOMPARE(bar.menu()->pos(), menu->mapToGlobal(menu->rect().bottomLeft()));
+        bar.menu()->close();
+    }
+
+    void thereAreNineLanguages()
+    {
+        const TestedTitleBar bar;
+        QStringList codes;
+        QStringList texts;
+        for (const QAction *action : bar.menu()->findChild<QMenu *>()->actions()) {
+            QVERIFY(action->isCheckable());
+            codes.append(action->data().toString());
+            texts.append(action->text());
+        }
+        QCOMPARE(codes,
+                 (QStringList{u"en"_s, u"fr"_s, u"de"_s, u"ja"_s, u"es"_s, u"ko"_s, u"nl"_s,
+                              u"pt"_s, u"it"_s}));
+        QCOMPARE(texts.at(0), u"🇺🇸  English"_s);
+        QCOMPARE(texts.at(3), u"🇯🇵  日本語"_s);
+        QCOMPARE(texts.at(8), u"🇮🇹  Italiano"_s);
+    }
+
+    void theStoredLanguageIsChecked()
+    {
+        QVERIFY(language(TestedTitleBar(), u"en"_s)->isChecked());
+        QSettings(appinfo::organisation, appinfo::name).setValue("language"_L1, u"ko"_s);
+        const TestedTitleBar bar;
+        QCOMPARE(bar.currentLanguage(), u"ko"_s);
+        QVERIFY(language(bar, u"ko"_s)->isChecked());
+        QVERIFY(!language(bar, u"en"_s)->isChecked());
+    }
+
+    void anotherLanguageIsStoredToldAndRestartedInto()
+    {
+        TestedTitleBar bar;
+        QSignalSpy changed(&bar, &TitleBar::languageChanged);
+        const MessageBoxes boxes(QMessageBox::Ok);
+        language(bar, u"de"_s)->trigger();
+        QCOMPARE(stored(), u"de"_s);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.constFirst().constFirst().toString(), u"de"_s);
+        QCOMPARE(
+            boxes.seen(),
+            QStringList{
+                u"Language Changed|Language has been changed.\n\nThe application will restart now."_s});
+        QCOMPARE(bar.restarts, 1);
+    }
+
+    void theActiveLanguageNeitherWritesNorRestarts()
+    {
+        TestedTitleBar bar;
+        QSignalSpy changed(&bar, &TitleBar::languageChanged);
+        const MessageBoxes boxes(QMessageBox::Ok);
+        language(bar, u"en"_s)->trigger();
+        QTest::qWait(30);
+        QCOMPARE(stored(), QString());
+        QCOMPARE(changed.size(), 0);
+        QVERIFY(boxes.seen().isEmpty());
+        QCOMPARE(bar.restarts, 0);
+        QVERIFY(language(bar, u"en"_s)->isChecked());
+    }
+};
+
+SWEEPWISE_TEST_MAIN(TestTitleBar, QApplication)
+#include "tst_titlebar.moc"

@@ -17,7 +17,7 @@ namespace {
 
 // The settings are four switches. A file of another order of size is damaged, and reading it would
 // hold up the start.
-constexpr qint64 largestSettingsFile = 1024 * 1024;
+constexpr qint64 largestSettingsFile = 1'048'576;
 
 std::unique_ptr<QSettings> openSettings()
 {

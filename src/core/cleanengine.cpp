@@ -34,6 +34,7 @@ void CleanEngine::startScan()
         std::unique_ptr<QThread>(QThread::create([this, run, old = std::move(discarded)]() mutable {
             old.clear();
             doScan();
+            m_endedRun = run;
             if (!isStopRequested())
                 QMetaObject::invokeMethod(
                     this, [this, run] { completeScan(run); }, Qt::QueuedConnection);
@@ -48,10 +49,11 @@ void CleanEngine::startClean()
     m_failures.clear();
     setState(State::Cleaning);
 
-    ++m_run;
-    startWorker(std::unique_ptr<QThread>(QThread::create([this] {
+    const quint64 run = ++m_run;
+    startWorker(std::unique_ptr<QThread>(QThread::create([this, run] {
         doClean();
         m_selection.categories.clear();
+        m_endedRun = run;
     })));
 }
 
@@ -67,6 +69,7 @@ void CleanEngine::stopAndWait()
         return;
     m_stopRequested = true;
     m_worker->wait();
+    Q_ASSERT(m_endedRun == m_run);
     m_worker.reset();
 }
 
@@ -94,7 +97,7 @@ void CleanEngine::startWorker(std::unique_ptr<QThread> worker)
 // its number is old.
 void CleanEngine::completeScan(quint64 run)
 {
-    if (run != m_run || state() != State::Scanning)
+    if (run != m_run || run != m_endedRun || state() != State::Scanning)
         return;
     setState(State::Finished);
     if (run == m_run)

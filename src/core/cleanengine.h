@@ -27,7 +27,8 @@ struct CleanFailure {
 ///  - selection: set on the GUI thread before a clean's worker starts, read and dropped by the
 ///  worker;
 ///  - failures: the worker while a clean runs, otherwise the GUI thread;
-///  - worker, run number: the GUI thread.
+///  - worker, run number: the GUI thread;
+///  - ended run: atomic; set by the worker as its last act, so that whoever has seen it sees all that the run wrote.
 ///
 /// Pages bind their widgets to the records inside result(). They take the records through the
 /// non-const accessor once, after scanFinished(), and let go of them when the state becomes
@@ -109,4 +110,5 @@ private:
     ScanResult m_selection;
     QList<CleanFailure> m_failures;
     quint64 m_run = 0;
+    std::atomic<quint64> m_endedRun = 0;
 };

@@ -98,7 +98,7 @@ void JunkCleaner::loadRules(const QString &path)
     m_rules.clear();
     const QJsonArray rules = document.object()["rules"_L1].toArray();
     qDebug() << "[JunkCleaner] Rules array count:" << rules.size();
-    for (const QJsonValue &rule : rules)
+    for (const auto &rule : rules)
         m_rules.append(JunkRule::fromJson(rule.toObject()));
 
     Logger::instance().info(u"Loaded %1 junk rules"_s.arg(m_rules.size()));

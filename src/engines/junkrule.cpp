@@ -12,7 +12,7 @@ QStringList stringList(const QJsonValue &value)
 {
     QStringList list;
     const QJsonArray array = value.toArray();
-    for (const QJsonValue &element : array)
+    for (const auto &element : array)
         list.append(element.toString());
     return list;
 }

@@ -21,7 +21,7 @@ namespace platform {
 namespace {
 
 // Large enough that a folder of a thousand files needs one call, small enough to stay in the cache.
-constexpr std::size_t bufferSize = 64 * 1024;
+constexpr std::size_t bufferSize = 65'536;
 
 QString reasonOf(int error)
 {

@@ -8,6 +8,7 @@
 #include "messageboxes.h"
 #include "progressdialog.h"
 #include "scriptedengine.h"
+#include "signalspy.h"
 #include "testhome.h"
 
 #include <QApplication>
@@ -16,7 +17,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -125,7 +125,7 @@ private Q_SLOTS:
         BasePage page;
         page.setEngine(&engine);
         show(page);
-        QSignalSpy finished(&page, &BasePage::scanFinished);
+        SignalSpy finished(&page, &BasePage::scanFinished);
         click(page, u"scanBtn"_s);
         QVERIFY(dialog(page));
         QVERIFY(!button(page, u"scanBtn"_s)->isEnabled());
@@ -190,7 +190,7 @@ private Q_SLOTS:
         BasePage page;
         page.setEngine(&engine);
         show(page);
-        QSignalSpy finished(&page, &BasePage::scanFinished);
+        SignalSpy finished(&page, &BasePage::scanFinished);
         click(page, u"scanBtn"_s);
         QPointer<ProgressDialog> open = dialog(page);
         QTest::mouseClick(open->findChild<QPushButton *>(u"cancelBtn"_s), Qt::LeftButton);
@@ -257,7 +257,7 @@ private Q_SLOTS:
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
         scanned(page, engine);
-        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        SignalSpy cleaned(&page, &BasePage::cleanFinished);
         const MessageBoxes boxes(QMessageBox::Yes);
         click(page, u"cleanBtn"_s);
         QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
@@ -271,7 +271,7 @@ private Q_SLOTS:
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
         scanned(page, engine);
-        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        SignalSpy cleaned(&page, &BasePage::cleanFinished);
         const MessageBoxes boxes(QMessageBox::No);
         click(page, u"cleanBtn"_s);
         QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
@@ -284,7 +284,7 @@ private Q_SLOTS:
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
         scanned(page, engine);
-        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        SignalSpy cleaned(&page, &BasePage::cleanFinished);
         engine.hold = true;
         click(page, u"cleanBtn"_s);
         QVERIFY(dialog(page));
@@ -311,7 +311,7 @@ private Q_SLOTS:
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
         scanned(page, engine);
-        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        SignalSpy cleaned(&page, &BasePage::cleanFinished);
         engine.hold = true;
         click(page, u"cleanBtn"_s);
         QTest::mouseClick(dialog(page)->findChild<QPushButton *>(u"cancelBtn"_s), Qt::LeftButton);
@@ -383,8 +383,8 @@ private Q_SLOTS:
         ScriptedEngine second;
         BasePage page;
         scanned(page, first);
-        QSignalSpy finished(&page, &BasePage::scanFinished);
-        QSignalSpy firstFinished(&first, &CleanEngine::scanFinished);
+        SignalSpy finished(&page, &BasePage::scanFinished);
+        SignalSpy firstFinished(&first, &CleanEngine::scanFinished);
         page.setEngine(&second);
         QVERIFY(categories(page).isEmpty());
         first.startScan();
@@ -401,7 +401,7 @@ private Q_SLOTS:
         ScriptedEngine second;
         BasePage page;
         scanned(page, first);
-        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        SignalSpy cleaned(&page, &BasePage::cleanFinished);
         first.startClean();
         while (first.state() != State::Finished)
             QThread::msleep(1);
@@ -417,7 +417,7 @@ private Q_SLOTS:
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
         scanned(page, engine);
-        QSignalSpy cleaned(&page, &BasePage::cleanFinished);
+        SignalSpy cleaned(&page, &BasePage::cleanFinished);
         click(page, u"cleanBtn"_s);
         QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
         QPointer<ProgressDialog> old = dialog(page);
@@ -455,7 +455,7 @@ private:
     {
         page.setEngine(&engine);
         show(page);
-        QSignalSpy finished(&page, &BasePage::scanFinished);
+        SignalSpy finished(&page, &BasePage::scanFinished);
         click(page, u"scanBtn"_s);
         QVERIFY(finished.wait(patience));
     }

@@ -8,6 +8,7 @@
 #include "messageboxes.h"
 #include "navbutton.h"
 #include "progressdialog.h"
+#include "signalspy.h"
 #include "testhome.h"
 #include "titlebar.h"
 
@@ -21,7 +22,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QSettings>
-#include <QSignalSpy>
+
 #include <QStackedWidget>
 #include <QTest>
 #include <QTimer>
@@ -372,7 +373,7 @@ private Q_SLOTS:
         show(window);
         QTest::mouseClick(navButtons(window).at(1), Qt::LeftButton);
         auto *engine = Application::instance()->junkCleaner();
-        QSignalSpy scanned(engine, &CleanEngine::scanFinished);
+        SignalSpy scanned(engine, &CleanEngine::scanFinished);
         QTest::mouseClick(window.findChild<QPushButton *>(u"scanBtn"_s), Qt::LeftButton);
         QVERIFY(scanned.wait(30'000));
         auto *category = window.findChild<CategoryWidget *>();
@@ -384,7 +385,7 @@ private Q_SLOTS:
         QTest::mouseClick(category->findChildren<QCheckBox *>().at(1), Qt::LeftButton, {}, {8, 8});
 
         const MessageBoxes boxes(QMessageBox::Yes);
-        QSignalSpy cleaned(engine, &CleanEngine::cleanFinished);
+        SignalSpy cleaned(engine, &CleanEngine::cleanFinished);
         QTest::mouseClick(window.findChild<QPushButton *>(u"cleanBtn"_s), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, 30'000);
         QCOMPARE(boxes.seen().size(), 1);

@@ -2,11 +2,11 @@
 
 #include "appinfo.h"
 #include "svgicon.h"
+#include "signalspy.h"
 #include "testhome.h"
 
 #include <QApplication>
 #include <QLabel>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -22,7 +22,7 @@ private Q_SLOTS:
     {
         NavButton button(u"Junk"_s, u":/icons/trash.svg"_s);
         show(button);
-        QSignalSpy clicked(&button, &NavButton::clicked);
+        SignalSpy clicked(&button, &NavButton::clicked);
         QTest::mouseClick(&button, Qt::LeftButton);
         QCOMPARE(clicked.size(), 1);
     }
@@ -31,7 +31,7 @@ private Q_SLOTS:
     {
         NavButton button(u"Junk"_s, u":/icons/trash.svg"_s);
         show(button);
-        QSignalSpy clicked(&button, &NavButton::clicked);
+        SignalSpy clicked(&button, &NavButton::clicked);
         QTest::mousePress(&button, Qt::LeftButton, {}, {10, 10});
         QTest::mouseRelease(&button, Qt::LeftButton, {}, {10, 200});
         QCOMPARE(clicked.size(), 0);
@@ -44,7 +44,7 @@ private Q_SLOTS:
     {
         NavButton button(u"Junk"_s, u":/icons/trash.svg"_s);
         show(button);
-        QSignalSpy clicked(&button, &NavButton::clicked);
+        SignalSpy clicked(&button, &NavButton::clicked);
         QTest::mouseClick(&button, Qt::RightButton);
         QTest::mouseClick(&button, Qt::MiddleButton);
         QCOMPARE(clicked.size(), 0);
@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         NavButton button(u"Junk"_s, u":/icons/trash.svg"_s);
         show(button);
-        QSignalSpy clicked(&button, &NavButton::clicked);
+        SignalSpy clicked(&button, &NavButton::clicked);
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
             QTest::keyClick(&button, key);
         QTest::keyClick(&button, Qt::Key_A);
@@ -65,7 +65,7 @@ private Q_SLOTS:
     void aChangeOfTheCheckIsSignalledOnce()
     {
         NavButton button(u"Junk"_s, u":/icons/trash.svg"_s);
-        QSignalSpy changed(&button, &NavButton::checkedChanged);
+        SignalSpy changed(&button, &NavButton::checkedChanged);
         button.setChecked(true);
         button.setChecked(true);
         QCOMPARE(changed.size(), 1);

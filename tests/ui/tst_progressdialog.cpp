@@ -1,13 +1,13 @@
 #include "progressdialog.h"
 
 #include "appinfo.h"
+#include "signalspy.h"
 #include "testhome.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -92,7 +92,7 @@ private Q_SLOTS:
     {
         ProgressDialog dialog(ProgressDialog::Scanning);
         dialog.show();
-        QSignalSpy cancel(&dialog, &ProgressDialog::cancelRequested);
+        SignalSpy cancel(&dialog, &ProgressDialog::cancelRequested);
         QTest::mouseClick(dialog.findChild<QPushButton *>(u"cancelBtn"_s), Qt::LeftButton);
         QCOMPARE(cancel.size(), 1);
         QTest::keyClick(&dialog, Qt::Key_Escape);

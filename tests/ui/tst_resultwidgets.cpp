@@ -7,6 +7,7 @@
 #include "messageboxes.h"
 #include "scriptedengine.h"
 #include "svgicon.h"
+#include "signalspy.h"
 #include "testhome.h"
 
 #include <QApplication>
@@ -15,7 +16,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -56,7 +56,7 @@ private Q_SLOTS:
         CleanCategory category = scriptedCategory(u"temp_files"_s, 25);
         CategoryWidget widget(&category);
         show(widget);
-        QSignalSpy expanded(&widget, &CategoryWidget::expandedChanged);
+        SignalSpy expanded(&widget, &CategoryWidget::expandedChanged);
         QCOMPARE(rows(widget).size(), 0);
         QTest::mouseClick(button(widget, u"expandBtn"_s), Qt::LeftButton);
         QCOMPARE(expanded.size(), 1);
@@ -108,7 +108,7 @@ private Q_SLOTS:
         CategoryWidget widget(&category);
         show(widget);
         widget.toggleExpanded();
-        QSignalSpy changed(&widget, &CategoryWidget::selectionChanged);
+        SignalSpy changed(&widget, &CategoryWidget::selectionChanged);
         QCOMPARE(headerBox(widget)->checkState(), Qt::Checked);
         tick(widget, 0);
         QVERIFY(!category.items.at(0).checked);
@@ -148,7 +148,7 @@ private Q_SLOTS:
         CategoryWidget widget(&category);
         show(widget);
         widget.toggleExpanded();
-        QSignalSpy changed(&widget, &CategoryWidget::selectionChanged);
+        SignalSpy changed(&widget, &CategoryWidget::selectionChanged);
         QTest::mouseClick(headerBox(widget), Qt::LeftButton, {}, {8, 8});
         QCOMPARE(category.checkedCount(), 0);
         QVERIFY(!category.checked);

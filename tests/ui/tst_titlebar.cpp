@@ -2,13 +2,13 @@
 
 #include "appinfo.h"
 #include "messageboxes.h"
+#include "signalspy.h"
 #include "testhome.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -81,9 +81,9 @@ private Q_SLOTS:
     void theButtonsEmitTheirSignals()
     {
         TestedTitleBar bar;
-        QSignalSpy minimize(&bar, &TitleBar::minimizeClicked);
-        QSignalSpy maximize(&bar, &TitleBar::maximizeClicked);
-        QSignalSpy close(&bar, &TitleBar::closeClicked);
+        SignalSpy minimize(&bar, &TitleBar::minimizeClicked);
+        SignalSpy maximize(&bar, &TitleBar::maximizeClicked);
+        SignalSpy close(&bar, &TitleBar::closeClicked);
         for (const WinButton::Type type :
              {WinButton::Minimize, WinButton::Maximize, WinButton::Close})
             QTest::mouseClick(button(bar, type), Qt::LeftButton);
@@ -129,9 +129,9 @@ private Q_SLOTS:
     void theMenuEntriesEmitTheirSignals()
     {
         TestedTitleBar bar;
-        QSignalSpy about(&bar, &TitleBar::aboutClicked);
-        QSignalSpy help(&bar, &TitleBar::helpClicked);
-        QSignalSpy support(&bar, &TitleBar::supportClicked);
+        SignalSpy about(&bar, &TitleBar::aboutClicked);
+        SignalSpy help(&bar, &TitleBar::helpClicked);
+        SignalSpy support(&bar, &TitleBar::supportClicked);
         bar.menu()->actions().at(0)->trigger();
         bar.menu()->actions().at(4)->trigger();
         bar.menu()->actions().at(5)->trigger();
@@ -186,7 +186,7 @@ private Q_SLOTS:
     void anotherLanguageIsStoredToldAndRestartedInto()
     {
         TestedTitleBar bar;
-        QSignalSpy changed(&bar, &TitleBar::languageChanged);
+        SignalSpy changed(&bar, &TitleBar::languageChanged);
         const MessageBoxes boxes(QMessageBox::Ok);
         language(bar, u"de"_s)->trigger();
         QCOMPARE(stored(), u"de"_s);
@@ -202,7 +202,7 @@ private Q_SLOTS:
     void theActiveLanguageNeitherWritesNorRestarts()
     {
         TestedTitleBar bar;
-        QSignalSpy changed(&bar, &TitleBar::languageChanged);
+        SignalSpy changed(&bar, &TitleBar::languageChanged);
         const MessageBoxes boxes(QMessageBox::Ok);
         language(bar, u"en"_s)->trigger();
         QTest::qWait(30);

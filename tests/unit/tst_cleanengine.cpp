@@ -1,7 +1,8 @@
 #include "cleanengine.h"
 
+#include "signalspy.h"
+
 #include <QSemaphore>
-#include <QSignalSpy>
 #include <QTest>
 #include <QThread>
 
@@ -52,7 +53,7 @@ protected:
     void doClean() override { onClean(); }
 };
 
-QList<State> states(const QSignalSpy &spy)
+QList<State> states(const SignalSpy &spy)
 {
     QList<State> list;
     for (const QList<QVariant> &arguments : spy)
@@ -102,8 +103,8 @@ private Q_SLOTS:
                 stateAtFinish = engine.state();
             },
             Qt::DirectConnection);
-        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
-        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        SignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        SignalSpy finished(&engine, &CleanEngine::scanFinished);
         engine.startScan();
         QCOMPARE(engine.state(), State::Scanning);
         QVERIFY(finished.wait(patience));
@@ -127,8 +128,8 @@ private Q_SLOTS:
                 stateAtFinish = engine.state();
             },
             Qt::DirectConnection);
-        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
-        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        SignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        SignalSpy finished(&engine, &CleanEngine::cleanFinished);
         engine.startClean();
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
         engine.stopAndWait();
@@ -145,7 +146,7 @@ private Q_SLOTS:
             selected = engine.selection().checkedCount();
             engine.finishClean(0, 0);
         };
-        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        SignalSpy finished(&engine, &CleanEngine::cleanFinished);
         engine.startClean();
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
         engine.stopAndWait();
@@ -157,7 +158,7 @@ private Q_SLOTS:
     void cancelWhileIdleIsSignalledOnce()
     {
         ScriptedEngine engine;
-        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        SignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
         engine.cancel();
         QCOMPARE(states(stateSpy), QList<State>{State::Cancelled});
         engine.cancel();
@@ -179,8 +180,8 @@ private Q_SLOTS:
     {
         ScriptedEngine engine;
         engine.onScan = [&] { engine.waitForStop(); };
-        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
-        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        SignalSpy finished(&engine, &CleanEngine::scanFinished);
+        SignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
         engine.startScan();
         engine.cancel();
         engine.stopAndWait();
@@ -194,8 +195,8 @@ private Q_SLOTS:
         ScriptedEngine engine;
         QSemaphore done;
         engine.onScan = [&] { done.release(); };
-        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
-        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        SignalSpy finished(&engine, &CleanEngine::scanFinished);
+        SignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
         engine.startScan();
         done.acquire();
         QThread::msleep(50); // the completion is queued by now; this thread has not run its loop
@@ -210,7 +211,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         QSemaphore done;
         engine.onScan = [&] { done.release(); };
-        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        SignalSpy finished(&engine, &CleanEngine::scanFinished);
         engine.startScan();
         done.acquire();
         QThread::msleep(50); // its completion is queued now
@@ -245,7 +246,7 @@ private Q_SLOTS:
             QThread::msleep(30);
             firstEnded = true;
         };
-        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        SignalSpy finished(&engine, &CleanEngine::scanFinished);
         engine.startScan();
         firstStarted.acquire();
         engine.startScan();
@@ -267,8 +268,8 @@ private Q_SLOTS:
         };
         qsizetype atStart = -1;
         engine.onScan = [&] { atStart = std::as_const(engine).result().categories.size(); };
-        QSignalSpy cleaned(&engine, &CleanEngine::cleanFinished);
-        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        SignalSpy cleaned(&engine, &CleanEngine::cleanFinished);
+        SignalSpy finished(&engine, &CleanEngine::scanFinished);
         engine.startClean();
         engine.startScan();
         QVERIFY(cleanEnded);
@@ -281,7 +282,7 @@ private Q_SLOTS:
     {
         ScriptedEngine engine;
         engine.add(category(u"a"_s, 5));
-        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        SignalSpy finished(&engine, &CleanEngine::cleanFinished);
         engine.startClean();
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
         QCOMPARE(engine.result().totalCount(), 5);
@@ -299,7 +300,7 @@ private Q_SLOTS:
             selected = engine.selection().checkedCount();
             engine.finishClean(0, 0);
         };
-        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        SignalSpy finished(&engine, &CleanEngine::cleanFinished);
         engine.startClean();
         bound->checked = false;
         QCOMPARE(engine.result().checkedCount(), 4);
@@ -320,7 +321,7 @@ private Q_SLOTS:
                 sum += item.checked ? item.size : 0;
             engine.finishClean(sum, 0);
         };
-        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        SignalSpy finished(&engine, &CleanEngine::cleanFinished);
         engine.startClean();
         for (CleanItem &item : items)
             item.checked = false;
@@ -333,7 +334,7 @@ private Q_SLOTS:
     {
         ScriptedEngine engine;
         engine.onScan = [&] { engine.add(category(u"a"_s, 5)); };
-        QSignalSpy finished(&engine, &CleanEngine::scanFinished); // keeps a copy
+        SignalSpy finished(&engine, &CleanEngine::scanFinished); // keeps a copy
         engine.startScan();
         QVERIFY(finished.wait(patience));
         CleanCategory *bound = &engine.result().categories[0];
@@ -351,8 +352,8 @@ private Q_SLOTS:
             engine.waitForStop();
             engine.finishClean(10, 1);
         };
-        QSignalSpy finished(&engine, &CleanEngine::cleanFinished);
-        QSignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
+        SignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        SignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
         engine.startClean();
         engine.cancel();
         engine.stopAndWait();
@@ -411,7 +412,7 @@ private Q_SLOTS:
             if (state == State::Finished && !std::exchange(restarted, true))
                 engine.startScan();
         });
-        QSignalSpy finished(&engine, &CleanEngine::scanFinished);
+        SignalSpy finished(&engine, &CleanEngine::scanFinished);
         engine.startScan();
         QVERIFY(finished.wait(patience));
         QTest::qWait(20);

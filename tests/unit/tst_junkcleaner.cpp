@@ -3,6 +3,7 @@
 #include "appinfo.h"
 #include "folders.h"
 #include "logcapture.h"
+#include "signalspy.h"
 #include "testhome.h"
 #include "testtree.h"
 
@@ -11,7 +12,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSignalSpy>
+
 #include <QStandardPaths>
 #include <QTest>
 #include <QThread>
@@ -281,7 +282,7 @@ private Q_SLOTS:
     void withoutRulesAScanFindsNothing()
     {
         JunkCleaner cleaner;
-        QSignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        SignalSpy progress(&cleaner, &CleanEngine::scanProgress);
         const LogCapture log;
         scan(cleaner);
         QCOMPARE(progress.size(), 0);
@@ -298,7 +299,7 @@ private Q_SLOTS:
         JunkCleaner cleaner;
         load(cleaner, "{\"rules\": [" + rule(tree.path()) + "]}");
         const LogCapture log;
-        QSignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        SignalSpy progress(&cleaner, &CleanEngine::scanProgress);
         scan(cleaner);
         QCOMPARE(progress.size(), 1);
         QCOMPARE(progress.constFirst(), (QList<QVariant>{1, 1, u"Rule"_s}));
@@ -513,7 +514,7 @@ private Q_SLOTS:
         QStringList expected = odd;
         expected.sort();
         QCOMPARE(names(find(cleaner.result(), u"r"_s)), expected);
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QCOMPARE(finished.constFirst().at(1).toInt(), int(odd.size()));
         QVERIFY(
@@ -530,7 +531,7 @@ private Q_SLOTS:
         scan(cleaner);
         QVERIFY(QFile::remove(tree.path(u"d/a\n[INFO] forged"_s)));
         const LogCapture log;
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QVERIFY(log.contains(u"[WARN] File not found: "_s));
         for (const QString &line : log.lines())
@@ -547,7 +548,7 @@ private Q_SLOTS:
         load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
         scan(cleaner);
         QCOMPARE(cleaner.result().totalCount(), 1);
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QVERIFY(!tree.has(u"d/link"_s));
         QVERIFY(outside.has(u"precious"_s));
@@ -569,7 +570,7 @@ private Q_SLOTS:
         tree.link(outside.path(), u"d/one"_s);
         tree.file(u"d/two/inner/f"_s);
         tree.link(outside.path(), u"d/two/out"_s);
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QCOMPARE(finished.constFirst().at(1).toInt(), 2);
         QCOMPARE(cleaner.failures().size(), 1);
@@ -589,7 +590,7 @@ private Q_SLOTS:
         const QByteArray locked = QFile::encodeName(tree.path(u"d/locked"_s));
         QCOMPARE(::chmod(locked.constData(), 0500), 0);
         const LogCapture log;
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QCOMPARE(::chmod(locked.constData(), 0700), 0);
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(3), 1}));
@@ -617,8 +618,8 @@ private Q_SLOTS:
             rules += ", " + rule(tree.path());
         JunkCleaner cleaner;
         load(cleaner, rules + "]}");
-        QSignalSpy finished(&cleaner, &CleanEngine::scanFinished);
-        QSignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        SignalSpy finished(&cleaner, &CleanEngine::scanFinished);
+        SignalSpy progress(&cleaner, &CleanEngine::scanProgress);
         cleaner.startScan();
         QVERIFY(progress.wait(patience));
         cleaner.cancel();
@@ -645,8 +646,8 @@ private Q_SLOTS:
         for (CleanItem &item : cleaner.result().categories[0].items)
             item.checked = item.name != "b"_L1;
         const LogCapture log;
-        QSignalSpy progress(&cleaner, &CleanEngine::cleanProgress);
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy progress(&cleaner, &CleanEngine::cleanProgress);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QCOMPARE(finished.size(), 1);
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(4), 2}));
@@ -673,7 +674,7 @@ private Q_SLOTS:
         load(cleaner,
              "{\"rules\": [" + rule(tree.path(u"d"_s), "\"defaultChecked\": false") + "]}");
         scan(cleaner);
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
         QVERIFY(tree.has(u"d/a"_s));
@@ -689,7 +690,7 @@ private Q_SLOTS:
         scan(cleaner);
         QCOMPARE(cleaner.result().totalCount(), 2);
         const LogCapture log;
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(3), 1}));
         QVERIFY(log.contains(u"[WARN] File not found: "_s + tree.path(u"d/a"_s)));
@@ -705,7 +706,7 @@ private Q_SLOTS:
         load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
         scan(cleaner);
         QVERIFY(QFile::remove(path));
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
         QCOMPARE(cleaner.failures().size(), 1);
@@ -728,7 +729,7 @@ private Q_SLOTS:
                     cleaner.cancel();
             },
             Qt::DirectConnection);
-        QSignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         const LogCapture log;
         clean(cleaner, finished);
         QCOMPARE(finished.size(), 1);
@@ -759,13 +760,13 @@ private:
 
     static void scan(JunkCleaner &cleaner)
     {
-        QSignalSpy finished(&cleaner, &CleanEngine::scanFinished);
+        SignalSpy finished(&cleaner, &CleanEngine::scanFinished);
         cleaner.startScan();
         QVERIFY(finished.wait(patience));
         QCOMPARE(cleaner.state(), State::Finished);
     }
 
-    static void clean(JunkCleaner &cleaner, QSignalSpy &finished)
+    static void clean(JunkCleaner &cleaner, SignalSpy &finished)
     {
         cleaner.startClean();
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);

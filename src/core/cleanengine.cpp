@@ -34,8 +34,9 @@ void CleanEngine::startScan()
         std::unique_ptr<QThread>(QThread::create([this, run, old = std::move(discarded)]() mutable {
             old.clear();
             doScan();
+            const bool stopped = isStopRequested();
             m_endedRun = run;
-            if (!isStopRequested())
+            if (!stopped)
                 QMetaObject::invokeMethod(
                     this, [this, run] { completeScan(run); }, Qt::QueuedConnection);
         })));

@@ -8,9 +8,8 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QTest>
-#include <QThread>
 
-#include <memory>
+#include <thread>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -166,17 +165,15 @@ private Q_SLOTS:
         Logger logger;
         logger.init(tree.path());
         const LogCapture capture;
-        std::vector<std::unique_ptr<QThread>> threads;
-        for (int t = 0; t < 4; ++t) {
-            threads.emplace_back(QThread::create([&logger, t] {
-                for (int i = 0; i < 250; ++i)
-                    logger.info(
-                        u"thread %1 line %2 end"_s.arg(QString::number(t), QString::number(i)));
-            }));
-            threads.back()->start();
+        {
+            std::vector<std::jthread> threads;
+            for (int t = 0; t < 4; ++t) {
+                threads.emplace_back([&logger, t] {
+                    for (int i = 0; i < 250; ++i)
+                        logger.info(u"thread %1 line %2 end"_s.arg(QString::number(t), QString::number(i)));
+                });
+            }
         }
-        for (const auto &thread : threads)
-            QVERIFY(thread->wait(30'000));
         const QStringList lines = contentOf(logger).split(u'\n', Qt::SkipEmptyParts).mid(3);
         QCOMPARE(lines.size(), 1000);
         const QRegularExpression whole(u"^\\[[^]]+\\] \\[INFO\\] thread \\d line \\d+ end$"_s);

@@ -4,40 +4,14 @@
 #include "junkcleaner.h"
 #include "logger.h"
 #include "mainwindow.h"
+#include "settingsguard.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The settings are four switches. A file of another order of size is damaged, and reading it would
-// hold up the start.
-constexpr qint64 largestSettingsFile = 1'048'576;
-
-std::unique_ptr<QSettings> openSettings()
-{
-    const auto open = [] {
-        return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                           appinfo::organisation, appinfo::name);
-    };
-    std::unique_ptr<QSettings> settings = open();
-    const QFileInfo info(settings->fileName());
-    if (info.exists() && (!info.isFile() || info.size() > largestSettingsFile)) {
-        settings.reset();
-        const QString aside = info.filePath() + ".damaged"_L1;
-        QFile::remove(aside);
-        QFile::rename(info.filePath(), aside);
-        settings = open();
-    }
-    return settings;
-}
-
-} // namespace
 
 Application *Application::instance()
 {
@@ -51,7 +25,9 @@ Application::~Application() = default;
 
 void Application::initialize()
 {
-    m_settings = openSettings();
+    setAsideDamagedSettings(appinfo::name + ".ini"_L1);
+    m_settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                             appinfo::organisation, appinfo::name);
 
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(dataFolder + "/logs"_L1);

@@ -1,6 +1,7 @@
 #include "language.h"
 
 #include "appinfo.h"
+#include "settingsguard.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -37,6 +38,7 @@ QString choose(const QString &stored, const QString &systemLocale)
 void install(QTranslator &translator)
 {
     qDebug() << "========== Translation Init ==========";
+    setAsideDamagedSettings(appinfo::name + ".conf"_L1);
     const QSettings store(appinfo::organisation, appinfo::name);
     const QString stored = store.value("language"_L1).toString();
     qDebug() << "[Main] Settings path:" << store.fileName();

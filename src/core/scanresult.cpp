@@ -90,6 +90,7 @@ ScanResult ScanResult::checkedOnly() const
         CleanCategory chosen(category.id, category.name, category.description);
         chosen.icon = category.icon;
         chosen.riskLevel = category.riskLevel;
+        chosen.items.reserve(category.items.size());
         std::copy_if(category.items.begin(), category.items.end(), std::back_inserter(chosen.items),
                      [](const CleanItem &item) { return item.checked; });
         selection.categories.append(chosen);

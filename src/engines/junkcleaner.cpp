@@ -158,7 +158,7 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
                                QList<CleanItem> &items)
 {
     const Location split = splitLocation(location);
-    const QString path = platform::locate(expandPath(split.base), split.relative);
+    const QString path = platform::locate(expandPath(split.base), expandPath(split.relative));
     if (path.isEmpty())
         return;
     const platform::Entry entry = platform::inspect(path);

@@ -32,8 +32,7 @@ Outcome failure(int error, bool wasFolder = false)
 
 bool isFolderAt(int folder, const char *name)
 {
-    struct stat status {
-    };
+    FileStatus status{};
     return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode);
 }
 
@@ -139,8 +138,7 @@ private:
 
     static bool makeWritable(int fd)
     {
-        struct stat status {
-        };
+        FileStatus status{};
         return ::fstat(fd, &status) == 0 && (status.st_mode & S_IWUSR) == 0
             && ::fchmod(fd, (status.st_mode & 07777) | S_IRWXU) == 0;
     }
@@ -148,13 +146,9 @@ private:
     void step()
     {
         Level &level = m_levels.back();
-        if (!level.fd.isValid()) {
-            level.fd = openFolderBelow(m_top.get(), relativePath(), Mounts::Stay);
-            if (!level.fd.isValid()) {
-                note(errno);
-                m_levels.pop_back();
-                return;
-            }
+        if (!level.fd.isValid() && !reopen()) {
+            m_levels.pop_back();
+            return;
         }
         if (level.subfolders.empty()) {
             leave();
@@ -171,6 +165,8 @@ private:
                 note(errno);
             return;
         }
+        if (!subfolder.isValid() && errno == ENOENT)
+            return; // It went by itself.
         enter(std::move(subfolder), name);
     }
 
@@ -182,12 +178,8 @@ private:
         if (m_levels.empty())
             return;
         Level &parent = m_levels.back();
-        if (!parent.fd.isValid())
-            parent.fd = openFolderBelow(m_top.get(), relativePath(), Mounts::Stay);
-        if (!parent.fd.isValid()) {
-            note(errno);
+        if (!parent.fd.isValid() && !reopen())
             return;
-        }
         const int fd = parent.fd.get();
         if (::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0 || errno == ENOENT)
             return;
@@ -198,15 +190,23 @@ private:
         }
     }
 
-    QByteArray relativePath() const
+    // Opens the deepest levels anew, as many as are held open: the first from the top, each other
+    // from its parent.
+    bool reopen()
     {
+        const std::size_t count = m_levels.size();
+        const std::size_t first = count > levelsHeldOpen ? count - levelsHeldOpen : 0;
         QByteArray path;
-        for (const Level &level : m_levels) {
-            if (!path.isEmpty())
-                path += '/';
-            path += level.name;
+        for (std::size_t i = 1; i <= first; ++i)
+            path += (i == 1 ? QByteArray() : QByteArray("/")) + m_levels[i].name;
+        m_levels[first].fd = openFolderBelow(m_top.get(), path, Mounts::Stay);
+        for (std::size_t i = first + 1; i < count && m_levels[i - 1].fd.isValid(); ++i) {
+            m_levels[i].fd =
+                openFolderBelow(m_levels[i - 1].fd.get(), m_levels[i].name, Mounts::Stay);
         }
-        return path;
+        if (!m_levels.back().fd.isValid())
+            note(errno);
+        return m_levels.back().fd.isValid();
     }
 
     const int m_parent;

@@ -28,8 +28,9 @@ QString reasonOf(int error)
     return QString::fromStdString(std::generic_category().message(error));
 }
 
-/// Walks one tree. Folders still to be read are kept as paths, not as open descriptors, so that
-/// neither depth nor breadth is bound by the number of files a process may hold open.
+/// Walks one tree, without recursion. Folders still to be read are kept as paths, so that the
+/// breadth of the tree is not bound by the number of files a process may hold open; of the way down
+/// to the current folder the deepest part is held open, so that each is opened from its parent.
 class Walk
 {
 public:
@@ -44,27 +45,31 @@ public:
     WalkReport run(const QString &root)
     {
         const UniqueFd rootFd = openFolder(QFile::encodeName(root));
-        struct stat status {
-        };
+        FileStatus status{};
         if (!rootFd.isValid() || ::fstat(rootFd.get(), &status) != 0) {
             if (errno != ENOENT)
                 addFailure(root, errno);
             return std::move(m_report);
         }
         m_device = status.st_dev;
-        m_pending.push_back({{}, root.endsWith(u'/') ? root.chopped(1) : root});
+        m_rootFd = rootFd.get();
+        m_rootPath = root.endsWith(u'/') ? root.chopped(1) : root;
+        m_pending.push_back({{}, m_rootPath, 0});
         while (!m_pending.empty() && !isStopped()) {
             const Folder folder = std::move(m_pending.back());
             m_pending.pop_back();
-            readFolder(rootFd.get(), folder);
+            readFolder(folder);
         }
         return std::move(m_report);
     }
 
 private:
+    static constexpr std::size_t levelsHeldOpen = 64;
+
     struct Folder {
-        QByteArray relative; ///< below the root, as the file system spells it
+        QByteArray name; ///< as the file system spells it
         QString path;
+        std::size_t depth; ///< 0 for the root
     };
 
     bool isStopped() const
@@ -78,11 +83,34 @@ private:
             m_report.failures.append({path, reasonOf(error)});
     }
 
-    void readFolder(int rootFd, const Folder &folder)
+    // Subfolders are read right after their folder and before its siblings, so the levels above the
+    // current one are its ancestors.
+    UniqueFd open(const Folder &folder)
     {
-        const UniqueFd fd = openFolderBelow(rootFd, folder.relative, Mounts::Stay);
-        struct stat status {
-        };
+        if (folder.depth == 0)
+            return openFolderBelow(m_rootFd, {}, Mounts::Stay);
+        m_levels.resize(folder.depth);
+        UniqueFd &parent = m_levels.back();
+        if (!parent.isValid()) {
+            const QString path = folder.path.left(folder.path.lastIndexOf(u'/'));
+            const QString relative = path.mid(m_rootPath.size() + 1);
+            parent = openFolderBelow(m_rootFd, QFile::encodeName(relative), Mounts::Stay);
+        }
+        return parent.isValid() ? openFolderBelow(parent.get(), folder.name, Mounts::Stay)
+                                : UniqueFd();
+    }
+
+    void keepOpen(UniqueFd fd)
+    {
+        m_levels.push_back(std::move(fd));
+        if (m_levels.size() > levelsHeldOpen)
+            m_levels[m_levels.size() - levelsHeldOpen - 1].reset();
+    }
+
+    void readFolder(const Folder &folder)
+    {
+        UniqueFd fd = open(folder);
+        FileStatus status{};
         if (!fd.isValid() || ::fstat(fd.get(), &status) != 0) {
             // Gone, turned into a link or a mount point since its parent was read: nothing of ours.
             if (errno != ENOENT && errno != ELOOP && errno != EXDEV && errno != ENOTDIR)
@@ -111,6 +139,8 @@ private:
         // parent's listing.
         std::reverse(m_pending.begin() + static_cast<std::ptrdiff_t>(firstSubfolder),
                      m_pending.end());
+        if (m_pending.size() > firstSubfolder)
+            keepOpen(std::move(fd));
     }
 
     void readEntry(int folderFd, const Folder &folder, const dirent64 &entry)
@@ -131,8 +161,7 @@ private:
 
     static unsigned char typeOf(int folderFd, const char *name)
     {
-        struct stat status {
-        };
+        FileStatus status{};
         if (::fstatat(folderFd, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
             return DT_UNKNOWN;
         return static_cast<unsigned char>(IFTODT(status.st_mode));
@@ -142,11 +171,7 @@ private:
     {
         if (!QUtf8StringView(name).isValidUtf8())
             return;
-        QByteArray relative;
-        if (!folder.relative.isEmpty())
-            relative = folder.relative + '/';
-        relative += name;
-        m_pending.push_back({relative, joined(folder.path, QString::fromUtf8(name))});
+        m_pending.push_back({name, joined(folder.path, QString::fromUtf8(name)), folder.depth + 1});
     }
 
     void readFile(int folderFd, const Folder &folder, const char *name, bool isLink)
@@ -157,8 +182,7 @@ private:
         QString decoded = encoded.toString();
         if (!m_filter.matches(decoded))
             return;
-        struct statx status {
-        };
+        struct statx status = {};
         const int flags = (isLink ? 0 : AT_SYMLINK_NOFOLLOW) | AT_NO_AUTOMOUNT;
         if (::statx(folderFd, name, flags, STATX_TYPE | STATX_SIZE, &status) != 0
             || !S_ISREG(status.stx_mode)) {
@@ -185,7 +209,10 @@ private:
     const NameFilter m_filter;
     const FileVisitor &m_visit;
     const std::unique_ptr<char[]> m_buffer;
+    int m_rootFd = -1;
+    QString m_rootPath;
     std::vector<Folder> m_pending;
+    std::vector<UniqueFd> m_levels; ///< the way down to the current folder, by depth
     dev_t m_device = 0;
     WalkReport m_report;
 };
@@ -205,8 +232,7 @@ Entry inspect(const QString &path)
             return {EntryKind::Link, 0};
         return {errno == ENOENT || errno == ENOTDIR ? EntryKind::Missing : EntryKind::Other, 0};
     }
-    struct stat status {
-    };
+    FileStatus status{};
     if (::fstatat(folder.get(), split.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
         return {errno == ENOENT ? EntryKind::Missing : EntryKind::Other, 0};
     if (S_ISREG(status.st_mode))

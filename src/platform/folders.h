@@ -19,6 +19,9 @@ namespace platform {
 [[nodiscard]] QString windowsFolder(); ///< %WINDIR%
 [[nodiscard]] QString systemDrive(); ///< %SYSTEMDRIVE%, on Windows a bare drive such as "C:"
 
+/// The folder below which the program's settings files lie.
+[[nodiscard]] QString settingsFolder();
+
 /// Where a rule's location lies in this file system.
 ///
 /// @p base is a folder that the environment names: links in it are its owner's wish and are

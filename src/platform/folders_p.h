@@ -9,8 +9,12 @@ namespace platform {
 /// @p path without links, "." and ".."; empty when it is not absolute or does not exist.
 [[nodiscard]] QString canonicalPath(const QString &path);
 
-/// The folders that isProtectedRoot() guards; entries may be empty or missing.
+/// Folders that are more than clutter taken whole, while some of what lies in them may be; entries
+/// may be empty or missing.
 [[nodiscard]] QStringList protectedFolders();
+
+/// Folders that are never clutter, with everything below; entries may be empty or missing.
+[[nodiscard]] QStringList protectedTrees();
 
 /// How the file system compares names.
 [[nodiscard]] Qt::CaseSensitivity pathCase();

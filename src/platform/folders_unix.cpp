@@ -107,16 +107,41 @@ QString canonicalPath(const QString &path)
 
 QStringList protectedFolders()
 {
+    return {QDir::homePath(),
+            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
+            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+            homeFolder(),
+            localDataFolder(),
+            roamingDataFolder(),
+            programDataFolder(),
+            locate(windowsFolder(), {}),
+            wineprefix::systemDrive(),
+            u"/var"_s,
+            u"/opt"_s,
+            u"/srv"_s};
+}
+
+QStringList protectedTrees()
+{
     const QString drive = wineprefix::systemDrive();
-    QStringList folders{QDir::homePath(),
-                        homeFolder(),
-                        locate(windowsFolder(), {}),
-                        locate(windowsFolder(), u"system32"_s),
-                        drive,
-                        below(drive, u"Program Files"_s),
-                        below(drive, u"Program Files (x86)"_s)};
-    folders += {u"/usr"_s, u"/etc"_s, u"/bin"_s, u"/sbin"_s, u"/lib"_s, u"/boot"_s, u"/var"_s};
-    return folders;
+    return {locate(windowsFolder(), u"system32"_s),
+            below(drive, u"Program Files"_s),
+            below(drive, u"Program Files (x86)"_s),
+            u"/usr"_s,
+            u"/etc"_s,
+            u"/bin"_s,
+            u"/sbin"_s,
+            u"/lib"_s,
+            u"/lib64"_s,
+            u"/boot"_s,
+            u"/dev"_s,
+            u"/proc"_s,
+            u"/sys"_s};
+}
+
+QString settingsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
 Qt::CaseSensitivity pathCase()

@@ -41,8 +41,7 @@ UniqueFd openComponent(int base, const QByteArray &name, Access access)
 {
     UniqueFd fd(::openat(base, name.constData(), flagsOf(access)));
     if (!fd.isValid() && errno == ENOTDIR) {
-        struct stat status {
-        };
+        FileStatus status{};
         const int found = ::fstatat(base, name.constData(), &status, AT_SYMLINK_NOFOLLOW);
         errno = found == 0 && S_ISLNK(status.st_mode) ? ELOOP : ENOTDIR;
     }
@@ -54,8 +53,7 @@ UniqueFd openStepByStep(int base, const QByteArray &relative, Mounts mounts, Acc
 {
     QByteArrayList components = relative.split('/');
     components.removeAll(QByteArray());
-    struct stat baseStatus {
-    };
+    FileStatus baseStatus{};
     if (components.isEmpty() || components.contains("..") || ::fstat(base, &baseStatus) != 0) {
         errno = EINVAL;
         return {};
@@ -64,8 +62,7 @@ UniqueFd openStepByStep(int base, const QByteArray &relative, Mounts mounts, Acc
     for (qsizetype i = 0; i < components.size(); ++i) {
         const Access stepAccess = i + 1 == components.size() ? access : Access::PassThrough;
         current = openComponent(i == 0 ? base : current.get(), components.at(i), stepAccess);
-        struct stat status {
-        };
+        FileStatus status{};
         if (!current.isValid() || ::fstat(current.get(), &status) != 0)
             return {};
         if (mounts == Mounts::Stay && status.st_dev != baseStatus.st_dev) {

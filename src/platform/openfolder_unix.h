@@ -5,9 +5,13 @@
 
 #include <utility>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace platform {
+
+/// What the system tells of an entry; the function of the same name hides its type.
+using FileStatus = struct stat;
 
 /// Owns a file descriptor; -1 is none.
 class UniqueFd

@@ -302,11 +302,9 @@ bool MainWindow::isTrayShown() const
     return m_trayIcon && m_trayIcon->isVisible() && QSystemTrayIcon::isSystemTrayAvailable();
 }
 
-void MainWindow::showTrayMessage()
+void MainWindow::showTrayMessage(const QString &title, const QString &text, int milliseconds)
 {
-    m_trayIcon->showMessage(
-        tr("Sweepwise"), tr("Program minimized to system tray. Double-click the icon to restore."),
-        QSystemTrayIcon::Information, 2000);
+    m_trayIcon->showMessage(title, text, QSystemTrayIcon::Information, milliseconds);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -315,7 +313,9 @@ void MainWindow::closeEvent(QCloseEvent *event)
         Application::instance()->settings()->value("general/minimizeToTray"_L1, false).toBool();
     if (toTray && isTrayShown()) {
         hide();
-        showTrayMessage();
+        showTrayMessage(tr("Sweepwise"),
+                        tr("Program minimized to system tray. Double-click the icon to restore."),
+                        2000);
         event->ignore();
         return;
     }

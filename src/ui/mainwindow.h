@@ -50,7 +50,7 @@ protected:
 
     /// Whether the desktop shows tray icons. A window hidden without one could not be brought back.
     [[nodiscard]] virtual bool isTrayShown() const;
-    virtual void showTrayMessage();
+    virtual void showTrayMessage(const QString &title, const QString &text, int milliseconds);
 
 private:
     void buildLayout();

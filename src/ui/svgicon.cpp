@@ -7,8 +7,7 @@
 
 namespace {
 
-// The tint goes into every pixel by its own alpha, which the image format stores apart from the
-// colours.
+// The shape stays in the alpha channel, which the image format stores apart from the colours.
 void recolour(QImage &image, const QColor &tint)
 {
     for (int y = 0; y < image.height(); ++y) {
@@ -16,7 +15,7 @@ void recolour(QImage &image, const QColor &tint)
         for (int x = 0; x < image.width(); ++x) {
             const int alpha = qAlpha(line[x]);
             if (alpha > 0)
-                line[x] = qRgba(tint.red(), tint.green(), tint.blue(), alpha * tint.alpha() / 255);
+                line[x] = qRgba(tint.red(), tint.green(), tint.blue(), alpha);
         }
     }
 }

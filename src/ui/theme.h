@@ -26,7 +26,7 @@ inline constexpr QLatin1StringView sparkle("#FCD34D");
 inline constexpr QLatin1StringView lowRiskTint("#D1FAE5");
 inline constexpr QLatin1StringView mediumRiskTint("#FEF3C7");
 inline constexpr QLatin1StringView highRiskTint("#FEE2E2");
-inline constexpr QLatin1StringView menuBorder("#E2E8F0");
+inline constexpr QLatin1StringView menuBorder("#e2e8f0");
 inline constexpr QLatin1StringView boxText("#333333");
 
 [[nodiscard]] QColor color(QLatin1StringView name);

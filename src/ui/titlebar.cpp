@@ -8,7 +8,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
-#include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
 
@@ -129,18 +128,31 @@ void TitleBar::changeLanguage(const QString &code)
     store.sync();
     Q_EMIT languageChanged(code);
 
-    QMessageBox box(QMessageBox::Information, tr("Language Changed"),
-                    tr("Language has been changed.\n\nThe application will restart now."),
-                    QMessageBox::Ok, window());
+    tell(QMessageBox::Information, tr("Language Changed"),
+         tr("Language has been changed.\n\nThe application will restart now."));
+    restartProgram();
+}
+
+void TitleBar::tell(QMessageBox::Icon icon, const QString &title, const QString &text)
+{
+    QMessageBox box(icon, title, text, QMessageBox::Ok, window());
     box.setStyleSheet(theme::messageBox());
     box.exec();
-    restartProgram();
 }
 
 void TitleBar::restartProgram()
 {
-    QProcess::startDetached(QCoreApplication::applicationFilePath(),
-                            QCoreApplication::arguments().mid(1));
+    if (!startDetached(QCoreApplication::applicationFilePath(),
+                       QCoreApplication::arguments().mid(1))) {
+        tell(QMessageBox::Warning, tr("Language Changed"),
+             tr("The application could not be restarted. Please start it again yourself."));
+        return;
+    }
     // Not quit(): that asks the window first, which may answer by going to the tray.
     QCoreApplication::exit();
+}
+
+bool TitleBar::startDetached(const QString &program, const QStringList &arguments)
+{
+    return QProcess::startDetached(program, arguments);
 }

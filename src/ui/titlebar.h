@@ -2,6 +2,7 @@
 
 #include "winbutton.h"
 
+#include <QMessageBox>
 #include <QString>
 #include <QWidget>
 
@@ -38,13 +39,15 @@ Q_SIGNALS:
     void languageChanged(QString langCode);
 
 protected:
-    /// Starts the program again with its arguments and quits this one.
-    virtual void restartProgram();
+    /// Starts another process; false when that failed.
+    virtual bool startDetached(const QString &program, const QStringList &arguments);
 
 private:
     WinButton *addButton(WinButton::Type type, const QString &name);
     void buildMenu();
     void changeLanguage(const QString &code);
+    void restartProgram();
+    void tell(QMessageBox::Icon icon, const QString &title, const QString &text);
 
     QString m_currentLanguage;
     bool m_maximized = false;

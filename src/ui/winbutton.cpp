@@ -43,6 +43,7 @@ WinButton::WinButton(Type type, QWidget *parent)
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
 }
 
 void WinButton::setType(Type type)

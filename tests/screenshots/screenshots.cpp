@@ -123,12 +123,10 @@ void shootAll(Album &album)
     window->findChild<QPushButton *>(u"expandBtn"_s)->click();
     album.shoot(u"junk-results-open"_s, window);
 
-    QTimer::singleShot(300, window, [&album, window] {
-        auto *dialog = findWindow<ItemDetailDialog>();
-        album.shoot(u"junk-details"_s, window, {dialog});
-        dialog->reject();
-    });
     window->findChildren<QPushButton *>(u"itemCount"_s).at(1)->click();
+    auto *details = findWindow<ItemDetailDialog>();
+    album.shoot(u"junk-details"_s, window, {details});
+    details->reject();
 
     auto *titleBar = window->findChild<TitleBar *>();
     titleBar->showMenu();

@@ -5,11 +5,11 @@
 #include "categorywidget.h"
 #include "itemdetaildialog.h"
 #include "junkpage.h"
-#include "messageboxes.h"
 #include "progressdialog.h"
 #include "scriptedengine.h"
 #include "signalspy.h"
 #include "testhome.h"
+#include "uisupport.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -346,6 +346,38 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(categories(page).size(), 1, patience);
     }
 
+    void cleaningRightAfterACancelledCleanCleansNothingUnseen()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        engine.hold = true;
+        click(page, u"cleanBtn"_s);
+        page.cancelOperation();
+        click(page, u"cleanBtn"_s); // the end of the cancelled run empties the list first
+        QTest::qWait(30);
+        QCOMPARE(engine.cleans.load(), 1);
+        QVERIFY(!dialog(page));
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
+    }
+
+    void theKeyboardGoesFromTheListToTheButtons()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3), scriptedCategory(u"b"_s, 2)};
+        BasePage page;
+        scanned(page, engine);
+        QTRY_VERIFY(categories(page).constLast()->isVisible());
+        QList<QWidget *> expected;
+        for (const CategoryWidget *category : categories(page))
+            expected += category->focusChain();
+        expected += {button(page, u"scanBtn"_s), button(page, u"cleanBtn"_s)};
+        for (qsizetype i = 1; i < expected.size(); ++i)
+            QCOMPARE(nextByTab(expected.at(i - 1)), expected.at(i));
+    }
+
     void aScanThatSomebodyElseStartsTakesTheListAway()
     {
         ScriptedEngine engine;
@@ -387,6 +419,7 @@ private Q_SLOTS:
         SignalSpy firstFinished(&first, &CleanEngine::scanFinished);
         page.setEngine(&second);
         QVERIFY(categories(page).isEmpty());
+        QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
         first.startScan();
         QVERIFY(firstFinished.wait(patience));
         QTest::qWait(20);

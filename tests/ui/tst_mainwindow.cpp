@@ -5,12 +5,12 @@
 #include "categorywidget.h"
 #include "junkcleaner.h"
 #include "logger.h"
-#include "messageboxes.h"
 #include "navbutton.h"
 #include "progressdialog.h"
 #include "signalspy.h"
 #include "testhome.h"
 #include "titlebar.h"
+#include "uisupport.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -35,11 +35,14 @@ namespace {
 class TrayWindow final : public MainWindow
 {
 public:
-    int messages = 0;
+    QStringList messages;
 
 protected:
     bool isTrayShown() const override { return findChild<QSystemTrayIcon *>()->isVisible(); }
-    void showTrayMessage() override { ++messages; }
+    void showTrayMessage(const QString &title, const QString &text, int milliseconds) override
+    {
+        messages.append(u"%1|%2|%3"_s.arg(title, text, QString::number(milliseconds)));
+    }
 };
 
 QList<NavButton *> navButtons(const MainWindow &window)
@@ -194,10 +197,9 @@ private Q_SLOTS:
         MainWindow window;
         show(window);
         window.move(200, 150);
-        drag(&window, inWindow(window, window.findChild<TitleBar *>(), {100, 20}), {30, 40});
+        drag(window.findChild<TitleBar *>(), {100, 20}, {30, 40});
         QTRY_COMPARE(window.pos(), QPoint(230, 190));
-        drag(&window, inWindow(window, window.findChild<QWidget *>(u"navWidget"_s), {20, 560}),
-             {-10, -20});
+        drag(window.findChild<QWidget *>(u"navWidget"_s), {20, 560}, {-10, -20});
         QTRY_COMPARE(window.pos(), QPoint(220, 170));
     }
 
@@ -254,7 +256,19 @@ private Q_SLOTS:
         QVERIFY(window.close());
         QVERIFY(!window.isVisible());
         QVERIFY(!window.findChild<QSystemTrayIcon *>()->isVisible());
-        QCOMPARE(window.messages, 0);
+        QVERIFY(window.messages.isEmpty());
+    }
+
+    void closingTheWindowEndsTheProgram()
+    {
+        QGuiApplication::setQuitOnLastWindowClosed(true);
+        TrayWindow window;
+        show(window);
+        QTimer::singleShot(20, &window, &MainWindow::onCloseClicked);
+        QTimer::singleShot(5'000, &window, [] { QCoreApplication::exit(7); });
+        const int code = QCoreApplication::exec();
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        QCOMPARE(code, 0);
     }
 
     void closingToTheTrayHidesTheWindowAndTells()
@@ -265,7 +279,9 @@ private Q_SLOTS:
         QVERIFY(!window.close());
         QVERIFY(!window.isVisible());
         QVERIFY(window.findChild<QSystemTrayIcon *>()->isVisible());
-        QCOMPARE(window.messages, 1);
+        QCOMPARE(window.messages,
+                 QStringList{u"Sweepwise|Program minimized to system tray. "
+                             "Double-click the icon to restore.|2000"_s});
     }
 
     void withoutATrayToHideInClosingCloses()

@@ -4,11 +4,11 @@
 
 #include "appinfo.h"
 #include "detailitemwidget.h"
-#include "messageboxes.h"
 #include "scriptedengine.h"
-#include "svgicon.h"
 #include "signalspy.h"
+#include "svgicon.h"
 #include "testhome.h"
+#include "uisupport.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -140,6 +140,66 @@ private Q_SLOTS:
         QVERIFY(category.checked);
         QCOMPARE(category.checkedCount(), 1);
         QCOMPARE(headerBox(widget)->checkState(), Qt::PartiallyChecked);
+    }
+
+    void aCategoryThatStartsUnselectedIsShownWithoutTicks()
+    {
+        // As the engine makes it: the category is off, its items are on.
+        CleanCategory category = scriptedCategory(u"windows_old"_s, 25);
+        category.checked = false;
+        CategoryWidget widget(&category);
+        show(widget);
+        widget.toggleExpanded();
+        QCOMPARE(headerBox(widget)->checkState(), Qt::Unchecked);
+        QVERIFY(!rows(widget).at(0)->isChecked());
+        tick(widget, 0);
+        QCOMPARE(category.checkedCount(), 1);
+        QCOMPARE(headerBox(widget)->checkState(), Qt::PartiallyChecked);
+        tick(widget, 0);
+        QCOMPARE(category.checkedCount(), 0);
+        QVERIFY(!category.checked);
+    }
+
+    void showingOrHidingSizesKeepsThePartialTick()
+    {
+        CleanCategory category = scriptedCategory(u"x"_s, 3);
+        category.items[1].checked = false;
+        CategoryWidget widget(&category);
+        QCOMPARE(headerBox(widget)->checkState(), Qt::PartiallyChecked);
+        widget.setShowSizes(false);
+        QCOMPARE(headerBox(widget)->checkState(), Qt::PartiallyChecked);
+    }
+
+    void theCategorysRiskIsTold_data()
+    {
+        QTest::addColumn<int>("level");
+        QTest::addColumn<QString>("word");
+        QTest::newRow("low") << 0 << QString();
+        QTest::newRow("medium") << 1 << u"Medium"_s;
+        QTest::newRow("high") << 2 << u"High"_s;
+    }
+
+    void theCategorysRiskIsTold()
+    {
+        QFETCH(int, level);
+        QFETCH(QString, word);
+        CleanCategory category = scriptedCategory(u"x"_s, 1);
+        category.riskLevel = level;
+        const CategoryWidget widget(&category);
+        const auto *risk = widget.findChild<QLabel *>(u"categoryRisk"_s);
+        QCOMPARE(risk ? risk->text() : QString(), word);
+    }
+
+    void theKeyboardGoesThroughACategoryFromTopToBottom()
+    {
+        CleanCategory category = scriptedCategory(u"x"_s, 15);
+        CategoryWidget widget(&category);
+        show(widget);
+        widget.toggleExpanded();
+        const QList<QWidget *> chain = widget.focusChain();
+        QCOMPARE(chain.size(), 3 + 10 + 1);
+        for (qsizetype i = 1; i < chain.size(); ++i)
+            QCOMPARE(nextByTab(chain.at(i - 1)), chain.at(i));
     }
 
     void theHeaderBoxSetsEveryItemLoadedOrNot()
@@ -372,15 +432,24 @@ private Q_SLOTS:
         CleanCategory category = scriptedCategory(u"x"_s, 3);
         CategoryWidget widget(&category);
         show(widget);
-        bool opened = false;
-        QTimer::singleShot(50, &widget, [&opened] {
-            auto *dialog = qobject_cast<ItemDetailDialog *>(QApplication::activeModalWidget());
-            opened = dialog != nullptr;
-            if (dialog)
-                QTest::mouseClick(dialog->findChild<QPushButton *>(u"backBtn"_s), Qt::LeftButton);
-        });
         QTest::mouseClick(button(widget, u"itemCount"_s), Qt::LeftButton);
-        QVERIFY(opened);
+        QPointer<ItemDetailDialog> dialog =
+            qobject_cast<ItemDetailDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        QTest::mouseClick(dialog->findChild<QPushButton *>(u"backBtn"_s), Qt::LeftButton);
+        QTRY_VERIFY(!dialog);
+    }
+
+    void theDetailsGoWithTheirCategory()
+    {
+        CleanCategory category = scriptedCategory(u"x"_s, 3);
+        auto widget = std::make_unique<CategoryWidget>(&category);
+        show(*widget);
+        widget->showDetails();
+        QPointer<QWidget> dialog = QApplication::activeModalWidget();
+        QVERIFY(dialog);
+        widget.reset();
+        QVERIFY(!dialog);
     }
 
     void theLocationOfAVanishedFileIsExplained()

@@ -1,9 +1,9 @@
 #include "titlebar.h"
 
 #include "appinfo.h"
-#include "messageboxes.h"
 #include "signalspy.h"
 #include "testhome.h"
+#include "uisupport.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -15,15 +15,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Counts restarts instead of starting the program.
+/// Notes what would be started instead of starting it.
 class TestedTitleBar final : public TitleBar
 {
 public:
     using TitleBar::TitleBar;
-    int restarts = 0;
+    QStringList started;
+    bool canStart = true;
 
 protected:
-    void restartProgram() override { ++restarts; }
+    bool startDetached(const QString &program, const QStringList &arguments) override
+    {
+        started.append(program + u' ' + arguments.join(u' '));
+        return canStart;
+    }
 };
 
 QString stored()
@@ -188,7 +193,9 @@ private Q_SLOTS:
         TestedTitleBar bar;
         SignalSpy changed(&bar, &TitleBar::languageChanged);
         const MessageBoxes boxes(QMessageBox::Ok);
-        language(bar, u"de"_s)->trigger();
+        QTimer::singleShot(0, &bar, [&bar] { language(bar, u"de"_s)->trigger(); });
+        QTimer::singleShot(10'000, &bar, [] { QCoreApplication::exit(7); });
+        QCOMPARE(QCoreApplication::exec(), 0); // the program ends
         QCOMPARE(stored(), u"de"_s);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed.constFirst().constFirst().toString(), u"de"_s);
@@ -196,7 +203,27 @@ private Q_SLOTS:
             boxes.seen(),
             QStringList{
                 u"Language Changed|Language has been changed.\n\nThe application will restart now."_s});
-        QCOMPARE(bar.restarts, 1);
+        // The program's own file, with the arguments that follow its name.
+        QCOMPARE(bar.started,
+                 QStringList{QCoreApplication::applicationFilePath() + u' '
+                             + QCoreApplication::arguments().mid(1).join(u' ')});
+    }
+
+    void aRestartThatFailsIsToldAndDoesNotQuit()
+    {
+        TestedTitleBar bar;
+        bar.canStart = false;
+        const MessageBoxes boxes(QMessageBox::Ok);
+        bool quit = false;
+        const auto connection =
+            connect(qApp, &QCoreApplication::aboutToQuit, this, [&quit] { quit = true; });
+        language(bar, u"fr"_s)->trigger();
+        QTest::qWait(30);
+        disconnect(connection);
+        QVERIFY(!quit);
+        QCOMPARE(boxes.seen().size(), 2);
+        QVERIFY(boxes.seen().constLast().contains(u"could not be restarted"_s));
+        QCOMPARE(stored(), u"fr"_s);
     }
 
     void theActiveLanguageNeitherWritesNorRestarts()
@@ -209,7 +236,7 @@ private Q_SLOTS:
         QCOMPARE(stored(), QString());
         QCOMPARE(changed.size(), 0);
         QVERIFY(boxes.seen().isEmpty());
-        QCOMPARE(bar.restarts, 0);
+        QVERIFY(bar.started.isEmpty());
         QVERIFY(language(bar, u"en"_s)->isChecked());
     }
 };

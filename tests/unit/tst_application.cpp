@@ -2,6 +2,7 @@
 
 #include "appinfo.h"
 #include "junkcleaner.h"
+#include "language.h"
 #include "logger.h"
 #include "mainwindow.h"
 #include "testhome.h"
@@ -15,6 +16,11 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
+#include <QTranslator>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -67,6 +73,22 @@ private Q_SLOTS:
         QCOMPARE(kept.readAll(), content);
         kept.remove();
     }
+
+#ifdef Q_OS_UNIX
+    void aPipeInThePlaceOfTheSettingsDoesNotHoldUpTheStart()
+    {
+        const QString native = QSettings(appinfo::organisation, appinfo::name).fileName();
+        for (const QString &path : {settingsPath(), native}) {
+            QFile::remove(path);
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        }
+        QTranslator translator;
+        language::install(translator); // would wait for somebody to write into the pipe
+        Application::instance()->initialize();
+        for (const QString &path : {settingsPath(), native})
+            QVERIFY(QFile::remove(path + ".damaged"_L1));
+    }
+#endif
 
     void settingsThatAnotherProcessHasLockedDoNotHoldUpTheStart()
     {

@@ -283,6 +283,21 @@ private Q_SLOTS:
         QCOMPARE(remover.remove(tree.path(u"pipe"_s)).status, Status::Removed);
     }
 
+    void manyLevelsWithManyBranchesAreRemoved()
+    {
+        const TestTree tree;
+        QString path = u"d"_s;
+        for (int depth = 0; depth < 150; ++depth) {
+            tree.file(path + u"/a/f"_s, {});
+            tree.file(path + u"/z/f"_s, {});
+            path += u"/m"_s;
+        }
+        FileRemover remover;
+        const FileRemover::Outcome outcome = remover.remove(tree.path(u"d"_s));
+        QVERIFY2(outcome.status == Status::Removed, qPrintable(outcome.error));
+        QVERIFY(!tree.has(u"d"_s));
+    }
+
     void fiveThousandNestedFoldersAreRemoved()
     {
         const TestTree tree;

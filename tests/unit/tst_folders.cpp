@@ -159,6 +159,18 @@ private Q_SLOTS:
         QTest::newRow("temporary folder") << u"DRIVE/windows/temp"_s << false;
         QTest::newRow("missing") << u"/no/such/folder"_s << true;
         QTest::newRow("/usr") << u"/usr"_s << true;
+        QTest::newRow("below /usr") << u"/usr/share"_s << true;
+        QTest::newRow("below /etc") << u"/etc/default"_s << true;
+        QTest::newRow("/var") << u"/var"_s << true;
+        QTest::newRow("below /var") << u"/var/tmp"_s << false;
+        QTest::newRow("below the program folder") << u"DRIVE/Program Files/App"_s << true;
+        QTest::newRow("below the system folder") << u"DRIVE/windows/system32/config"_s << true;
+        QTest::newRow("local data") << u"DRIVE/users/jane/AppData/Local"_s << true;
+        QTest::newRow("roaming data") << u"DRIVE/users/jane/AppData/Roaming"_s << true;
+        QTest::newRow("local temporary folder")
+            << u"DRIVE/users/jane/AppData/Local/Temp"_s << false;
+        QTest::newRow("program data") << u"DRIVE/ProgramData"_s << true;
+        QTest::newRow("documents") << u"HOME/Documents"_s << true;
     }
 
     void rootsThatHoldMoreThanClutterAreProtected()
@@ -167,6 +179,9 @@ private Q_SLOTS:
         QFETCH(bool, expected);
         const QString drive = makePrefix();
         m_home.folder(u"home/cache"_s);
+        m_home.folder(u"home/Documents"_s);
+        m_home.folder(u"prefix/drive_c/Program Files/App"_s);
+        m_home.folder(u"prefix/drive_c/windows/system32/config"_s);
         path.replace("HOME"_L1, QDir::homePath()).replace("DRIVE"_L1, drive);
         QCOMPARE(platform::isProtectedRoot(path), expected);
     }

@@ -168,11 +168,12 @@ void ItemDetailDialog::onScrollChanged(int value)
 
 void ItemDetailDialog::onOpenLocation(const QString &path)
 {
-    if (QFileInfo::exists(path)) {
-        platform::revealFile(path);
+    const bool exists = QFileInfo::exists(path);
+    if (exists && platform::revealFile(path))
         return;
-    }
-    QMessageBox box(QMessageBox::Information, tr("Notice"), tr("This file no longer exists."),
+    QMessageBox box(QMessageBox::Information, tr("Notice"),
+                    exists ? tr("The file manager could not be started.")
+                           : tr("This file no longer exists."),
                     QMessageBox::Ok, this);
     box.setStyleSheet(theme::messageBox());
     box.exec();

@@ -106,7 +106,12 @@ void ProgressDialog::setDetail(const QString &text)
 
 void ProgressDialog::setCleanedSize(qint64 bytes)
 {
-    setDetail(tr("已清理: %1").arg(formatSize(bytes)));
+    // One call an item: most of them change nothing that can be seen.
+    const QString size = formatSize(bytes);
+    if (size == m_cleanedSize)
+        return;
+    m_cleanedSize = size;
+    setDetail(tr("已清理: %1").arg(size));
 }
 
 void ProgressDialog::showResult(bool success, const QString &message)

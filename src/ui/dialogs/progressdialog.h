@@ -44,6 +44,7 @@ private:
     void setIconColour(QLatin1StringView colour);
 
     bool m_finished = false;
+    QString m_cleanedSize;
     QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_subtitle;

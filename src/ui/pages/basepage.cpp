@@ -36,7 +36,9 @@ void BasePage::setEngine(CleanEngine *engine)
 {
     if (m_engine)
         m_engine->disconnect(this);
+    closeProgressDialog();
     letGoOfResult();
+    m_scanButton->setEnabled(true);
     m_engine = engine;
     if (!engine)
         return;
@@ -166,6 +168,7 @@ void BasePage::setupFooter()
     for (QPushButton *button : {m_scanButton, m_cleanButton}) {
         button->setMinimumHeight(44);
         button->setCursor(Qt::PointingHandCursor);
+        button->setFocusPolicy(Qt::TabFocus);
         footer->addWidget(button);
     }
     connect(m_scanButton, &QPushButton::clicked, this, &BasePage::startScan);
@@ -247,6 +250,8 @@ void BasePage::startClean()
             return;
     }
     deliverLateSignals();
+    if (!isResultShown())
+        return; // They were the end of a cancelled clean, which has emptied the list.
     openProgressDialog(ProgressDialog::Cleaning);
     m_engine->startClean();
 }
@@ -329,6 +334,23 @@ void BasePage::displayResults()
         m_listLayout->addWidget(widget);
     }
     m_listLayout->addStretch();
+    orderFocus();
+}
+
+// The list is made after the buttons below it, but stands above them.
+void BasePage::orderFocus() const
+{
+    QWidget *previous = m_scrollArea;
+    const auto append = [&previous](QWidget *next) {
+        setTabOrder(previous, next);
+        previous = next;
+    };
+    for (const CategoryWidget *category : m_categoryWidgets) {
+        for (QWidget *control : category->focusChain())
+            append(control);
+    }
+    append(m_scanButton);
+    append(m_cleanButton);
 }
 
 void BasePage::clearResults()
@@ -372,7 +394,6 @@ void BasePage::onCleanFinished(qint64 totalCleaned, int itemsCleaned)
             tr("Cleaned %1 items, freed %2")
                 .arg(QString::number(itemsCleaned), formatSize(totalCleaned)));
     m_scanButton->setEnabled(true);
-    m_cleanButton->setEnabled(false);
     letGoOfResult();
     Q_EMIT cleanFinished();
 }
@@ -389,6 +410,7 @@ void BasePage::letGoOfResult()
 {
     clearResults();
     m_emptyState->show();
+    m_cleanButton->setEnabled(false);
     m_statisticValue->setText(u"--"_s);
     m_selection->setText(tr("Selected: --"));
 }

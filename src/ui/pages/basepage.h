@@ -75,6 +75,7 @@ private:
     void letGoOfResult();
     void deliverLateSignals();
     void closeProgressDialog();
+    void orderFocus() const;
     [[nodiscard]] bool isResultShown() const { return !m_categoryWidgets.isEmpty(); }
 
     CleanEngine *m_engine = nullptr;

@@ -2,6 +2,7 @@
 
 #include "cleanitemwidget.h"
 #include "itemdetaildialog.h"
+#include "risk.h"
 #include "scanresult.h"
 #include "svgicon.h"
 #include "text.h"
@@ -47,6 +48,11 @@ CategoryWidget::CategoryWidget(CleanCategory *category, QWidget *parent)
     , m_content(new QWidget(this))
     , m_contentLayout(new QVBoxLayout(m_content))
 {
+    // The items of a category that starts unselected come ticked all the same. Bound as they are,
+    // unticking one of them would select all the others.
+    if (!category->checked)
+        category->setChecked(false);
+
     setObjectName("categoryWidget"_L1);
     setAttribute(Qt::WA_StyledBackground);
     auto *layout = new QVBoxLayout(this);
@@ -68,7 +74,12 @@ CategoryWidget::CategoryWidget(CleanCategory *category, QWidget *parent)
     layout->addWidget(m_content);
 
     refreshHeader();
-    showCheckState();
+}
+
+CategoryWidget::~CategoryWidget()
+{
+    // It shows the same record, which goes with the widget.
+    delete m_details;
 }
 
 void CategoryWidget::buildHeader()
@@ -98,6 +109,12 @@ void CategoryWidget::buildHeader()
     m_count->setToolTip(tr("View Details"));
     connect(m_count, &QPushButton::clicked, this, &CategoryWidget::showDetails);
     layout->addWidget(m_count);
+    if (m_category->riskLevel > LowRisk) {
+        auto *risk = new QLabel(risk::text(m_category->riskLevel), m_header);
+        risk->setObjectName("categoryRisk"_L1);
+        risk->setStyleSheet(risk::style(m_category->riskLevel));
+        layout->addWidget(risk);
+    }
     layout->addStretch();
 
     m_size = new QLabel(m_header);
@@ -165,8 +182,10 @@ void CategoryWidget::toggleExpanded()
 
 void CategoryWidget::showDetails()
 {
-    ItemDetailDialog dialog(m_category, window());
-    dialog.exec();
+    m_details = new ItemDetailDialog(m_category, window());
+    m_details->setAttribute(Qt::WA_DeleteOnClose);
+    m_details->setModal(true);
+    m_details->show();
 }
 
 void CategoryWidget::loadMore()
@@ -183,6 +202,7 @@ void CategoryWidget::loadMore()
     }
     m_loadedCount = end;
     showRemaining();
+    orderFocus();
 }
 
 void CategoryWidget::showRemaining()
@@ -210,7 +230,6 @@ void CategoryWidget::onItemCheckChanged()
         widget->storeChecked();
     m_category->checked = m_category->checkedCount() != 0;
     refreshHeader();
-    showCheckState();
     Q_EMIT selectionChanged();
 }
 
@@ -225,6 +244,7 @@ void CategoryWidget::refreshHeader()
     const QSignalBlocker blocker(m_checkBox);
     m_checkBox->setTristate(false);
     m_checkBox->setChecked(m_category->checked);
+    showCheckState();
 }
 
 // Partly ticked is shown, but a click never chooses it: it ticks all.
@@ -236,4 +256,22 @@ void CategoryWidget::showCheckState()
     const QSignalBlocker blocker(m_checkBox);
     m_checkBox->setTristate(true);
     m_checkBox->setCheckState(Qt::PartiallyChecked);
+}
+
+QList<QWidget *> CategoryWidget::focusChain() const
+{
+    QList<QWidget *> chain{m_count, m_checkBox, m_expandButton};
+    for (const CleanItemWidget *widget : m_itemWidgets)
+        chain.append(widget->focusProxy());
+    if (m_loadMoreButton)
+        chain.append(m_loadMoreButton);
+    return chain;
+}
+
+// Rows are made when they are first needed, and so come last in the order of creation.
+void CategoryWidget::orderFocus() const
+{
+    const QList<QWidget *> chain = focusChain();
+    for (qsizetype i = 1; i < chain.size(); ++i)
+        setTabOrder(chain.at(i - 1), chain.at(i));
 }

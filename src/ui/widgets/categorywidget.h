@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 
 class CleanItemWidget;
+class ItemDetailDialog;
 class QCheckBox;
 class QLabel;
 class QPushButton;
@@ -21,11 +23,15 @@ class CategoryWidget final : public QWidget
     Q_DISABLE_COPY_MOVE(CategoryWidget)
 public:
     explicit CategoryWidget(CleanCategory *category, QWidget *parent = nullptr);
+    ~CategoryWidget() override;
 
     void setShowSizes(bool show);
     /// Ticks or unticks the category with all its items.
     void setChecked(bool checked);
     [[nodiscard]] bool isExpanded() const { return m_expanded; }
+
+    /// The controls that take the keyboard focus, in the order in which they stand.
+    [[nodiscard]] QList<QWidget *> focusChain() const;
 
 public Q_SLOTS:
     void toggleExpanded();
@@ -46,6 +52,7 @@ private:
     void onItemCheckChanged();
     void refreshHeader();
     void showCheckState();
+    void orderFocus() const;
 
     CleanCategory *m_category;
     qsizetype m_loadedCount = 0;
@@ -62,4 +69,5 @@ private:
     QPushButton *m_expandButton = nullptr;
     QPushButton *m_loadMoreButton = nullptr;
     QList<CleanItemWidget *> m_itemWidgets;
+    QPointer<ItemDetailDialog> m_details;
 };

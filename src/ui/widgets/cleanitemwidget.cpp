@@ -1,6 +1,7 @@
 #include "cleanitemwidget.h"
 
 #include "elidedlabel.h"
+#include "risk.h"
 #include "scanresult.h"
 #include "text.h"
 #include "theme.h"
@@ -25,30 +26,6 @@ constexpr int sizeWidth = 66;
 constexpr int reservedWidth = 186;
 static_assert(2 * margin + 3 * spacing + checkWidth + riskWidth + sizeWidth == reservedWidth);
 
-QString riskText(int level)
-{
-    switch (level) {
-    case HighRisk:
-        return CleanItemWidget::tr("High");
-    case MediumRisk:
-        return CleanItemWidget::tr("Medium");
-    default:
-        return CleanItemWidget::tr("Low");
-    }
-}
-
-QString riskStyle(int level)
-{
-    switch (level) {
-    case HighRisk:
-        return theme::badge(theme::danger, theme::highRiskTint, 4, 11);
-    case MediumRisk:
-        return theme::badge(theme::warning, theme::mediumRiskTint, 4, 11);
-    default:
-        return theme::badge(theme::accent, theme::lowRiskTint, 4, 11);
-    }
-}
-
 } // namespace
 
 CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidget *parent)
@@ -67,6 +44,7 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
     connect(m_checkBox, &QCheckBox::toggled, this, &CleanItemWidget::checkChanged);
     m_checkBox->setFixedWidth(checkWidth);
     layout->addWidget(m_checkBox);
+    setFocusProxy(m_checkBox);
 
     auto *texts = new QVBoxLayout;
     texts->setSpacing(2);
@@ -80,9 +58,9 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
     texts->addWidget(m_path);
     layout->addLayout(texts, 1);
 
-    m_risk = new QLabel(riskText(item().riskLevel), this);
+    m_risk = new QLabel(risk::text(item().riskLevel), this);
     m_risk->setObjectName("itemRisk"_L1);
-    m_risk->setStyleSheet(riskStyle(item().riskLevel));
+    m_risk->setStyleSheet(risk::style(item().riskLevel));
     m_risk->setFixedWidth(riskWidth);
     m_risk->setAlignment(Qt::AlignCenter);
     layout->addWidget(m_risk, 0, Qt::AlignVCenter);

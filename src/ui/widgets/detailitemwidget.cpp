@@ -55,6 +55,7 @@ DetailItemWidget::DetailItemWidget(const CleanItem &item, bool striped, QWidget 
     button->setStyleSheet(theme::quietButton(6, 12));
     button->setMinimumHeight(30);
     button->setAutoDefault(false);
+    button->setAccessibleName(tr("Open file location of %1").arg(singleLine(item.name)));
     connect(button, &QPushButton::clicked, this, [this] { Q_EMIT openLocationRequested(m_path); });
     layout->addWidget(button);
 }

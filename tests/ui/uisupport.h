@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QStringList>
 #include <QTimer>
+#include <QWidget>
 
 /// Answers the message boxes that open while it lives, as a user would: by clicking a button.
 class MessageBoxes final
@@ -21,3 +22,6 @@ private:
     QTimer m_timer;
     QStringList m_seen;
 };
+
+/// The widget to which the tabulator key goes from @p widget.
+[[nodiscard]] QWidget *nextByTab(QWidget *widget);

@@ -1,4 +1,4 @@
-#include "messageboxes.h"
+#include "uisupport.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -20,4 +20,13 @@ void MessageBoxes::answer(QMessageBox::StandardButton button)
     if (!wanted)
         qFatal("the box '%s' has no such button", qPrintable(box->windowTitle()));
     wanted->click();
+}
+
+QWidget *nextByTab(QWidget *widget)
+{
+    QWidget *next = widget->nextInFocusChain();
+    while (next != widget
+           && !(next->focusPolicy() & Qt::TabFocus && next->isVisible() && next->isEnabled()))
+        next = next->nextInFocusChain();
+    return next;
 }

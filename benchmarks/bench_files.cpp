@@ -1,5 +1,5 @@
-// What the program does most, beside other ways to do the same. The absolute times mean little on a shared machine: the
-// script `run` puts them in proportion.
+// What the program does most, beside other ways to do the same. The absolute times mean little on a
+// shared machine: the script `run` puts them in proportion.
 
 #include "fileremove.h"
 #include "filewalk.h"
@@ -14,6 +14,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <chrono>
+#include <thread>
+
 #include <fcntl.h>
 #include <malloc.h>
 #include <unistd.h>
@@ -24,8 +27,10 @@ namespace {
 
 constexpr int files = 100'000;
 constexpr int filesPerFolder = 200;
+constexpr int filesToRemove = 100'000;
 
-/// The tree that is walked: ten levels in places, sizes from nothing to 2 KiB, one file in ten a log.
+/// The tree that is walked: ten levels in places, sizes from nothing to 2 KiB, one file in ten a
+/// log.
 class Tree
 {
 public:
@@ -36,10 +41,12 @@ public:
         for (int i = 0; i < files; ++i) {
             if (i % filesPerFolder == 0) {
                 const int folder = i / filesPerFolder;
-                path = folder % 10 == 0 ? m_path + u"/f%1"_s.arg(folder) : path + u"/f%1"_s.arg(folder);
+                path = folder % 10 == 0 ? m_path + u"/f%1"_s.arg(folder)
+                                        : path + u"/f%1"_s.arg(folder);
                 QDir().mkpath(path);
             }
-            const QString name = u"%1/file-%2.%3"_s.arg(path, QString::number(i), i % 10 == 0 ? u"log"_s : u"dat"_s);
+            const QString name =
+                u"%1/file-%2.%3"_s.arg(path, QString::number(i), i % 10 == 0 ? u"log"_s : u"dat"_s);
             const int fd = ::creat(QFile::encodeName(name).constData(), 0600);
             if (fd < 0 || ::ftruncate(fd, i % 2048) != 0)
                 qFatal("cannot fill the tree");
@@ -102,7 +109,8 @@ void walkFind(benchmark::State &state)
     for (auto _ : state) {
         QProcess find;
         find.setStandardOutputFile(QProcess::nullDevice());
-        find.start(u"find"_s, {root, u"-type"_s, u"f"_s, u"-size"_s, u"+100M"_s, u"-printf"_s, u"%s %p\n"_s});
+        find.start(u"find"_s,
+                   {root, u"-type"_s, u"f"_s, u"-size"_s, u"+100M"_s, u"-printf"_s, u"%s %p\n"_s});
         if (!find.waitForFinished(-1) || find.exitCode() != 0)
             state.SkipWithError("find failed");
     }
@@ -112,12 +120,37 @@ BENCHMARK(walkOurs)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(walkQDirIterator)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(walkFind)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+/// How long the walk goes on after it was told to stop.
+void cancelWalk(benchmark::State &state)
+{
+    const QString root = Tree::path();
+    for (auto _ : state) {
+        std::atomic_bool stop = false;
+        std::jthread walker([&] {
+            while (!stop)
+                platform::walkFiles(root, {{}, true, &stop}, [](platform::WalkedFile &&) {});
+        });
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        const auto told = std::chrono::steady_clock::now();
+        stop = true;
+        walker.join();
+        state.SetIterationTime(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - told).count());
+    }
+}
+
+BENCHMARK(cancelWalk)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Repetitions(50);
+
 /// A folder tree that each round fills anew and the measured code removes.
 QStringList fillForRemoval(const QString &root)
 {
     QStringList paths;
-    paths.reserve(files);
-    for (int i = 0; i < files; ++i) {
+    paths.reserve(filesToRemove);
+    for (int i = 0; i < filesToRemove; ++i) {
         const QString folder = root + u"/d%1"_s.arg(i / 1000);
         if (i % 1000 == 0)
             QDir().mkpath(folder);
@@ -132,7 +165,8 @@ void removeAll(benchmark::State &state, Remove remove)
 {
     for (auto _ : state) {
         state.PauseTiming();
-        const QTemporaryDir folder;
+        // In memory: the journal of a disk would drown the difference.
+        const QTemporaryDir folder(u"/dev/shm/bench-XXXXXX"_s);
         const QStringList paths = fillForRemoval(folder.path());
         state.ResumeTiming();
         remove(folder.path(), paths);
@@ -182,14 +216,20 @@ void removeQFile(benchmark::State &state)
 
 void removeRm(benchmark::State &state)
 {
-    removeAll(state, [](const QString &root, const QStringList &) { QProcess::execute(u"rm"_s, {u"-rf"_s, root}); });
+    removeAll(state, [](const QString &root, const QStringList &) {
+        QProcess::execute(u"rm"_s, {u"-rf"_s, root});
+    });
 }
 
 // The file system's own work varies: many rounds, and the script takes the median.
-BENCHMARK(removeUnlinkat)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(5);
-BENCHMARK(removeOurs)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(5);
-BENCHMARK(removeQFile)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(5);
-BENCHMARK(removeRm)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(5);
+BENCHMARK(removeUnlinkat)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(1)
+    ->Repetitions(7);
+BENCHMARK(removeOurs)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(7);
+BENCHMARK(removeQFile)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(7);
+BENCHMARK(removeRm)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(7);
 
 qint64 usedHeap()
 {
@@ -207,7 +247,8 @@ void memoryPerItem(benchmark::State &state)
             items.emplaceBack(file.name, file.path, file.size);
         });
         items.squeeze();
-        state.counters["bytes"] = static_cast<double>(usedHeap() - before) / static_cast<double>(items.size());
+        state.counters["bytes"] =
+            static_cast<double>(usedHeap() - before) / static_cast<double>(items.size());
     }
 }
 

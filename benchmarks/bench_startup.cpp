@@ -1,7 +1,8 @@
-// Measures from outside how long a program takes until its first frame is on the screen, and its resident memory then.
+// Measures from outside how long a program takes until its first frame is on the screen, and its
+// resident memory then.
 //
-// Usage: bench_startup PROGRAM ROUNDS, on a display of the size of the program's window. Watches one pixel of the
-// navigation column; prints one line "milliseconds kibibytes" a round.
+// Usage: bench_startup PROGRAM ROUNDS, on a display of the size of the program's window. Watches
+// one pixel of the navigation column; prints one line "milliseconds kibibytes" a round.
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -20,7 +21,8 @@ constexpr int patience = 20'000; // milliseconds
 
 bool isPainted(QScreen *screen)
 {
-    const QColor colour = screen->grabWindow(0, 20, screen->size().height() / 2, 1, 1).toImage().pixelColor(0, 0);
+    const QColor colour =
+        screen->grabWindow(0, 20, screen->size().height() / 2, 1, 1).toImage().pixelColor(0, 0);
     return colour.green() > colour.red() + 60;
 }
 
@@ -55,7 +57,8 @@ int main(int argc, char *argv[])
                 qFatal("no frame appeared");
             QThread::usleep(500);
         }
-        out << timer.nsecsElapsed() / 1'000'000 << ' ' << residentKibibytes(program.processId()) << Qt::endl;
+        out << timer.nsecsElapsed() / 1'000'000 << ' ' << residentKibibytes(program.processId())
+            << Qt::endl;
         program.terminate();
         program.waitForFinished();
         while (isPainted(screen))

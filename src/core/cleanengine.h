@@ -28,7 +28,8 @@ struct CleanFailure {
 ///  worker;
 ///  - failures: the worker while a clean runs, otherwise the GUI thread;
 ///  - worker, run number: the GUI thread;
-///  - ended run: atomic; set by the worker when it is done with the rest, so that whoever has seen it sees all that the run wrote.
+///  - ended run: atomic; set by the worker when it is done with the rest, so that whoever has seen
+///  it sees all that the run wrote.
 ///
 /// Pages bind their widgets to the records inside result(). They take the records through the
 /// non-const accessor once, after scanFinished(), and let go of them when the state becomes

@@ -4,8 +4,9 @@
 #include <QTest>
 #include <QVariantList>
 
-/// Records every emission of a signal, like QSignalSpy, but on the thread on which it was made: signals that a worker
-/// emits arrive through the event loop, so that reading the record is no race.
+/// Records every emission of a signal, like QSignalSpy, but on the thread on which it was made:
+/// signals that a worker emits arrive through the event loop, so that reading the record is no
+/// race.
 class SignalSpy final : public QObject
 {
     Q_DISABLE_COPY_MOVE(SignalSpy)

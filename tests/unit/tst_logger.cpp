@@ -170,7 +170,8 @@ private Q_SLOTS:
             for (int t = 0; t < 4; ++t) {
                 threads.emplace_back([&logger, t] {
                     for (int i = 0; i < 250; ++i)
-                        logger.info(u"thread %1 line %2 end"_s.arg(QString::number(t), QString::number(i)));
+                        logger.info(
+                            u"thread %1 line %2 end"_s.arg(QString::number(t), QString::number(i)));
                 });
             }
         }

@@ -113,7 +113,7 @@ void CategoryWidget::buildHeader()
         auto *risk = new QLabel(risk::text(m_category->riskLevel), m_header);
         risk->setObjectName("categoryRisk"_L1);
         risk->setStyleSheet(risk::style(m_category->riskLevel));
-        layout->addWidget(risk);
+        layout->addWidget(risk, 0, Qt::AlignVCenter);
     }
     layout->addStretch();
 

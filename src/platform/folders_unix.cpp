@@ -38,8 +38,7 @@ bool startsWithDrive(const QString &path)
 
 QString temporaryFolder()
 {
-    return firstSet("TMPDIR", below(wineprefix::userFolder(), u"AppData/Local/Temp"_s),
-                    QDir::tempPath());
+    return firstSet("TMPDIR", wineprefix::temporaryFolder(), QDir::tempPath());
 }
 
 QString localDataFolder()

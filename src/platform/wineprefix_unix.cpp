@@ -1,6 +1,7 @@
 #include "wineprefix_unix.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <pwd.h>
@@ -24,6 +25,27 @@ QString userName()
         return name;
     const passwd *entry = ::getpwuid(::getuid());
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString();
+}
+
+// A text value of the user's environment, from the registry file of the prefix.
+QString environmentValue(QLatin1StringView name)
+{
+    QFile file(folder() + "/user.reg"_L1);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray start = '"' + QByteArray(name.data(), name.size()) + "\"=";
+    bool inSection = false;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        if (line.startsWith('[')) {
+            inSection = line.startsWith("[Environment]");
+        } else if (inSection && line.startsWith(start)) {
+            const qsizetype begin = line.indexOf('"', start.size()) + 1;
+            return QString::fromUtf8(line.mid(begin, line.lastIndexOf('"') - begin))
+                .replace("\\\\"_L1, "\\"_L1);
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -58,6 +80,25 @@ QString userFolder()
     profiles.removeIf(
         [](const QString &name) { return name.compare("Public"_L1, Qt::CaseInsensitive) == 0; });
     return profiles.size() == 1 ? users + u'/' + profiles.constFirst() : QString();
+}
+
+QString temporaryFolder()
+{
+    const QString user = userFolder();
+    if (user.isEmpty())
+        return {};
+    const QString otherwise = matchCase(user, u"AppData/Local/Temp"_s);
+    QString path = environmentValue("TMP"_L1);
+    if (path.isEmpty())
+        path = environmentValue("TEMP"_L1);
+    path.replace("%USERPROFILE%"_L1, user, Qt::CaseInsensitive);
+    path.replace(u'\\', u'/');
+    if (path.startsWith(user))
+        return path;
+    if (path.size() < 3 || path.at(1) != u':' || path.contains(u'%'))
+        return otherwise;
+    const QString top = drive(path.at(0));
+    return top.isEmpty() ? otherwise : matchCase(top, path.mid(2));
 }
 
 QString drive(QChar letter)

@@ -14,6 +14,9 @@ namespace platform::wineprefix {
 /// The user's profile folder on the C: drive; empty without a prefix or when it cannot be told.
 [[nodiscard]] QString userFolder();
 
+/// The temporary folder of the prefix's programs, as its registry names it; empty without a prefix.
+[[nodiscard]] QString temporaryFolder();
+
 /// Where the drive of @p letter leads, without links; empty when the prefix has no such drive.
 [[nodiscard]] QString drive(QChar letter);
 

@@ -56,6 +56,36 @@ private Q_SLOTS:
         QCOMPARE(platform::systemDrive(), drive);
     }
 
+    void thePrefixsRegistryNamesItsTemporaryFolder_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("plain") << QByteArray("\"C:\\\\users\\\\JANE\\\\Temp\"")
+                               << u"DRIVE/users/jane/Temp"_s;
+        QTest::newRow("with a variable") << QByteArray("str(2):\"%USERPROFILE%\\\\AppData\\\\Tmp\"")
+                                         << u"DRIVE/users/jane/AppData/Tmp"_s;
+        QTest::newRow("unknown variable")
+            << QByteArray("\"%FOO%\\\\x\"") << u"DRIVE/users/jane/AppData/Local/Temp"_s;
+        QTest::newRow("missing drive")
+            << QByteArray("\"Q:\\\\x\"") << u"DRIVE/users/jane/AppData/Local/Temp"_s;
+        QTest::newRow("damaged") << QByteArray("\"C") << u"DRIVE/users/jane/AppData/Local/Temp"_s;
+    }
+
+    void thePrefixsRegistryNamesItsTemporaryFolder()
+    {
+        QFETCH(QByteArray, value);
+        QFETCH(QString, expected);
+        const QString drive = makePrefix();
+        QFile registry(m_home.path() + "/prefix/user.reg"_L1);
+        QVERIFY(registry.open(QIODevice::WriteOnly));
+        registry.write("WINE REGISTRY Version 2\n\n[Console] "
+                       "1\n\"TMP\"=\"C:\\\\wrong\"\n\n[Environment] 1700000000\n"
+                       "#time=1da\n\"TMP\"="
+                       + value + "\n");
+        registry.close();
+        QCOMPARE(platform::temporaryFolder(), expected.replace("DRIVE"_L1, drive));
+    }
+
     void theEnvironmentComesFirst()
     {
         makePrefix();

@@ -2,7 +2,6 @@
 
 #include "folders_p.h"
 
-#include <QDir>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -29,7 +28,7 @@ QStringList personalFolders()
 bool isProtectedRoot(const QString &path)
 {
     const QString root = canonicalPath(path);
-    if (root.isEmpty() || QDir(root).isRoot())
+    if (root.isEmpty() || isTop(root))
         return true;
     const auto holds = [](const QString &outer, const QString &inner) {
         return outer.compare(inner, pathCase()) == 0 || inner.startsWith(outer + u'/', pathCase());

@@ -16,6 +16,9 @@ namespace platform {
 /// Folders that are never clutter, with everything below; entries may be empty or missing.
 [[nodiscard]] QStringList protectedTrees();
 
+/// Whether a canonicalPath() is the top of the file system, of a drive, a share or a volume.
+[[nodiscard]] bool isTop(const QString &path);
+
 /// How the file system compares names.
 [[nodiscard]] Qt::CaseSensitivity pathCase();
 

@@ -143,6 +143,11 @@ QString settingsFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
+bool isTop(const QString &path)
+{
+    return path == u'/';
+}
+
 Qt::CaseSensitivity pathCase()
 {
     return Qt::CaseSensitive;

@@ -1,0 +1,310 @@
+#include "fileremove.h"
+
+#include "openentry_windows.h"
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include <windows.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+using Status = FileRemover::Status;
+using Outcome = FileRemover::Outcome;
+
+// FileDispositionInfoEx by its number, which the compiler's headers give to something else.
+constexpr auto immediateDisposition = static_cast<FILE_INFO_BY_HANDLE_CLASS>(21);
+
+Outcome failure(DWORD error, bool wasFolder = false)
+{
+    return {Status::Failed, wasFolder, reasonOf(error)};
+}
+
+/// An entry that was opened for removal, without following it, and found to be the one that its
+/// path names.
+struct OpenedEntry {
+    UniqueHandle handle;
+    DWORD attributes = 0;
+    EntryNature nature = EntryNature::File;
+
+    [[nodiscard]] bool isFolder() const { return nature == EntryNature::Folder; }
+};
+
+/// Removes single entries by handle: what was looked at is what goes, whatever happens meanwhile to
+/// the folders above.
+class EntryRemover
+{
+public:
+    /// On failure the entry has no handle and error() tells why.
+    [[nodiscard]] OpenedEntry open(const QString &extended, DWORD moreAccess = 0)
+    {
+        OpenedEntry entry;
+        UniqueHandle handle =
+            openEntry(extended, DELETE | FILE_READ_ATTRIBUTES | moreAccess, Links::Open);
+        if (!handle.isValid()) {
+            m_error = ::GetLastError();
+            return entry;
+        }
+        switch (m_check.placeOf(handle, extended)) {
+        case PlaceCheck::Place::AsAsked:
+            break;
+        case PlaceCheck::Place::OtherCase:
+            // Names that differ by case alone are two names to some folders: not the one asked for.
+            m_error = ERROR_FILE_NOT_FOUND;
+            return entry;
+        case PlaceCheck::Place::Elsewhere:
+            m_error = linkOnTheWay;
+            return entry;
+        }
+        FILE_ATTRIBUTE_TAG_INFO tag{};
+        if (!::GetFileInformationByHandleEx(handle.get(), FileAttributeTagInfo, &tag, sizeof tag)) {
+            m_error = ::GetLastError();
+            return entry;
+        }
+        entry.attributes = tag.FileAttributes;
+        entry.nature = natureOf(tag.FileAttributes, tag.ReparseTag);
+        entry.handle = std::move(handle);
+        return entry;
+    }
+
+    /// Removes a file, a link or an empty folder; the handle is closed either way.
+    [[nodiscard]] bool remove(OpenedEntry entry)
+    {
+        const bool done = markForDeletion(entry.handle);
+        if (!done)
+            m_error = ::GetLastError();
+        return done;
+    }
+
+    /// The same, with one attempt more for an entry that is read-only.
+    [[nodiscard]] bool removeEvenIfReadOnly(const QString &extended, OpenedEntry entry)
+    {
+        const DWORD attributes = entry.attributes;
+        if (remove(std::move(entry)))
+            return true;
+        const DWORD error = m_error;
+        if (error != ERROR_ACCESS_DENIED || (attributes & FILE_ATTRIBUTE_READONLY) == 0)
+            return false;
+        OpenedEntry again = open(extended, FILE_WRITE_ATTRIBUTES);
+        const bool done = again.handle.isValid() && removeWithoutReadOnly(std::move(again));
+        if (!done)
+            m_error = error;
+        return done;
+    }
+
+    [[nodiscard]] DWORD error() const { return m_error; }
+
+private:
+    bool markForDeletion(const UniqueHandle &handle)
+    {
+        if (m_hasImmediateDeletion) {
+            FILE_DISPOSITION_INFO_EX now{};
+            now.Flags = FILE_DISPOSITION_FLAG_DELETE | FILE_DISPOSITION_FLAG_POSIX_SEMANTICS;
+            if (::SetFileInformationByHandle(handle.get(), immediateDisposition, &now, sizeof now))
+                return true;
+            const DWORD error = ::GetLastError();
+            if (error != ERROR_INVALID_PARAMETER && error != ERROR_INVALID_FUNCTION
+                && error != ERROR_NOT_SUPPORTED)
+                return false;
+            m_hasImmediateDeletion = false;
+        }
+        FILE_DISPOSITION_INFO onClose{};
+        onClose.DeleteFile = TRUE;
+        return ::SetFileInformationByHandle(handle.get(), FileDispositionInfo, &onClose,
+                                            sizeof onClose)
+            != 0;
+    }
+
+    // The attribute belongs to the file, not to the name: with other names left it is not ours.
+    bool removeWithoutReadOnly(OpenedEntry entry)
+    {
+        FILE_STANDARD_INFO standard{};
+        if (!::GetFileInformationByHandleEx(entry.handle.get(), FileStandardInfo, &standard,
+                                            sizeof standard)
+            || standard.NumberOfLinks > 1
+            || !setAttributes(entry.handle, entry.attributes & ~DWORD(FILE_ATTRIBUTE_READONLY)))
+            return false;
+        if (markForDeletion(entry.handle))
+            return true;
+        setAttributes(entry.handle, entry.attributes);
+        return false;
+    }
+
+    static bool setAttributes(const UniqueHandle &handle, DWORD attributes)
+    {
+        FILE_BASIC_INFO basic{}; // a time of 0 is left as it is
+        basic.FileAttributes = attributes == 0 ? FILE_ATTRIBUTE_NORMAL : attributes;
+        return ::SetFileInformationByHandle(handle.get(), FileBasicInfo, &basic, sizeof basic) != 0;
+    }
+
+    PlaceCheck m_check;
+    bool m_hasImmediateDeletion = true;
+    DWORD m_error = ERROR_SUCCESS;
+};
+
+/// Empties and removes one folder, level by level without recursion. Every entry is opened and
+/// looked at before it is removed or entered.
+class FolderRemoval
+{
+public:
+    FolderRemoval(EntryRemover &remover, const QString &top, const std::atomic_bool *stopRequested)
+        : m_remover(remover)
+        , m_top(top)
+        , m_stopRequested(stopRequested)
+    {
+    }
+
+    Outcome run()
+    {
+        enter(m_top);
+        while (!m_levels.empty() && !isStopped()) {
+            Level &level = m_levels.back();
+            if (level.subfolders.empty()) {
+                const QString path = std::move(level.path);
+                m_levels.pop_back();
+                removeEntry(path);
+                continue;
+            }
+            const QString subfolder = level.path + u'\\' + level.subfolders.back();
+            level.subfolders.pop_back();
+            enter(subfolder);
+        }
+        if (isStopped())
+            return failure(ERROR_CANCELLED, true);
+        return m_error == ERROR_SUCCESS ? Outcome{Status::Removed, true, {}}
+                                        : failure(m_error, true);
+    }
+
+private:
+    struct Level {
+        QString path; ///< extended
+        std::vector<QString> subfolders; ///< still to be removed
+    };
+
+    bool isStopped() const { return m_stopRequested && m_stopRequested->load(); }
+
+    void note(DWORD error)
+    {
+        if (m_error == ERROR_SUCCESS)
+            m_error = error;
+    }
+
+    // Removes everything in the folder but its subfolders, and puts it on the stack with those.
+    void enter(const QString &path)
+    {
+        OpenedEntry entry = m_remover.open(path);
+        if (!entry.handle.isValid()) {
+            noteUnlessMissing(m_remover.error());
+            return;
+        }
+        if (!entry.isFolder()) {
+            // It was exchanged for something else since its parent was read: that goes as what it
+            // is.
+            if (!m_remover.removeEvenIfReadOnly(path, std::move(entry)))
+                note(m_remover.error());
+            return;
+        }
+        entry.handle.reset();
+        Level level{path, {}};
+        clear(level);
+        m_levels.push_back(std::move(level));
+    }
+
+    void clear(Level &level)
+    {
+        const QString pattern = level.path + "\\*"_L1;
+        WIN32_FIND_DATAW data{};
+        const HANDLE search =
+            ::FindFirstFileExW(reinterpret_cast<const wchar_t *>(pattern.utf16()), FindExInfoBasic,
+                               &data, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+        if (search == INVALID_HANDLE_VALUE) {
+            noteUnlessMissing(::GetLastError());
+            return;
+        }
+        do {
+            const QString name = QString::fromWCharArray(data.cFileName);
+            if (name == "."_L1 || name == ".."_L1)
+                continue;
+            if (natureOf(data.dwFileAttributes, data.dwReserved0) == EntryNature::Folder)
+                level.subfolders.push_back(name);
+            else
+                removeEntry(level.path + u'\\' + name);
+        } while (!isStopped() && ::FindNextFileW(search, &data));
+        if (const DWORD error = ::GetLastError(); !isStopped() && error != ERROR_NO_MORE_FILES)
+            note(error);
+        ::FindClose(search);
+    }
+
+    // A file, a link, or a folder that has been emptied.
+    void removeEntry(const QString &path)
+    {
+        OpenedEntry entry = m_remover.open(path);
+        if (!entry.handle.isValid())
+            noteUnlessMissing(m_remover.error());
+        else if (!m_remover.removeEvenIfReadOnly(path, std::move(entry)))
+            note(m_remover.error());
+    }
+
+    void noteUnlessMissing(DWORD error)
+    {
+        if (!isMissing(error))
+            note(error);
+    }
+
+    EntryRemover &m_remover;
+    const QString m_top;
+    const std::atomic_bool *const m_stopRequested;
+    std::vector<Level> m_levels;
+    DWORD m_error = ERROR_SUCCESS;
+};
+
+bool isFolderAt(const QString &extended)
+{
+    const DWORD attributes =
+        ::GetFileAttributesW(reinterpret_cast<const wchar_t *>(extended.utf16()));
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0
+        && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+}
+
+} // namespace
+
+class FileRemover::Private
+{
+public:
+    EntryRemover entries;
+};
+
+FileRemover::FileRemover()
+    : d(std::make_unique<Private>())
+{
+}
+
+FileRemover::~FileRemover() = default;
+
+FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
+{
+    const QString extended = extendedPath(path);
+    if (extended.isEmpty() || extended.size() == rootLength(extended))
+        return failure(ERROR_INVALID_NAME);
+
+    OpenedEntry entry = d->entries.open(extended);
+    if (!entry.handle.isValid()) {
+        const DWORD error = d->entries.error();
+        return isMissing(error) ? Outcome{Status::NotFound, false, {}}
+                                : failure(error, isFolderAt(extended));
+    }
+    if (entry.isFolder()) {
+        entry.handle.reset();
+        return FolderRemoval(d->entries, extended, stopRequested).run();
+    }
+    if (!d->entries.remove(std::move(entry)))
+        return failure(d->entries.error());
+    return {Status::Removed, false, {}};
+}
+
+} // namespace platform

@@ -1,6 +1,7 @@
 #include "appinfo.h"
 #include "application.h"
 #include "language.h"
+#include "process.h"
 
 #include <QApplication>
 #include <QFont>
@@ -10,6 +11,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char *argv[])
 {
+    platform::hardenProcess();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);

@@ -1,6 +1,7 @@
 #include "appinfo.h"
 #include "junkcleaner.h"
 #include "logger.h"
+#include "process.h"
 #include "report.h"
 
 #include <QCommandLineParser>
@@ -135,6 +136,7 @@ int run(const QStringList &words, const Options &options)
 
 int main(int argc, char *argv[])
 {
+    platform::hardenProcess();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(appinfo::name);
     QCoreApplication::setApplicationVersion(appinfo::version);

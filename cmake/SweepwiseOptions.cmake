@@ -22,6 +22,9 @@ if(SWEEPWISE_SANITIZE)
     target_compile_options(sweepwise_options INTERFACE
         -fsanitize=${SWEEPWISE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(sweepwise_options INTERFACE -fsanitize=${SWEEPWISE_SANITIZE})
-    # The sanitizers' instrumentation makes GCC's flow analysis see null pointers that are not there.
+endif()
+# The sanitizers' instrumentation, and the cross compiler's optimising, make GCC's flow analysis see null pointers that are not
+# there.
+if(SWEEPWISE_SANITIZE OR MINGW)
     target_compile_options(sweepwise_options INTERFACE -Wno-null-dereference)
 endif()

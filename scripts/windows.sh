@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# Build the Windows programs and all tests, check the programs, and run the tests under Wine in a prefix of their own.
+#
+#   scripts/windows.sh [CTEST_ARGUMENT...]    for instance -R tst_windowsfiles
+set -euo pipefail
+cd "$(dirname "$0")/.."
+# shellcheck source=scripts/packages.sh
+source scripts/packages.sh
+
+need "${build_packages[@]}" "${windows_packages[@]}" "${font_packages[@]}"
+QT_WINDOWS_SDK=$(scripts/windows-sdk.sh)
+export QT_WINDOWS_SDK
+# The native companion scans the same prefix as the Windows one.
+cmake --preset dev > /dev/null
+cmake --build --preset dev --target sweepwise-cli
+cmake --preset windows "-DSWEEPWISE_NATIVE_CLI=$PWD/build/dev/src/cli/sweepwise-cli" > /dev/null
+cmake --build --preset windows
+scripts/check-exe.sh gui build/windows/src/app/sweepwise.exe
+scripts/check-exe.sh console build/windows/src/cli/sweepwise-cli.exe
+
+work=$(mktemp -d)
+export WINEPREFIX=$work/prefix
+clean_up() {
+  wineserver -k 2> /dev/null || true
+  wineserver -w 2> /dev/null || true
+  rm -rf "$work"
+}
+trap clean_up EXIT
+trap 'exit 130' INT TERM
+
+export WINEDEBUG=-all
+# Neither of the two runtimes that a new prefix would offer to download is wanted, nor a display.
+unset DISPLAY WAYLAND_DISPLAY
+mkdir "$WINEPREFIX"
+wineserver -p
+WINEDLLOVERRIDES='mscoree=;mshtml=' wine wineboot -i
+
+# The offscreen platform knows the fonts of one folder and no others.
+mkdir "$work/fonts"
+for font in truetype/noto/NotoSans-Regular.ttf truetype/noto/NotoSans-Bold.ttf opentype/noto/NotoSansCJK-Regular.ttc; do
+  cp "/usr/share/fonts/$font" "$work/fonts/"
+done
+export WINEQT_QPA_FONTDIR="Z:${work//\//\\}\\fonts"
+
+ctest --preset windows "$@"

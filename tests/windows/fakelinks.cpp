@@ -1,0 +1,174 @@
+#include "fakelinks.h"
+
+#include <QDir>
+#include <QHash>
+
+#include <atomic>
+
+#include <windows.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct State {
+    QHash<QString, quint32> tags; // by lower-case name
+    QString junction; // in the system's form, as below
+    QString target;
+    std::atomic_bool junctionActive = false;
+};
+
+State &state()
+{
+    static State instance;
+    return instance;
+}
+
+// The function of the system itself, which the table of imports no longer leads to.
+template<typename Function>
+Function original(const char *name)
+{
+    const FARPROC found = ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), name);
+    if (!found)
+        qFatal("there is no %s", name);
+    return reinterpret_cast<Function>(reinterpret_cast<void *>(found));
+}
+
+QString systemForm(const QString &path)
+{
+    return "\\\\?\\"_L1 + QDir::toNativeSeparators(path);
+}
+
+/// Where @p path leads with the junction on its way; the junction itself leads anywhere only if
+/// it is followed.
+std::wstring redirected(const wchar_t *path, bool follow)
+{
+    const QString asked = QString::fromWCharArray(path);
+    const QString &junction = state().junction;
+    if (!state().junctionActive || junction.isEmpty()
+        || !asked.startsWith(junction, Qt::CaseInsensitive))
+        return path;
+    const QString rest = asked.mid(junction.size());
+    if (rest.isEmpty() ? !follow : !rest.startsWith(u'\\'))
+        return path;
+    return (state().target + rest).toStdWString();
+}
+
+quint32 tagOf(const QString &name)
+{
+    return state().tags.value(name.toLower());
+}
+
+void addTag(WIN32_FIND_DATAW &data)
+{
+    const quint32 tag = tagOf(QString::fromWCharArray(data.cFileName));
+    if (tag == 0)
+        return;
+    data.dwFileAttributes |= FILE_ATTRIBUTE_REPARSE_POINT;
+    data.dwReserved0 = tag;
+}
+
+HANDLE WINAPI findFirst(LPCWSTR pattern, FINDEX_INFO_LEVELS level, LPVOID data,
+                        FINDEX_SEARCH_OPS op, LPVOID filter, DWORD flags)
+{
+    static const auto call = original<decltype(&findFirst)>("FindFirstFileExW");
+    const HANDLE search = call(redirected(pattern, false).c_str(), level, data, op, filter, flags);
+    if (search != INVALID_HANDLE_VALUE)
+        addTag(*static_cast<WIN32_FIND_DATAW *>(data));
+    return search;
+}
+
+BOOL WINAPI findNext(HANDLE search, LPWIN32_FIND_DATAW data)
+{
+    static const auto call = original<decltype(&findNext)>("FindNextFileW");
+    const BOOL found = call(search, data);
+    if (found)
+        addTag(*data);
+    return found;
+}
+
+HANDLE WINAPI createFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                         DWORD disposition, DWORD flags, HANDLE pattern)
+{
+    static const auto call = original<decltype(&createFile)>("CreateFileW");
+    const bool follow = (flags & FILE_FLAG_OPEN_REPARSE_POINT) == 0;
+    return call(redirected(path, follow).c_str(), access, share, security, disposition, flags,
+                pattern);
+}
+
+BOOL WINAPI informationOf(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID info, DWORD size)
+{
+    static const auto call = original<decltype(&informationOf)>("GetFileInformationByHandleEx");
+    const BOOL known = call(handle, kind, info, size);
+    if (!known || kind != FileAttributeTagInfo)
+        return known;
+    wchar_t path[1024];
+    const DWORD length = ::GetFinalPathNameByHandleW(handle, path, 1024, VOLUME_NAME_NONE);
+    if (length == 0 || length >= 1024)
+        return known;
+    const QString name = QString::fromWCharArray(path, int(length)).section(u'\\', -1);
+    if (const quint32 tag = tagOf(name)) {
+        auto *const tagInfo = static_cast<FILE_ATTRIBUTE_TAG_INFO *>(info);
+        tagInfo->FileAttributes |= FILE_ATTRIBUTE_REPARSE_POINT;
+        tagInfo->ReparseTag = tag;
+    }
+    return known;
+}
+
+BOOL WINAPI deleteFile(LPCWSTR path)
+{
+    static const auto call = original<decltype(&deleteFile)>("DeleteFileW");
+    return call(redirected(path, false).c_str());
+}
+
+BOOL WINAPI removeDirectory(LPCWSTR path)
+{
+    static const auto call = original<decltype(&removeDirectory)>("RemoveDirectoryW");
+    return call(redirected(path, false).c_str());
+}
+
+} // namespace
+
+// The entries of the program's table of imports, which the linker takes from here and not from the
+// system's library.
+extern "C" {
+extern decltype(&findFirst) const importedFindFirst asm("__imp_FindFirstFileExW");
+decltype(&findFirst) const importedFindFirst = findFirst;
+extern decltype(&findNext) const importedFindNext asm("__imp_FindNextFileW");
+decltype(&findNext) const importedFindNext = findNext;
+extern decltype(&createFile) const importedCreateFile asm("__imp_CreateFileW");
+decltype(&createFile) const importedCreateFile = createFile;
+extern decltype(&informationOf)
+    const importedInformationOf asm("__imp_GetFileInformationByHandleEx");
+decltype(&informationOf) const importedInformationOf = informationOf;
+extern decltype(&deleteFile) const importedDeleteFile asm("__imp_DeleteFileW");
+decltype(&deleteFile) const importedDeleteFile = deleteFile;
+extern decltype(&removeDirectory) const importedRemoveDirectory asm("__imp_RemoveDirectoryW");
+decltype(&removeDirectory) const importedRemoveDirectory = removeDirectory;
+}
+
+void fakelinks::tag(const QString &name, quint32 reparseTag)
+{
+    state().tags.insert(name.toLower(), reparseTag);
+}
+
+void fakelinks::makeJunction(const QString &path, const QString &target)
+{
+    state().junction = systemForm(path);
+    state().target = systemForm(target);
+    tag(path.section(u'/', -1), IO_REPARSE_TAG_MOUNT_POINT);
+    state().junctionActive = true;
+}
+
+void fakelinks::setJunctionActive(bool active)
+{
+    state().junctionActive = active;
+}
+
+void fakelinks::clear()
+{
+    state().junctionActive = false;
+    state().junction.clear();
+    state().target.clear();
+    state().tags.clear();
+}

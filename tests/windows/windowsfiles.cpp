@@ -1,0 +1,156 @@
+#include "windowsfiles.h"
+
+#include "filewalk.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QThread>
+
+#include <functional>
+
+#include <windows.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using ToUnixName = char *(CDECL *)(const wchar_t *);
+
+// Wine's own; Windows has none.
+ToUnixName toUnixName()
+{
+    const FARPROC found =
+        ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name");
+    return reinterpret_cast<ToUnixName>(reinterpret_cast<void *>(found));
+}
+
+std::wstring exact(const QString &path)
+{
+    return ("\\\\?\\"_L1 + QDir::toNativeSeparators(path)).toStdWString();
+}
+
+// What a path is called below Wine.
+QString pathBelowWine(const QString &path)
+{
+    char *const name = toUnixName()(exact(path).c_str());
+    const QString result = QString::fromUtf8(name);
+    ::HeapFree(::GetProcessHeap(), 0, name);
+    return result;
+}
+
+bool exists(const QString &path)
+{
+    return ::GetFileAttributesW(exact(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+// Judged by what comes of it: Wine knows neither the end nor the exit code of a program below it.
+void runUntil(const std::function<bool()> &done, const QString &program,
+              const QStringList &arguments)
+{
+    if (!QProcess::startDetached(program, arguments))
+        qFatal("cannot run %s", qPrintable(program));
+    for (int tries = 0; tries < 1000; ++tries) {
+        if (done())
+            return;
+        QThread::msleep(10);
+    }
+    qFatal("%s %s did nothing", qPrintable(program), qPrintable(arguments.join(u' ')));
+}
+
+} // namespace
+
+void windowsfiles::setAttributes(const QString &path, quint32 attributes)
+{
+    if (!::SetFileAttributesW(exact(path).c_str(), attributes)
+        || windowsfiles::attributes(path) != attributes)
+        qFatal("cannot set the attributes of %s", qPrintable(path));
+}
+
+quint32 windowsfiles::attributes(const QString &path)
+{
+    // Neither bit tells the entries apart that the tests make.
+    constexpr DWORD ignored = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+    const DWORD found = ::GetFileAttributesW(exact(path).c_str());
+    if (found == INVALID_FILE_ATTRIBUTES)
+        qFatal("there is no %s", qPrintable(path));
+    const DWORD kept = found & ~ignored;
+    return kept == 0 ? quint32(FILE_ATTRIBUTE_NORMAL) : kept;
+}
+
+void windowsfiles::makeFile(const QString &path, const QByteArray &content)
+{
+    const HANDLE file = ::CreateFileW(exact(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    DWORD written = 0;
+    if (file == INVALID_HANDLE_VALUE
+        || !::WriteFile(file, content.constData(), DWORD(content.size()), &written, nullptr)
+        || !::CloseHandle(file))
+        qFatal("cannot make %s", qPrintable(path));
+}
+
+void windowsfiles::makeFolder(const QString &path)
+{
+    if (!::CreateDirectoryW(exact(path).c_str(), nullptr))
+        qFatal("cannot make %s", qPrintable(path));
+}
+
+QByteArray windowsfiles::content(const QString &path)
+{
+    const HANDLE file = ::CreateFileW(exact(path).c_str(), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return {};
+    QByteArray bytes(4096, '\0');
+    DWORD size = 0;
+    if (!::ReadFile(file, bytes.data(), DWORD(bytes.size()), &size, nullptr))
+        qFatal("cannot read %s", qPrintable(path));
+    ::CloseHandle(file);
+    bytes.truncate(size);
+    return bytes;
+}
+
+bool windowsfiles::isWine()
+{
+    return toUnixName() != nullptr;
+}
+
+void windowsfiles::makeFolderLink(const QString &path, const QString &target)
+{
+    const auto done = [&path] { return exists(path); };
+    if (isWine())
+        runUntil(done, u"Z:\\bin\\ln"_s, {u"-s"_s, pathBelowWine(target), pathBelowWine(path)});
+    else
+        runUntil(done, u"cmd"_s,
+                 {u"/c"_s, u"mklink"_s, u"/J"_s, QDir::toNativeSeparators(path),
+                  QDir::toNativeSeparators(target)});
+}
+
+void windowsfiles::removeFolderLink(const QString &path)
+{
+    if (isWine())
+        runUntil([&path] { return !exists(path); }, u"Z:\\bin\\rm"_s, {pathBelowWine(path)});
+    else if (!::RemoveDirectoryW(exact(path).c_str()))
+        qFatal("cannot remove %s", qPrintable(path));
+}
+
+void windowsfiles::makeEmptyFileBelowWine(const QString &folder, const QString &name)
+{
+    runUntil([&] { return walk(folder).contains(name); }, u"Z:\\bin\\cp"_s,
+             {u"/dev/null"_s, pathBelowWine(folder) + u'/' + name});
+}
+
+QStringList windowsfiles::walk(const QString &root)
+{
+    QStringList found;
+    const platform::WalkReport report =
+        platform::walkFiles(root, {}, [&](platform::WalkedFile &&file) {
+            if (!file.path.startsWith(root + u'/') || !file.path.endsWith(u'/' + file.name))
+                qFatal("not a path below the root: %s", qPrintable(file.path));
+            found.append(file.path.mid(root.size() + 1));
+        });
+    for (const platform::WalkFailure &failure : report.failures)
+        qWarning("%s: %s", qPrintable(failure.path), qPrintable(failure.reason));
+    found.sort();
+    return found;
+}

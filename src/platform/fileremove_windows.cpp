@@ -61,13 +61,13 @@ public:
             m_error = linkOnTheWay;
             return entry;
         }
-        FILE_ATTRIBUTE_TAG_INFO tag{};
-        if (!::GetFileInformationByHandleEx(handle.get(), FileAttributeTagInfo, &tag, sizeof tag)) {
+        const std::optional<EntryAttributes> found = attributesOf(handle);
+        if (!found) {
             m_error = ::GetLastError();
             return entry;
         }
-        entry.attributes = tag.FileAttributes;
-        entry.nature = natureOf(tag.FileAttributes, tag.ReparseTag);
+        entry.attributes = found->attributes;
+        entry.nature = found->nature;
         entry.handle = std::move(handle);
         return entry;
     }

@@ -191,14 +191,13 @@ Entry inspect(const QString &path)
         return {isMissing(::GetLastError()) ? EntryKind::Missing : EntryKind::Other, 0};
     if (PlaceCheck().placeOf(entry, extended) == PlaceCheck::Place::Elsewhere)
         return {EntryKind::Link, 0};
-    FILE_ATTRIBUTE_TAG_INFO tag{};
+    const std::optional<EntryAttributes> attributes = attributesOf(entry);
     FILE_STANDARD_INFO standard{};
-    if (::GetFileType(entry.get()) != FILE_TYPE_DISK
-        || !::GetFileInformationByHandleEx(entry.get(), FileAttributeTagInfo, &tag, sizeof tag)
+    if (!attributes || ::GetFileType(entry.get()) != FILE_TYPE_DISK
         || !::GetFileInformationByHandleEx(entry.get(), FileStandardInfo, &standard,
                                            sizeof standard))
         return {EntryKind::Other, 0};
-    switch (natureOf(tag.FileAttributes, tag.ReparseTag)) {
+    switch (attributes->nature) {
     case EntryNature::File:
         return {EntryKind::File, standard.EndOfFile.QuadPart};
     case EntryNature::Folder:

@@ -91,6 +91,20 @@ EntryNature natureOf(quint32 attributes, quint32 reparseTag)
     return isFolder ? EntryNature::Folder : EntryNature::File;
 }
 
+std::optional<EntryAttributes> attributesOf(const UniqueHandle &entry)
+{
+    FILE_ATTRIBUTE_TAG_INFO tagged{};
+    if (::GetFileInformationByHandleEx(entry.get(), FileAttributeTagInfo, &tagged, sizeof tagged))
+        return EntryAttributes{tagged.FileAttributes,
+                               natureOf(tagged.FileAttributes, tagged.ReparseTag)};
+    // File systems that know no reparse points, such as those of memory sticks, refuse the
+    // question.
+    FILE_BASIC_INFO basic{};
+    if (::GetFileInformationByHandleEx(entry.get(), FileBasicInfo, &basic, sizeof basic))
+        return EntryAttributes{basic.FileAttributes, natureOf(basic.FileAttributes, 0)};
+    return {};
+}
+
 QString extendedPath(const QString &path)
 {
     QString native = path;

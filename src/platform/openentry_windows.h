@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <utility>
 
 namespace platform {
@@ -48,6 +49,14 @@ enum class EntryNature {
     Special, ///< a pipe, socket or device of the Linux subsystem
 };
 [[nodiscard]] EntryNature natureOf(quint32 attributes, quint32 reparseTag);
+
+/// What an open entry says of itself.
+struct EntryAttributes {
+    quint32 attributes = 0;
+    EntryNature nature = EntryNature::File;
+};
+/// Nothing on failure, when the thread's last error tells why.
+[[nodiscard]] std::optional<EntryAttributes> attributesOf(const UniqueHandle &entry);
 
 /// @p path in the form that the system takes as it stands: of any length, and with names that end
 /// in a dot or a blank. Empty when the path is not absolute or holds an empty name, "." or "..".

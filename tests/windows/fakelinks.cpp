@@ -16,6 +16,7 @@ struct State {
     QString junction; // in the system's form, as below
     QString target;
     std::atomic_bool junctionActive = false;
+    bool tagsRefused = false;
 };
 
 State &state()
@@ -99,6 +100,10 @@ HANDLE WINAPI createFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATT
 BOOL WINAPI informationOf(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID info, DWORD size)
 {
     static const auto call = original<decltype(&informationOf)>("GetFileInformationByHandleEx");
+    if (state().tagsRefused && kind == FileAttributeTagInfo) {
+        ::SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
     const BOOL known = call(handle, kind, info, size);
     if (!known || kind != FileAttributeTagInfo)
         return known;
@@ -165,8 +170,14 @@ void fakelinks::setJunctionActive(bool active)
     state().junctionActive = active;
 }
 
+void fakelinks::refuseTags()
+{
+    state().tagsRefused = true;
+}
+
 void fakelinks::clear()
 {
+    state().tagsRefused = false;
     state().junctionActive = false;
     state().junction.clear();
     state().target.clear();

@@ -19,6 +19,9 @@ void makeJunction(const QString &path, const QString &target);
 /// A junction that is not active is the plain folder that it was made from.
 void setJunctionActive(bool active);
 
+/// From now on the system tells of no open entry whether it has a tag, as on a memory stick.
+void refuseTags();
+
 /// Back to what is really there.
 void clear();
 

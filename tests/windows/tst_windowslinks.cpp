@@ -95,6 +95,20 @@ private Q_SLOTS:
         QVERIFY(!tree.has(u"folder"_s));
     }
 
+    void aFileSystemWithoutTagsWillDo()
+    {
+        const TestTree tree;
+        const QString file = tree.file(u"folder/sub/file"_s);
+        tree.file(u"folder/other"_s);
+        fakelinks::refuseTags();
+        QCOMPARE(platform::inspect(file).kind, EntryKind::File);
+        QCOMPARE(platform::inspect(tree.path(u"folder"_s)).kind, EntryKind::Folder);
+        QCOMPARE(walk(tree.path()), (QStringList{u"folder/other"_s, u"folder/sub/file"_s}));
+        QCOMPARE(remove(file).status, Status::Removed);
+        QCOMPARE(remove(tree.path(u"folder"_s)).status, Status::Removed);
+        QVERIFY(!tree.has(u"folder"_s));
+    }
+
     void nothingBehindAJunctionIsListed()
     {
         const TestTree outside;

@@ -1,0 +1,42 @@
+#include "drives.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+// Where the system tells of the block device that holds the volume; of a partition the folder above
+// is the whole disk, and only that knows whether it can be taken out.
+QString deviceFolder(const QString &root)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(root).constData(), &status) != 0)
+        return {};
+    const QString link = u"/sys/dev/block/%1:%2"_s.arg(QString::number(major(status.st_dev)),
+                                                       QString::number(minor(status.st_dev)));
+    const QString folder = QFileInfo(link).canonicalFilePath();
+    return QFile::exists(folder + "/partition"_L1) ? QFileInfo(folder).path() : folder;
+}
+
+} // namespace
+
+DriveKind driveKind(const QString &root)
+{
+    const QString folder = deviceFolder(root);
+    if (folder.isEmpty())
+        return DriveKind::Fixed;
+    if (QFileInfo(folder).fileName().startsWith("sr"_L1))
+        return DriveKind::Optical;
+    QFile removable(folder + "/removable"_L1);
+    return removable.open(QIODevice::ReadOnly) && removable.read(1) == "1" ? DriveKind::Removable
+                                                                           : DriveKind::Fixed;
+}
+
+} // namespace platform

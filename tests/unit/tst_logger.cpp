@@ -12,6 +12,10 @@
 #include <thread>
 #include <vector>
 
+#ifdef Q_OS_UNIX
+#include <sys/mount.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -150,6 +154,41 @@ private Q_SLOTS:
         QVERIFY(capture.lines().constFirst().endsWith("[INFO] still heard"_L1));
         QVERIFY(!QFileInfo::exists(logger.fileName()));
     }
+
+#ifdef Q_OS_UNIX
+    void aFullDiskTearsNoLine()
+    {
+        const TestTree tree;
+        const QByteArray disk = QFile::encodeName(tree.folder(u"disk"_s));
+        if (::mount("none", disk.constData(), "tmpfs", 0, "size=64k") != 0)
+            QSKIP("mounting is not allowed here");
+        QString content;
+        qsizetype heard = 0;
+        {
+            Logger logger;
+            logger.init(tree.path(u"disk/logs"_s));
+            logger.info(u"before the disk was full"_s);
+            QFile filler(tree.path(u"disk/filler"_s));
+            if (filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+                while (filler.write(QByteArray(1024, 'x')) > 0) { }
+            }
+            const LogCapture capture;
+            for (int i = 0; i < 200; ++i)
+                logger.info(u"while the disk is full, line %1 end"_s.arg(i));
+            heard = capture.count(u"while the disk is full"_s);
+            filler.remove();
+            logger.info(u"after the disk was full"_s);
+            content = contentOf(logger);
+        }
+        ::umount2(disk.constData(), MNT_DETACH);
+        QCOMPARE(heard, 200);
+        QVERIFY(content.contains("[INFO] before the disk was full\n"_L1));
+        QVERIFY(content.endsWith("[INFO] after the disk was full\n"_L1));
+        const QStringList lines = content.split(u'\n', Qt::SkipEmptyParts).mid(3);
+        for (const QString &line : lines)
+            QVERIFY2(line.startsWith(u'[') && line.count("[INFO]"_L1) == 1, qPrintable(line));
+    }
+#endif
 
     void messagesBeforeTheStartReachTheDebugOutputOnly()
     {

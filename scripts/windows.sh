@@ -13,7 +13,7 @@ export QT_WINDOWS_SDK
 # The native companion scans the same prefix as the Windows one.
 cmake --preset dev > /dev/null
 cmake --build --preset dev --target sweepwise-cli
-cmake --preset windows "-DSWEEPWISE_NATIVE_CLI=$PWD/build/dev/src/cli/sweepwise-cli" > /dev/null
+cmake --preset windows "-DQT_WINDOWS_SDK=$QT_WINDOWS_SDK" "-DSWEEPWISE_NATIVE_CLI=$PWD/build/dev/src/cli/sweepwise-cli" > /dev/null
 cmake --build --preset windows
 scripts/check-exe.sh gui build/windows/src/app/sweepwise.exe
 scripts/check-exe.sh console build/windows/src/cli/sweepwise-cli.exe
@@ -29,6 +29,7 @@ trap clean_up EXIT
 trap 'exit 130' INT TERM
 
 export WINEDEBUG=-all
+unset WINEARCH WINEDLLOVERRIDES
 # Neither of the two runtimes that a new prefix would offer to download is wanted, nor a display.
 unset DISPLAY WAYLAND_DISPLAY
 mkdir "$WINEPREFIX"

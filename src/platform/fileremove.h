@@ -9,11 +9,12 @@ namespace platform {
 
 /// Removes listed files and folders, one at a time and never through a link.
 ///
-/// Every engine deletes through this class and nothing else does. An entry is removed relative to
-/// its folder, which is opened link-free from the top down; entries of one folder that follow each
-/// other share the open folder, so that the care costs nothing. Whatever stands at the path now is
-/// taken as it is: a link goes as a link, a real folder with its contents, but never with what is
-/// mounted below it.
+/// Every engine deletes through this class and nothing else does. On Linux an entry is removed
+/// relative to its folder, which is opened link-free from the top down; entries of one folder that
+/// follow each other share the open folder, so that the care costs nothing. On Windows the entry is
+/// opened without being followed, its final path is compared with the one asked for, and it is
+/// removed through that handle. Whatever stands at the path now is taken as it is: a link goes as a
+/// link, a real folder with its contents, but never with what is mounted below it.
 ///
 /// Lives on one thread. Keep one object for a run and drop it at the end: it holds a folder open.
 class FileRemover final

@@ -44,6 +44,10 @@ public:
     [[nodiscard]] OpenedEntry open(const QString &extended, DWORD moreAccess = 0)
     {
         OpenedEntry entry;
+        if (const QString root = extended.left(rootLength(extended)); root != m_root) {
+            m_root = root;
+            m_hasImmediateDeletion = true; // until this volume says otherwise
+        }
         UniqueHandle handle =
             openEntry(extended, DELETE | FILE_READ_ATTRIBUTES | moreAccess, Links::Open);
         if (!handle.isValid()) {
@@ -143,6 +147,7 @@ private:
     }
 
     PlaceCheck m_check;
+    QString m_root; ///< of the volume that was removed from last
     bool m_hasImmediateDeletion = true;
     DWORD m_error = ERROR_SUCCESS;
 };

@@ -64,6 +64,11 @@ public:
     WalkReport run(const QString &root)
     {
         const QString top = root.endsWith(u'/') ? root.chopped(1) : root;
+        // What is no absolute path must not become one: a bare pattern lists the current drive.
+        if (extendedPath(asRoot(top)).isEmpty()) {
+            addFailure(root, ERROR_INVALID_NAME);
+            return std::move(m_report);
+        }
         if (inspect(asRoot(top)).kind == EntryKind::Link) {
             addFailure(root, linkOnTheWay);
             return std::move(m_report);

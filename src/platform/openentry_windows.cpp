@@ -49,6 +49,16 @@ QStringView withoutTrailingDotsAndBlanks(QStringView name)
     return name;
 }
 
+// Wine reports a name without the dots and blanks at its end, whatever was opened. Of Windows
+// itself the same answer would mean that a server had stripped them, and so had opened another
+// file.
+bool isWine()
+{
+    static const bool answer =
+        ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return answer;
+}
+
 struct Split {
     QStringView folder; ///< with the backslash; empty at the top
     QStringView name;
@@ -234,8 +244,7 @@ PlaceCheck::Place PlaceCheck::placeOf(const UniqueHandle &entry, const QString &
     const Split found = split(QStringView(actual).mid(top.size()));
     if (!isSameText(found.folder, asked.folder, true))
         return Place::Elsewhere;
-    // Wine reports a name without the dots and blanks at its end, whatever was opened.
-    const QStringView stripped = withoutTrailingDotsAndBlanks(asked.name);
+    const QStringView stripped = isWine() ? withoutTrailingDotsAndBlanks(asked.name) : asked.name;
     if (found.name == asked.name || found.name == stripped)
         return Place::AsAsked;
     return isSameText(found.name, asked.name, true) || isSameText(found.name, stripped, true)

@@ -12,15 +12,18 @@ import sys
 
 native_cli, windows_cli = sys.argv[1:3]
 drive = pathlib.Path(os.environ["WINEPREFIX"]).resolve() / "drive_c"
-user = drive / "users" / os.environ.get("USER", "root")
+
+
+def folder(variable):
+    """Where the prefix's own programs have it."""
+    command = ["wine", "cmd", "/c", f"echo %{variable}%"]
+    answer = subprocess.run(command, check=True, capture_output=True, text=True).stdout.strip()
+    return drive / answer[3:].replace("\\", "/")
+
+
+user = folder("USERPROFILE")
 local = user / "AppData" / "Local"
 windows = drive / "windows"
-
-
-def temporary_folder():
-    """Where the prefix's own programs have it."""
-    answer = subprocess.run(["wine", "cmd", "/c", "echo %TEMP%"], check=True, capture_output=True, text=True).stdout.strip()
-    return drive / answer[3:].replace("\\", "/")
 
 
 
@@ -30,7 +33,7 @@ def fill():
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_bytes(b"x" * size)
 
-    temp = temporary_folder()
+    temp = folder("TEMP")
     names = ["plain.tmp", "with blank.tmp", "ümlaut.tmp", "文件.tmp", "🧹.tmp", "UPPER.TMP", "no ending", "%1.tmp", "a" * 120]
     for i, name in enumerate(names):
         write(temp / "sub folder" / name, i * 100)

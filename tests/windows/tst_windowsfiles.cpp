@@ -76,6 +76,24 @@ class TestWindowsFiles : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void aRootThatIsNoAbsolutePathIsNotWalked_data()
+    {
+        QTest::addColumn<QString>("root");
+        for (const QString &root :
+             {u""_s, u"relative"_s, u"/a"_s, u"C:/a/../b"_s, u"C:/a//b"_s, u"C:a"_s})
+            QTest::addRow("root: %s", qPrintable(root)) << root;
+    }
+
+    void aRootThatIsNoAbsolutePathIsNotWalked()
+    {
+        QFETCH(QString, root);
+        qsizetype found = 0;
+        const platform::WalkReport report = platform::walkFiles(
+            root, {{}, false, nullptr}, [&found](platform::WalkedFile &&) { ++found; });
+        QCOMPARE(found, 0);
+        QCOMPARE(report.failureCount, 1);
+    }
+
     void pathsTakeTheFormThatTheSystemLeavesAlone_data()
     {
         QTest::addColumn<QString>("path");

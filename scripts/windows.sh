@@ -33,8 +33,10 @@ unset WINEARCH WINEDLLOVERRIDES
 # Neither of the two runtimes that a new prefix would offer to download is wanted, nor a display.
 unset DISPLAY WAYLAND_DISPLAY
 mkdir "$WINEPREFIX"
-wineserver -p
 WINEDLLOVERRIDES='mscoree=;mshtml=' wine wineboot -i
+# The server keeps a registry in memory for a while; only its end is sure to write the files that the native programs read.
+wineserver -w
+wineserver -p
 
 # The offscreen platform knows the fonts of one folder and no others.
 mkdir "$work/fonts"

@@ -9,15 +9,24 @@ import os
 import pathlib
 import subprocess
 import sys
+import tempfile
 
 native_cli, windows_cli = sys.argv[1:3]
 drive = pathlib.Path(os.environ["WINEPREFIX"]).resolve() / "drive_c"
 
 
+def output_of(command, environment=None):
+    """Through a file: a pipe would stay open for as long as the services that the first program of a prefix starts."""
+    with tempfile.TemporaryFile() as output:
+        subprocess.run(command, check=True, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.DEVNULL,
+                       env=environment)
+        output.seek(0)
+        return output.read().decode()
+
+
 def folder(variable):
     """Where the prefix's own programs have it."""
-    command = ["wine", "cmd", "/c", f"echo %{variable}%"]
-    answer = subprocess.run(command, check=True, capture_output=True, text=True).stdout.strip()
+    answer = output_of(["wine", "cmd", "/c", f"echo %{variable}%"]).strip()
     return drive / answer[3:].replace("\\", "/")
 
 
@@ -61,9 +70,7 @@ def fill():
 
 
 def scan(command, environment):
-    output = subprocess.run(command + ["scan", "junk", "--json", "--items"], check=True, capture_output=True,
-                            env=environment).stdout
-    return json.loads(output)
+    return json.loads(output_of(command + ["scan", "junk", "--json", "--items"], environment))
 
 
 def items(result, translate):

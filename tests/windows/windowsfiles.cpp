@@ -134,6 +134,11 @@ void windowsfiles::removeFolderLink(const QString &path)
         qFatal("cannot remove %s", qPrintable(path));
 }
 
+void windowsfiles::removeTreeBelowWine(const QString &path)
+{
+    runUntil([&path] { return !exists(path); }, u"Z:\\bin\\rm"_s, {u"-r"_s, pathBelowWine(path)});
+}
+
 void windowsfiles::makeEmptyFileBelowWine(const QString &folder, const QString &name)
 {
     runUntil([&] { return walk(folder).contains(name); }, u"Z:\\bin\\cp"_s,

@@ -21,6 +21,8 @@ void makeFolder(const QString &path);
 /// Makes a real link to a folder: a junction, under Wine a link of the file system below.
 void makeFolderLink(const QString &path, const QString &target);
 void removeFolderLink(const QString &path);
+/// Removes a folder with all that is in it past Wine, for names that Wine cannot tell apart.
+void removeTreeBelowWine(const QString &path);
 /// Makes a file past Wine, which would take a name that differs in case for the one that is there.
 void makeEmptyFileBelowWine(const QString &folder, const QString &name);
 

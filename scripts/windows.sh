@@ -37,6 +37,8 @@ WINEDLLOVERRIDES='mscoree=;mshtml=' wine wineboot -i
 # The server keeps a registry in memory for a while; only its end is sure to write the files that the native programs read.
 wineserver -w
 wineserver -p
+# The first program starts the services, which keep its output open: it must not be a test whose output is waited for.
+wine cmd /c exit < /dev/null > /dev/null 2>&1
 
 # The offscreen platform knows the fonts of one folder and no others.
 mkdir "$work/fonts"

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isHarmless(QChar c)
@@ -25,4 +27,11 @@ QString singleLine(const QString &text)
         line.begin(), line.end(), [](QChar c) { return !isHarmless(c); },
         QChar(QChar::ReplacementCharacter));
     return line;
+}
+
+QString shortPath(const QString &path, qsizetype head, qsizetype tail)
+{
+    const auto dots = "..."_L1;
+    return path.size() > head + dots.size() + tail ? path.first(head) + dots + path.last(tail)
+                                                   : path;
 }

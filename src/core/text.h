@@ -7,3 +7,7 @@
 /// in a log, a label or a terminal they must not be able to start a line of their own or to show as
 /// another name.
 [[nodiscard]] QString singleLine(const QString &text);
+
+/// @p path for a narrow place: when it is longer than what is left, of it the first @p head and the
+/// last @p tail characters with dots between.
+[[nodiscard]] QString shortPath(const QString &path, qsizetype head, qsizetype tail);

@@ -1,5 +1,8 @@
 #include "wineprefix_unix.h"
 
+#include "registry_p.h"
+#include "registryfile_unix.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -28,24 +31,15 @@ QString userName()
 }
 
 // A text value of the user's environment, from the registry file of the prefix.
-QString environmentValue(QLatin1StringView name)
+QString environmentValue(const QString &name)
 {
     QFile file(folder() + "/user.reg"_L1);
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    const QByteArray start = '"' + QByteArray(name.data(), name.size()) + "\"=";
-    bool inSection = false;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine().trimmed();
-        if (line.startsWith('[')) {
-            inSection = line.startsWith("[Environment]");
-        } else if (inSection && line.startsWith(start)) {
-            const qsizetype begin = line.indexOf('"', start.size()) + 1;
-            return QString::fromUtf8(line.mid(begin, line.lastIndexOf('"') - begin))
-                .replace("\\\\"_L1, "\\"_L1);
-        }
-    }
-    return {};
+    const std::optional<RegistryFile> registry = RegistryFile::parse(file.readAll());
+    const RegistryFile::Key key = registry ? registry->find(u"Environment"_s) : RegistryFile::none;
+    const auto value = key == RegistryFile::none ? std::nullopt : registry->value(key, name);
+    return value ? registryText(*value) : QString();
 }
 
 } // namespace
@@ -88,9 +82,9 @@ QString temporaryFolder()
     if (user.isEmpty())
         return {};
     const QString otherwise = matchCase(user, u"AppData/Local/Temp"_s);
-    QString path = environmentValue("TMP"_L1);
+    QString path = environmentValue(u"TMP"_s);
     if (path.isEmpty())
-        path = environmentValue("TEMP"_L1);
+        path = environmentValue(u"TEMP"_s);
     path.replace("%USERPROFILE%"_L1, user, Qt::CaseInsensitive);
     path.replace(u'\\', u'/');
     if (path.startsWith(user))

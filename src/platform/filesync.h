@@ -1,0 +1,13 @@
+#pragma once
+
+class QByteArray;
+class QFileDevice;
+class QString;
+
+namespace platform {
+
+/// Writes @p bytes to the open @p file and waits until they are on the disk. If that fails, @p
+/// error says why.
+[[nodiscard]] bool writeToDisk(QFileDevice &file, const QByteArray &bytes, QString &error);
+
+} // namespace platform

@@ -1,0 +1,40 @@
+#include "registry_p.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace platform {
+
+bool Registry::isKeyPath(const QString &key)
+{
+    const QStringList names = key.split(u'\\');
+    return std::none_of(names.begin(), names.end(),
+                        [](const QString &name) { return name.isEmpty(); });
+}
+
+QString registryText(const RegistryValue &value)
+{
+    switch (value.type) {
+    case RegistryText:
+    case RegistryExpandText: {
+        QString text(value.data.size() / 2, Qt::Uninitialized);
+        qFromLittleEndian<char16_t>(value.data.constData(), text.size(),
+                                    reinterpret_cast<char16_t *>(text.data()));
+        const qsizetype end = text.indexOf(QChar(u'\0'));
+        return end < 0 ? text : text.first(end);
+    }
+    case RegistryDword:
+        return value.data.size() < 4
+            ? QString()
+            : QString::number(qFromLittleEndian<quint32>(value.data.constData()));
+    case RegistryQword:
+        return value.data.size() < 8
+            ? QString()
+            : QString::number(qFromLittleEndian<quint64>(value.data.constData()));
+    default:
+        return {};
+    }
+}
+
+} // namespace platform

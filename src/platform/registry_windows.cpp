@@ -1,0 +1,266 @@
+#include "registry_p.h"
+
+#include <windows.h>
+
+#include <array>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+HKEY rootOf(Hive hive)
+{
+    switch (hive) {
+    case Hive::LocalMachine:
+        return HKEY_LOCAL_MACHINE;
+    case Hive::CurrentUser:
+        return HKEY_CURRENT_USER;
+    case Hive::ClassesRoot:
+        break;
+    }
+    return HKEY_CLASSES_ROOT;
+}
+
+const wchar_t *wide(const QString &text)
+{
+    return reinterpret_cast<const wchar_t *>(text.utf16());
+}
+
+constexpr qsizetype longestValueName = 16384; ///< characters, its NUL included
+constexpr qsizetype longestKeyName = 256;
+
+// A handle that closes itself; opens nothing when the key cannot be had with that access.
+class OpenKey final
+{
+    Q_DISABLE_COPY_MOVE(OpenKey)
+public:
+    OpenKey(Hive hive, const QString &key, REGSAM access, DWORD options = 0)
+    {
+        // A name ends at a NUL for the system: it would be another key.
+        status = key.contains(QChar(u'\0'))
+            ? ERROR_INVALID_NAME
+            : ::RegOpenKeyExW(rootOf(hive), wide(key), options, access, &handle);
+    }
+    ~OpenKey()
+    {
+        if (handle)
+            ::RegCloseKey(handle);
+    }
+    [[nodiscard]] explicit operator bool() const { return handle; }
+
+    HKEY handle = nullptr;
+    LSTATUS status = ERROR_SUCCESS;
+};
+
+// One call of an enumeration, with the data or without; the value's name and type go to value.
+LSTATUS enumerate(HKEY key, DWORD index, std::vector<wchar_t> &name, std::vector<BYTE> *data,
+                  RegistryValue &value)
+{
+    auto nameLength = static_cast<DWORD>(name.size());
+    DWORD dataSize = data ? static_cast<DWORD>(data->size()) : 0;
+    DWORD type = 0;
+    const LSTATUS status =
+        ::RegEnumValueW(key, index, name.data(), &nameLength, nullptr, &type,
+                        data ? data->data() : nullptr, data ? &dataSize : nullptr);
+    if (status == ERROR_SUCCESS) {
+        value.name = QString::fromWCharArray(name.data(), static_cast<qsizetype>(nameLength));
+        value.type = type;
+        if (data)
+            value.data = QByteArray(reinterpret_cast<const char *>(data->data()),
+                                    static_cast<qsizetype>(dataSize));
+    }
+    return status;
+}
+
+// Whether nothing comes after that; one value that cannot be read is passed over.
+bool isEnd(LSTATUS status)
+{
+    return status != ERROR_MORE_DATA && status != ERROR_ACCESS_DENIED;
+}
+
+// A link would be followed by every call that does not say otherwise.
+bool isLink(Hive hive, const QString &key)
+{
+    const OpenKey open(hive, key, KEY_QUERY_VALUE, REG_OPTION_OPEN_LINK);
+    DWORD type = REG_NONE;
+    return open
+        && ::RegQueryValueExW(open.handle, L"SymbolicLinkValue", nullptr, &type, nullptr, nullptr)
+        == ERROR_SUCCESS
+        && type == REG_LINK;
+}
+
+} // namespace
+
+class Registry::Private
+{
+public:
+    bool result(LSTATUS status)
+    {
+        if (status != ERROR_SUCCESS)
+            error = qt_error_string(static_cast<int>(status));
+        return status == ERROR_SUCCESS;
+    }
+    // What must never reach the system as the path of a key to change.
+    bool isAllowed(Hive hive, const QString &key)
+    {
+        if (!Registry::isKeyPath(key) || key.contains(QChar(u'\0')))
+            return result(ERROR_INVALID_NAME);
+        return !isLink(hive, key) || result(ERROR_ACCESS_DENIED);
+    }
+
+    QString error;
+};
+
+Registry::Registry()
+    : d(std::make_unique<Private>())
+{
+}
+
+Registry::~Registry() = default;
+Registry::Registry(Registry &&other) noexcept = default;
+Registry &Registry::operator=(Registry &&other) noexcept = default;
+
+bool Registry::hasKey(Hive hive, const QString &key) const
+{
+    return bool(OpenKey(hive, key, KEY_READ));
+}
+
+QStringList Registry::subkeys(Hive hive, const QString &key) const
+{
+    QStringList names;
+    const OpenKey open(hive, key, KEY_READ);
+    if (!open)
+        return names;
+    std::array<wchar_t, longestKeyName> name{};
+    for (DWORD index = 0;; ++index) {
+        auto length = static_cast<DWORD>(name.size());
+        if (::RegEnumKeyExW(open.handle, index, name.data(), &length, nullptr, nullptr, nullptr,
+                            nullptr)
+            != ERROR_SUCCESS)
+            return names;
+        names.append(QString::fromWCharArray(name.data(), static_cast<qsizetype>(length)));
+    }
+}
+
+QStringList Registry::valueNames(Hive hive, const QString &key) const
+{
+    QStringList names;
+    const OpenKey open(hive, key, KEY_READ);
+    if (!open)
+        return names;
+    std::vector<wchar_t> name(longestValueName);
+    for (DWORD index = 0;; ++index) {
+        RegistryValue value;
+        const LSTATUS status = enumerate(open.handle, index, name, nullptr, value);
+        if (status == ERROR_SUCCESS)
+            names.append(value.name);
+        else if (isEnd(status))
+            return names;
+    }
+}
+
+QString Registry::text(Hive hive, const QString &key, const QString &name) const
+{
+    const std::optional<RegistryValue> found = value(hive, key, name);
+    return found ? registryText(*found) : QString();
+}
+
+std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
+                                             const QString &name) const
+{
+    const OpenKey open(hive, key, KEY_READ);
+    if (!open || name.contains(QChar(u'\0')))
+        return std::nullopt;
+    RegistryValue value{name, RegistryNone, {}};
+    DWORD type = 0;
+    DWORD size = 0;
+    LSTATUS status = ::RegQueryValueExW(open.handle, wide(name), nullptr, &type, nullptr, &size);
+    if (status != ERROR_SUCCESS)
+        return std::nullopt;
+    value.data.fill('\0', static_cast<qsizetype>(size));
+    status = ::RegQueryValueExW(open.handle, wide(name), nullptr, &type,
+                                reinterpret_cast<BYTE *>(value.data.data()), &size);
+    if (status != ERROR_SUCCESS) // it may have grown since it was measured
+        return std::nullopt;
+    value.data.truncate(static_cast<qsizetype>(size));
+    value.type = type;
+    return value;
+}
+
+std::optional<QList<RegistryValue>> Registry::values(Hive hive, const QString &key,
+                                                     qsizetype maximumSize) const
+{
+    const OpenKey open(hive, key, KEY_READ);
+    if (!open)
+        return std::nullopt;
+    QList<RegistryValue> all;
+    std::vector<wchar_t> name(longestValueName);
+    std::vector<BYTE> data(static_cast<size_t>(maximumSize));
+    for (DWORD index = 0;; ++index) {
+        RegistryValue value;
+        const LSTATUS status = enumerate(open.handle, index, name, &data, value);
+        if (status == ERROR_SUCCESS)
+            all.append(value);
+        else if (isEnd(status))
+            return all;
+    }
+}
+
+bool Registry::deleteTree(Hive hive, const QString &key)
+{
+    return d->isAllowed(hive, key) && d->result(::RegDeleteTreeW(rootOf(hive), wide(key)));
+}
+
+bool Registry::deleteKey(Hive hive, const QString &key)
+{
+    return d->isAllowed(hive, key) && d->result(::RegDeleteKeyW(rootOf(hive), wide(key)));
+}
+
+bool Registry::deleteValue(Hive hive, const QString &key, const QString &name)
+{
+    if (!d->isAllowed(hive, key))
+        return false;
+    if (name.contains(QChar(u'\0')))
+        return d->result(ERROR_INVALID_NAME);
+    const OpenKey open(hive, key, KEY_SET_VALUE);
+    return d->result(open ? ::RegDeleteValueW(open.handle, wide(name)) : open.status);
+}
+
+bool Registry::createKey(Hive hive, const QString &key)
+{
+    if (!d->isAllowed(hive, key))
+        return false;
+    HKEY handle = nullptr;
+    const LSTATUS status = ::RegCreateKeyExW(rootOf(hive), wide(key), 0, nullptr, 0, KEY_READ,
+                                             nullptr, &handle, nullptr);
+    if (status == ERROR_SUCCESS)
+        ::RegCloseKey(handle);
+    return d->result(status);
+}
+
+bool Registry::setValue(Hive hive, const QString &key, const RegistryValue &value)
+{
+    if (!d->isAllowed(hive, key))
+        return false;
+    if (value.name.contains(QChar(u'\0')))
+        return d->result(ERROR_INVALID_NAME);
+    const OpenKey open(hive, key, KEY_SET_VALUE);
+    if (!open)
+        return d->result(open.status);
+    return d->result(::RegSetValueExW(open.handle, wide(value.name), 0, value.type,
+                                      reinterpret_cast<const BYTE *>(value.data.constData()),
+                                      static_cast<DWORD>(value.data.size())));
+}
+
+bool Registry::save()
+{
+    return true;
+}
+
+QString Registry::errorString() const
+{
+    return d->error;
+}
+
+} // namespace platform

@@ -1,0 +1,89 @@
+#include "registrysettings.h"
+
+#include <QCoreApplication>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace platform::registrysettings {
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(platform::Registry)
+};
+
+bool fail(QString &error, const QString &reason)
+{
+    error = reason;
+    return false;
+}
+
+QString rootPath(Hive hive, const QString &key)
+{
+    const QString root = hive == Hive::LocalMachine ? u"HKEY_LOCAL_MACHINE\\"_s
+        : hive == Hive::CurrentUser                 ? u"HKEY_CURRENT_USER\\"_s
+                                                    : u"HKEY_CLASSES_ROOT\\"_s;
+    return root + key;
+}
+
+// The settings class splits a name at slashes and turns backslashes into them: a slash is written
+// as the one that it turns, and a name with a backslash cannot be written at all. Two names mean
+// the key's default value to it, and texts that begin with "@" something else than themselves.
+bool canBeWritten(const QString &name, const QString &text)
+{
+    return !name.contains(u'\\') && name != "."_L1
+        && name.compare("Default"_L1, Qt::CaseInsensitive) != 0 && !text.startsWith(u'@');
+}
+
+QString escapedName(QString name)
+{
+    return name.replace(u'/', u'\\');
+}
+
+} // namespace
+
+bool setText(Hive hive, const QString &key, const QString &name, const QString &text,
+             QString &error)
+{
+    if (name.isEmpty())
+        return fail(error, Text::tr("A value without a name is not written"));
+    if (name.contains(QChar(u'\0')) || text.contains(QChar(u'\0')))
+        return fail(error, Text::tr("The name or the text cannot be stored as it is"));
+    Registry registry;
+    if (!registry.createKey(hive, key)) {
+        error = registry.errorString();
+        return false;
+    }
+    bool isTaken = false;
+    if (canBeWritten(name, text)) {
+        QSettings settings(rootPath(hive, key), QSettings::NativeFormat);
+        settings.setFallbacksEnabled(false);
+        settings.setValue(escapedName(name), text);
+        settings.sync();
+        isTaken = settings.status() == QSettings::NoError;
+    } else {
+        const QByteArray data(reinterpret_cast<const char *>(text.utf16()), (text.size() + 1) * 2);
+        isTaken = registry.setValue(hive, key, {name, RegistryText, data});
+    }
+    const std::optional<RegistryValue> stored = registry.value(hive, key, name);
+    if (!isTaken || !stored || stored->type != RegistryText
+        || registry.text(hive, key, name) != text)
+        return fail(error, Text::tr("The registry did not take the value"));
+    return true;
+}
+
+bool remove(Hive hive, const QString &key, const QString &name, QString &error)
+{
+    if (name.isEmpty())
+        return fail(error, Text::tr("A value without a name is not written"));
+    Registry registry;
+    if (!registry.value(hive, key, name))
+        return true;
+    // Not by the settings class: it would also remove a key of the same name with all below it.
+    registry.deleteValue(hive, key, name);
+    return !registry.value(hive, key, name)
+        || fail(error, Text::tr("The registry did not let go of the value"));
+}
+
+} // namespace platform::registrysettings

@@ -42,6 +42,10 @@ public:
     [[nodiscard]] Outcome remove(const QString &path,
                                  const std::atomic_bool *stopRequested = nullptr);
 
+    /// Removes the file or link at the absolute @p path; a real folder that stands there stays and
+    /// is a failure.
+    [[nodiscard]] Outcome removeFile(const QString &path);
+
 private:
     class Private;
     const std::unique_ptr<Private> d;

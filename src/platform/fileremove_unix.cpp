@@ -243,7 +243,7 @@ FileRemover::FileRemover()
 
 FileRemover::~FileRemover() = default;
 
-FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
+FileRemover::Outcome FileRemover::removeFile(const QString &path)
 {
     const SplitPath split = splitPath(path);
     if (split.name.isEmpty())
@@ -265,9 +265,15 @@ FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_
     }
     if (error == ENOENT)
         return {Status::NotFound, false, {}};
-    if (isFolderAt(d->fd.get(), split.name.constData()))
-        return FolderRemoval(d->fd.get(), split.name, stopRequested).run();
-    return failure(error);
+    return failure(error, isFolderAt(d->fd.get(), split.name.constData()));
+}
+
+FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
+{
+    const Outcome outcome = removeFile(path);
+    if (!outcome.wasFolder)
+        return outcome;
+    return FolderRemoval(d->fd.get(), splitPath(path).name, stopRequested).run();
 }
 
 } // namespace platform

@@ -281,7 +281,33 @@ bool isFolderAt(const QString &extended)
 class FileRemover::Private
 {
 public:
-    EntryRemover entries;
+    enum class Folders { Leave, Remove };
+
+    Outcome remove(const QString &path, Folders folders, const std::atomic_bool *stopRequested)
+    {
+        const QString extended = extendedPath(path);
+        if (extended.isEmpty() || extended.size() == rootLength(extended))
+            return failure(ERROR_INVALID_NAME);
+
+        OpenedEntry entry = m_entries.open(extended);
+        if (!entry.handle.isValid()) {
+            const DWORD error = m_entries.error();
+            return isMissing(error) ? Outcome{Status::NotFound, false, {}}
+                                    : failure(error, isFolderAt(extended));
+        }
+        if (entry.isFolder()) {
+            if (folders == Folders::Leave)
+                return failure(ERROR_ACCESS_DENIED, true);
+            entry.handle.reset();
+            return FolderRemoval(m_entries, extended, stopRequested).run();
+        }
+        if (!m_entries.remove(std::move(entry)))
+            return failure(m_entries.error());
+        return {Status::Removed, false, {}};
+    }
+
+private:
+    EntryRemover m_entries;
 };
 
 FileRemover::FileRemover()
@@ -293,23 +319,12 @@ FileRemover::~FileRemover() = default;
 
 FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
 {
-    const QString extended = extendedPath(path);
-    if (extended.isEmpty() || extended.size() == rootLength(extended))
-        return failure(ERROR_INVALID_NAME);
+    return d->remove(path, Private::Folders::Remove, stopRequested);
+}
 
-    OpenedEntry entry = d->entries.open(extended);
-    if (!entry.handle.isValid()) {
-        const DWORD error = d->entries.error();
-        return isMissing(error) ? Outcome{Status::NotFound, false, {}}
-                                : failure(error, isFolderAt(extended));
-    }
-    if (entry.isFolder()) {
-        entry.handle.reset();
-        return FolderRemoval(d->entries, extended, stopRequested).run();
-    }
-    if (!d->entries.remove(std::move(entry)))
-        return failure(d->entries.error());
-    return {Status::Removed, false, {}};
+FileRemover::Outcome FileRemover::removeFile(const QString &path)
+{
+    return d->remove(path, Private::Folders::Leave, nullptr);
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAnyStringView>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -33,10 +34,21 @@ struct WalkedFile {
     qint64 size = 0; ///< bytes; for a link to a file the size of its target
 };
 
+/// How far a walk goes.
+enum class Reach {
+    /// Stays on the device of the root and behind no link. The root leads through no link either.
+    OwnDevice,
+    /// Also enters links to folders and what is mounted below the root, and takes the root as it
+    /// comes. Each real folder is walked once, by its own path where it has one below the root; a
+    /// file system that shows the kernel's state as files is entered as the root alone.
+    Everywhere,
+};
+
 struct WalkOptions {
     QStringList nameFilters; ///< wildcards, ignoring case; an empty list takes every file
     bool recursive = true; ///< also walk the folders below
     const std::atomic_bool *stopRequested = nullptr; ///< looked at before every entry
+    Reach reach = Reach::OwnDevice;
 };
 
 struct WalkFailure {
@@ -44,13 +56,20 @@ struct WalkFailure {
     QString reason;
 };
 
-/// What could not be walked. A walk never gives up for one folder.
+/// A folder that was entered under another path than its own.
+struct FollowedLink {
+    QString path; ///< as the files below it are listed
+    QString target; ///< the same folder, link-free
+};
+
+/// What could not be walked, and what was followed. A walk never gives up for one folder.
 struct WalkReport {
     static constexpr int maximumFailures =
         20; ///< a tree full of closed doors must not fill the memory
 
     QList<WalkFailure> failures; ///< the first unreadable folders
     qint64 failureCount = 0; ///< all of them
+    QList<FollowedLink> followed; ///< on Windows none: files are listed below the link's target
 };
 
 using FileVisitor = std::function<void(WalkedFile &&file)>;
@@ -61,8 +80,41 @@ using FileVisitor = std::function<void(WalkedFile &&file)>;
 /// trusts. What comes out equals QDirIterator's QDir::Files listing: neither hidden entries (on
 /// Windows: nor system ones) nor what lies in hidden folders, no pipes, sockets, devices or
 /// undecodable names, links to folders not entered, links to files listed. In addition a walk never
-/// leaves the device of its root. Files of one folder arrive together, before those of its
-/// subfolders; the order is otherwise the file system's.
+/// leaves the device of its root, unless the options say otherwise. Files of one folder arrive
+/// together, before those of its subfolders; the order is otherwise the file system's.
 WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit);
+
+/// A file as a walk meets it. No string is built for it: most are looked at and passed over.
+struct MetFile {
+    QAnyStringView name; ///< without its folder; valid until the visitor returns
+    qint64 size = 0; ///< bytes; for a link to a file the size of its target
+    qint64 modified = 0; ///< milliseconds since 1970, UTC; of the target for a link
+};
+
+/// Receives what one walker meets, on the thread of that walker.
+class TreeVisitor
+{
+    Q_DISABLE_COPY_MOVE(TreeVisitor)
+public:
+    TreeVisitor() = default;
+    virtual ~TreeVisitor() = default;
+
+    enum class Wanted {
+        SizesAndTimes,
+        Names, ///< size and time of the folder's files stay 0, which saves asking for them
+    };
+    /// The files that are met next lie in this folder.
+    [[nodiscard]] virtual Wanted enterFolder(const QString &path) = 0;
+    virtual void meetFile(const MetFile &file) = 0;
+};
+
+/// Walks as walkFiles() does, with one walker for each of @p visitors: the first on this thread,
+/// every other on one of its own. With several walkers files of one folder still go to one visitor,
+/// one after the other, but the order of folders is free. Returns when all of them are done.
+WalkReport walkTree(const QString &root, const WalkOptions &options,
+                    const QList<TreeVisitor *> &visitors);
+
+/// The path of the entry @p name of a folder.
+[[nodiscard]] QString joinedPath(const QString &folder, const QString &name);
 
 } // namespace platform

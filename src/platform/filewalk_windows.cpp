@@ -1,10 +1,15 @@
-#include "filewalk.h"
+#include "filewalk_p.h"
 
+#include "foldersearch_windows.h"
 #include "namefilter.h"
 #include "openentry_windows.h"
 
-#include <algorithm>
+#include <QSet>
+
+#include <atomic>
+#include <memory>
 #include <optional>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -16,172 +21,281 @@ namespace platform {
 
 namespace {
 
-qint64 sizeOf(DWORD high, DWORD low)
+constexpr DWORD hiddenOrSystem = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+
+// The system counts in steps of 100 nanoseconds from 1601 on.
+qint64 millisecondsSince1970(qint64 fileTime)
 {
-    return static_cast<qint64>((static_cast<quint64>(high) << 32) | low);
+    return (fileTime - 116'444'736'000'000'000) / 10'000;
 }
 
-/// Owns a search for the entries of a folder.
-class FolderSearch
-{
-    Q_DISABLE_COPY_MOVE(FolderSearch)
-public:
-    explicit FolderSearch(const QString &pattern)
-        : m_handle(::FindFirstFileExW(reinterpret_cast<const wchar_t *>(pattern.utf16()),
-                                      FindExInfoBasic, &m_data, FindExSearchNameMatch, nullptr,
-                                      FIND_FIRST_EX_LARGE_FETCH))
-        , m_hasEntry(m_handle != INVALID_HANDLE_VALUE)
-    {
-    }
-    ~FolderSearch()
-    {
-        if (m_handle != INVALID_HANDLE_VALUE)
-            ::FindClose(m_handle);
-    }
-
-    [[nodiscard]] bool hasEntry() const { return m_hasEntry; }
-    [[nodiscard]] const WIN32_FIND_DATAW &entry() const { return m_data; }
-    void next() { m_hasEntry = ::FindNextFileW(m_handle, &m_data) != 0; }
-
-private:
-    WIN32_FIND_DATAW m_data{};
-    HANDLE m_handle;
-    bool m_hasEntry;
+/// The root of the walk or a folder that a link leads to: from here down no link is passed.
+struct Base {
+    QString path; ///< as its files are listed
+    QString target; ///< the same folder, link-free
 };
 
-/// Walks one tree by path. A folder that is exchanged for a link while the walk runs may have what
-/// is behind it listed; the remover's own check keeps that from being removed.
-class Walk
+struct Folder {
+    QString path;
+    std::shared_ptr<const Base> base;
+};
+
+struct Link {
+    QString path;
+};
+
+/// What stands for a folder whatever path leads to it. Both are compared: not every file system
+/// numbers its files, nor resolves every path.
+struct FolderIdentity {
+    QString path; ///< link-free
+    std::optional<std::pair<quint64, quint64>> number; ///< of the volume and of the file on it
+};
+
+FolderIdentity identityOf(const UniqueHandle &folder, const QString &path)
 {
+    FolderIdentity identity{path, {}};
+    if (const QString target = plainPath(finalPath(folder, PathForm::Drive)); !target.isEmpty())
+        identity.path =
+            target.endsWith(u'/') && !target.endsWith(":/"_L1) ? target.chopped(1) : target;
+    BY_HANDLE_FILE_INFORMATION info{};
+    if (::GetFileInformationByHandle(folder.get(), &info)) {
+        const quint64 file = static_cast<quint64>(sizeOf(info.nFileIndexHigh, info.nFileIndexLow));
+        if (file != 0)
+            identity.number = std::pair{quint64(info.dwVolumeSerialNumber), file};
+    }
+    return identity;
+}
+
+/// The folders from which the walk goes down: its root and what links lead to. Any walker's thread.
+class Bases final
+{
+    Q_DISABLE_COPY_MOVE(Bases)
 public:
-    Walk(const WalkOptions &options, const FileVisitor &visit)
-        : m_options(options)
-        , m_filter(options.nameFilters)
-        , m_visit(visit)
+    Bases() = default;
+
+    /// False when the folder was there before, or is walked anyhow because it lies below one.
+    [[nodiscard]] bool insert(const FolderIdentity &folder)
+    {
+        const std::lock_guard lock(m_mutex);
+        if ((folder.number && m_numbers.contains(*folder.number)) || isWalked(folder.path))
+            return false;
+        m_paths.insert(folder.path);
+        if (folder.number)
+            m_numbers.insert(*folder.number);
+        m_hasSeveral = m_paths.size() > 1;
+        return true;
+    }
+
+    /// Whether the folder at this link-free path below a base is a base itself.
+    [[nodiscard]] bool contains(const QString &path)
+    {
+        if (!m_hasSeveral)
+            return false;
+        const std::lock_guard lock(m_mutex);
+        return m_paths.contains(path);
+    }
+    [[nodiscard]] bool hasSeveral() const { return m_hasSeveral; }
+
+private:
+    // Upwards from the folder to a base, unless what is hidden stands in between.
+    [[nodiscard]] bool isWalked(QString path) const
+    {
+        for (;;) {
+            if (m_paths.contains(path))
+                return true;
+            const DWORD attributes =
+                ::GetFileAttributesW(reinterpret_cast<const wchar_t *>(extendedPath(path).utf16()));
+            const qsizetype slash = path.lastIndexOf(u'/', -2);
+            if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & hiddenOrSystem) != 0
+                || slash < 2)
+                return false;
+            path.truncate(slash);
+            if (path.endsWith(u':'))
+                path += u'/';
+        }
+    }
+
+    std::mutex m_mutex;
+    QSet<QString> m_paths;
+    QSet<std::pair<quint64, quint64>> m_numbers;
+    std::atomic_bool m_hasSeveral = false;
+};
+
+/// What the walkers of one walk share.
+struct Shared {
+    explicit Shared(const WalkOptions &walkOptions)
+        : options(walkOptions)
+        , queue(walkOptions.stopRequested)
     {
     }
 
-    WalkReport run(const QString &root)
+    const WalkOptions &options;
+    WalkQueue<Folder, Link> queue;
+    Bases bases;
+    SharedReport report;
+    bool hasOneWalker = true;
+};
+
+/// One of the walkers of a walk. A folder that is exchanged for a link while the walk runs may have
+/// what is behind it listed; the remover's own check keeps that from being removed.
+class Walker
+{
+public:
+    Walker(Shared &shared, TreeVisitor &visitor)
+        : m_shared(shared)
+        , m_filter(shared.options.nameFilters)
+        , m_visitor(visitor)
     {
-        const QString top = root.endsWith(u'/') ? root.chopped(1) : root;
+    }
+
+    void run()
+    {
+        m_shared.queue.process([this](const auto &work) { read(work); });
+    }
+
+    /// The folder to start with; nothing for one that cannot be walked.
+    [[nodiscard]] std::optional<Folder> openRoot(const QString &root)
+    {
+        QString top = root.size() > 1 && root.endsWith(u'/') ? root.chopped(1) : root;
+        // Without its slash a drive would be whatever folder is current on it.
+        if (top.endsWith(u':'))
+            top += u'/';
+        const QString extended = extendedPath(top);
         // What is no absolute path must not become one: a bare pattern lists the current drive.
-        if (extendedPath(asRoot(top)).isEmpty()) {
+        if (extended.isEmpty()) {
             addFailure(root, ERROR_INVALID_NAME);
-            return std::move(m_report);
+            return {};
         }
-        if (inspect(asRoot(top)).kind == EntryKind::Link) {
+        const bool isLink = inspect(top).kind == EntryKind::Link;
+        if (!isEverywhere()) {
+            if (!isLink)
+                return Folder{top, nullptr};
             addFailure(root, linkOnTheWay);
-            return std::move(m_report);
+            return {};
         }
-        m_pending.push_back(top);
-        while (!m_pending.empty() && !isStopped()) {
-            const QString folder = std::move(m_pending.back());
-            m_pending.pop_back();
-            readFolder(folder);
+        const UniqueHandle folder = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);
+        if (!folder.isValid()) {
+            if (!isMissing(::GetLastError()))
+                addFailure(root, ::GetLastError());
+            return {};
         }
-        return std::move(m_report);
+        const FolderIdentity identity = identityOf(folder, top);
+        if (isLink)
+            top = identity.path;
+        if (!m_shared.bases.insert(identity))
+            return {};
+        return Folder{top, std::make_shared<const Base>(Base{top, identity.path})};
+    }
+
+    void read(const Folder &folder)
+    {
+        if (m_shared.bases.hasSeveral() && folder.path != folder.base->path) {
+            const QString relative =
+                folder.path.mid(joinedPath(folder.base->path, QString()).size());
+            if (m_shared.bases.contains(joinedPath(folder.base->target, relative)))
+                return;
+        }
+        readFolder(folder);
     }
 
 private:
-    // Without its slash a drive would be whatever folder is current on it.
-    static QString asRoot(const QString &folder)
-    {
-        return folder.endsWith(u':') ? folder + u'/' : folder;
-    }
-
-    bool isStopped() const
-    {
-        return m_options.stopRequested && m_options.stopRequested->load(std::memory_order_relaxed);
-    }
+    bool isEverywhere() const { return m_shared.options.reach == Reach::Everywhere; }
 
     void addFailure(const QString &path, DWORD error)
     {
-        if (++m_report.failureCount <= WalkReport::maximumFailures)
-            m_report.failures.append({path, reasonOf(error)});
+        m_shared.report.addFailure(path, reasonOf(error));
     }
 
-    void readFolder(const QString &folder)
+    void read(const Link &link)
     {
-        const std::size_t firstSubfolder = m_pending.size();
-        QString pattern = extendedPath(asRoot(folder));
+        const UniqueHandle target =
+            openEntry(extendedPath(link.path), FILE_READ_ATTRIBUTES, Links::Follow);
+        if (!target.isValid()) {
+            if (!isMissing(::GetLastError()))
+                addFailure(link.path, ::GetLastError());
+            return;
+        }
+        const std::optional<EntryAttributes> attributes = attributesOf(target);
+        if (!attributes || attributes->nature != EntryNature::Folder)
+            return;
+        const FolderIdentity identity = identityOf(target, link.path);
+        if (m_shared.bases.insert(identity))
+            readFolder(
+                {identity.path, std::make_shared<const Base>(Base{identity.path, identity.path})});
+    }
+
+    void readFolder(const Folder &folder)
+    {
+        // The files' sizes and times come with their names, wanted or not.
+        Q_UNUSED(m_visitor.enterFolder(folder.path))
+        QString pattern = extendedPath(folder.path);
         pattern += pattern.endsWith(u'\\') ? "*"_L1 : "\\*"_L1;
         FolderSearch search(pattern);
         for (; search.hasEntry(); search.next()) {
-            if (isStopped())
+            if (m_shared.queue.isStopped())
                 return;
             readEntry(folder, search.entry());
+            if (!m_shared.hasOneWalker && m_subfolders.size() >= subfoldersAtOnce)
+                m_shared.queue.add(m_subfolders); // somebody may be waiting for them
         }
         // A folder that is gone since its parent was read is no failure, nor is an empty drive.
         const DWORD error = ::GetLastError();
         if (error != ERROR_NO_MORE_FILES && !isMissing(error))
-            addFailure(folder, error);
-        // The last one pushed is read first; reversed, subfolders come in the order of their
-        // parent's listing.
-        std::reverse(m_pending.begin() + static_cast<std::ptrdiff_t>(firstSubfolder),
-                     m_pending.end());
+            addFailure(folder.path, error);
+        m_shared.queue.add(m_subfolders);
     }
 
-    void readEntry(const QString &folder, const WIN32_FIND_DATAW &entry)
+    void readEntry(const Folder &folder, const WIN32_FIND_DATAW &entry)
     {
-        constexpr DWORD leftOut = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-        if ((entry.dwFileAttributes & leftOut) != 0)
+        if ((entry.dwFileAttributes & hiddenOrSystem) != 0)
             return;
-        QString name = QString::fromWCharArray(entry.cFileName);
+        const QStringView name(entry.cFileName);
         switch (natureOf(entry.dwFileAttributes, entry.dwReserved0)) {
         case EntryNature::Folder:
-            if (m_options.recursive && name != "."_L1 && name != ".."_L1)
-                m_pending.push_back(joined(folder, name));
+            if (m_shared.options.recursive && name != "."_L1 && name != ".."_L1)
+                m_subfolders.push_back({joinedPath(folder.path, name.toString()), folder.base});
             return;
         case EntryNature::File:
             if (m_filter.matches(name))
-                visit(folder, std::move(name), sizeOf(entry.nFileSizeHigh, entry.nFileSizeLow));
+                m_visitor.meetFile(
+                    {name, sizeOf(entry.nFileSizeHigh, entry.nFileSizeLow),
+                     millisecondsSince1970(sizeOf(entry.ftLastWriteTime.dwHighDateTime,
+                                                  entry.ftLastWriteTime.dwLowDateTime))});
             return;
         case EntryNature::FileLink:
-            if (m_filter.matches(name)) {
-                if (const std::optional<qint64> size = targetSize(joined(folder, name)))
-                    visit(folder, std::move(name), *size);
-            }
+            if (m_filter.matches(name))
+                readFileLink(folder.path, name);
             return;
         case EntryNature::FolderLink:
+            if (isEverywhere() && m_shared.options.recursive)
+                m_shared.queue.addLink({joinedPath(folder.path, name.toString())});
+            return;
         case EntryNature::Special:
             return;
         }
     }
 
-    void visit(const QString &folder, QString name, qint64 size)
+    // Tells the visitor when the link leads to a file.
+    void readFileLink(const QString &folder, QStringView name)
     {
-        QString path = joined(folder, name);
-        m_visit({std::move(name), std::move(path), size});
-    }
-
-    /// Nothing when the link leads to no file.
-    static std::optional<qint64> targetSize(const QString &link)
-    {
-        const UniqueHandle target =
-            openEntry(extendedPath(link), FILE_READ_ATTRIBUTES, Links::Follow);
+        const UniqueHandle target = openEntry(extendedPath(joinedPath(folder, name.toString())),
+                                              FILE_READ_ATTRIBUTES, Links::Follow);
         FILE_STANDARD_INFO info{};
-        if (!target.isValid() || ::GetFileType(target.get()) != FILE_TYPE_DISK
-            || !::GetFileInformationByHandleEx(target.get(), FileStandardInfo, &info, sizeof info)
-            || info.Directory)
-            return {};
-        return info.EndOfFile.QuadPart;
+        FILE_BASIC_INFO times{};
+        if (target.isValid() && ::GetFileType(target.get()) == FILE_TYPE_DISK
+            && ::GetFileInformationByHandleEx(target.get(), FileStandardInfo, &info, sizeof info)
+            && !info.Directory
+            && ::GetFileInformationByHandleEx(target.get(), FileBasicInfo, &times, sizeof times))
+            m_visitor.meetFile({name, info.EndOfFile.QuadPart,
+                                millisecondsSince1970(times.LastWriteTime.QuadPart)});
     }
 
-    static QString joined(const QString &folder, const QString &name)
-    {
-        QString path;
-        path.reserve(folder.size() + 1 + name.size());
-        path += folder;
-        path += u'/';
-        path += name;
-        return path;
-    }
+    static constexpr std::size_t subfoldersAtOnce = 64;
 
-    const WalkOptions &m_options;
+    Shared &m_shared;
     const NameFilter m_filter;
-    const FileVisitor &m_visit;
-    std::vector<QString> m_pending; ///< with forward slashes, none at the end
-    WalkReport m_report;
+    TreeVisitor &m_visitor;
+    std::vector<Folder> m_subfolders; ///< of the folder that is being read
 };
 
 } // namespace
@@ -216,9 +330,22 @@ Entry inspect(const QString &path)
     return {EntryKind::Other, 0};
 }
 
-WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit)
+WalkReport walkTree(const QString &root, const WalkOptions &options,
+                    const QList<TreeVisitor *> &visitors)
 {
-    return Walk(options, visit).run(root);
+    Shared shared(options);
+    shared.hasOneWalker = visitors.size() == 1;
+    Walker first(shared, *visitors.constFirst());
+    if (const std::optional<Folder> top = first.openRoot(root)) {
+        std::vector<std::jthread> others;
+        shared.queue.begin();
+        for (TreeVisitor *visitor : visitors.sliced(1))
+            others.emplace_back([&shared, visitor] { Walker(shared, *visitor).run(); });
+        first.read(*top);
+        shared.queue.end();
+        first.run();
+    }
+    return shared.report.take();
 }
 
 } // namespace platform

@@ -15,6 +15,44 @@ bool isPlain(QStringView text)
     });
 }
 
+// Characters as they are compared.
+QList<char32_t> foldedCharacters(QStringView text)
+{
+    QList<char32_t> characters;
+    const QList<uint> codes = text.toUcs4();
+    characters.reserve(codes.size());
+    for (const uint code : codes)
+        characters.append(QChar::toCaseFolded(code));
+    return characters;
+}
+
+// Whether the name is made of the pattern's characters, of any one for a "?" and of any number for
+// a "*". The last star met takes ever more until the rest fits.
+bool matchesGlob(const QList<char32_t> &pattern, const QList<char32_t> &name)
+{
+    qsizetype inPattern = 0;
+    qsizetype inName = 0;
+    qsizetype star = -1;
+    qsizetype taken = 0; // by that star: up to here
+    while (inName < name.size()) {
+        if (inPattern < pattern.size() && pattern.at(inPattern) == U'*') {
+            star = inPattern++;
+            taken = inName;
+        } else if (inPattern < pattern.size()
+                   && (pattern.at(inPattern) == U'?' || pattern.at(inPattern) == name.at(inName))) {
+            ++inPattern;
+            ++inName;
+        } else if (star >= 0) {
+            inPattern = star + 1;
+            inName = ++taken;
+        } else {
+            return false;
+        }
+    }
+    return std::all_of(pattern.begin() + inPattern, pattern.end(),
+                       [](char32_t c) { return c == U'*'; });
+}
+
 } // namespace
 
 NameFilter::NameFilter(const QStringList &wildcards)
@@ -28,16 +66,19 @@ NameFilter::NameFilter(const QStringList &wildcards)
             continue;
         const QStringView view(wildcard);
         if (isPlain(view)) {
-            m_rules.append({Kind::Exact, wildcard, {}});
+            m_rules.append({Kind::Exact, wildcard, {}, {}});
         } else if (view.front() == u'*' && isPlain(view.mid(1))) {
-            m_rules.append({Kind::Suffix, view.mid(1).toString(), {}});
+            m_rules.append({Kind::Suffix, view.mid(1).toString(), {}, {}});
         } else if (view.back() == u'*' && isPlain(view.chopped(1))) {
-            m_rules.append({Kind::Prefix, view.chopped(1).toString(), {}});
+            m_rules.append({Kind::Prefix, view.chopped(1).toString(), {}, {}});
+        } else if (!wildcard.contains(u'[') && !wildcard.contains(u'\\')
+                   && !wildcard.contains(u'/')) {
+            m_rules.append({Kind::Glob, {}, foldedCharacters(view), {}});
         } else {
             QRegularExpression expression =
                 QRegularExpression::fromWildcard(view, Qt::CaseInsensitive);
             if (expression.isValid())
-                m_rules.append({Kind::Expression, {}, expression});
+                m_rules.append({Kind::Expression, {}, {}, expression});
         }
     }
 }
@@ -54,6 +95,8 @@ bool NameFilter::matches(QStringView name) const
             return name.startsWith(rule.text, Qt::CaseInsensitive);
         case Kind::Suffix:
             return name.endsWith(rule.text, Qt::CaseInsensitive);
+        case Kind::Glob:
+            return matchesGlob(rule.glob, foldedCharacters(name));
         case Kind::Expression:
             return rule.expression.match(name.toString()).hasMatch();
         }

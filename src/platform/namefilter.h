@@ -9,9 +9,11 @@ namespace platform {
 
 /// Decides whether a file name matches any of a list of wildcards, ignoring case.
 ///
-/// The wildcards are those of QDir's name filters ("*", "?", "[...]"). The common forms ("*",
-/// "*.log", "MEMORY.DMP", "~Font*") are compared directly, since every entry of every folder passes
-/// through here; all others become a regular expression. An empty list matches every name.
+/// The wildcards are those of QDir's name filters ("*", "?", "[...]"). Every entry of every folder
+/// passes through here: those without sets are compared directly. The others become a regular
+/// expression, which besides leaves something to each thread that some run-time libraries of
+/// Windows do not clean up in time: a program then waits at its end for ever. An empty list matches
+/// every name.
 class NameFilter
 {
 public:
@@ -21,10 +23,11 @@ public:
     [[nodiscard]] bool matchesEverything() const { return m_everything; }
 
 private:
-    enum class Kind { Exact, Prefix, Suffix, Expression };
+    enum class Kind { Exact, Prefix, Suffix, Glob, Expression };
     struct Rule {
         Kind kind;
         QString text;
+        QList<char32_t> glob; ///< folded
         QRegularExpression expression;
     };
 

@@ -173,6 +173,17 @@ UniqueHandle openEntry(const QString &extended, quint32 access, Links links)
     return handle == INVALID_HANDLE_VALUE ? UniqueHandle() : UniqueHandle(handle);
 }
 
+std::optional<qint64> linkedFileSize(const QString &extended)
+{
+    const UniqueHandle target = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);
+    FILE_STANDARD_INFO info{};
+    if (!target.isValid() || ::GetFileType(target.get()) != FILE_TYPE_DISK
+        || !::GetFileInformationByHandleEx(target.get(), FileStandardInfo, &info, sizeof info)
+        || info.Directory)
+        return {};
+    return info.EndOfFile.QuadPart;
+}
+
 QString finalPath(const UniqueHandle &entry, PathForm form)
 {
     if (!entry.isValid())

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "filewalk.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace platform {
+
+/// The folders that the walkers of one walk still have to read. Any walker's thread.
+///
+/// The folders that were added last come first, so that what waits stays little. Links come last,
+/// when nothing else waits and no walker may add anything: a folder that can be reached by its own
+/// path has then been read by it.
+template<class Folder, class Link>
+class WalkQueue final
+{
+    Q_DISABLE_COPY_MOVE(WalkQueue)
+public:
+    explicit WalkQueue(const std::atomic_bool *stopRequested)
+        : m_stopRequested(stopRequested)
+    {
+    }
+
+    [[nodiscard]] bool isStopped() const
+    {
+        return m_stopRequested && m_stopRequested->load(std::memory_order_relaxed);
+    }
+
+    /// Takes over @p folders, which come next and in their order, and leaves the list empty.
+    void add(std::vector<Folder> &folders)
+    {
+        if (folders.empty())
+            return;
+        const std::lock_guard lock(m_mutex);
+        m_folders.insert(m_folders.end(), std::make_move_iterator(folders.rbegin()),
+                         std::make_move_iterator(folders.rend()));
+        folders.clear();
+        m_changed.notify_all();
+    }
+
+    void addLink(Link link)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_links.push_back(std::move(link));
+    }
+
+    /// Between these two the others wait for what a walker will add that reads what never was in
+    /// here.
+    void begin()
+    {
+        const std::lock_guard lock(m_mutex);
+        ++m_busy;
+    }
+    void end()
+    {
+        const std::lock_guard lock(m_mutex);
+        leave();
+    }
+
+    /// Has @p read called with one folder or link after the other until none is left or the walk is
+    /// stopped.
+    template<class Read>
+    void process(const Read &read)
+    {
+        std::unique_lock lock(m_mutex);
+        while (!isStopped()) {
+            if (!m_folders.empty()) {
+                Folder folder = std::move(m_folders.back());
+                m_folders.pop_back();
+                run(lock, read, std::move(folder));
+            } else if (m_busy > 0) {
+                m_changed.wait(lock);
+            } else if (!m_links.empty()) {
+                Link link = std::move(m_links.back());
+                m_links.pop_back();
+                run(lock, read, std::move(link));
+            } else {
+                break;
+            }
+        }
+        m_changed.notify_all();
+    }
+
+private:
+    template<class Read, class Work>
+    void run(std::unique_lock<std::mutex> &lock, const Read &read, Work work)
+    {
+        ++m_busy;
+        lock.unlock();
+        read(std::move(work));
+        lock.lock();
+        leave();
+    }
+
+    void leave()
+    {
+        if (--m_busy == 0)
+            m_changed.notify_all();
+    }
+
+    const std::atomic_bool *const m_stopRequested;
+    std::mutex m_mutex; ///< guards what follows
+    std::condition_variable m_changed;
+    std::vector<Folder> m_folders;
+    std::vector<Link> m_links;
+    int m_busy = 0; ///< walkers that are reading
+};
+
+/// The report of a walk, written by all its walkers.
+class SharedReport final
+{
+    Q_DISABLE_COPY_MOVE(SharedReport)
+public:
+    SharedReport() = default;
+
+    void addFailure(const QString &path, const QString &reason)
+    {
+        const std::lock_guard lock(m_mutex);
+        if (++m_report.failureCount <= WalkReport::maximumFailures)
+            m_report.failures.append({path, reason});
+    }
+
+    void addFollowed(const FollowedLink &link)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_report.followed.append(link);
+    }
+
+    /// The report, once all walkers are done.
+    [[nodiscard]] WalkReport take() { return std::move(m_report); }
+
+private:
+    std::mutex m_mutex;
+    WalkReport m_report;
+};
+
+} // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+#include <atomic>
+#include <vector>
+
+namespace platform {
+
+enum class ListedKind { File, Folder, FileLink, FolderLink };
+
+/// One entry of a folder.
+struct ListedEntry {
+    QString name;
+    ListedKind kind = ListedKind::File;
+    bool isHidden = false; ///< on Windows also when it belongs to the system
+    qint64 size = 0; ///< bytes; for a link to a file the size of its target, for folders 0
+};
+
+struct FolderListing {
+    std::vector<ListedEntry> entries; ///< in the file system's order
+    quint64 device =
+        0; ///< where the folder lies, for comparing; 0 where links alone lead elsewhere
+    bool isMissing = false; ///< gone, or no folder, or (on Linux) reached through a link
+    QString error; ///< why it could not be read; what was read before is kept
+};
+
+/// Reads the folder at an absolute path. On Linux it is opened without following a link anywhere;
+/// on Windows the caller has looked at the path before, see inspect().
+///
+/// Left out: pipes, sockets and devices, names that cannot be decoded, links that lead to neither a
+/// file nor a folder, and on Linux what is mounted there, folder or file; on Windows a mount point
+/// counts as a link. Ends early once @p stopRequested is set.
+[[nodiscard]] FolderListing listFolder(const QString &path,
+                                       const std::atomic_bool *stopRequested = nullptr);
+
+} // namespace platform

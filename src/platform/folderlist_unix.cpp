@@ -1,0 +1,95 @@
+#include "folderlist.h"
+
+#include "openfolder_unix.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <memory>
+#include <optional>
+#include <system_error>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace platform {
+
+namespace {
+
+constexpr std::size_t bufferSize = 65'536;
+
+// One look at the entry itself; at what a link leads to when @p flags say so.
+std::optional<struct statx> look(int folder, const char *name, int flags)
+{
+    struct statx status = {};
+    if (::statx(folder, name, flags | AT_NO_AUTOMOUNT, STATX_TYPE | STATX_SIZE, &status) != 0)
+        return {};
+    return status;
+}
+
+std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry)
+{
+    const QUtf8StringView name(entry.d_name);
+    if (!name.isValidUtf8())
+        return {};
+    std::optional<struct statx> status = look(folder, entry.d_name, AT_SYMLINK_NOFOLLOW);
+    if (!status || (status->stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
+        return {};
+    const bool isLink = S_ISLNK(status->stx_mode);
+    if (isLink)
+        status = look(folder, entry.d_name, 0);
+    if (!status)
+        return {};
+    const bool isHidden = entry.d_name[0] == '.';
+    if (S_ISDIR(status->stx_mode))
+        return ListedEntry{name.toString(), isLink ? ListedKind::FolderLink : ListedKind::Folder,
+                           isHidden, 0};
+    if (S_ISREG(status->stx_mode))
+        return ListedEntry{name.toString(), isLink ? ListedKind::FileLink : ListedKind::File,
+                           isHidden, static_cast<qint64>(status->stx_size)};
+    return {};
+}
+
+bool isNone(const dirent64 &entry)
+{
+    return qstrcmp(entry.d_name, ".") == 0 || qstrcmp(entry.d_name, "..") == 0;
+}
+
+} // namespace
+
+FolderListing listFolder(const QString &path, const std::atomic_bool *stopRequested)
+{
+    FolderListing listing;
+    const auto fail = [&listing](int error) {
+        listing.isMissing = error == ENOENT || error == ENOTDIR || error == ELOOP;
+        listing.error = QString::fromStdString(std::generic_category().message(error));
+    };
+    const UniqueFd folder = openFolder(QFile::encodeName(path));
+    FileStatus status{};
+    if (!folder.isValid() || ::fstat(folder.get(), &status) != 0) {
+        fail(errno);
+        return listing;
+    }
+    listing.device = status.st_dev;
+    const auto buffer = std::make_unique_for_overwrite<char[]>(bufferSize);
+    for (;;) {
+        const ssize_t length = ::getdents64(folder.get(), buffer.get(), bufferSize);
+        if (length < 0)
+            fail(errno);
+        if (length <= 0)
+            return listing;
+        for (ssize_t offset = 0; offset < length;) {
+            if (stopRequested && stopRequested->load(std::memory_order_relaxed))
+                return listing;
+            const auto *entry = reinterpret_cast<const dirent64 *>(buffer.get() + offset);
+            offset += entry->d_reclen;
+            if (isNone(*entry))
+                continue;
+            if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry))
+                listing.entries.push_back(std::move(*found));
+        }
+    }
+}
+
+} // namespace platform

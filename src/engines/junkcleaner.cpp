@@ -5,6 +5,7 @@
 #include "filewalk.h"
 #include "folders.h"
 #include "logger.h"
+#include "walklog.h"
 
 #include <QDebug>
 #include <QDir>
@@ -195,13 +196,7 @@ void JunkCleaner::scanDirectory(const QString &directory, const QStringList &pat
         platform::walkFiles(directory, options, [&items](platform::WalkedFile &&file) {
             items.emplaceBack(file.name, file.path, file.size);
         });
-    for (const platform::WalkFailure &failure : report.failures)
-        Logger::instance().warning(
-            u"Cannot read folder: %1 - %2"_s.arg(failure.path, failure.reason));
-    const qint64 unnamed = report.failureCount - report.failures.size();
-    if (unnamed > 0)
-        Logger::instance().warning(
-            u"Cannot read %1 more folders below %2"_s.arg(QString::number(unnamed), directory));
+    logWalkFailures(directory, report);
 }
 
 void JunkCleaner::doClean()

@@ -1,0 +1,907 @@
+#include "registrycleaner.h"
+
+#include "appinfo.h"
+#include "logcapture.h"
+#include "registrybackup.h"
+#include "registryfixture.h"
+#include "registryrestore.h"
+#include "signalspy.h"
+#include "testhome.h"
+#include "windowspaths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+#include <QThread>
+
+#ifdef Q_OS_LINUX
+#include <sys/mount.h>
+#endif
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using platform::Hive;
+using platform::Registry;
+using State = CleanEngine::State;
+
+namespace {
+
+constexpr int patience = 60'000;
+
+const QString version = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion"_s;
+const QString appPaths = version + "\\App Paths"_L1;
+const QString uninstall = version + "\\Uninstall"_L1;
+const QString runKey = version + "\\Run"_L1;
+const QString runOnceKey = version + "\\RunOnce"_L1;
+const QString sharedDlls = version + "\\SharedDLLs"_L1;
+const QString fonts = u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts"_s;
+const QString muiCache =
+    u"SOFTWARE\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"_s;
+const QString machine = u"HKEY_LOCAL_MACHINE\\"_s;
+const QString user = u"HKEY_CURRENT_USER\\"_s;
+const QString classes = u"HKEY_CLASSES_ROOT\\"_s;
+const QString missing = u"C:\\Sweepwise Missing\\app.exe"_s;
+
+const CleanCategory *find(const ScanResult &result, const QString &id)
+{
+    for (const CleanCategory &category : result.categories) {
+        if (category.id == id)
+            return &category;
+    }
+    return nullptr;
+}
+
+// The live registry has entries of its own.
+QList<CleanItem> ownItems(const ScanResult &result, const QString &id)
+{
+    QList<CleanItem> items;
+    if (const CleanCategory *category = find(result, id)) {
+        for (const CleanItem &item : category->items) {
+            if (item.registryKey.contains("sweepwise"_L1, Qt::CaseInsensitive))
+                items.append(item);
+        }
+    }
+    return items;
+}
+
+QStringList names(const QList<CleanItem> &items)
+{
+    QStringList list;
+    for (const CleanItem &item : items)
+        list.append(item.name);
+    return list;
+}
+
+CleanItem item(const QString &root, const QString &key)
+{
+    CleanItem made(u"name"_s, root + u'\\' + key, 0);
+    made.registryRoot = root;
+    made.registryKey = key;
+    return made;
+}
+
+} // namespace
+
+class TestRegistryCleaner : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestRegistryCleaner(const TestHome &home)
+        : m_home(home)
+    {
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_fixture = std::make_unique<RegistryFixture>(m_home);
+        m_cleaner = std::make_unique<RegistryCleaner>();
+    }
+    void cleanup()
+    {
+        m_cleaner.reset();
+        m_fixture.reset();
+    }
+
+    // --- whether a path exists
+
+    void pathCheck_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("exists");
+        const QString file = existing(u"Program File.exe"_s);
+        const QString folder = file.first(file.lastIndexOf(u'\\'));
+        QTest::newRow("empty") << QString() << false;
+        QTest::newRow("file") << file << true;
+        QTest::newRow("file in other case") << file.toUpper() << true;
+        QTest::newRow("folder") << folder << true;
+        QTest::newRow("missing") << missing << false;
+        QTest::newRow("file in quotes") << u'"' + file + u'"' << true;
+        QTest::newRow("missing in quotes") << u'"' + missing + u'"' << false;
+        QTest::newRow("quotes alone") << u"\"\""_s << false;
+        QTest::newRow("one quote") << u"\""_s << false;
+        QTest::newRow("quote in front only") << u'"' + file << false;
+        QTest::newRow("%1 is too short") << u"%1"_s << true;
+        QTest::newRow("three characters are too short") << u"%ab"_s << true;
+        QTest::newRow("known placeholder") << u"%SystemRoot%"_s << true;
+        QTest::newRow("known placeholder, missing file")
+            << u"%SystemRoot%\\sweepwise missing.dll"_s << false;
+        QTest::newRow("placeholder in capitals")
+            << u"%SYSTEMROOT%\\sweepwise missing.dll"_s << true;
+        QTest::newRow("placeholder in small letters")
+            << u"%systemroot%\\sweepwise missing.dll"_s << true;
+        QTest::newRow("unknown placeholder") << u"%SweepwiseNone%\\x.dll"_s << true;
+        QTest::newRow("per cent sign in a name") << missing + u'%' << true;
+        QTest::newRow("relative") << u"sweepwise missing.exe"_s << false;
+    }
+    void pathCheck()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, exists);
+        QCOMPARE(RegistryCleaner::pathExists(text), exists);
+    }
+
+    void everyPlaceholderIsReplacedAndAnUnsetOneVanishes_data()
+    {
+        QTest::addColumn<QString>("placeholder");
+        QTest::addColumn<QByteArray>("variable");
+        const auto row = [](const char *placeholder, const char *variable) {
+            QTest::newRow(placeholder) << QString::fromLatin1(placeholder) << QByteArray(variable);
+        };
+        row("%SystemRoot%", "SYSTEMROOT");
+        row("%ProgramFiles%", "PROGRAMFILES");
+        row("%ProgramFiles(x86)%", "PROGRAMFILES(X86)");
+        row("%WinDir%", "WINDIR");
+        row("%UserProfile%", "USERPROFILE");
+        row("%LocalAppData%", "LOCALAPPDATA");
+        row("%AppData%", "APPDATA");
+        row("%CommonProgramFiles%", "COMMONPROGRAMFILES");
+        row("%CommonProgramFiles(x86)%", "COMMONPROGRAMFILES(X86)");
+        row("%SystemDrive%", "SYSTEMDRIVE");
+        row("%HomeDrive%", "HOMEDRIVE");
+        row("%HomePath%", "HOMEPATH");
+        row("%Temp%", "TEMP");
+        row("%Tmp%", "TMP");
+    }
+    void everyPlaceholderIsReplacedAndAnUnsetOneVanishes()
+    {
+        QFETCH(QString, placeholder);
+        QFETCH(QByteArray, variable);
+        const QString file = existing(u"in variable.exe"_s);
+        const qsizetype cut = file.lastIndexOf(u'\\');
+        const bool wasSet = qEnvironmentVariableIsSet(variable.constData());
+        const QString before = qEnvironmentVariable(variable.constData());
+        qputenv(variable.constData(), file.first(cut).toUtf8());
+        const bool isFound = RegistryCleaner::pathExists(placeholder + file.mid(cut));
+        const bool isMissed = RegistryCleaner::pathExists(placeholder + "\\sweepwise missing"_L1);
+#ifdef Q_OS_WIN
+        qunsetenv(variable.constData());
+        const bool isGone = RegistryCleaner::pathExists(placeholder + file);
+#else
+        // Unset, the variable of the prefix takes its place.
+        qunsetenv(variable.constData());
+        const bool isGone = !platform::windowsVariable(QString::fromLatin1(variable)).isEmpty()
+            || placeholder == "%Temp%"_L1 || placeholder == "%Tmp%"_L1
+            || RegistryCleaner::pathExists(placeholder + file);
+#endif
+        if (wasSet)
+            qputenv(variable.constData(), before.toUtf8());
+        else
+            qunsetenv(variable.constData());
+        QVERIFY(isFound);
+        QVERIFY(!isMissed);
+        QVERIFY(isGone);
+    }
+
+    void programOfACommandLine_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("program");
+        QTest::newRow("quoted") << u"\"C:\\a b\\c.exe\" -x"_s << u"C:\\a b\\c.exe"_s;
+        QTest::newRow("plain") << u"C:\\c.exe -x"_s << u"C:\\c.exe"_s;
+        QTest::newRow("plain alone") << u"C:\\c.exe"_s << u"C:\\c.exe"_s;
+        QTest::newRow("unquoted with a blank is cut")
+            << u"C:\\Program Files\\App\\app.exe"_s << u"C:\\Program"_s;
+        QTest::newRow("open quote") << u"\"C:\\a b.exe -x"_s << u"\"C:\\a b.exe -x"_s;
+        QTest::newRow("blank in front") << u" C:\\a.exe"_s << u" C:\\a.exe"_s;
+        QTest::newRow("empty quotes") << u"\"\" x"_s << QString();
+        QTest::newRow("empty") << QString() << QString();
+    }
+    void programOfACommandLine()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, program);
+        QCOMPARE(RegistryCleaner::programPath(command), program);
+    }
+
+    // --- what is found
+
+    void programPathsAndUninstallEntries()
+    {
+        const QString present = existing(u"present.exe"_s);
+        const QString key = machine + appPaths;
+        m_fixture->addText(key + "\\Sweepwise missing.exe"_L1, {}, missing);
+        m_fixture->addText(key + "\\Sweepwise present.exe"_L1, {}, present);
+        m_fixture->addText(key + "\\Sweepwise empty.exe"_L1, u"Path"_s, missing);
+        const QString list = machine + uninstall;
+        m_fixture->addText(list + "\\Sweepwise gone"_L1, u"InstallLocation"_s, missing);
+        m_fixture->addText(list + "\\Sweepwise gone"_L1, u"DisplayName"_s, u"Gone %1 Program"_s);
+        m_fixture->addText(list + "\\Sweepwise neither"_L1, u"DisplayName"_s, u"Neither"_s);
+        m_fixture->addText(list + "\\Sweepwise product"_L1, u"UninstallString"_s,
+                           u"MsiExec.exe /X{0123}"_s);
+        m_fixture->addText(list + "\\Sweepwise quoted"_L1, u"UninstallString"_s,
+                           u'"' + present + "\" /S"_L1);
+        m_fixture->addText(list + "\\Sweepwise unquoted"_L1, u"UninstallString"_s,
+                           present + " /S"_L1);
+        m_fixture->write();
+        scan();
+
+        const auto items = ownItems(m_cleaner->result(), u"invalid_software"_s);
+        QCOMPARE(names(items),
+                 (QStringList{u"Sweepwise missing.exe"_s, u"Gone %1 Program"_s,
+                              u"Sweepwise product"_s, u"Sweepwise unquoted"_s}));
+        QCOMPARE(items.at(0).path, "HKLM\\"_L1 + appPaths + "\\Sweepwise missing.exe"_L1);
+        QCOMPARE(items.at(0).description, "Path: "_L1 + missing);
+        QCOMPARE(items.at(0).registryRoot, u"HKEY_LOCAL_MACHINE"_s);
+        QCOMPARE(items.at(0).registryKey, appPaths + "\\Sweepwise missing.exe"_L1);
+        QCOMPARE(items.at(0).size, 0);
+        QVERIFY(items.at(0).checked);
+        QCOMPARE(items.at(1).path, "HKLM\\"_L1 + uninstall + "\\Sweepwise gone"_L1);
+        QVERIFY(items.at(1).description.isEmpty());
+        QCOMPARE(items.at(1).registryKey, uninstall + "\\Sweepwise gone"_L1);
+        const CleanCategory *category = find(m_cleaner->result(), u"invalid_software"_s);
+        QCOMPARE(category->name, u"Invalid Software Paths"_s);
+        QCOMPARE(category->description, u"Registry entries pointing to non-existent locations"_s);
+        QVERIFY(category->icon.isEmpty());
+        QVERIFY(category->checked);
+    }
+
+    void fileTypes()
+    {
+        const auto type = [this](const QString &extension, const QString &name,
+                                 const QString &command) {
+            m_fixture->addText(classes + extension, {}, name);
+            m_fixture->addText(classes + name + "\\shell\\open\\command"_L1, {}, command);
+        };
+        type(u".Sweepwise1"_s, u"SweepwiseGone"_s, u'"' + missing + "\" \"%1\""_L1);
+        type(u".Sweepwise2"_s, u"SweepwisePresent"_s,
+             u'"' + existing(u"viewer app.exe"_s) + "\" \"%1\""_L1);
+        type(u".Sweepwise3"_s, u"SweepwiseEmpty"_s, {});
+        m_fixture->addKey(classes + ".Sweepwise4"_L1);
+        m_fixture->write();
+        scan();
+        const auto items = ownItems(m_cleaner->result(), u"invalid_file_assoc"_s);
+        QCOMPARE(names(items), QStringList{u".Sweepwise1 -> SweepwiseGone"_s});
+        QCOMPARE(items.at(0).path, u"HKCR\\.Sweepwise1"_s);
+        QCOMPARE(items.at(0).description, "Command: \""_L1 + missing + "\" \"%1\""_L1);
+        QCOMPARE(items.at(0).registryRoot, u"HKEY_CLASSES_ROOT"_s);
+        QCOMPARE(items.at(0).registryKey, u".Sweepwise1"_s);
+    }
+
+    void protectedTypesAreNeverReported()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("the types of the live registry are not to be touched");
+#else
+        const QString command = missing + " %1"_L1;
+        for (const QString &name : {u"Gone"_s, u"TxtFile"_s, u"InternetShortcut"_s})
+            m_fixture->addText(classes + name + "\\shell\\open\\command"_L1, {}, command);
+        for (const QString &extension : {u".TXT"_s, u".7z"_s, u".iqy"_s, u".bat"_s, u".x"_s})
+            m_fixture->addText(classes + extension, {}, u"Gone"_s);
+        m_fixture->addText(classes + ".y"_L1, {}, u"TXTFILE"_s);
+        m_fixture->addText(classes + ".z"_L1, {}, u"InternetShortcut"_s);
+        m_fixture->write();
+        scan();
+        // The class in mixed case stands in the list and protects nothing.
+        QCOMPARE(names(find(m_cleaner->result(), u"invalid_file_assoc"_s)->items),
+                 (QStringList{u".x -> Gone"_s, u".z -> InternetShortcut"_s}));
+#endif
+    }
+
+    void componentsGiveAnItemForEachServer()
+    {
+        const QString key = classes + "CLSID\\{00000000-0000-0000-0000-Sweepwise0001}"_L1;
+        m_fixture->addText(key, {}, u"A Component"_s);
+        m_fixture->addText(key + "\\InprocServer32"_L1, {}, missing);
+        m_fixture->addText(key + "\\LocalServer32"_L1, {}, u'"' + missing + "\" -Embedding"_L1);
+        const QString good = classes + "CLSID\\{00000000-0000-0000-0000-Sweepwise0002}"_L1;
+        m_fixture->addText(good + "\\InprocServer32"_L1, {}, existing(u"good.dll"_s));
+        m_fixture->addText(good + "\\LocalServer32"_L1, {},
+                           u'"' + existing(u"good.exe"_s) + "\" -Embedding"_L1);
+        const QString unquoted = classes + "CLSID\\{00000000-0000-0000-0000-Sweepwise0003}"_L1;
+        m_fixture->addText(unquoted + "\\LocalServer32"_L1, {},
+                           existing(u"good.exe"_s) + " -Embedding"_L1);
+        m_fixture->write();
+        scan();
+        const auto items = ownItems(m_cleaner->result(), u"invalid_com"_s);
+        QCOMPARE(names(items),
+                 (QStringList{u"A Component"_s, u"A Component"_s,
+                              u"{00000000-0000-0000-0000-Sweepwise0003}"_s}));
+        QCOMPARE(items.at(0).description, "DLL: "_L1 + missing);
+        QCOMPARE(items.at(1).description, "EXE: \""_L1 + missing + "\" -Embedding"_L1);
+        QCOMPARE(items.at(1).path, u"HKCR\\CLSID\\{00000000-0000-0000-0000-Sweepwise0001}"_s);
+        QCOMPARE(items.at(1).registryKey, u"CLSID\\{00000000-0000-0000-0000-Sweepwise0001}"_s);
+        QCOMPARE(items.at(1).registryRoot, u"HKEY_CLASSES_ROOT"_s);
+    }
+
+    void onlyTheFirstThousandComponentsAreExamined()
+    {
+        for (int i = 0; i < 2000; ++i)
+            m_fixture->addText(classes + u"CLSID\\{!Sweepwise%1}"_s.arg(i, 4, 10, QChar(u'0'))
+                                   + "\\InprocServer32"_L1,
+                               {}, missing);
+        m_fixture->write();
+        scan();
+        const auto items = ownItems(m_cleaner->result(), u"invalid_com"_s);
+        // The live registry may have one or the other that comes before.
+        const qsizetype before =
+            Registry().subkeys(Hive::ClassesRoot, u"CLSID"_s).indexOf(u"{!Sweepwise0000}"_s);
+        QVERIFY(before >= 0 && before < 10);
+        QCOMPARE(items.size(), 1000 - before);
+        QCOMPARE(items.constLast().name, u"{!Sweepwise0%1}"_s.arg(999 - before));
+    }
+
+    void fontFiles()
+    {
+        const QString key = machine + fonts;
+        m_fixture->addText(key, u"Sweepwise Bare"_s, u"sweepwise-none.ttf"_s);
+        m_fixture->addText(key, u"Sweepwise Gone"_s, u"C:/Sweepwise Missing/f.ttf"_s);
+        m_fixture->addText(key, u"Sweepwise Present"_s, existing(u"f.ttf"_s));
+        m_fixture->addText(key, u"Sweepwise Empty"_s, {});
+        m_fixture->write();
+        scan();
+        const auto items = ownItems(m_cleaner->result(), u"invalid_fonts"_s);
+        QCOMPARE(names(items), (QStringList{u"Sweepwise Bare"_s, u"Sweepwise Gone"_s}));
+        QVERIFY(items.at(0).description.startsWith("Font file: C:\\"_L1));
+        QVERIFY(items.at(0).description.endsWith("\\Fonts\\sweepwise-none.ttf"_L1));
+        QCOMPARE(items.at(0).path, "HKLM\\"_L1 + fonts);
+        QCOMPARE(items.at(0).registryKey, fonts + "\\Sweepwise Bare"_L1);
+    }
+
+    void startupCommands()
+    {
+        const QString spaced = existing(u"app.exe"_s); // below a folder with a blank in its name
+        m_fixture->addText(machine + runKey, u"Sweepwise a"_s, missing + " -x"_L1);
+        m_fixture->addText(machine + runOnceKey, u"Sweepwise b"_s, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise c"_s, u'"' + missing + "\" -x"_L1);
+        m_fixture->addText(user + runOnceKey, u"Sweepwise d"_s, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise e"_s, u'"' + spaced + "\" -x"_L1);
+        m_fixture->addText(user + runKey, u"Sweepwise f"_s, spaced + " -x"_L1);
+        m_fixture->addText(user + runKey, u"Sweepwise g"_s, {});
+        m_fixture->write();
+        scan();
+        const auto items = ownItems(m_cleaner->result(), u"invalid_startup"_s);
+        QCOMPARE(names(items),
+                 (QStringList{u"Sweepwise a"_s, u"Sweepwise b"_s, u"Sweepwise c"_s,
+                              u"Sweepwise f"_s, u"Sweepwise d"_s}));
+        QCOMPARE(items.at(0).registryRoot, u"HKLM"_s);
+        QCOMPARE(items.at(0).path, "HKLM\\"_L1 + runKey);
+        QCOMPARE(items.at(0).description, "Command: "_L1 + missing + " -x"_L1);
+        QCOMPARE(items.at(4).registryRoot, u"HKCU"_s);
+        QCOMPARE(items.at(4).path, "HKCU\\"_L1 + runOnceKey);
+        QCOMPARE(items.at(4).registryKey, runOnceKey + "\\Sweepwise d"_L1);
+    }
+
+    void sharedLibrariesStartUnchecked()
+    {
+        const QString present = existing(u"shared.dll"_s);
+        const QString gone = u"C:\\Sweepwise Missing\\shared.dll"_s;
+        m_fixture->addBytes(machine + sharedDlls, gone, 4, QByteArray("\1\0\0\0", 4));
+        m_fixture->addBytes(machine + sharedDlls, present, 4, QByteArray("\1\0\0\0", 4));
+        m_fixture->write();
+        scan();
+        const auto items = ownItems(m_cleaner->result(), u"invalid_shared_dll"_s);
+        QCOMPARE(names(items), QStringList{u"shared.dll"_s});
+        QCOMPARE(items.at(0).description, "DLL path: "_L1 + gone);
+        QCOMPARE(items.at(0).path, "HKLM\\"_L1 + sharedDlls);
+        QCOMPARE(items.at(0).registryKey, sharedDlls + u'\\' + gone);
+        QVERIFY(items.at(0).checked);
+        QVERIFY(!find(m_cleaner->result(), u"invalid_shared_dll"_s)->checked);
+        for (const CleanCategory &category : std::as_const(*m_cleaner).result().categories)
+            QCOMPARE(category.checked, category.id != "invalid_shared_dll"_L1);
+    }
+
+    void namesOfTheMuiCache()
+    {
+        const QString present = existing(u"known app.exe"_s);
+        const QString key = user + muiCache;
+        for (const QString &name :
+             {missing + ".FriendlyAppName"_L1, missing + ".ApplicationCompany"_L1,
+              missing + "2.friendlyappname"_L1, present + ".FriendlyAppName"_L1, present,
+              u"Sweepwise.FriendlyAppName"_s})
+            m_fixture->addText(key, name, u"x"_s);
+        m_fixture->write();
+        scan();
+        const auto items = ownItems(m_cleaner->result(), u"mui_cache"_s);
+        QStringList found = names(items);
+        found.sort();
+        QCOMPARE(found,
+                 (QStringList{u"Sweepwise"_s, u"app.exe"_s, u"app.exe"_s,
+                              u"app.exe2.friendlyappname"_s}));
+        for (const CleanItem &entry : items) {
+            QCOMPARE(entry.registryKey, muiCache + u'\\' + entry.description);
+            QCOMPARE(entry.path, "HKCU\\"_L1 + muiCache);
+            QCOMPARE(entry.registryRoot, u"HKEY_CURRENT_USER"_s);
+        }
+    }
+
+    void anEmptyCategoryDoesNotAppear()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("the live registry has entries of its own");
+#else
+        m_fixture->addText(user + runKey, u"x"_s, missing);
+        m_fixture->write();
+        const LogCapture log;
+        scan();
+        const ScanResult &result = std::as_const(*m_cleaner).result();
+        QCOMPARE(result.categories.size(), 1);
+        QCOMPARE(result.categories.at(0).id, u"invalid_startup"_s);
+        QVERIFY(log.contains(u"[INFO] Starting registry scan..."_s));
+        QVERIFY(log.contains(u"[INFO] Registry scan finished. Found 1 items"_s));
+#endif
+    }
+
+    // --- progress and cancel
+
+    void progressTellsTheSevenSteps()
+    {
+        const SignalSpy progress(m_cleaner.get(), &CleanEngine::scanProgress);
+        scan();
+        QStringList texts;
+        for (qsizetype i = 0; i < progress.size(); ++i) {
+            QCOMPARE(progress.at(i).at(0).toInt(), i + 1);
+            QCOMPARE(progress.at(i).at(1).toInt(), 7);
+            texts.append(progress.at(i).at(2).toString());
+        }
+        QCOMPARE(texts,
+                 (QStringList{u"Scanning invalid software paths..."_s,
+                              u"Scanning invalid file associations..."_s,
+                              u"Scanning invalid COM components..."_s,
+                              u"Scanning invalid font references..."_s,
+                              u"Scanning invalid startup items..."_s,
+                              u"Scanning invalid shared DLLs..."_s, u"Scanning MUI cache..."_s}));
+    }
+
+    void aCancelledScanTellsAllStepsAndKeepsNothingOfTheStoppedOne()
+    {
+        m_fixture->addText(machine + fonts, u"Sweepwise"_s, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise"_s, missing);
+        m_fixture->write();
+        const SignalSpy progress(m_cleaner.get(), &CleanEngine::scanProgress);
+        const SignalSpy finished(m_cleaner.get(), &CleanEngine::scanFinished);
+        connect(
+            m_cleaner.get(), &CleanEngine::scanProgress, m_cleaner.get(),
+            [this](int step) {
+                if (step == 5)
+                    m_cleaner->cancel();
+            },
+            Qt::DirectConnection);
+        m_cleaner->startScan();
+        QTRY_COMPARE_WITH_TIMEOUT(progress.size(), 7, patience);
+        m_cleaner->stopAndWait();
+        QCoreApplication::processEvents();
+        QCOMPARE(finished.size(), 0);
+        QCOMPARE(m_cleaner->state(), State::Cancelled);
+        QVERIFY(find(m_cleaner->result(), u"invalid_fonts"_s));
+        QVERIFY(!find(m_cleaner->result(), u"invalid_startup"_s));
+    }
+
+    // --- cleaning
+
+    void exactlyWhatIsTickedIsRemoved()
+    {
+        m_fixture->addText(machine + appPaths + "\\Sweepwise a"_L1, {}, missing);
+        m_fixture->addText(machine + appPaths + "\\Sweepwise a\\Below"_L1, u"x"_s, u"y"_s);
+        m_fixture->addText(machine + appPaths + "\\Sweepwise b"_L1, {}, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise a"_s, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise b"_s, missing);
+        m_fixture->addText(classes + ".sweepwisea"_L1, {}, u"SweepwiseType"_s);
+        m_fixture->addText(classes + "SweepwiseType\\shell\\open\\command"_L1, {}, missing);
+        m_fixture->addText(machine + sharedDlls, u"sweepwise.dll"_s, u"1"_s);
+        m_fixture->write();
+        scan();
+        for (CleanCategory &category : m_cleaner->result().categories) {
+            for (CleanItem &entry : category.items)
+                entry.checked = entry.registryKey.endsWith("sweepwise a"_L1, Qt::CaseInsensitive)
+                    || entry.registryKey.endsWith(".sweepwisea"_L1, Qt::CaseInsensitive)
+                    || category.id == "invalid_shared_dll"_L1;
+        }
+        const SignalSpy progress(m_cleaner.get(), &CleanEngine::cleanProgress);
+        const LogCapture log;
+        const SignalSpy &finished = clean();
+        QCOMPARE(finished.constFirst().at(0).toLongLong(), 0);
+        QCOMPARE(finished.constFirst().at(1).toInt(), 3);
+        QCOMPARE(m_cleaner->state(), State::Finished);
+        QVERIFY(m_cleaner->failures().isEmpty());
+        QCOMPARE(progress.size(), 3);
+        QCOMPARE(progress.at(2).at(0).toInt(), 3);
+        QCOMPARE(progress.at(2).at(1).toInt(), 3);
+        QVERIFY(log.contains(u"[INFO] Starting registry clean..."_s));
+        QVERIFY(log.contains(u"Registry backup skipped (no backup path specified)"_s));
+        QVERIFY(log.contains(u"[INFO] Registry clean finished. Cleaned 3 items"_s));
+
+        QVERIFY(!m_fixture->hasKey(machine + appPaths + "\\Sweepwise a"_L1));
+        QVERIFY(m_fixture->hasKey(machine + appPaths + "\\Sweepwise b"_L1));
+        QVERIFY(!m_fixture->hasValue(user + runKey, u"Sweepwise a"_s));
+        QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise b"_s));
+        QVERIFY(!m_fixture->hasKey(classes + ".sweepwisea"_L1));
+        QVERIFY(m_fixture->hasKey(classes + "SweepwiseType"_L1));
+        QVERIFY(m_fixture->hasValue(machine + sharedDlls, u"sweepwise.dll"_s));
+    }
+
+    void aValueNameWithABackslashIsNeitherRemovedNorCountedNorLogged()
+    {
+        m_fixture->addText(machine + sharedDlls, missing, u"1"_s);
+        m_fixture->addText(machine + sharedDlls + "\\Sweepwise Sub\\Key"_L1, u"v"_s, u"1"_s);
+        m_fixture->write();
+        // The second one's name happens to lead to a key that nobody was shown.
+        choose({item(u"HKEY_LOCAL_MACHINE"_s, sharedDlls + u'\\' + missing),
+                item(u"HKEY_LOCAL_MACHINE"_s, sharedDlls + "\\Sweepwise Sub\\Key"_L1),
+                item(u"HKEY_LOCAL_MACHINE"_s, sharedDlls + "\\Sweepwise Sub\\Key\\v"_L1)});
+        const LogCapture log;
+        const SignalSpy &finished = clean();
+        QCOMPARE(finished.constFirst().at(1).toInt(), 0);
+        QVERIFY(!log.contains(u"Failed"_s));
+        QCOMPARE(m_cleaner->failures().size(), 3);
+        for (const CleanFailure &failure : m_cleaner->failures())
+            QCOMPARE(failure.reason, u"Its name cannot be told from a path"_s);
+        QVERIFY(m_fixture->hasKey(machine + sharedDlls));
+        QVERIFY(m_fixture->hasValue(machine + sharedDlls + "\\Sweepwise Sub\\Key"_L1, u"v"_s));
+    }
+
+    void aKeyThatHoldsEntriesIsNeverRemoved()
+    {
+        m_fixture->addText(user + runOnceKey, u"Sweepwise"_s, u"x"_s);
+        m_fixture->addText(user + runOnceKey + "\\Sweepwise Gone"_L1, u"v"_s, u"x"_s);
+        m_fixture->write();
+        // A default value and a value that have vanished since the scan.
+        choose({item(u"HKCU"_s, runOnceKey + u'\\'),
+                item(u"HKCU"_s, runOnceKey + "\\Sweepwise Gone"_L1), item(u"HKCU"_s, u"\\"_s),
+                item(u"HKCU"_s, {}), item(u"HKCU"_s, u"Software\\"_s)});
+        const LogCapture log;
+        const SignalSpy &finished = clean();
+        QCOMPARE(finished.constFirst().at(1).toInt(), 0);
+        QVERIFY(log.contains(u"[ERROR] Failed to delete registry key: HKCU\\"_s));
+        QCOMPARE(m_cleaner->failures().size(), 5);
+        QVERIFY(m_fixture->hasValue(user + runOnceKey, u"Sweepwise"_s));
+        QVERIFY(m_fixture->hasKey(user + runOnceKey + "\\Sweepwise Gone"_L1));
+    }
+
+    void aKeyThatVanishedIsAFailure()
+    {
+        choose({item(u"HKEY_CLASSES_ROOT"_s, u".sweepwise gone"_s),
+                item(u"HKEY_LOCAL_MACHINE"_s, appPaths + "\\Sweepwise gone"_L1)});
+        const LogCapture log;
+        const SignalSpy &finished = clean();
+        QCOMPARE(finished.constFirst().at(1).toInt(), 0);
+        QVERIFY(log.contains(
+            u"[ERROR] Failed to delete registry key: HKEY_CLASSES_ROOT\\.sweepwise gone"_s));
+        QCOMPARE(log.count(u"[ERROR]"_s), 1);
+        QCOMPARE(m_cleaner->failures().size(), 2);
+    }
+
+    void aValueComesBeforeAKeyOfTheSameName()
+    {
+        const QString key = u"Software\\Sweepwise Test"_s;
+        m_fixture->addText(user + key, u"Same"_s, u"x"_s);
+        m_fixture->addText(user + key + "\\Same"_L1, u"v"_s, u"x"_s);
+        m_fixture->write();
+        choose({item(u"HKEY_CURRENT_USER"_s, key + "\\Same"_L1)});
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1);
+        QVERIFY(!m_fixture->hasValue(user + key, u"Same"_s));
+        QVERIFY(m_fixture->hasKey(user + key + "\\Same"_L1));
+        choose({item(u"HKEY_CURRENT_USER"_s, key + "\\Same"_L1)});
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1);
+        QVERIFY(!m_fixture->hasKey(user + key + "\\Same"_L1));
+    }
+
+    void aCancelledCleanTellsHowFarItCame()
+    {
+        const QString key = u"Software\\Sweepwise Test"_s;
+        for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
+            m_fixture->addText(user + key, name, u"x"_s);
+        m_fixture->write();
+        choose({item(u"HKCU"_s, key + "\\a"_L1), item(u"HKCU"_s, key + "\\b"_L1),
+                item(u"HKCU"_s, key + "\\c"_L1)});
+        connect(
+            m_cleaner.get(), &CleanEngine::cleanProgress, m_cleaner.get(),
+            [this](int index) {
+                if (index == 2)
+                    m_cleaner->cancel();
+            },
+            Qt::DirectConnection);
+        const SignalSpy &finished = clean();
+        QCOMPARE(finished.constFirst().at(0).toLongLong(), 0);
+        QCOMPARE(finished.constFirst().at(1).toInt(), 2);
+        QCOMPARE(m_cleaner->state(), State::Cancelled);
+        QVERIFY(!m_fixture->hasValue(user + key, u"b"_s));
+        QVERIFY(m_fixture->hasValue(user + key, u"c"_s));
+    }
+
+    // --- the backup
+
+    void theBackupIsOnTheDiskBeforeAnythingIsRemoved()
+    {
+        const QString key = u"Software\\Sweepwise Test"_s;
+        m_fixture->addText(user + key, u"a"_s, u"x"_s);
+        m_fixture->write();
+        choose({item(u"HKCU"_s, key + "\\a"_L1)});
+        const QString path = m_home.folder(u"backup"_s) + "/one.reg"_L1;
+        m_cleaner->setBackupPath(path);
+        bool wasThere = false;
+        connect(
+            m_cleaner.get(), &CleanEngine::cleanProgress, m_cleaner.get(),
+            [&] { wasThere = QFile::exists(path); }, Qt::DirectConnection);
+        const LogCapture log;
+        clean();
+        QVERIFY(wasThere);
+        QVERIFY(!m_cleaner->hasBackupFailed());
+        QVERIFY(log.contains("Creating registry backup to: "_L1 + path));
+        QVERIFY(log.contains("Registry backup created: "_L1 + path));
+        QVERIFY(log.contains(u"Registry backup created successfully"_s));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(RegistryBackup::decode(file.readAll())->contains("\"a\"=\"x\"\r\n"_L1));
+        // The path stays for the next clean.
+        QCOMPARE(m_cleaner->backupPath(), path);
+    }
+
+    void aFailedBackupIsLoggedAndDoesNotStopTheClean()
+    {
+        const QString key = u"Software\\Sweepwise Test"_s;
+        m_fixture->addText(user + key, u"a"_s, u"x"_s);
+        m_fixture->addText(user + key, u"b"_s, u"x"_s);
+        m_fixture->write();
+        choose({item(u"HKCU"_s, key + "\\a"_L1)});
+        m_cleaner->setBackupPath(m_home.path() + "/no such folder/one.reg"_L1);
+        const LogCapture log;
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1);
+        QVERIFY(log.contains(u"[ERROR] Failed to create registry backup"_s));
+        QVERIFY(!log.contains(u"Registry backup created"_s));
+        QVERIFY(m_cleaner->hasBackupFailed());
+        QVERIFY(m_fixture->hasValue(user + key, u"b"_s));
+    }
+
+    void deletingAndRestoringBringsEveryValueBack()
+    {
+        const QString key = appPaths + "\\Sweepwise all kinds"_L1;
+        const auto text = [](const QString &string) {
+            return QByteArray(reinterpret_cast<const char *>(string.utf16()), string.size() * 2);
+        };
+        m_fixture->addText(machine + key, {}, missing);
+        m_fixture->addText(machine + key, u"na\\me \"quoted\" \u4e2d"_s, u"te\\xt \"q\" \u4e2d"_s);
+        m_fixture->addBytes(machine + key, u"broken text"_s, 1, text(u"a\r\nb\n\0"_s));
+        m_fixture->addBytes(machine + key, u"empty text"_s, 1, text(u"\0"_s));
+        m_fixture->addBytes(machine + key, u"number"_s, 4, QByteArray("\x0a\0\0\0", 4));
+        for (const quint32 type : {0U, 2U, 3U, 5U, 7U, 8U, 9U, 10U, 11U, 12U, 0xbeefU}) {
+            for (const int size : {0, 1, 24, 25, 65'536}) {
+                // The live registry ends texts in a NUL, and its own command cannot import half a
+                // character.
+                const bool isText = type == 2 || type == 7;
+                if (isText && size % 2 != 0)
+                    continue;
+                m_fixture->addBytes(machine + key,
+                                    u"t%1 %2"_s.arg(QString::number(type), QString::number(size)),
+                                    type, QByteArray(isText && size > 2 ? size - 2 : size, 'z'));
+            }
+        }
+        m_fixture->addBytes(machine + fonts, u"Sweepwise value"_s, 2, text(u"C:\\none.ttf\0"_s));
+        m_fixture->write();
+        const QStringList before = m_fixture->exported(machine + key);
+        QVERIFY(before.size() > 50);
+
+        scan();
+        for (CleanCategory &category : m_cleaner->result().categories) {
+            for (CleanItem &entry : category.items)
+                entry.checked = entry.registryKey.contains("Sweepwise"_L1);
+        }
+        const QString path = m_home.folder(u"backup"_s) + "/all.reg"_L1;
+        m_cleaner->setBackupPath(path);
+        QCOMPARE(clean().constFirst().at(1).toInt(), 2);
+        QVERIFY(!m_fixture->hasKey(machine + key));
+        QVERIFY(!m_fixture->hasValue(machine + fonts, u"Sweepwise value"_s));
+
+        restore(path);
+        QStringList after = m_fixture->exported(machine + key);
+        QStringList wanted = before;
+        wanted.sort();
+        after.sort();
+        QCOMPARE(after, wanted);
+        QVERIFY(m_fixture->hasValue(machine + fonts, u"Sweepwise value"_s));
+    }
+
+    void theRegistryEditorsOwnImportTakesTheBackup()
+    {
+#ifndef Q_OS_WIN
+        QSKIP("there is no registry command here");
+#else
+        const QString key = appPaths + "\\Sweepwise editor"_L1;
+        m_fixture->addText(machine + key, {}, missing);
+        m_fixture->addText(machine + key, u"na\\me \"q\" 中"_s, u"te\\xt \"q\" 中"_s);
+        for (const quint32 type : {0U, 2U, 3U, 7U, 11U})
+            m_fixture->addBytes(machine + key, u"t%1"_s.arg(type), type, QByteArray(60, 'z'));
+        m_fixture->write();
+        QStringList before = m_fixture->exported(machine + key);
+        choose({item(u"HKEY_LOCAL_MACHINE"_s, key)});
+        const QString path = m_home.folder(u"backup"_s) + "/editor.reg"_L1;
+        m_cleaner->setBackupPath(path);
+        clean();
+        QVERIFY(!m_fixture->hasKey(machine + key));
+        QProcess reg;
+        reg.start(u"reg"_s, {u"import"_s, QDir::toNativeSeparators(path)});
+        QVERIFY(reg.waitForFinished(patience));
+        QCOMPARE(reg.exitCode(), 0);
+        QStringList after = m_fixture->exported(machine + key);
+        before.sort();
+        after.sort();
+        QCOMPARE(after, before);
+#endif
+    }
+
+    void onlyTheDeclaredDifferencesRemain()
+    {
+        const QString key = appPaths + "\\Sweepwise differences"_L1;
+        m_fixture->addText(machine + key, {}, missing);
+        m_fixture->addBytes(machine + key, u"too long"_s, 3, QByteArray(65'537, 'z'));
+        m_fixture->write();
+        Registry registry;
+        const QByteArray unterminated("a\0b\0c\0", 6);
+        QVERIFY(registry.setValue(Hive::LocalMachine, key, {u"open"_s, 1, unterminated}));
+        QVERIFY(registry.save());
+        const QByteArray stored = registry.value(Hive::LocalMachine, key, u"open"_s)->data;
+        choose({item(u"HKEY_LOCAL_MACHINE"_s, key)});
+        const QString path = m_home.folder(u"backup"_s) + "/differences.reg"_L1;
+        m_cleaner->setBackupPath(path);
+        clean();
+        restore(path);
+        // The last character is taken for the terminator; values too long for a key's export go.
+        const QByteArray kept = stored.size() == 6 ? stored.first(4) : stored.first(6);
+        QCOMPARE(Registry().value(Hive::LocalMachine, key, u"open"_s)->data,
+                 kept + QByteArray(2, '\0'));
+        QVERIFY(!m_fixture->hasValue(machine + key, u"too long"_s));
+        QVERIFY(m_fixture->hasValue(machine + key, {}));
+    }
+
+    void aComponentThatIsListedTwiceIsNoFailure()
+    {
+        const QString key = u"CLSID\\{!Sweepwise twice}"_s;
+        m_fixture->addText(classes + key, {}, u"Twice"_s);
+        m_fixture->write();
+        choose({item(u"HKEY_CLASSES_ROOT"_s, key), item(u"HKEY_CLASSES_ROOT"_s, key)});
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1);
+        QVERIFY(m_cleaner->failures().isEmpty());
+    }
+
+    void aFullDiskFailsTheBackupAndOnlyThat()
+    {
+#ifdef Q_OS_LINUX
+        const QString folder = m_home.folder(u"small disk"_s);
+        if (::mount("tmpfs", QFile::encodeName(folder).constData(), "tmpfs", 0, "size=16k") != 0)
+            QSKIP("making a small disk takes the administrator's rights");
+        const QString key = u"Software\\Sweepwise Test"_s;
+        m_fixture->addBytes(user + key, u"a"_s, 3, QByteArray(30'000, 'x'));
+        m_fixture->addText(user + key, u"b"_s, u"x"_s);
+        m_fixture->write();
+        choose({item(u"HKCU"_s, key + "\\a"_L1)});
+        m_cleaner->setBackupPath(folder + "/b.reg"_L1);
+        const LogCapture log;
+        const int count = clean().constFirst().at(1).toInt();
+        const QStringList entries = QDir(folder).entryList(QDir::Files);
+        ::umount(QFile::encodeName(folder).constData());
+        QCOMPARE(count, 1);
+        QCOMPARE(entries, QStringList());
+        QVERIFY(log.contains(u"[ERROR] Failed to create registry backup"_s));
+        QVERIFY2(log.contains(u"No space left on device"_s), qPrintable(log.lines().join(u'\n')));
+        QVERIFY(m_fixture->hasValue(user + key, u"b"_s));
+#else
+        QSKIP("a small disk cannot be made here");
+#endif
+    }
+
+    void keysBelowAreRemovedAndNotRestored()
+    {
+        const QString key = appPaths + "\\Sweepwise with keys"_L1;
+        m_fixture->addText(machine + key, {}, missing);
+        m_fixture->addText(machine + key + "\\Below"_L1, u"a"_s, u"b"_s);
+        m_fixture->write();
+        choose({item(u"HKEY_LOCAL_MACHINE"_s, key)});
+        const QString path = m_home.folder(u"backup"_s) + "/below.reg"_L1;
+        m_cleaner->setBackupPath(path);
+        clean();
+        restore(path);
+        QVERIFY(m_fixture->hasValue(machine + key, {}));
+        QVERIFY(!m_fixture->hasKey(machine + key + "\\Below"_L1));
+    }
+
+#ifndef Q_OS_WIN
+    void aPrefixInUseIsNotCleanedAndSaysSo()
+    {
+        m_fixture->addText(user + runKey, u"Sweepwise"_s, missing);
+        m_fixture->write();
+        struct stat data {
+        };
+        QCOMPARE(::stat(QFile::encodeName(m_home.folder(u"prefix"_s)).constData(), &data), 0);
+        QProcess server;
+        server.setWorkingDirectory(m_home.folder(u"run/server-%1-%2"_s.arg(
+            QString::number(data.st_dev, 16), QString::number(data.st_ino, 16))));
+        server.start(u"sleep"_s, {u"60"_s});
+        QVERIFY(server.waitForStarted());
+        scan();
+        const LogCapture log;
+        QCOMPARE(clean().constFirst().at(1).toInt(), 0);
+        QCOMPARE(m_cleaner->failures().size(), 1);
+        QVERIFY(m_cleaner->failures().at(0).reason.contains("end them and try again"_L1));
+        QVERIFY(log.contains(u"[ERROR] Failed to save the registry: "_s));
+        QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise"_s));
+        server.kill();
+        QVERIFY(server.waitForFinished());
+    }
+#endif
+
+private:
+    // The Windows path of a file that is there, below a folder with a blank in its name.
+    QString existing(const QString &name)
+    {
+#ifdef Q_OS_WIN
+        const QString folder = m_home.folder(u"Sweepwise Files"_s);
+        const QString path = QDir::toNativeSeparators(folder) + u'\\' + name;
+#else
+        const QString folder = m_home.folder(u"prefix/drive_c/Sweepwise Files"_s);
+        const QString path = "C:\\Sweepwise Files\\"_L1 + name;
+#endif
+        QFile file(folder + u'/' + name);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot write a file of the test");
+        return path;
+    }
+
+    void choose(const QList<CleanItem> &items)
+    {
+        CleanCategory category(u"id"_s, u"Kind"_s, {});
+        category.items = items;
+        m_cleaner->stopAndWait();
+        m_cleaner->result().categories = {category};
+    }
+
+    void scan()
+    {
+        const SignalSpy finished(m_cleaner.get(), &CleanEngine::scanFinished);
+        m_cleaner->startScan();
+        QVERIFY(finished.wait(patience));
+    }
+
+    const SignalSpy &clean()
+    {
+        m_finished = std::make_unique<SignalSpy>(m_cleaner.get(), &CleanEngine::cleanFinished);
+        m_cleaner->startClean();
+        if (!m_finished->wait(patience))
+            qFatal("the clean did not end");
+        m_cleaner->stopAndWait();
+        return *m_finished;
+    }
+
+    static void restore(const QString &path)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QString error;
+        const auto keys = RegistryRestore::parse(
+            RegistryBackup::decode(file.readAll()).value_or(QString()), error);
+        QVERIFY2(keys, qPrintable(error));
+        Registry registry;
+        for (const RegistryRestore::Outcome &outcome : RegistryRestore::restore(registry, *keys))
+            QVERIFY2(outcome.isRestored, qPrintable(outcome.entry + u' ' + outcome.error));
+    }
+
+    const TestHome &m_home;
+    std::unique_ptr<RegistryFixture> m_fixture;
+    std::unique_ptr<RegistryCleaner> m_cleaner;
+    std::unique_ptr<SignalSpy> m_finished;
+};
+
+SWEEPWISE_TEST_MAIN(TestRegistryCleaner, QCoreApplication)
+#include "tst_registrycleaner.moc"

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+/// A browser that can be cleaned, and whether it is here.
+struct Browser {
+    /// The values are fixed: pages keep them in a property.
+    enum Type { Chrome = 0, Edge = 1, Firefox = 2, Opera = 3, Brave = 4 };
+
+    int type = Chrome;
+    QString id; ///< what its category ids begin with, such as "google_chrome"
+    QString name; ///< for people, translated
+    QString dataRoot; ///< where its profiles lie, absolute; need not exist
+    QString processName; ///< in lower case
+    bool installed = false;
+    bool selected = true; ///< set by the page, see BrowserCleaner::setBrowserEnabled()
+};
+
+namespace browsers {
+
+/// Where programs keep a user's data; absolute.
+struct DataFolders {
+    QString local;
+    QString roaming;
+};
+
+/// Those of the user who runs the program.
+[[nodiscard]] DataFolders dataFolders();
+
+/// The five browsers in their fixed order, with what the system says of them now.
+[[nodiscard]] QList<Browser> detect(const DataFolders &folders);
+
+/// The profile folders of a Chromium browser, absolute and link-free, in the order in which they
+/// are scanned. A folder that is a link is left out, with a warning in the log.
+[[nodiscard]] QStringList chromiumProfiles(const QString &dataRoot);
+
+/// Where Firefox keeps what belongs to no profile; empty when there is no such folder.
+[[nodiscard]] QString firefoxRoot(const DataFolders &folders);
+
+/// Firefox's profile folders, each once: those that profiles.ini names, then those below the
+/// roaming and the local profiles folder. What the file names may lie anywhere and is resolved; a
+/// link below a profiles folder that it does not name is left out.
+[[nodiscard]] QStringList firefoxProfiles(const DataFolders &folders);
+
+} // namespace browsers

@@ -1,0 +1,195 @@
+#include "browsercleaner.h"
+
+#include "browserscan.h"
+#include "cleanledger.h"
+#include "fileremove.h"
+#include "logger.h"
+#include "processes.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+BrowserCleaner::BrowserCleaner(QObject *parent)
+    : BrowserCleaner(browsers::dataFolders(), parent)
+{
+}
+
+BrowserCleaner::BrowserCleaner(const browsers::DataFolders &folders, QObject *parent)
+    : CleanEngine(parent)
+    , m_folders(folders)
+{
+    detectBrowsers();
+}
+
+BrowserCleaner::~BrowserCleaner()
+{
+    stopAndWait();
+}
+
+void BrowserCleaner::loadRules(const QString &path)
+{
+    m_rules.clear();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        Logger::instance().error("Failed to load browser rules: "_L1 + file.errorString());
+        return;
+    }
+    QByteArray data = file.readAll();
+    if (data.startsWith("\xEF\xBB\xBF"))
+        data.remove(0, 3);
+    const QJsonDocument document = QJsonDocument::fromJson(data);
+    if (!document.isObject()) {
+        Logger::instance().error(u"Invalid browser rules format"_s);
+        return;
+    }
+    const QJsonArray rules = document.object()["rules"_L1].toArray();
+    for (const auto &rule : rules)
+        m_rules.append(BrowserRule::fromJson(rule.toObject()));
+    Logger::instance().info(u"Loaded %1 browser rules"_s.arg(m_rules.size()));
+}
+
+void BrowserCleaner::detectBrowsers()
+{
+    m_browsers = browsers::detect(m_folders);
+    const auto installed = std::count_if(m_browsers.begin(), m_browsers.end(),
+                                         [](const Browser &browser) { return browser.installed; });
+    Logger::instance().info(u"Detected %1 browsers"_s.arg(installed));
+    for (Browser &browser : m_browsers) {
+        browser.selected = isBrowserEnabled(browser.type);
+        Logger::instance().info(u"Browser: %1, Installed: %2, Path: %3"_s.arg(
+            browser.name, browser.installed ? u"true"_s : u"false"_s, browser.dataRoot));
+    }
+}
+
+void BrowserCleaner::setBrowserEnabled(int type, bool enabled)
+{
+    m_enabled.insert(type, enabled);
+    for (Browser &browser : m_browsers)
+        browser.selected = isBrowserEnabled(browser.type);
+}
+
+bool BrowserCleaner::isBrowserEnabled(int type) const
+{
+    return m_enabled.isEmpty() || m_enabled.value(type, false);
+}
+
+void BrowserCleaner::startScan()
+{
+    stopAndWait();
+    m_scanned.clear();
+    std::copy_if(m_browsers.begin(), m_browsers.end(), std::back_inserter(m_scanned),
+                 [](const Browser &browser) { return browser.installed && browser.selected; });
+    CleanEngine::startScan();
+}
+
+void BrowserCleaner::doScan()
+{
+    Logger::instance().info(u"Starting browser scan..."_s);
+    const int count = static_cast<int>(m_scanned.size());
+    for (int i = 1; i <= count; ++i) {
+        const Browser &browser = m_scanned.at(i - 1);
+        if (!isStopRequested()) {
+            Q_EMIT scanProgress(i, count, browser.name);
+            scanBrowser(browser);
+        }
+        if (isStopRequested()) {
+            setState(State::Cancelled);
+            return;
+        }
+    }
+    result().scanTime = QDateTime::currentDateTime();
+    Logger::instance().info(u"Browser scan finished. Found %1 items, %2"_s.arg(
+        QString::number(result().totalCount()), formatSize(result().totalSize())));
+}
+
+void BrowserCleaner::scanBrowser(const Browser &browser)
+{
+    ItemsByRule found(static_cast<std::size_t>(m_rules.size()));
+    if (browser.type == Browser::Firefox) {
+        const FirefoxScan scan(m_rules, stopFlag());
+        if (const QString root = browsers::firefoxRoot(m_folders); !root.isEmpty())
+            scan.scanShared(root, found);
+        const QStringList profiles = browsers::firefoxProfiles(m_folders);
+        for (const QString &profile : profiles)
+            scan.scanProfile(profile, found);
+    } else {
+        const ChromiumScan scan(m_rules, stopFlag());
+        const QStringList profiles = browsers::chromiumProfiles(browser.dataRoot);
+        for (const QString &profile : profiles)
+            scan.scanProfile(profile, found);
+    }
+    for (qsizetype i = 0; i < m_rules.size(); ++i) {
+        QList<CleanItem> &items = found[static_cast<std::size_t>(i)];
+        if (items.isEmpty())
+            continue;
+        const BrowserRule &rule = m_rules.at(i);
+        CleanCategory category(u"%1_%2"_s.arg(browser.id, rule.id),
+                               u"%1 - %2"_s.arg(browser.name, rule.name), rule.description);
+        category.checked = rule.defaultChecked;
+        category.riskLevel = rule.riskLevel;
+        items.squeeze();
+        category.items = std::move(items);
+        result().categories.append(std::move(category));
+    }
+}
+
+void BrowserCleaner::doClean()
+{
+    Logger::instance().info(u"Starting browser clean..."_s);
+    const int total = selection().checkedCount();
+    int index = 0;
+    CleanLedger ledger(selection());
+    platform::FileRemover remover;
+    for (const CleanCategory &category : selection().categories) {
+        warnIfRunning(category);
+        for (const CleanItem &item : category.items) {
+            if (isStopRequested()) {
+                endClean(State::Cancelled);
+                Q_EMIT cleanFinished(ledger.cleanedSize(), ledger.cleanedCount());
+                return;
+            }
+            Q_EMIT cleanProgress(++index, total, ledger.cleanedSize());
+            removeItem(remover, item, ledger);
+        }
+    }
+    if (isStopRequested()) {
+        endClean(State::Cancelled);
+        Q_EMIT cleanFinished(ledger.cleanedSize(), ledger.cleanedCount());
+        return;
+    }
+    Logger::instance().info(u"Browser clean finished. Cleaned %1 items, %2. Failed: %3 items"_s.arg(
+        QString::number(ledger.cleanedCount()), formatSize(ledger.cleanedSize()),
+        QString::number(ledger.failedCount())));
+    endClean(State::Finished);
+    Q_EMIT cleanFinished(ledger.cleanedSize(), ledger.cleanedCount());
+}
+
+void BrowserCleaner::warnIfRunning(const CleanCategory &category) const
+{
+    const auto browser =
+        std::find_if(m_scanned.begin(), m_scanned.end(), [&category](const Browser &candidate) {
+            return category.id.startsWith(candidate.id + u'_');
+        });
+    if (browser != m_scanned.end() && platform::runningPrograms().contains(browser->processName))
+        Logger::instance().warning(browser->name + " is running, some files may not be deleted"_L1);
+}
+
+void BrowserCleaner::removeItem(platform::FileRemover &remover, const CleanItem &item,
+                                CleanLedger &ledger)
+{
+    const platform::FileRemover::Outcome outcome = remover.remove(item.path, &stopFlag());
+    if (outcome.status == platform::FileRemover::Status::Failed && outcome.wasFolder
+        && isStopRequested())
+        return; // left in the middle, not failed
+    if (ledger.enter(item, outcome))
+        return;
+    Logger::instance().warning(u"Failed to delete: %1"_s.arg(item.path));
+    addFailure({item.path,
+                outcome.status == platform::FileRemover::Status::NotFound ? tr("File not found")
+                                                                          : outcome.error});
+}

@@ -1,0 +1,120 @@
+#include "browserscan.h"
+
+#include "entrywalk.h"
+#include "folders.h"
+#include "logger.h"
+#include "walklog.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+/// Hands each entry of a walk to the rules whose folder it is below. The folders of rules that the
+/// walk comes through are taken from the ones still to be walked.
+class ChromiumScan::Visitor final : public platform::EntryVisitor
+{
+public:
+    Visitor(const ChromiumScan &scan, std::vector<std::size_t> rules, RulesByFolder &remaining,
+            ItemsByRule &found)
+        : m_scan(scan)
+        , m_active(std::move(rules))
+        , m_remaining(remaining)
+        , m_found(found)
+    {
+    }
+
+    void found(platform::WalkedEntry &&entry) override
+    {
+        OpenFolder folder{entry.path, m_active.size(), {}};
+        for (const std::size_t rule : m_active) {
+            if (!m_scan.m_filters[rule].matches(entry.name))
+                continue;
+            add(rule, entry);
+            folder.items.emplace_back(rule, m_found[rule].size() - 1);
+        }
+        if (!entry.isFolder)
+            return;
+        if (const auto own = m_remaining.constFind(entry.path); own != m_remaining.cend())
+            m_active.insert(m_active.end(), own->begin(), own->end());
+        m_open.push_back(std::move(folder));
+    }
+
+    void left(qint64 size, bool wasRead) override
+    {
+        const OpenFolder folder = std::move(m_open.back());
+        m_open.pop_back();
+        m_active.resize(folder.activeOutside);
+        for (const auto &[rule, item] : folder.items)
+            m_found[rule][item].size = size;
+        if (wasRead)
+            m_remaining.remove(folder.path);
+    }
+
+private:
+    struct OpenFolder {
+        QString path;
+        std::size_t activeOutside; ///< how many rules take from around the folder
+        std::vector<std::pair<std::size_t, qsizetype>> items; ///< that the folder itself became
+    };
+
+    void add(std::size_t index, const platform::WalkedEntry &entry)
+    {
+        const BrowserRule &rule = m_scan.m_rules.at(static_cast<qsizetype>(index));
+        CleanItem &item = m_found[index].emplaceBack(entry.name, entry.path, entry.size);
+        item.checked = rule.defaultChecked;
+        item.riskLevel = rule.riskLevel;
+        item.isDirectory = entry.isFolder;
+    }
+
+    const ChromiumScan &m_scan;
+    std::vector<std::size_t> m_active; ///< the rules that take from the current folder
+    RulesByFolder &m_remaining;
+    ItemsByRule &m_found;
+    std::vector<OpenFolder> m_open; ///< the way down to the current folder
+};
+
+ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, const std::atomic_bool &stopRequested)
+    : m_rules(rules)
+    , m_stopRequested(stopRequested)
+{
+    m_filters.reserve(static_cast<std::size_t>(rules.size()));
+    for (const BrowserRule &rule : rules)
+        m_filters.emplace_back(rule.patterns);
+}
+
+ChromiumScan::RulesByFolder ChromiumScan::foldersOf(const QString &profile) const
+{
+    RulesByFolder folders;
+    for (qsizetype i = 0; i < m_rules.size(); ++i) {
+        const BrowserRule &rule = m_rules.at(i);
+        const QString folder =
+            rule.subPath.isEmpty() ? profile : platform::locate(profile, rule.subPath);
+        if (!folders.contains(folder) && !isScannable(folder))
+            continue;
+        if (rule.takesEverything() && platform::isProtectedRoot(folder)) {
+            Logger::instance().warning(
+                u"Skipped %1: rule %2 would take everything in it"_s.arg(folder, rule.id));
+            continue;
+        }
+        folders[folder].push_back(static_cast<std::size_t>(i));
+    }
+    return folders;
+}
+
+// A folder that the walk of an outer one does not come through, because it is hidden or something
+// is mounted there, is walked by itself.
+void ChromiumScan::scanProfile(const QString &profile, ItemsByRule &found) const
+{
+    if (m_stopRequested)
+        return;
+    RulesByFolder remaining = foldersOf(profile);
+    while (!remaining.isEmpty() && !m_stopRequested) {
+        const QStringList folders = remaining.keys();
+        const QString outermost = *std::min_element(
+            folders.begin(), folders.end(),
+            [](const QString &a, const QString &b) { return a.size() < b.size(); });
+        Visitor visitor(*this, remaining.take(outermost), remaining, found);
+        logWalkFailures(outermost, platform::walkEntries(outermost, visitor, &m_stopRequested));
+    }
+}

@@ -1,0 +1,70 @@
+#include "cleanledger.h"
+
+namespace {
+
+// Empty at the top.
+QString parentOf(const QString &path)
+{
+    return path.left(qMax<qsizetype>(path.lastIndexOf(u'/'), 0));
+}
+
+} // namespace
+
+CleanLedger::CleanLedger(const ScanResult &selection)
+{
+    for (const CleanCategory &category : selection.categories) {
+        for (const CleanItem &item : category.items) {
+            if (item.isDirectory)
+                m_countedBelow.insert(item.path, 0);
+        }
+    }
+}
+
+bool CleanLedger::enter(const CleanItem &item, const platform::FileRemover::Outcome &outcome)
+{
+    using Status = platform::FileRemover::Status;
+    if (outcome.status == Status::Removed) {
+        const bool isAgain = m_removed.contains(item.path);
+        addCleaned(item.path,
+                   isAgain ? 0 : qMax<qint64>(0, item.size - m_countedBelow.value(item.path)));
+        return true;
+    }
+    if (outcome.status == Status::NotFound) {
+        if (m_removed.contains(item.path) || isBelow(m_removed, item.path)) {
+            addCleaned(item.path, 0);
+            return true;
+        }
+        if (isBelow(m_partlyRemoved, item.path)) {
+            addCleaned(item.path, item.isDirectory ? 0 : item.size);
+            return true;
+        }
+    } else if (outcome.wasFolder) {
+        m_partlyRemoved.insert(item.path);
+    }
+    ++m_failedCount;
+    return false;
+}
+
+void CleanLedger::addCleaned(const QString &path, qint64 size)
+{
+    m_removed.insert(path);
+    ++m_cleanedCount;
+    m_cleanedSize += size;
+    if (size == 0 || m_countedBelow.isEmpty())
+        return;
+    for (QString folder = parentOf(path); !folder.isEmpty(); folder = parentOf(folder)) {
+        if (const auto counted = m_countedBelow.find(folder); counted != m_countedBelow.end())
+            *counted += size;
+    }
+}
+
+bool CleanLedger::isBelow(const QSet<QString> &folders, const QString &path) const
+{
+    if (folders.isEmpty())
+        return false;
+    for (QString folder = parentOf(path); !folder.isEmpty(); folder = parentOf(folder)) {
+        if (folders.contains(folder))
+            return true;
+    }
+    return false;
+}

@@ -1,0 +1,1002 @@
+#include "browsercleaner.h"
+
+#include "appinfo.h"
+#include "browserprofiles.h"
+#include "inifile.h"
+#include "logcapture.h"
+#include "plainbrowserscan.h"
+#include "registryfixture.h"
+#include "signalspy.h"
+#include "testhome.h"
+#include "testtree.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+#include <QThread>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using State = CleanEngine::State;
+
+namespace {
+
+constexpr int patience = 30'000;
+constexpr char sleepArgument[] = "--sleep";
+const QString shipped = QStringLiteral(":/rules/browser_rules.json");
+
+browsers::DataFolders foldersOf(const TestTree &tree)
+{
+    return {tree.folder(u"Local"_s), tree.folder(u"Roaming"_s)};
+}
+
+QString chromeProfile()
+{
+    return u"Local/Google/Chrome/User Data/Default"_s;
+}
+
+QStringList ids(const ScanResult &result)
+{
+    QStringList list;
+    for (const CleanCategory &category : result.categories)
+        list.append(category.id);
+    return list;
+}
+
+const CleanCategory *find(const ScanResult &result, const QString &id)
+{
+    for (const CleanCategory &category : result.categories) {
+        if (category.id == id)
+            return &category;
+    }
+    return nullptr;
+}
+
+/// The items' paths below @p root, sorted.
+QStringList paths(const ScanResult &result, const QString &id, const QString &root)
+{
+    QStringList list;
+    if (const CleanCategory *category = find(result, id)) {
+        for (const CleanItem &item : category->items)
+            list.append(item.path.mid(root.size() + 1));
+    }
+    list.sort();
+    return list;
+}
+
+/// Everything that an item says, one line each.
+QStringList described(const QList<CleanCategory> &categories)
+{
+    QStringList lines;
+    for (const CleanCategory &category : categories) {
+        lines.append(u"[%1] %2 | %3 | %4"_s.arg(category.id, category.name, category.description,
+                                                category.checked ? u"on"_s : u"off"_s));
+        for (const CleanItem &item : category.items)
+            lines.append(u"  %1 | %2 | %3 | %4 | %5 | %6"_s.arg(
+                item.name, item.path, QString::number(item.size), item.checked ? u"on"_s : u"off"_s,
+                QString::number(item.riskLevel), item.isDirectory ? u"folder"_s : u"file"_s));
+    }
+    return lines;
+}
+
+} // namespace
+
+class TestBrowserCleaner : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestBrowserCleaner(const TestHome &home)
+        : m_home(home)
+    {
+    }
+
+private Q_SLOTS:
+    // --- the shipped rules
+
+    void theShippedFileHasItsTwentyThreeRules()
+    {
+        const TestTree tree;
+        BrowserCleaner cleaner(foldersOf(tree));
+        const LogCapture log;
+        cleaner.loadRules(shipped);
+        QVERIFY(log.contains(u"[INFO] Loaded 23 browser rules"_s));
+        QStringList list;
+        QStringList unticked;
+        QStringList flat;
+        QString risks;
+        for (const BrowserRule &rule : cleaner.rules()) {
+            list.append(rule.id);
+            QVERIFY2(!rule.name.isEmpty() && !rule.description.isEmpty(), qPrintable(rule.id));
+            QVERIFY2(!rule.patterns.isEmpty(), qPrintable(rule.id));
+            QCOMPARE(rule.subPath.isEmpty(), rule.patterns != QStringList{u"*"_s});
+            if (!rule.defaultChecked)
+                unticked.append(rule.id);
+            if (rule.subPath.isEmpty())
+                flat.append(rule.id);
+            risks += QString::number(rule.riskLevel);
+        }
+        QCOMPARE(list,
+                 u"cache code_cache gpu_cache shader_cache service_worker media_cache "
+                 "network_cache jump_list blob_storage webrtc_logs crash_reports logs thumbnails "
+                 "favicons font_cache local_storage indexeddb cookies history downloads session "
+                 "form_data safe_browsing"_s.split(u' '));
+        QCOMPARE(unticked, list.mid(15));
+        QCOMPARE(flat, u"logs favicons cookies history downloads session form_data"_s.split(u' '));
+        QCOMPARE(risks, u"00000000000000011211222"_s);
+        QCOMPARE(cleaner.rules().at(6).subPath, u"Cache/Cache_Data"_s);
+        QCOMPARE(cleaner.rules().at(13).firefoxPatterns,
+                 (QStringList{u"favicons.sqlite"_s, u"favicons.sqlite-wal"_s}));
+        QVERIFY(cleaner.rules().at(19).patterns.contains(u"History"_s));
+    }
+
+    void missingMembersGetTheirDefaults()
+    {
+        const TestTree tree;
+        BrowserCleaner cleaner(foldersOf(tree));
+        load(cleaner, "{\"rules\": [{}, {\"riskLevel\": \"2\", \"defaultChecked\": 0}]}");
+        QCOMPARE(cleaner.rules().size(), 2);
+        for (const BrowserRule &rule : cleaner.rules()) {
+            QVERIFY(rule.id.isEmpty() && rule.name.isEmpty() && rule.description.isEmpty());
+            QVERIFY(rule.subPath.isEmpty() && rule.firefoxSubPath.isEmpty());
+            QVERIFY(rule.patterns.isEmpty() && rule.firefoxPatterns.isEmpty());
+            QVERIFY(rule.defaultChecked);
+            QCOMPARE(rule.riskLevel, 0);
+        }
+    }
+
+    void withoutARuleFileScansFindNothing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("missing") << QByteArray("-") << u"[ERROR] Failed to load browser rules: "_s;
+        QTest::newRow("an array") << QByteArray("[1]") << u"[ERROR] Invalid browser rules format"_s;
+        QTest::newRow("no JSON") << QByteArray("rules")
+                                 << u"[ERROR] Invalid browser rules format"_s;
+    }
+
+    void withoutARuleFileScansFindNothing()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, line);
+        const TestTree tree;
+        tree.file(chromeProfile() + "/GPUCache/a"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        const LogCapture log;
+        cleaner.loadRules(content == "-" ? tree.path(u"none.json"_s)
+                                         : tree.file(u"rules.json"_s, content));
+        QVERIFY(log.contains(line));
+        QVERIFY(cleaner.rules().isEmpty());
+        scan(cleaner);
+        QVERIFY(cleaner.result().categories.isEmpty());
+    }
+
+    // --- which browsers are there
+
+    void theFiveBrowsersStandInTheirOrder()
+    {
+        const TestTree tree;
+        const LogCapture log;
+        const BrowserCleaner cleaner(foldersOf(tree));
+        QStringList lines;
+        for (const Browser &browser : cleaner.browsers())
+            lines.append(u"%1 %2 %3 %4 %5"_s.arg(QString::number(browser.type), browser.name,
+                                                 browser.id, browser.processName,
+                                                 browser.dataRoot.mid(tree.path().size())));
+        QCOMPARE(
+            lines,
+            (QStringList{
+                u"0 Google Chrome google_chrome chrome.exe /Local/Google/Chrome/User Data"_s,
+                u"1 Microsoft Edge microsoft_edge msedge.exe /Local/Microsoft/Edge/User Data"_s,
+                u"2 Mozilla Firefox mozilla_firefox firefox.exe /Roaming/Mozilla/Firefox/Profiles"_s,
+                u"3 Opera opera opera.exe /Roaming/Opera Software/Opera Stable"_s,
+                u"4 Brave brave brave.exe /Local/BraveSoftware/Brave-Browser/User Data"_s}));
+        QVERIFY(log.contains(u"[INFO] Detected 0 browsers"_s));
+        QVERIFY(log.contains(u"[INFO] Browser: Microsoft Edge, Installed: false, Path: "_s
+                             + tree.path(u"Local/Microsoft/Edge/User Data"_s)));
+    }
+
+    void aDataFolderMakesABrowserInstalled_data()
+    {
+        QTest::addColumn<QString>("made");
+        QTest::addColumn<int>("type");
+        QTest::newRow("Chrome") << u"Local/Google/Chrome/User Data/"_s << 0;
+        QTest::newRow("Edge") << u"Local/Microsoft/Edge/User Data/"_s << 1;
+        QTest::newRow("Firefox, its file") << u"Roaming/Mozilla/Firefox/profiles.ini"_s << 2;
+        QTest::newRow("Firefox, roaming") << u"Roaming/Mozilla/Firefox/Profiles/"_s << 2;
+        QTest::newRow("Firefox, local") << u"Local/Mozilla/Firefox/Profiles/"_s << 2;
+        QTest::newRow("Opera") << u"Roaming/Opera Software/Opera Stable/"_s << 3;
+        QTest::newRow("Brave") << u"Local/BraveSoftware/Brave-Browser/User Data/"_s << 4;
+    }
+
+    void aDataFolderMakesABrowserInstalled()
+    {
+        QFETCH(QString, made);
+        QFETCH(int, type);
+        const TestTree tree;
+        if (made.endsWith(u'/'))
+            tree.folder(made);
+        else
+            tree.file(made);
+        const LogCapture log;
+        const BrowserCleaner cleaner(foldersOf(tree));
+        for (const Browser &browser : cleaner.browsers())
+            QCOMPARE(browser.installed, browser.type == type);
+        QVERIFY(log.contains(u"[INFO] Detected 1 browsers"_s));
+        QVERIFY(log.contains(u"Installed: true, Path: "_s));
+    }
+
+    void anUninstallEntryMakesABrowserInstalledThatYieldsNothing_data()
+    {
+        QTest::addColumn<QString>("list");
+        QTest::newRow("of the machine")
+            << u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s;
+        QTest::newRow("of the machine, 32 bits")
+            << u"HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\"
+               "Uninstall"_s;
+        QTest::newRow("of the user")
+            << u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s;
+    }
+
+    void anUninstallEntryMakesABrowserInstalledThatYieldsNothing()
+    {
+        QFETCH(QString, list);
+        RegistryFixture fixture(m_home);
+        fixture.addText(list + "\\Sweepwise Test"_L1, u"DisplayName"_s,
+                        u"The bRaVe one, 1.2 (64 bit)"_s);
+        fixture.addText(list + "\\Sweepwise Test 2"_L1, u"Publisher"_s, u"Opera"_s);
+        fixture.write();
+        const TestTree tree;
+        BrowserCleaner cleaner(foldersOf(tree));
+        for (const Browser &browser : cleaner.browsers())
+            QCOMPARE(browser.installed, browser.type == Browser::Brave);
+        cleaner.loadRules(shipped);
+        SignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        scan(cleaner);
+        QCOMPARE(progress.size(), 1);
+        QVERIFY(cleaner.result().categories.isEmpty());
+    }
+
+    void lookingForBrowsersChangesNothingInTheRegistry()
+    {
+        const QStringList hives{u"HKEY_LOCAL_MACHINE\\SOFTWARE"_s,
+                                u"HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node"_s,
+                                u"HKEY_CURRENT_USER\\SOFTWARE"_s};
+        const RegistryFixture fixture(m_home);
+        const auto lists = [&] {
+            QStringList all;
+            for (const QString &hive : hives) {
+                const QString key = hive + "\\Microsoft\\Windows\\CurrentVersion"_L1;
+                all.append(QString::number(fixture.hasKey(key)));
+                all += fixture.exported(key + "\\Uninstall"_L1);
+            }
+            return all;
+        };
+        const QStringList before = lists();
+        const TestTree tree;
+        const BrowserCleaner cleaner(foldersOf(tree));
+        QVERIFY(!cleaner.browsers().at(0).installed);
+        QCOMPARE(lists(), before);
+    }
+
+    // --- what a scan finds
+
+    void aScanFindsWhatThePlainReadingFinds()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        const browsers::DataFolders folders = foldersOf(tree);
+        BrowserCleaner cleaner(folders);
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const QList<CleanCategory> plain =
+            plainBrowserScan(cleaner.browsers(), cleaner.rules(), folders);
+        QCOMPARE(described(cleaner.result().categories), described(plain));
+        QVERIFY(plain.size() > 90); // 23 rules for four browsers, 11 for the fifth
+    }
+
+    // Rules that overlap, look into hidden folders, or come from others than the shipped file.
+    void oddRulesFindWhatThePlainReadingFinds_data()
+    {
+        QTest::addColumn<QByteArray>("rules");
+        QTest::newRow("no rule for the whole profile") << QByteArray(
+            "{\"id\": \"a\", \"subPath\": \"Cache/Cache_Data\"}, {\"id\": \"b\", "
+            "\"subPath\": \"Cache\"}, {\"id\": \"c\", \"subPath\": \"Code Cache/js\"} ");
+        QTest::newRow("the same folder twice")
+            << QByteArray("{\"id\": \"a\", \"subPath\": \"Cache\", \"patterns\": [\"data_*\"]}, "
+                          "{\"id\": \"b\", \"subPath\": \"Cache\", \"patterns\": [\"*index*\"]} ");
+        QTest::newRow("everything, and a part")
+            << QByteArray("{\"id\": \"a\"}, {\"id\": \"b\", \"subPath\": \"Service Worker\"} ");
+        QTest::newRow("a hidden folder")
+            << QByteArray("{\"id\": \"a\"}, {\"id\": \"b\", \"subPath\": \".hidden\"}, "
+                          "{\"id\": \"c\", \"subPath\": \".hidden/sub\"} ");
+        QTest::newRow("wildcards")
+            << QByteArray("{\"id\": \"a\", \"patterns\": [\"*a?he*\", \"[HV]*\"]}, {\"id\": \"b\", "
+                          "\"patterns\": [\"\"]} ");
+        QTest::newRow("missing folders")
+            << QByteArray("{\"id\": \"a\", \"subPath\": \"No/Such\"}, {\"id\": \"b\", \"subPath\": "
+                          "\"History\"} ");
+    }
+
+    void oddRulesFindWhatThePlainReadingFinds()
+    {
+        QFETCH(QByteArray, rules);
+        const TestTree tree;
+        const QString profile = chromeProfile();
+        browserprofiles::makeChromium(tree, profile);
+        tree.file(profile + "/.hidden/one"_L1, "1");
+        tree.file(profile + "/.hidden/sub/two"_L1, "22");
+        tree.file(profile + "/.hidden/sub/.three"_L1, "333");
+        const browsers::DataFolders folders = foldersOf(tree);
+        BrowserCleaner cleaner(folders);
+        load(cleaner, "{\"rules\": [" + rules + "]}");
+        scan(cleaner);
+        QCOMPARE(described(cleaner.result().categories),
+                 described(plainBrowserScan(cleaner.browsers(), cleaner.rules(), folders)));
+    }
+
+    void cookieRulesFindOnlyTheirFilesInAndBelowTheProfile()
+    {
+        const TestTree tree;
+        const QString profile = chromeProfile();
+        tree.file(profile + "/Cookies"_L1, "12");
+        tree.file(profile + "/Cookies-journal"_L1, "3");
+        tree.file(profile + "/Network/Cookies"_L1, "4567");
+        tree.file(profile + "/Cookies.txt"_L1);
+        tree.file(profile + "/My Cookies"_L1);
+        tree.file(u"Local/Google/Chrome/User Data/Cookies"_s);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QCOMPARE(ids(cleaner.result()), QStringList{u"google_chrome_cookies"_s});
+        QCOMPARE(paths(cleaner.result(), u"google_chrome_cookies"_s, tree.path(profile)),
+                 (QStringList{u"Cookies"_s, u"Cookies-journal"_s, u"Network/Cookies"_s}));
+        const CleanCategory &category = cleaner.result().categories.constFirst();
+        QCOMPARE(category.name, u"Google Chrome - Cookies"_s);
+        QCOMPARE(category.description, u"Website Cookies (requires re-login to all sites)"_s);
+        QCOMPARE(category.totalSize(), 7);
+        QVERIFY(!category.checked);
+        for (const CleanItem &item : category.items) {
+            QVERIFY(!item.checked);
+            QCOMPARE(item.riskLevel, 2);
+        }
+    }
+
+    void aFolderAndTheFilesInItAreBothListed()
+    {
+        const TestTree tree;
+        tree.file(chromeProfile() + "/Cache/Cache_Data/a"_L1, "12");
+        tree.file(chromeProfile() + "/Cache/Cache_Data/sub/b"_L1, "345");
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const QString cache = tree.path(chromeProfile() + "/Cache"_L1);
+        QCOMPARE(paths(cleaner.result(), u"google_chrome_cache"_s, cache),
+                 (QStringList{u"Cache_Data"_s, u"Cache_Data/a"_s, u"Cache_Data/sub"_s,
+                              u"Cache_Data/sub/b"_s}));
+        QCOMPARE(paths(cleaner.result(), u"google_chrome_network_cache"_s, cache),
+                 (QStringList{u"Cache_Data/a"_s, u"Cache_Data/sub"_s, u"Cache_Data/sub/b"_s}));
+        const CleanItem &folder = cleaner.result().categories.constFirst().items.constFirst();
+        QCOMPARE(folder.name, u"Cache_Data"_s);
+        QVERIFY(folder.isDirectory);
+        QCOMPARE(folder.size, 5);
+    }
+
+    void theDownloadRuleTakesTheHistoryToo()
+    {
+        const TestTree tree;
+        tree.file(chromeProfile() + "/History"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QCOMPARE(ids(cleaner.result()),
+                 (QStringList{u"google_chrome_history"_s, u"google_chrome_downloads"_s}));
+    }
+
+    void categoryIdsAreTheSameInEveryRun()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        BrowserCleaner first(foldersOf(tree));
+        BrowserCleaner second(foldersOf(tree));
+        for (BrowserCleaner *cleaner : {&first, &second}) {
+            cleaner->loadRules(shipped);
+            scan(*cleaner);
+        }
+        const QStringList list = ids(first.result());
+        QCOMPARE(ids(second.result()), list);
+        scan(first);
+        QCOMPARE(ids(first.result()), list);
+        for (const char *id : {"google_chrome_cache", "microsoft_edge_safe_browsing",
+                               "mozilla_firefox_cookies", "opera_history", "brave_form_data"})
+            QVERIFY2(list.contains(QLatin1StringView(id)), id);
+    }
+
+    void aProfileSweepsUpNoNeighbour()
+    {
+        const TestTree tree;
+        const QString root = u"Local/Google/Chrome/User Data/"_s;
+        for (const QString &name : {u"Default"_s, u"Profile 1"_s, u"Profile"_s, u"Guest Profile"_s,
+                                    u"System Profile"_s, u"Profile 2.bak"_s, u"Default2"_s})
+            tree.file(root + name + "/GPUCache/x"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QCOMPARE(paths(cleaner.result(), u"google_chrome_gpu_cache"_s, tree.path(root).chopped(1)),
+                 (QStringList{u"Default/GPUCache/x"_s, u"Profile 1/GPUCache/x"_s,
+                              u"Profile 2.bak/GPUCache/x"_s}));
+    }
+
+    // --- Firefox
+
+    void firefoxProfilesComeFromTheFileAndTheFolders()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        const LogCapture log;
+        const QStringList found = browsers::firefoxProfiles(foldersOf(tree));
+        QStringList relative;
+        for (const QString &path : found)
+            relative.append(path.mid(tree.path().size() + 1));
+        const QString roaming = u"Roaming/Mozilla/Firefox/Profiles/"_s;
+        const QString local = u"Local/Mozilla/Firefox/Profiles/"_s;
+        QCOMPARE(relative,
+                 (QStringList{roaming + u"ab12cd34.default-release"_s, u"Elsewhere/profile"_s,
+                              roaming + u"ef56.默认 🦊"_s, roaming + u"unnamed.in-the-file"_s,
+                              local + u"ab12cd34.default-release"_s, local + u"ef56.默认 🦊"_s,
+                              local + u"unnamed.in-the-file"_s}));
+        QCOMPARE(log.count(u"[INFO] Found Firefox profile: "_s), 2);
+    }
+
+    void profilesIniIsReadAsItStands_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("empty") << QByteArray() << QStringList();
+        QTest::newRow("no groups") << QByteArray("Path=p\nIsRelative=1\n") << QStringList();
+        QTest::newRow("relative") << QByteArray("[Profile0]\nPath=p\nIsRelative=1\n")
+                                  << QStringList{u"Roaming/Mozilla/Firefox/p"_s};
+        QTest::newRow("an install group")
+            << QByteArray("[InstallABC]\nPath=p\nIsRelative=1\nDefault=q\n")
+            << QStringList{u"Roaming/Mozilla/Firefox/p"_s};
+        QTest::newRow("another group")
+            << QByteArray("[General]\nPath=p\nIsRelative=1\n") << QStringList();
+        QTest::newRow("without a path")
+            << QByteArray("[Profile0]\nIsRelative=1\n") << QStringList();
+        QTest::newRow("relative but not said so")
+            << QByteArray("[Profile0]\nPath=p\n") << QStringList();
+        QTest::newRow("comma and blanks")
+            << QByteArray("\xEF\xBB\xBF; x\n[Profile0]\n Path = a, b \nIsRelative=1\n")
+            << QStringList{u"Roaming/Mozilla/Firefox/a, b"_s};
+        QTest::newRow("twice") << QByteArray(
+            "[Profile0]\nPath=p\nIsRelative=1\n[Profile1]\nPath=p\nIsRelative=1\n")
+                               << QStringList{u"Roaming/Mozilla/Firefox/p"_s};
+        QTest::newRow("back to itself")
+            << QByteArray("[Profile0]\nPath=p/../../Firefox/p\nIsRelative=1\n")
+            << QStringList{u"Roaming/Mozilla/Firefox/p"_s};
+        QTest::newRow("a file") << QByteArray("[Profile0]\nPath=f\nIsRelative=1\n")
+                                << QStringList();
+        QTest::newRow("binary") << QByteArray("[Profile0]\nPath=\x00\xff\nIsRelative=1\n[", 33)
+                                << QStringList();
+        QTest::newRow("backslashes") << QByteArray("[Profile0]\nPath=n\\t\\x41\nIsRelative=1\n")
+                                     << QStringList{u"Roaming/Mozilla/Firefox/n/t/x41"_s};
+    }
+
+    void profilesIniIsReadAsItStands()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QStringList, expected);
+        const TestTree tree;
+        const QString root = u"Roaming/Mozilla/Firefox/"_s;
+        tree.folder(root + "p"_L1);
+        tree.folder(root + "a, b"_L1);
+        tree.folder(root + "n/t/x41"_L1);
+        tree.file(root + "f"_L1);
+        tree.file(root + "profiles.ini"_L1, content);
+        QStringList found = browsers::firefoxProfiles(foldersOf(tree));
+        for (QString &path : found)
+            path.remove(0, tree.path().size() + 1);
+        QCOMPARE(found, expected);
+    }
+
+    void firefoxTakesOnlyWhatItsMappingNames()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        cleaner.setBrowserEnabled(Browser::Firefox, true);
+        scan(cleaner);
+        QCOMPARE(ids(cleaner.result()),
+                 u"mozilla_firefox_cache mozilla_firefox_shader_cache "
+                 "mozilla_firefox_crash_reports mozilla_firefox_logs mozilla_firefox_thumbnails "
+                 "mozilla_firefox_favicons mozilla_firefox_local_storage "
+                 "mozilla_firefox_indexeddb mozilla_firefox_cookies mozilla_firefox_history "
+                 "mozilla_firefox_downloads mozilla_firefox_session "
+                 "mozilla_firefox_form_data"_s.split(u' '));
+        for (const CleanCategory &category : cleaner.result().categories) {
+            for (const CleanItem &item : category.items) {
+                QVERIFY(!item.isDirectory);
+                for (const char *kept : {"bookmarkbackups", "logins.json", "key4.db", "permanent",
+                                         "backup/", "startupCache", "safebrowsing", "cache2/index"})
+                    QVERIFY2(!item.path.contains(QLatin1StringView(kept)), qPrintable(item.path));
+            }
+        }
+        const QString root = tree.path(u"Roaming/Mozilla/Firefox"_s);
+        QCOMPARE(paths(cleaner.result(), u"mozilla_firefox_crash_reports"_s, root),
+                 (QStringList{u"Crash Reports/pending/1.dmp"_s, u"Crash Reports/pending/1.extra"_s,
+                              u"Crash Reports/top.dmp"_s}));
+        QCOMPARE(paths(cleaner.result(), u"mozilla_firefox_logs"_s, root),
+                 (QStringList{u"install.log"_s, u"other.log"_s, u"update.log"_s}));
+        QCOMPARE(find(cleaner.result(), u"mozilla_firefox_cookies"_s)->items.size(), 3 * 3 + 1);
+        QCOMPARE(find(cleaner.result(), u"mozilla_firefox_session"_s)->items.size(), 3 * 3);
+        QCOMPARE(find(cleaner.result(), u"mozilla_firefox_cache"_s)->items.size(), 3 * 2 + 1);
+    }
+
+    // --- which browsers are scanned
+
+    void untilAChoiceIsMadeEveryInstalledBrowserIsScanned()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        SignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        const LogCapture log;
+        scan(cleaner);
+        QCOMPARE(progress.size(), 5);
+        QCOMPARE(progress.constFirst(), (QList<QVariant>{1, 5, u"Google Chrome"_s}));
+        QCOMPARE(progress.at(2), (QList<QVariant>{3, 5, u"Mozilla Firefox"_s}));
+        QVERIFY(log.contains(u"[INFO] Starting browser scan..."_s));
+        QVERIFY(log.contains(u"[INFO] Browser scan finished. Found %1 items, %2"_s.arg(
+            QString::number(cleaner.result().totalCount()),
+            formatSize(cleaner.result().totalSize()))));
+    }
+
+    void afterAChoiceOnlyThoseChosenAreScanned()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        cleaner.setBrowserEnabled(Browser::Edge, true);
+        cleaner.setBrowserEnabled(Browser::Brave, false);
+        QVERIFY(cleaner.browsers().at(1).selected);
+        QVERIFY(!cleaner.browsers().at(0).selected && !cleaner.browsers().at(4).selected);
+        SignalSpy progress(&cleaner, &CleanEngine::scanProgress);
+        scan(cleaner);
+        QCOMPARE(progress.size(), 1);
+        QCOMPARE(progress.constFirst(), (QList<QVariant>{1, 1, u"Microsoft Edge"_s}));
+        for (const QString &id : ids(cleaner.result()))
+            QVERIFY2(id.startsWith("microsoft_edge_"_L1), qPrintable(id));
+    }
+
+    void aBrowserWithoutDataYieldsNothing()
+    {
+        const TestTree tree;
+        tree.folder(u"Local/Google/Chrome/User Data"_s);
+        tree.folder(u"Local/Mozilla/Firefox/Profiles"_s);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QVERIFY(cleaner.result().categories.isEmpty());
+    }
+
+    void aCancelledScanEndsEarly()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        SignalSpy finished(&cleaner, &CleanEngine::scanFinished);
+        connect(
+            &cleaner, &CleanEngine::scanProgress, &cleaner,
+            [&cleaner](int current) {
+                if (current == 2)
+                    cleaner.cancel();
+            },
+            Qt::DirectConnection);
+        cleaner.startScan();
+        cleaner.stopAndWait();
+        QCoreApplication::processEvents();
+        QCOMPARE(finished.size(), 0);
+        QCOMPARE(cleaner.state(), State::Cancelled);
+        for (const QString &id : ids(cleaner.result()))
+            QVERIFY2(!id.startsWith("mozilla"_L1) && !id.startsWith("microsoft_edge"_L1),
+                     qPrintable(id));
+    }
+
+    // --- cleaning
+
+    void whatIsTickedGoesAndTheRestStays()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        const TestTree fence;
+        fence.file(u"canary"_s);
+        const QMap<QString, QString> fenceBefore = fence.snapshot();
+#ifdef Q_OS_UNIX
+        tree.link(fence.path(), chromeProfile() + "/Cache/link to a folder"_L1);
+        tree.link(fence.path(u"canary"_s), chromeProfile() + "/Code Cache/link to a file"_L1);
+#endif
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const ScanResult selected = cleaner.result().checkedOnly();
+        QStringList gone;
+        qint64 bytes = 0;
+        QSet<QString> seen;
+        for (const CleanCategory &category : selected.categories) {
+            for (const CleanItem &item : category.items) {
+                gone.append(item.path);
+                if (!item.isDirectory && !seen.contains(item.path))
+                    bytes += item.size;
+                seen.insert(item.path);
+            }
+        }
+        QMap<QString, QString> expected = tree.snapshot();
+        for (const QString &path : gone)
+            expected.remove(path);
+        SignalSpy progress(&cleaner, &CleanEngine::cleanProgress);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        QCOMPARE(tree.snapshot(), expected);
+        QCOMPARE(fence.snapshot(), fenceBefore);
+        const int count = static_cast<int>(gone.size());
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{bytes, count}));
+        QCOMPARE(progress.size(), count);
+        QCOMPARE(progress.constFirst(), (QList<QVariant>{1, count, qint64(0)}));
+        QCOMPARE(cleaner.state(), State::Finished);
+        QVERIFY(cleaner.failures().isEmpty());
+        QVERIFY(log.contains(u"[INFO] Starting browser clean..."_s));
+        QVERIFY(log.contains(
+            u"[INFO] Browser clean finished. Cleaned %1 items, %2. Failed: 0 items"_s.arg(
+                QString::number(count), formatSize(bytes))));
+        QVERIFY(!log.contains(u"is running"_s));
+    }
+
+    void aCleanSurvivesAFolderThatWentWithItsParent()
+    {
+        const TestTree tree;
+        tree.file(chromeProfile() + "/Cache/Cache_Data/sub/b"_L1, "345");
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(3), 5}));
+        QVERIFY(!log.contains(u"Failed to delete"_s));
+        QVERIFY(tree.has(chromeProfile() + "/Cache"_L1));
+        QVERIFY(!tree.has(chromeProfile() + "/Cache/Cache_Data"_L1));
+    }
+
+    void aFolderThatACancelLeavesIsNoFailure()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 50; ++i)
+            tree.file(chromeProfile() + u"/GPUCache/sub/f%1"_s.arg(i), "12345");
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        for (CleanCategory &category : cleaner.result().categories) {
+            for (CleanItem &item : category.items)
+                item.checked = item.isDirectory;
+        }
+        connect(
+            &cleaner, &CleanEngine::cleanProgress, &cleaner,
+            [&cleaner](int index, int total) {
+                if (index == total)
+                    cleaner.cancel();
+            },
+            Qt::DirectConnection);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        QCOMPARE(cleaner.state(), State::Cancelled);
+        QVERIFY(!log.contains(u"Failed to delete"_s));
+        QVERIFY(!log.contains(u"Browser clean finished"_s));
+        QVERIFY(cleaner.failures().isEmpty());
+    }
+
+    void whatIsGoneSinceTheScanIsACountedFailure()
+    {
+        const TestTree tree;
+        const QString gone = tree.file(chromeProfile() + "/GPUCache/a"_L1, "1");
+        tree.file(chromeProfile() + "/GPUCache/b"_L1, "22");
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QVERIFY(QFile::remove(gone));
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(2), 1}));
+        QCOMPARE(log.count(u"[WARN] Failed to delete: "_s + gone), 1);
+        QVERIFY(log.contains(u"Cleaned 1 items, 2 B. Failed: 1 items"_s));
+        QCOMPARE(cleaner.failures().size(), 1);
+        QCOMPARE(cleaner.failures().constFirst().path, gone);
+    }
+
+    void aRunningBrowserIsWarnedOfAndCleanedAllTheSame()
+    {
+        const TestTree tree;
+        browserprofiles::makeChromium(tree, u"Roaming/Opera Software/Opera Stable/Default"_s);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        cleaner.setBrowserEnabled(Browser::Opera, true);
+        scan(cleaner);
+        for (CleanCategory &category : cleaner.result().categories)
+            category.setChecked(category.id == "opera_cache"_L1);
+        // A copy of this test under the browser's name.
+        const QString program = tree.path(u"Opera.exe"_s);
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
+        QProcess process;
+        process.start(program, {QString::fromLatin1(sleepArgument)});
+        QVERIFY(process.waitForStarted());
+        QTest::qWait(300);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        QCOMPARE(log.count(u"[WARN] Opera is running, some files may not be deleted"_s), 1);
+        QVERIFY(finished.constFirst().at(1).toInt() > 0);
+        QVERIFY(!tree.has(u"Roaming/Opera Software/Opera Stable/Default/Cache/Cache_Data"_s));
+        process.kill();
+        QVERIFY(process.waitForFinished());
+    }
+
+    void withoutAScanACleanEndsWithNothing()
+    {
+        const TestTree tree;
+        BrowserCleaner cleaner(foldersOf(tree));
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
+        QCOMPARE(cleaner.state(), State::Finished);
+    }
+
+    void aCancelledCleanTellsWhatWasDone()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 100; ++i)
+            tree.file(chromeProfile() + u"/GPUCache/f%1"_s.arg(i), "12345");
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        connect(
+            &cleaner, &CleanEngine::cleanProgress, &cleaner,
+            [&cleaner](int current) {
+                if (current == 20)
+                    cleaner.cancel();
+            },
+            Qt::DirectConnection);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(100), 20}));
+        QCOMPARE(cleaner.state(), State::Cancelled);
+        QVERIFY(!log.contains(u"Browser clean finished"_s));
+    }
+
+    void rulesDoNotLeaveTheProfile()
+    {
+        const TestTree tree;
+        tree.file(u"Local/Google/Chrome/User Data/canary"_s);
+        tree.file(chromeProfile() + "/x"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        load(cleaner,
+             "{\"rules\": [{\"id\": \"a\", \"subPath\": \"..\"}, {\"id\": \"b\", \"subPath\": "
+             "\"../..\"}, "
+             "{\"id\": \"c\", \"subPath\": \"x/../..\"}, {\"id\": \"d\", \"subPath\": "
+             "\"..\\\\..\"}, "
+             "{\"id\": \"e\", \"patterns\": [\"..\", \"../?\", \"Default\"]}]} ");
+        scan(cleaner);
+        QVERIFY(cleaner.result().categories.isEmpty());
+    }
+
+#ifdef Q_OS_UNIX
+    // --- links
+
+    void nothingBehindALinkIsFoundOrRemoved()
+    {
+        const TestTree outside;
+        browserprofiles::makeChromium(outside, u"profile"_s);
+        browserprofiles::makeFirefox(outside, u"fox"_s);
+        outside.file(u"plain"_s);
+        const TestTree tree;
+        const QString root = u"Local/Google/Chrome/User Data/"_s;
+        browserprofiles::makeChromium(tree, root + "Default"_L1);
+        // In the place of a profile, of a rule's folder, of one on the way there, and inside.
+        tree.link(outside.path(u"profile"_s), root + "Profile 7"_L1);
+        tree.link(outside.path(), root + "Default/Cache/Cache_Data/folder"_L1);
+        tree.link(outside.path(u"plain"_s), root + "Default/Cache/Cache_Data/file"_L1);
+        tree.link(outside.path(u"profile"_s), root + "Default/History.d"_L1);
+        tree.link(outside.path(u"profile/History"_s), root + "Profile 1/History"_L1);
+        tree.link(outside.path(u"profile/Network"_s), root + "Profile 1/Cookies"_L1);
+        tree.link(outside.path(u"profile/Cache"_s), root + "Profile 1/Cache"_L1);
+        tree.link(outside.path(u"profile/Crashpad"_s), root + "Profile 1/Crashpad"_L1);
+        tree.link(outside.path(u"profile"_s), u"Local/Microsoft/Edge/User Data/Default"_s);
+        tree.link(outside.path(), u"Local/BraveSoftware/Brave-Browser/User Data"_s);
+        tree.link(outside.path(u"Roaming/Mozilla/Firefox/Profiles/fox"_s),
+                  u"Roaming/Mozilla/Firefox/Profiles/link"_s);
+        tree.link(outside.path(u"Local/Mozilla/Firefox/Profiles/fox/cache2"_s),
+                  u"Local/Mozilla/Firefox/Profiles/own/cache2"_s);
+        tree.link(outside.path(u"Roaming/Mozilla/Firefox/Profiles/fox/cookies.sqlite"_s),
+                  u"Roaming/Mozilla/Firefox/Profiles/own/cookies.sqlite"_s);
+        const QMap<QString, QString> before = outside.snapshot();
+
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        const LogCapture log;
+        scan(cleaner);
+        for (CleanCategory &category : cleaner.result().categories) {
+            for (const CleanItem &item : category.items) {
+                QVERIFY2(item.path.startsWith(tree.path() + u'/'), qPrintable(item.path));
+                QVERIFY2(!item.path.contains("/folder/"_L1), qPrintable(item.path));
+                QCOMPARE(QFileInfo(QFileInfo(item.path).path()).canonicalFilePath(),
+                         QFileInfo(item.path).path());
+            }
+            category.setChecked(true);
+        }
+        QVERIFY(find(cleaner.result(), u"google_chrome_cookies"_s));
+        QVERIFY(!find(cleaner.result(), u"microsoft_edge_cookies"_s));
+        QVERIFY(!find(cleaner.result(), u"brave_cookies"_s));
+        QVERIFY(log.contains(u"[WARN] Skipped "_s + tree.path(root + "Profile 7"_L1)));
+        QVERIFY(log.contains(u"[WARN] Skipped "_s + tree.path(root + "Profile 1/Cache"_L1)));
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QVERIFY(finished.constFirst().at(1).toInt() > 0);
+        QVERIFY(cleaner.failures().isEmpty());
+        QCOMPARE(outside.snapshot(), before);
+        // A link that a rule names is removed as a link.
+        for (const QString &link :
+             {u"Profile 1/Cookies"_s, u"Profile 1/History"_s, u"Default/Cache/Cache_Data"_s})
+            QVERIFY2(!tree.has(root + link), qPrintable(link));
+        for (const QString &link : {u"Profile 7"_s, u"Profile 1/Cache"_s, u"Default/History.d"_s})
+            QVERIFY2(tree.has(root + link), qPrintable(link));
+    }
+
+    void aFolderExchangedForALinkAfterTheScanLosesNothing()
+    {
+        const TestTree outside;
+        outside.file(u"Cache_Data/a"_s);
+        outside.file(u"Cache_Data/b"_s);
+        const TestTree tree;
+        const QString cache = chromeProfile() + "/Cache"_L1;
+        tree.file(cache + "/Cache_Data/a"_L1);
+        tree.file(cache + "/Cache_Data/b"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QVERIFY(QDir(tree.path(cache)).removeRecursively());
+        tree.link(outside.path(), cache);
+        const QMap<QString, QString> before = outside.snapshot();
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(outside.snapshot(), before);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
+    }
+
+    void aFolderItemThatBecameALinkGoesAsALink()
+    {
+        const TestTree outside;
+        outside.file(u"canary"_s);
+        const TestTree tree;
+        const QString folder = chromeProfile() + "/Cache/Cache_Data"_L1;
+        tree.file(folder + "/a"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QVERIFY(QDir(tree.path(folder)).removeRecursively());
+        tree.link(outside.path(), folder);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QVERIFY(outside.has(u"canary"_s));
+        QVERIFY(!tree.has(folder));
+    }
+
+    void aProfileThatTheFileNamesThroughALinkIsTheRealOne()
+    {
+        const TestTree outside;
+        outside.file(u"real/cookies.sqlite"_s);
+        const TestTree tree;
+        const QString root = u"Roaming/Mozilla/Firefox/"_s;
+        tree.link(outside.path(u"real"_s), root + "Profiles/link"_L1);
+        tree.file(root + "profiles.ini"_L1, "[Profile0]\nPath=Profiles/link\nIsRelative=1\n");
+        QCOMPARE(browsers::firefoxProfiles(foldersOf(tree)), QStringList{outside.path(u"real"_s)});
+    }
+
+    void aPipeInThePlaceOfProfilesIniIsNotOpened()
+    {
+        const TestTree tree;
+        const QString root = tree.folder(u"Roaming/Mozilla/Firefox"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(root + "/profiles.ini"_L1).constData(), 0600), 0);
+        QVERIFY(browsers::firefoxProfiles(foldersOf(tree)).isEmpty());
+    }
+
+    void aProfileThatIsTheHomeIsNotTakenWhole()
+    {
+        const TestTree tree;
+        const QString home = QDir::homePath();
+        QVERIFY(QDir().mkpath(home + "/Cache"_L1));
+        QFile precious(home + "/Cache/precious"_L1);
+        QVERIFY(precious.open(QIODevice::WriteOnly));
+        tree.file(u"Roaming/Mozilla/Firefox/profiles.ini"_s,
+                  "[Profile0]\nPath=/\nIsRelative=0\n[Profile1]\nPath=" + QFile::encodeName(home)
+                      + "\nIsRelative=0\n");
+        BrowserCleaner cleaner(foldersOf(tree));
+        load(cleaner, "{\"rules\": [{\"id\": \"cache\"}]} ");
+        const LogCapture log;
+        scan(cleaner);
+        QVERIFY(cleaner.result().categories.isEmpty());
+        QVERIFY(log.contains(u"[WARN] Skipped Firefox profile: / holds more"_s));
+        QVERIFY(log.contains(u"[WARN] Skipped Firefox profile: %1 holds more"_s.arg(home)));
+    }
+
+    void aProfileIsReadOnceWhateverTheNumberOfRules()
+    {
+        const TestTree tree;
+        browserprofiles::makeChromium(tree, u"Local/Google/Chrome/User Data/Default"_s);
+        // Below the folders of several rules, and of those that take the whole profile.
+        const QString closed = tree.folder(chromeProfile() + "/Cache/Cache_Data/closed"_L1);
+        const auto everyone = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+            | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+        QVERIFY(QFile::setPermissions(tree.path(), everyone));
+        QVERIFY(QFile::setPermissions(closed, QFile::Permissions()));
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        const LogCapture log;
+        {
+            const OrdinaryUser user;
+            scan(cleaner);
+        }
+        QFile::setPermissions(closed, everyone);
+        QCOMPARE(log.count(u"Cannot read"_s), 1);
+        QVERIFY(cleaner.result().categories.size() > 10);
+    }
+#endif
+
+private:
+    static void load(BrowserCleaner &cleaner, const QByteArray &content)
+    {
+        const TestTree tree;
+        cleaner.loadRules(tree.file(u"rules.json"_s, content));
+    }
+
+    static void scan(BrowserCleaner &cleaner)
+    {
+        SignalSpy finished(&cleaner, &CleanEngine::scanFinished);
+        cleaner.startScan();
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(cleaner.state(), State::Finished);
+    }
+
+    static void clean(BrowserCleaner &cleaner, SignalSpy &finished)
+    {
+        cleaner.startClean();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        cleaner.stopAndWait();
+    }
+
+    const TestHome &m_home;
+};
+
+int main(int argc, char *argv[])
+{
+    if (argc == 2 && qstrcmp(argv[1], sleepArgument) == 0) {
+        QThread::sleep(30);
+        return 0;
+    }
+    const TestHome home;
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(appinfo::name);
+    QCoreApplication::setOrganizationName(appinfo::organisation);
+    TestBrowserCleaner test(home);
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_browsercleaner.moc"

@@ -1,0 +1,112 @@
+#include "cleanledger.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using Status = platform::FileRemover::Status;
+
+namespace {
+
+CleanItem folder(const QString &path, qint64 size)
+{
+    CleanItem item(path.section(u'/', -1), path, size);
+    item.isDirectory = true;
+    return item;
+}
+
+CleanItem file(const QString &path, qint64 size)
+{
+    return {path.section(u'/', -1), path, size};
+}
+
+ScanResult selectionOf(const QList<CleanItem> &items)
+{
+    ScanResult result;
+    result.categories.append(CleanCategory(u"id"_s, u"name"_s, {}));
+    result.categories.last().items = items;
+    return result;
+}
+
+const platform::FileRemover::Outcome removed{Status::Removed, false, {}};
+const platform::FileRemover::Outcome missing{Status::NotFound, false, {}};
+const platform::FileRemover::Outcome stuck{Status::Failed, false, QStringLiteral("busy")};
+const platform::FileRemover::Outcome partly{Status::Failed, true, QStringLiteral("busy")};
+
+} // namespace
+
+class TestCleanLedger : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void filesAreCountedOneByOne()
+    {
+        CleanLedger ledger(selectionOf({}));
+        QVERIFY(ledger.enter(file(u"/p/a"_s, 3), removed));
+        QVERIFY(ledger.enter(file(u"/p/b"_s, 4), removed));
+        QVERIFY(!ledger.enter(file(u"/p/c"_s, 5), stuck));
+        QVERIFY(!ledger.enter(file(u"/p/d"_s, 6), missing));
+        expect(ledger, 7, 2, 2);
+    }
+
+    void whatWentWithItsFolderIsCleanedAndCountedOnce()
+    {
+        const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
+                                     folder(u"/p/f/g"_s, 6), file(u"/p/f/g/b"_s, 6)};
+        CleanLedger ledger(selectionOf(items));
+        QVERIFY(ledger.enter(items.at(0), removed));
+        for (int i = 1; i < 4; ++i)
+            QVERIFY(ledger.enter(items.at(i), missing));
+        expect(ledger, 10, 4, 0);
+    }
+
+    void whatWentBeforeItsFolderIsCountedOnce()
+    {
+        const QList<CleanItem> items{file(u"/p/f/g/b"_s, 6), folder(u"/p/f/g"_s, 7),
+                                     folder(u"/p/f"_s, 10)};
+        CleanLedger ledger(selectionOf(items));
+        for (const CleanItem &item : items)
+            QVERIFY(ledger.enter(item, removed));
+        expect(ledger, 10, 3, 0);
+    }
+
+    void aFileThatTwoRulesTakeIsCountedOnce()
+    {
+        CleanLedger ledger(selectionOf({}));
+        QVERIFY(ledger.enter(file(u"/p/History"_s, 9), removed));
+        QVERIFY(ledger.enter(file(u"/p/History"_s, 9), missing));
+        QVERIFY(ledger.enter(file(u"/p/History"_s, 9), removed));
+        expect(ledger, 9, 3, 0);
+    }
+
+    void ofAFolderThatStayedWhatIsGoneIsCounted()
+    {
+        const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
+                                     folder(u"/p/f/g"_s, 6), file(u"/p/f/g/b"_s, 6)};
+        CleanLedger ledger(selectionOf(items));
+        QVERIFY(!ledger.enter(items.at(0), partly));
+        QVERIFY(ledger.enter(items.at(1), missing));
+        QVERIFY(!ledger.enter(items.at(2), partly));
+        QVERIFY(!ledger.enter(items.at(3), stuck));
+        expect(ledger, 4, 1, 3);
+    }
+
+    void aNeighbourWithALikeNameIsNotBelow()
+    {
+        CleanLedger ledger(selectionOf({folder(u"C:/p/f"_s, 1)}));
+        QVERIFY(ledger.enter(folder(u"C:/p/f"_s, 1), removed));
+        QVERIFY(!ledger.enter(file(u"C:/p/f2/a"_s, 1), missing));
+        QVERIFY(!ledger.enter(file(u"f"_s, 1), missing));
+    }
+
+private:
+    static void expect(const CleanLedger &ledger, qint64 size, int cleaned, int failed)
+    {
+        QCOMPARE(ledger.cleanedSize(), size);
+        QCOMPARE(ledger.cleanedCount(), cleaned);
+        QCOMPARE(ledger.failedCount(), failed);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCleanLedger)
+#include "tst_cleanledger.moc"

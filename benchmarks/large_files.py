@@ -1,0 +1,73 @@
+"""Looks for large files in a warm tree of 500,000 files, by our scanner and by other programs, in shuffled rounds."""
+import os
+import random
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+ROUNDS = 9
+FOUND = 50
+
+
+def ways(program, tree):
+    fd = shutil.which("fdfind") or shutil.which("fd")
+    return {
+        "QDirIterator": [program, "qdiriterator", tree],
+        "fd --threads 2": [fd, "--no-ignore", "--type", "f", "--size", "+100Mi", "--threads", "2", ".", tree],
+        "gdu": ["gdu", "--non-interactive", "--no-progress", "--no-cross", tree],
+        "find -type f -size +100M -printf": ["find", tree, "-type", "f", "-size", "+100M", "-printf", "%s %p\n"],
+        "bare loop, one thread": [program, "bare-1", tree],
+        "our scanner, one walker": [program, "scanner-1", tree],
+        "bare loop, two threads": [program, "bare-2", tree],
+        "our scanner, two walkers": [program, "scanner-2", tree],
+    }
+
+
+def run(name, command):
+    """Seconds and peak memory in MiB of one run."""
+    with tempfile.TemporaryFile() as output:
+        begin = time.perf_counter()
+        process = subprocess.Popen(command, stdout=output, stderr=subprocess.DEVNULL)
+        _, status, usage = os.wait4(process.pid, 0)
+        seconds = time.perf_counter() - begin
+        process.returncode = os.waitstatus_to_exitcode(status)
+        output.seek(0)
+        text = output.read().decode()
+    if name == "gdu":
+        found = FOUND  # it sums up folders
+    elif name.startswith(("find", "fd")):
+        found = len(text.splitlines())
+    else:
+        found = int(text)
+    if process.returncode != 0 or found != FOUND:
+        sys.exit(f"bench: {name}: exit status {process.returncode}, found {found}")
+    return seconds, usage.ru_maxrss / 1024
+
+
+def measure(build):
+    """The median seconds and the largest memory of every way."""
+    program = build / "benchmarks" / "bench_largefiles"
+    with tempfile.TemporaryDirectory() as tree:
+        subprocess.run([program, "make", tree], check=True)
+        commands = ways(program, tree)
+        seconds, memory = {name: [] for name in commands}, {name: [] for name in commands}
+        for round_number in range(ROUNDS + 1):
+            for name in random.sample(list(commands), len(commands)):
+                elapsed, peak = run(name, commands[name])
+                if round_number > 0:  # the first one warms up
+                    seconds[name].append(elapsed)
+                    memory[name].append(peak)
+    return {name: statistics.median(values) for name, values in seconds.items()}, {name: max(values) for name, values in memory.items()}
+
+
+def report(build):
+    seconds, memory = measure(build)
+    iterator, find, bare = seconds["QDirIterator"], seconds["find -type f -size +100M -printf"], seconds["bare loop, one thread"]
+    print("Files above 100 MiB among 500,000, ten levels deep, warm")
+    print(f"  {'':<36} {'bare = 1':>9} {'find = 1':>9} {'QDirIterator = 1':>17} {'peak MiB':>9}")
+    for name, value in sorted(seconds.items(), key=lambda entry: -entry[1]):
+        print(f"  {name:<36} {value / bare:9.2f} {value / find:9.2f} {value / iterator:17.2f} {memory[name]:9.1f}")
+    print()

@@ -1,0 +1,289 @@
+#include "largefilescanner.h"
+
+#include "fileremove.h"
+#include "filewalk.h"
+#include "logger.h"
+#include "scanresult.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMutexLocker>
+#include <QThread>
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int filesPerProgress = 100;
+constexpr int longestWait = 3000; // milliseconds
+// More walkers than this wait for each other and for the disk.
+constexpr int mostWalkers = 2;
+// How many files a walker looks at before it tells the others, when there are any.
+constexpr int filesPerCount = 25;
+
+/// Whether a path is left out, asked of its folder and its name one after the other: none of the
+/// texts reaches over a slash. The two with a backslash match no path with forward slashes; what
+/// lies below "Windows/WinSxS" is meant to be listed.
+bool isLeftOut(QStringView part)
+{
+    static constexpr std::array excluded{"$Recycle.Bin"_L1, "System Volume Information"_L1,
+                                         "Windows\\WinSxS"_L1, "Windows\\Installer"_L1};
+    return std::any_of(excluded.begin(), excluded.end(),
+                       [part](QLatin1StringView text) { return part.contains(text); });
+}
+
+} // namespace
+
+/// Takes what one walker meets: counts every file, keeps the large ones.
+class LargeFileScanner::Sweep final : public platform::TreeVisitor
+{
+    Q_DISABLE_COPY_MOVE(Sweep)
+public:
+    explicit Sweep(LargeFileScanner &scanner)
+        : m_scanner(scanner)
+        , m_minSize(scanner.m_scannedMinSize)
+        , m_batch(scanner.m_scanningWalkers > 1 ? filesPerCount : 1)
+    {
+    }
+
+    [[nodiscard]] Wanted enterFolder(const QString &path) override
+    {
+        finish();
+        m_folder = path;
+        m_isLeftOut = isLeftOut(path);
+        return m_isLeftOut ? Wanted::Names : Wanted::SizesAndTimes;
+    }
+
+    void meetFile(const platform::MetFile &file) override
+    {
+        if (!m_isLeftOut && file.size >= m_minSize)
+            keep(file);
+        if (++m_uncounted == m_batch && count() && !m_isLeftOut && !isLeftOut(file.name.toString()))
+            m_scanner.reportProgress(m_folder);
+    }
+
+    /// Counts what has not been counted yet.
+    void finish()
+    {
+        if (m_uncounted > 0 && count() && !m_isLeftOut)
+            m_scanner.reportProgress(m_folder);
+    }
+
+private:
+    void keep(const platform::MetFile &file)
+    {
+        const QString name = file.name.toString();
+        if (isLeftOut(name))
+            return;
+        m_scanner.addResult({platform::joinedPath(m_folder, name), name, m_folder, file.size,
+                             QDateTime::fromMSecsSinceEpoch(file.modified), largeFileType(name)});
+    }
+
+    /// Whether progress is due.
+    bool count()
+    {
+        const int before = m_scanner.m_filesScanned.fetch_add(m_uncounted);
+        const bool isDue = before / filesPerProgress != (before + m_uncounted) / filesPerProgress;
+        m_uncounted = 0;
+        return isDue;
+    }
+
+    LargeFileScanner &m_scanner;
+    const qint64 m_minSize;
+    const int m_batch;
+    int m_uncounted = 0;
+    QString m_folder;
+    bool m_isLeftOut = false;
+};
+
+LargeFileScanner::LargeFileScanner(QObject *parent)
+    : QObject(parent)
+    , m_walkerCount(std::clamp(QThread::idealThreadCount(), 1, mostWalkers))
+{
+    qRegisterMetaType<LargeFileInfo>();
+}
+
+LargeFileScanner::~LargeFileScanner()
+{
+    cancel();
+    if (m_worker)
+        m_worker->wait();
+}
+
+void LargeFileScanner::setDrives(const QStringList &drives)
+{
+    m_drives = drives;
+}
+
+void LargeFileScanner::setMinSize(qint64 bytes)
+{
+    m_minSize = bytes;
+}
+
+void LargeFileScanner::setWalkerCount(int count)
+{
+    m_walkerCount = std::max(count, 1);
+}
+
+void LargeFileScanner::startScan()
+{
+    if (m_running)
+        return;
+    if (m_worker) {
+        m_worker->wait();
+        m_worker.reset();
+    }
+    m_running = true;
+    m_cancelled = false;
+    m_scannedDrives = m_drives;
+    m_scannedMinSize = m_minSize;
+    m_scanningWalkers = m_walkerCount;
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_results.clear();
+        m_followed.clear();
+        m_totalSize = 0;
+    }
+    m_filesScanned = 0;
+    m_foundPaths.clear();
+    Q_EMIT scanStarted();
+
+    m_worker.reset(QThread::create([this] { doScan(); }));
+    m_worker->setObjectName("LargeFileScannerWorker"_L1);
+    // The signal of a cancelled run may arrive when the next one is busy: it is known by its
+    // number.
+    const quint64 run = ++m_run;
+    connect(m_worker.get(), &QThread::finished, this, [this, run] { onWorkerFinished(run); });
+    m_worker->start();
+}
+
+void LargeFileScanner::cancel()
+{
+    m_cancelled = true;
+    if (m_worker && m_worker->isRunning())
+        m_worker->wait(longestWait);
+    m_running = false;
+}
+
+void LargeFileScanner::onWorkerFinished(quint64 run)
+{
+    if (run != m_run)
+        return;
+    m_running = false;
+    if (m_cancelled)
+        return;
+    const auto found = static_cast<int>(results().size());
+    Q_EMIT scanFinished(found, totalSize());
+}
+
+QList<LargeFileInfo> LargeFileScanner::results() const
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_results;
+}
+
+qint64 LargeFileScanner::totalSize() const
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_totalSize;
+}
+
+void LargeFileScanner::doScan()
+{
+    Logger::instance().info(
+        u"Starting large file scan, min size: %1 MB"_s.arg(m_scannedMinSize / 1'048'576));
+    for (const QString &drive : std::as_const(m_scannedDrives)) {
+        if (m_cancelled)
+            break;
+        Logger::instance().info(u"Scanning drive: %1"_s.arg(drive));
+        scanDrive(drive);
+    }
+    Logger::instance().info(u"Scan completed. Found %1 files, total size: %2"_s.arg(
+        QString::number(results().size()), formatSize(totalSize())));
+}
+
+void LargeFileScanner::scanDrive(const QString &drive)
+{
+    if (m_cancelled || drive.isEmpty())
+        return;
+    std::vector<std::unique_ptr<Sweep>> sweeps;
+    QList<platform::TreeVisitor *> walkers;
+    for (int i = 0; i < m_scanningWalkers; ++i)
+        walkers.append(sweeps.emplace_back(std::make_unique<Sweep>(*this)).get());
+
+    const platform::WalkOptions options{{}, true, &m_cancelled, platform::Reach::Everywhere};
+    const platform::WalkReport report =
+        platform::walkTree(QDir::cleanPath(QFileInfo(drive).absoluteFilePath()), options, walkers);
+    for (const auto &sweep : sweeps)
+        sweep->finish();
+    if (report.failureCount > 0)
+        Logger::instance().warning(
+            u"Cannot read %1 folders below %2"_s.arg(QString::number(report.failureCount), drive));
+    const QMutexLocker locker(&m_mutex);
+    m_followed += report.followed;
+}
+
+void LargeFileScanner::addResult(const LargeFileInfo &info)
+{
+    const QMutexLocker locker(&m_mutex);
+    // A drive may be mounted below another one that is scanned too.
+    if (m_scannedDrives.size() > 1) {
+        if (m_foundPaths.contains(info.path))
+            return;
+        m_foundPaths.insert(info.path);
+    }
+    m_results.append(info);
+    m_totalSize += info.size;
+    Q_EMIT fileFound(info);
+}
+
+void LargeFileScanner::reportProgress(const QString &folder)
+{
+    int found = 0;
+    qint64 size = 0;
+    {
+        const QMutexLocker locker(&m_mutex);
+        found = static_cast<int>(m_results.size());
+        size = m_totalSize;
+    }
+    Q_EMIT scanProgress(0, folder, found, size);
+}
+
+QString LargeFileScanner::withoutFollowedLinks(const QString &path) const
+{
+    const QMutexLocker locker(&m_mutex);
+    QString best = path;
+    qsizetype longest = 0;
+    for (const platform::FollowedLink &link : m_followed) {
+        const QString folder = platform::joinedPath(link.path, QString());
+        if (folder.size() > longest && path.startsWith(folder)) {
+            longest = folder.size();
+            best = platform::joinedPath(link.target, path.mid(longest));
+        }
+    }
+    return best;
+}
+
+bool LargeFileScanner::deleteFile(const QString &path)
+{
+    platform::FileRemover remover;
+    if (remover.removeFile(withoutFollowedLinks(path)).status
+        != platform::FileRemover::Status::Removed) {
+        Logger::instance().error(u"Failed to delete file: %1"_s.arg(path));
+        return false;
+    }
+    Logger::instance().info(u"Deleted file: %1"_s.arg(path));
+    const QMutexLocker locker(&m_mutex);
+    const auto record =
+        std::find_if(m_results.cbegin(), m_results.cend(),
+                     [&path](const LargeFileInfo &info) { return info.path == path; });
+    if (record != m_results.cend()) {
+        m_totalSize -= record->size;
+        m_results.erase(record);
+    }
+    return true;
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "registry.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+/// One installed program and whether it starts with the user's session.
+struct StartupApp {
+    QString id; ///< the name of the uninstall key that it was found under
+    QString name;
+    QString exePath; ///< never empty in the list; a Windows path
+    QString iconPath;
+    QString publisher;
+    bool isStartup = false;
+};
+
+/// Lists the installed programs, finds for each the executable that starts it, and switches its
+/// entry in the user's list of start-up programs on and off.
+///
+/// Works on its caller's thread; loading reads the registry and looks into install folders, which
+/// may take a while.
+class StartupManager final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(StartupManager)
+public:
+    explicit StartupManager(QObject *parent = nullptr);
+
+    /// The programs, loaded on the first call.
+    [[nodiscard]] const QList<StartupApp> &apps();
+    /// Reads start-up list and programs anew.
+    void loadInstalledApps();
+
+    /// Makes @p exePath start with the session, without arguments, under the value @p name; another
+    /// entry of that name is overwritten. False, with a line in the log, when it could not be
+    /// stored.
+    bool addToStartup(const QString &name, const QString &exePath);
+    /// Removes the entry @p name. False, with a line in the log, when that could not be stored.
+    bool removeFromStartup(const QString &name);
+    /// Switches @p app; to switch it off, the entry that starts its executable is removed, under
+    /// whatever name it stands.
+    bool setStartup(const StartupApp &app, bool enable);
+
+    /// Why the last change failed; for people.
+    [[nodiscard]] const QString &errorString() const { return m_error; }
+
+    /// The executable of a start-up command.
+    [[nodiscard]] static QString commandPath(const QString &command);
+    /// The program of an install folder that is most likely the one to start, by the product's
+    /// name; empty when there is none. Looks into the folder and those right below it.
+    [[nodiscard]] static QString findExecutable(const QString &folder, const QString &name);
+
+private:
+    struct Entry {
+        QString valueName;
+        QString exePath;
+        QString command;
+    };
+
+    void readStartupTable(const platform::Registry &registry);
+    void readUninstallRoot(const platform::Registry &registry, platform::Hive hive,
+                           const QString &root);
+    void readUninstallKey(const platform::Registry &registry, platform::Hive hive,
+                          const QString &root, const QString &id);
+    /// Drops the entry of that name and unmarks its program.
+    void forget(const QString &valueName);
+    void setFlag(const QString &exePath, bool isStartup);
+
+    QList<StartupApp> m_apps;
+    bool m_loaded = false;
+    QHash<QString, Entry> m_startup; ///< by executable path in lower case
+    QString m_error;
+};

@@ -1,0 +1,476 @@
+#include "startupmanager.h"
+
+#include "appinfo.h"
+#include "logcapture.h"
+#include "registryfixture.h"
+#include "registrysettings.h"
+#include "testhome.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using platform::Hive;
+
+namespace {
+
+const QString machineList =
+    u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"_s;
+const QString machineList32 =
+    u"HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"_s;
+const QString userList =
+    u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"_s;
+const QString runPath = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+const QString runKey = u"HKEY_CURRENT_USER\\"_s + runPath;
+
+} // namespace
+
+class TestStartupManager : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestStartupManager(const TestHome &home)
+        : m_home(home)
+    {
+    }
+
+private Q_SLOTS:
+    void init() { m_fixture = std::make_unique<RegistryFixture>(m_home); }
+    void cleanup()
+    {
+        m_fixture.reset();
+        QDir(m_home.folder(filesFolder())).removeRecursively();
+    }
+
+    void theThreeListsAreReadInOrder()
+    {
+        const QString a = existing(u"a/a.exe"_s);
+        const QString b = existing(u"b/b.exe"_s);
+        const QString c = existing(u"c/c.exe"_s);
+        product(userList, u"c"_s, u"From user"_s, c);
+        product(machineList32, u"b"_s, u"From 32 bits"_s, b);
+        product(machineList, u"a"_s, u"From 64 bits"_s, a);
+        m_fixture->addText(machineList + "Sweepwise a"_L1, u"Publisher"_s, u"Somebody 中"_s);
+        m_fixture->write();
+        StartupManager manager;
+        const LogCapture log;
+        QCOMPARE(names(manager),
+                 (QStringList{u"From 64 bits"_s, u"From 32 bits"_s, u"From user"_s}));
+        const StartupApp app = own(manager).constFirst();
+        QCOMPARE(app.id, u"Sweepwise a"_s);
+        QCOMPARE(app.exePath, a);
+        QCOMPARE(app.iconPath, a);
+        QCOMPARE(app.publisher, u"Somebody 中"_s);
+        QVERIFY(!app.isStartup);
+        QVERIFY(log.contains(
+            u"[INFO] Found %1 installed apps, 0 in startup"_s.arg(manager.apps().size())));
+    }
+
+    void aProductInTwoListsAppearsOnce()
+    {
+        const QString path = existing(u"a/tool.exe"_s);
+        product(machineList, u"1"_s, u"Tool"_s, path);
+        product(machineList32, u"2"_s, u"Tool (32-bit)"_s, path.toUpper());
+        m_fixture->write();
+        StartupManager manager;
+        QCOMPARE(names(manager), QStringList{u"Tool"_s});
+    }
+
+    void whatIsNoProgramOfTheUsersIsLeftOut()
+    {
+        const auto add = [this](const QString &name) {
+            product(userList, name, name, existing(name.simplified().remove(u' ') + "/x.exe"_L1));
+        };
+        for (const QString &name :
+             {u"Microsoft Visual C++ 2019"_s, u"Old Microsoft .NET Parts"_s, u"Windows Terminal"_s,
+              u"Update for Things"_s, u"A Hotfix"_s, u"The Security Update 3"_s, u"WindowsApp"_s,
+              u"microsoft visual c++"_s, u"My Windows Tool"_s})
+            add(name);
+        product(userList, u"component"_s, u"Component"_s, existing(u"component/x.exe"_s));
+        m_fixture->addBytes(userList + "Sweepwise component"_L1, u"SystemComponent"_s, 4,
+                            QByteArray("\1\0\0\0", 4));
+        product(userList, u"no component"_s, u"No Component"_s, existing(u"nocomponent/x.exe"_s));
+        m_fixture->addBytes(userList + "Sweepwise no component"_L1, u"SystemComponent"_s, 4,
+                            QByteArray(4, '\0'));
+        product(userList, u"child"_s, u"Child"_s, existing(u"child/x.exe"_s));
+        m_fixture->addText(userList + "Sweepwise child"_L1, u"ParentDisplayName"_s, u"Parent"_s);
+        product(userList, u"nameless"_s, {}, existing(u"nameless/x.exe"_s));
+        product(userList, u"gone"_s, u"Gone"_s, u"C:\\Sweepwise Missing\\x.exe"_s);
+        m_fixture->write();
+        StartupManager manager;
+        QStringList found = names(manager);
+        found.sort();
+        QCOMPARE(found,
+                 (QStringList{u"My Windows Tool"_s, u"No Component"_s, u"WindowsApp"_s,
+                              u"microsoft visual c++"_s}));
+    }
+
+    void theExecutableComesFromTheIcon_data()
+    {
+        QTest::addColumn<QString>("icon"); // %1 stands for the program
+        QTest::addColumn<bool>("found");
+        QTest::newRow("plain") << u"%1"_s << true;
+        QTest::newRow("with an index") << u"%1,0"_s << true;
+        QTest::newRow("negative index") << u"%1,-101"_s << true;
+        QTest::newRow("quoted with an index") << u"\"%1\",0"_s << true;
+        QTest::newRow("quoted") << u"\"%1\""_s << true;
+        QTest::newRow("no program") << u"%1.ico"_s << false;
+        QTest::newRow("comma first") << u",0"_s << false;
+        QTest::newRow("empty") << QString() << false;
+    }
+    void theExecutableComesFromTheIcon()
+    {
+        QFETCH(QString, icon);
+        QFETCH(bool, found);
+        const QString path = existing(u"App Folder/app.exe"_s);
+        existing(u"App Folder/app.exe.ico"_s);
+        product(userList, u"1"_s, u"App"_s, icon.replace("%1"_L1, path));
+        m_fixture->write();
+        StartupManager manager;
+        QCOMPARE(own(manager).size(), found ? 1 : 0);
+        if (found)
+            QCOMPARE(own(manager).constFirst().exePath, path);
+    }
+
+    void theExecutableOfAnInstallFolder_data()
+    {
+        QTest::addColumn<QString>("files");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("chosen");
+        QTest::newRow("the only one") << u"x.exe"_s << u"Photo"_s << u"x.exe"_s;
+        QTest::newRow("named like the product")
+            << u"a.exe photo.exe z.exe"_s << u"Photo Studio 2"_s << u"photo.exe"_s;
+        QTest::newRow("name within the file's")
+            << u"b.exe photostudiopro.exe"_s << u"Photo-Studio"_s << u"photostudiopro.exe"_s;
+        QTest::newRow("none alike: the first") << u"y.exe x.exe"_s << u"Photo"_s << u"x.exe"_s;
+        QTest::newRow("one folder below")
+            << u"bin/photo.exe"_s << u"Photo"_s << u"bin\\photo.exe"_s;
+        QTest::newRow("two folders below") << u"a/b/photo.exe"_s << u"Photo"_s << QString();
+        QTest::newRow("in other case") << u"PHOTO.EXE"_s << u"photo"_s << u"PHOTO.EXE"_s;
+        QTest::newRow("uninstaller only") << u"unins000.exe"_s << u"Photo"_s << QString();
+        QTest::newRow("helpers are passed over")
+            << u"Setup.exe photo-helper.exe RemovePhoto.exe photoUpdate.exe uninst.exe z.exe"_s
+            << u"Photo"_s << u"z.exe"_s;
+        QTest::newRow("no program") << u"photo.dll"_s << u"Photo"_s << QString();
+        QTest::newRow("name of other letters") << u"b.exe a.exe"_s << u"照片"_s << u"a.exe"_s;
+        QTest::newRow("dots in the file's name")
+            << u"a.exe photo.x64.exe"_s << u"Photo"_s << u"photo.x64.exe"_s;
+    }
+    void theExecutableOfAnInstallFolder()
+    {
+        QFETCH(QString, files);
+        QFETCH(QString, name);
+        QFETCH(QString, chosen);
+        QString folder = existing(u"Install Folder/readme.txt"_s);
+        folder.truncate(folder.lastIndexOf(u'\\'));
+        for (const QString &file : files.split(u' '))
+            existing("Install Folder/"_L1 + file);
+        const QString expected = chosen.isEmpty() ? QString() : folder + u'\\' + chosen;
+        QCOMPARE(StartupManager::findExecutable(folder, name), expected);
+        QCOMPARE(StartupManager::findExecutable(folder + u'\\', name), expected);
+    }
+
+    void noInstallFolderGivesNothing()
+    {
+        QVERIFY(StartupManager::findExecutable({}, u"x"_s).isEmpty());
+        QVERIFY(StartupManager::findExecutable(u"C:\\Sweepwise Missing"_s, u"x"_s).isEmpty());
+        QVERIFY(StartupManager::findExecutable(existing(u"file.exe"_s), u"x"_s).isEmpty());
+    }
+
+    void theProgramOfACommand_data()
+    {
+        QTest::addColumn<QString>("command"); // %1 stands for an existing file
+        QTest::addColumn<QString>("path");
+        QTest::newRow("quoted") << u"\"C:\\Tools\\a b.exe\" -x"_s << u"C:\\Tools\\a b.exe"_s;
+        QTest::newRow("no closing quote")
+            << u"\"C:\\Tools\\a b.exe -x"_s << u"\"C:\\Tools\\a b.exe -x"_s;
+        QTest::newRow("not quoted")
+            << u"C:\\Tools\\tool.exe --minimized"_s << u"C:\\Tools\\tool.exe"_s;
+        QTest::newRow("a whole file with a blank") << u"%1"_s << u"%1"_s;
+        QTest::newRow("alone") << u"tool.exe"_s << u"tool.exe"_s;
+        QTest::newRow("empty") << QString() << QString();
+    }
+    void theProgramOfACommand()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, path);
+        const QString file = existing(u"with blank.exe"_s);
+        QCOMPARE(StartupManager::commandPath(command.replace("%1"_L1, file)),
+                 path.replace("%1"_L1, file));
+    }
+
+    void programsOfTheRunKeyAreMarked()
+    {
+        const QString a = existing(u"a/a.exe"_s);
+        const QString b = existing(u"b/b.exe"_s);
+        product(userList, u"a"_s, u"A"_s, a);
+        product(userList, u"b"_s, u"B"_s, b);
+        m_fixture->addText(runKey, u"Sweepwise other name"_s,
+                           "  \""_L1 + a.toUpper() + "\" --minimized "_L1);
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(own(manager).at(0).isStartup);
+        QVERIFY(!own(manager).at(1).isStartup);
+    }
+
+    void switchingOnAndOff()
+    {
+        const QString path = existing(u"a b/app.exe"_s);
+        product(userList, u"app"_s, u"Sweepwise App/Tool"_s, path);
+        m_fixture->addText(runKey, u"Sweepwise keep"_s, u"x"_s);
+        m_fixture->addText(runKey, u"Sweepwise App\\Tool"_s, u"x"_s);
+        m_fixture->write();
+        StartupManager manager;
+        const LogCapture log;
+        QVERIFY(manager.setStartup(own(manager).constFirst(), true));
+        QVERIFY(own(manager).constFirst().isStartup);
+        QVERIFY(log.contains(u"[INFO] Added to startup: Sweepwise App/Tool"_s));
+        QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise App/Tool"_s));
+        QCOMPARE(platform::Registry().text(Hive::CurrentUser, runPath, u"Sweepwise App/Tool"_s),
+                 u'"' + path + u'"');
+
+        StartupManager again;
+        QVERIFY(own(again).constFirst().isStartup);
+        QVERIFY(again.setStartup(own(again).constFirst(), false));
+        QVERIFY(!own(again).constFirst().isStartup);
+        QVERIFY(log.contains(u"[INFO] Removed from startup: Sweepwise App/Tool"_s));
+        QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise App/Tool"_s));
+        QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise keep"_s));
+        QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise App\\Tool"_s));
+    }
+
+    void switchingOffTakesTheEntryThatStartsTheProgram()
+    {
+        const QString path = existing(u"a/app.exe"_s);
+        product(userList, u"app"_s, u"Sweepwise Shown"_s, path);
+        m_fixture->addText(runKey, u"Sweepwise\\odd/name"_s, u'"' + path.toUpper() + "\" -x"_L1);
+        m_fixture->addText(runKey, u"Sweepwise Shown"_s, u"something else"_s);
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(own(manager).constFirst().isStartup);
+        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
+        QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise\\odd/name"_s));
+        QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise Shown"_s));
+        // Without such an entry the one of the program's own name goes.
+        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
+        QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise Shown"_s));
+    }
+
+    void anEmptyNameClearsNothing()
+    {
+        m_fixture->addText(runKey, u"Sweepwise keep"_s, u"x"_s);
+        m_fixture->addText(runKey + "\\Sweepwise Sub"_L1, u"keep"_s, u"x"_s);
+        m_fixture->write();
+        StartupManager manager;
+        const LogCapture log;
+        QVERIFY(!manager.removeFromStartup({}));
+        QVERIFY(log.contains(u"[ERROR] Failed to remove startup: "_s));
+        QVERIFY(!manager.addToStartup({}, u"C:\\x.exe"_s));
+        QVERIFY(log.contains(u"[ERROR] Failed to add startup: "_s));
+        QVERIFY(!manager.errorString().isEmpty());
+        // A slash alone would be the same to some.
+        QVERIFY(manager.removeFromStartup(u"/"_s));
+        QVERIFY(manager.removeFromStartup(u"Sweepwise Sub/keep"_s));
+        QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise keep"_s));
+        QVERIFY(m_fixture->hasValue(runKey + "\\Sweepwise Sub"_L1, u"keep"_s));
+    }
+
+    void aKeyOfTheSameNameStays()
+    {
+        m_fixture->addText(runKey, u"Sweepwise Same"_s, u"x"_s);
+        m_fixture->addText(runKey + "\\Sweepwise Same\\Deep"_L1, u"keep"_s, u"x"_s);
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(manager.addToStartup(u"Sweepwise Same"_s, u"C:\\new.exe"_s));
+        QVERIFY(m_fixture->hasValue(runKey + "\\Sweepwise Same\\Deep"_L1, u"keep"_s));
+        QVERIFY(manager.removeFromStartup(u"Sweepwise Same"_s));
+        QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise Same"_s));
+        QVERIFY(m_fixture->hasValue(runKey + "\\Sweepwise Same\\Deep"_L1, u"keep"_s));
+    }
+
+    void oddNamesAreWrittenAndRemovedExactly_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"Default", "default", ".", "a\\b", "a/b", "@", "@x", "%1", "a=b"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+        QTest::newRow("Chinese") << u"播放器 🎵"_s;
+    }
+    void oddNamesAreWrittenAndRemovedExactly()
+    {
+        QFETCH(QString, name);
+        const QString key = u"Software\\Sweepwise Test"_s;
+        const QString shownKey = u"HKEY_CURRENT_USER\\"_s + key;
+        m_fixture->addText(shownKey, {}, u"default value"_s);
+        m_fixture->addText(shownKey, u"other"_s, u"other value"_s);
+        m_fixture->write();
+        QString error;
+        QVERIFY2(
+            platform::registrysettings::setText(Hive::CurrentUser, key, name, u"text"_s, error),
+            qPrintable(error));
+        const platform::Registry registry;
+        QCOMPARE(registry.text(Hive::CurrentUser, key, name), u"text"_s);
+        QCOMPARE(registry.text(Hive::CurrentUser, key, {}), u"default value"_s);
+        QVERIFY2(platform::registrysettings::remove(Hive::CurrentUser, key, name, error),
+                 qPrintable(error));
+        const platform::Registry after;
+        QVERIFY(!after.value(Hive::CurrentUser, key, name));
+        QCOMPARE(after.text(Hive::CurrentUser, key, {}), u"default value"_s);
+        QCOMPARE(after.text(Hive::CurrentUser, key, u"other"_s), u"other value"_s);
+    }
+
+    void aProductIsFoundByItsInstallFolder()
+    {
+        QString folder = existing(u"Installed/unins000.exe"_s);
+        folder.truncate(folder.lastIndexOf(u'\\'));
+        const QString key = userList + "Sweepwise installed"_L1;
+        m_fixture->addText(key, u"DisplayName"_s, u"Photo Studio"_s);
+        m_fixture->addText(key, u"InstallLocation"_s, folder);
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(own(manager).isEmpty()); // nothing but its uninstaller
+        existing(u"Installed/bin/photostudio.exe"_s);
+        manager.loadInstalledApps();
+        QCOMPARE(own(manager).size(), 1);
+        QCOMPARE(own(manager).constFirst().exePath, folder + "\\bin\\photostudio.exe"_L1);
+    }
+
+    void anOverwrittenEntryUnmarksTheProgramItStarted()
+    {
+        const QString a = existing(u"a/a.exe"_s);
+        const QString b = existing(u"b/b.exe"_s);
+        product(userList, u"a"_s, u"Sweepwise Same"_s, a);
+        product(userList, u"b"_s, u"Sweepwise Same"_s, b);
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(manager.setStartup(own(manager).at(0), true));
+        QVERIFY(manager.setStartup(own(manager).at(1), true));
+        QVERIFY(!own(manager).at(0).isStartup);
+        QVERIFY(own(manager).at(1).isStartup);
+    }
+
+    void readingMakesNoKeys()
+    {
+        StartupManager manager;
+        manager.loadInstalledApps();
+        QString error;
+        QVERIFY(platform::registrysettings::remove(Hive::CurrentUser,
+                                                   u"Software\\Sweepwise Unmade"_s, u"x"_s, error));
+        QVERIFY(!m_fixture->hasKey(u"HKEY_CURRENT_USER\\Software\\Sweepwise Unmade"_s));
+    }
+
+    void textsAreStoredAsTheyAre()
+    {
+        m_fixture->addKey(u"HKEY_CURRENT_USER\\Software\\Sweepwise Test"_s);
+        m_fixture->write();
+        const QString key = u"Software\\Sweepwise Test"_s;
+        for (const QString &text : {u"\"C:\\a b\\c.exe\""_s, u"%1 / \\ 中 \U0001F9F9"_s, QString(),
+                                    u"a@b"_s, u"@ByteArray(x)"_s, u"a, b; c"_s}) {
+            QString error;
+            QVERIFY2(
+                platform::registrysettings::setText(Hive::CurrentUser, key, u"v"_s, text, error),
+                qPrintable(error));
+            QCOMPARE(platform::Registry().text(Hive::CurrentUser, key, u"v"_s), text);
+        }
+    }
+
+#ifndef Q_OS_WIN
+    void aPrefixInUseReportsTheFailure()
+    {
+        m_fixture->addText(runKey, u"Sweepwise keep"_s, u"x"_s);
+        m_fixture->write();
+        struct stat data {
+        };
+        QCOMPARE(::stat(QFile::encodeName(m_home.folder(u"prefix"_s)).constData(), &data), 0);
+        QProcess server;
+        server.setWorkingDirectory(m_home.folder(u"run/server-%1-%2"_s.arg(
+            QString::number(data.st_dev, 16), QString::number(data.st_ino, 16))));
+        server.start(u"sleep"_s, {u"60"_s});
+        QVERIFY(server.waitForStarted());
+        StartupManager manager;
+        const LogCapture log;
+        QVERIFY(!manager.addToStartup(u"Sweepwise new"_s, u"C:\\x.exe"_s));
+        QVERIFY(!manager.removeFromStartup(u"Sweepwise keep"_s));
+        QVERIFY(log.contains(u"[ERROR] Failed to add startup: Sweepwise new"_s));
+        QVERIFY(log.contains(u"[ERROR] Failed to remove startup: Sweepwise keep"_s));
+        QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise keep"_s));
+        server.kill();
+        QVERIFY(server.waitForFinished());
+    }
+
+    void aWholeDriveIsLookedIntoTwoFoldersDeep()
+    {
+        existing(u"photo.exe"_s); // two folders below the drive's top
+        existing(u"deep/photo.exe"_s);
+        QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).endsWith("\\photo.exe"_L1));
+        QVERIFY(QFile::remove(m_home.folder(filesFolder()) + "/photo.exe"_L1));
+        QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+        // A link that leads back up is not followed.
+        QFile::link(m_home.folder(u"prefix/drive_c"_s),
+                    m_home.folder(u"prefix/drive_c"_s) + "/loop"_L1);
+        QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+    }
+#endif
+
+private:
+    static QString filesFolder()
+    {
+#ifdef Q_OS_WIN
+        return u"Sweepwise Files"_s;
+#else
+        return u"prefix/drive_c/Sweepwise Files"_s;
+#endif
+    }
+
+    // The Windows path of a file that is there.
+    QString existing(const QString &relative)
+    {
+        const QString folder = m_home.folder(filesFolder());
+        QDir().mkpath(QFileInfo(folder + u'/' + relative).path());
+        QFile file(folder + u'/' + relative);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot write a file of the test");
+#ifdef Q_OS_WIN
+        return QDir::toNativeSeparators(folder + u'/' + relative);
+#else
+        return "C:\\Sweepwise Files\\"_L1 + QString(relative).replace(u'/', u'\\');
+#endif
+    }
+
+    void product(const QString &list, const QString &id, const QString &name, const QString &icon)
+    {
+        const QString key = list + "Sweepwise "_L1 + id;
+        if (!name.isEmpty())
+            m_fixture->addText(key, u"DisplayName"_s, name);
+        m_fixture->addText(key, u"DisplayIcon"_s, icon);
+    }
+
+    // The live registry has products of its own.
+    static QList<StartupApp> own(StartupManager &manager)
+    {
+        QList<StartupApp> list;
+        for (const StartupApp &app : manager.apps()) {
+            if (app.id.startsWith("Sweepwise "_L1))
+                list.append(app);
+        }
+        return list;
+    }
+    static QStringList names(StartupManager &manager)
+    {
+        QStringList list;
+        for (const StartupApp &app : own(manager))
+            list.append(app.name);
+        return list;
+    }
+
+    const TestHome &m_home;
+    std::unique_ptr<RegistryFixture> m_fixture;
+};
+
+SWEEPWISE_TEST_MAIN(TestStartupManager, QCoreApplication)
+#include "tst_startupmanager.moc"

@@ -1,0 +1,59 @@
+#include "fullscan.h"
+
+#include "cleanengine.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+void FullScan::start(const Engines &engines)
+{
+    for (CleanEngine *engine : m_engines) {
+        if (engine)
+            engine->disconnect(this);
+    }
+    m_engines = engines;
+    m_percents = {};
+    const quint64 run = ++m_run;
+    for (std::size_t index = 0; index < engines.size(); ++index) {
+        CleanEngine *engine = engines.at(index);
+        if (!engine) {
+            m_percents.at(index) = 100;
+            continue;
+        }
+        // Whatever a run in progress still emits comes before the new connections exist. What it
+        // has emitted is queued, disconnected or not, and bears the old number.
+        engine->stopAndWait();
+        connect(engine, &CleanEngine::scanProgress, this,
+                [this, run, index](int current, int total, const QString &path) {
+                    if (run == m_run)
+                        onProgress(index, current, total, path);
+                });
+        connect(engine, &CleanEngine::scanFinished, this, [this, run, index] {
+            if (run == m_run)
+                onFinished(index);
+        });
+        engine->startScan();
+    }
+}
+
+void FullScan::onProgress(std::size_t index, int current, int total, const QString &path)
+{
+    m_percents.at(index) = total >= 1 ? static_cast<int>(qint64{current} * 100 / total) : 0;
+    Q_EMIT progressed(std::accumulate(m_percents.begin(), m_percents.end(), 0) / 3, path);
+}
+
+void FullScan::onFinished(std::size_t index)
+{
+    m_percents.at(index) = 100;
+    const bool isComplete =
+        std::all_of(m_engines.begin(), m_engines.end(), [](CleanEngine *engine) {
+            return !engine || engine->state() == CleanEngine::State::Finished;
+        });
+    if (!isComplete)
+        return;
+    const auto &[junk, browser, registry] = m_engines;
+    Q_EMIT finished(junk ? std::as_const(*junk).result().totalSize() : 0,
+                    browser ? std::as_const(*browser).result().totalSize() : 0,
+                    registry ? std::as_const(*registry).result().totalCount() : 0);
+}

@@ -1,9 +1,11 @@
 #include "application.h"
 
 #include "appinfo.h"
+#include "browsercleaner.h"
 #include "junkcleaner.h"
 #include "logger.h"
 #include "mainwindow.h"
+#include "registrycleaner.h"
 #include "settingsguard.h"
 
 #include <QCoreApplication>
@@ -11,7 +13,22 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The key as it comes back from the file.
+QString keyInFile(QLatin1StringView key)
+{
+    QString name = key;
+    if (name.startsWith("general/"_L1))
+        name[0] = u'G';
+    return name;
+}
+
+} // namespace
 
 Application *Application::instance()
 {
@@ -36,7 +53,10 @@ void Application::initialize()
     Logger::instance().info(u"Application initializing..."_s);
 
     m_junkCleaner = std::make_unique<JunkCleaner>();
+    m_browserCleaner = std::make_unique<BrowserCleaner>();
+    m_registryCleaner = std::make_unique<RegistryCleaner>();
     m_junkCleaner->loadRules(u":/rules/junk_rules.json"_s);
+    m_browserCleaner->loadRules(u":/rules/browser_rules.json"_s);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &Application::stopEngines);
 
     Logger::instance().info(u"Application initialized successfully"_s);
@@ -49,8 +69,23 @@ void Application::showMainWindow()
     m_mainWindow->show();
 }
 
+bool Application::option(QLatin1StringView key, bool otherwise) const
+{
+    return m_settings->value(key, m_settings->value(keyInFile(key), otherwise)).toBool();
+}
+
+void Application::setOption(QLatin1StringView key, bool on)
+{
+    m_settings->remove(keyInFile(key));
+    m_settings->setValue(key, on);
+}
+
 void Application::stopEngines()
 {
-    m_junkCleaner->cancel();
-    m_junkCleaner->stopAndWait();
+    const std::array<CleanEngine *, 3> engines{m_junkCleaner.get(), m_browserCleaner.get(),
+                                               m_registryCleaner.get()};
+    for (CleanEngine *engine : engines)
+        engine->cancel();
+    for (CleanEngine *engine : engines)
+        engine->stopAndWait();
 }

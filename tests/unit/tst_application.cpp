@@ -1,6 +1,7 @@
 #include "application.h"
 
 #include "appinfo.h"
+#include "browsercleaner.h"
 #include "junkcleaner.h"
 #include "language.h"
 #include "logger.h"
@@ -42,6 +43,7 @@ private Q_SLOTS:
         QCOMPARE(Application::instance(), Application::instance());
         QVERIFY(!Application::instance()->settings());
         QVERIFY(!Application::instance()->junkCleaner());
+        QVERIFY(!Application::instance()->browserCleaner());
         QVERIFY(!Application::instance()->mainWindow());
     }
 
@@ -113,6 +115,7 @@ private Q_SLOTS:
         const QString content = QString::fromUtf8(log.readAll());
         QVERIFY(content.contains("[INFO] Application initializing..."_L1));
         QVERIFY(content.contains("[INFO] Loaded 25 junk rules"_L1));
+        QVERIFY(content.contains("[INFO] Loaded 23 browser rules"_L1));
         QVERIFY(content.trimmed().endsWith("[INFO] Application initialized successfully"_L1));
         QCOMPARE(Application::instance()->junkCleaner()->rules().size(), 25);
     }

@@ -1,6 +1,7 @@
 #include "titlebar.h"
 
 #include "appinfo.h"
+#include "linkmanager.h"
 #include "theme.h"
 
 #include <QActionGroup>
@@ -126,6 +127,7 @@ void TitleBar::changeLanguage(const QString &code)
     QSettings store(appinfo::organisation, appinfo::name);
     store.setValue("language"_L1, code);
     store.sync();
+    LinkManager::instance()->setLanguage(code);
     Q_EMIT languageChanged(code);
 
     tell(QMessageBox::Information, tr("Language Changed"),

@@ -1,6 +1,7 @@
 #include "titlebar.h"
 
 #include "appinfo.h"
+#include "linkmanager.h"
 #include "signalspy.h"
 #include "testhome.h"
 #include "uisupport.h"
@@ -197,6 +198,7 @@ private Q_SLOTS:
         QTimer::singleShot(10'000, &bar, [] { QCoreApplication::exit(7); });
         QCOMPARE(QCoreApplication::exec(), 0); // the program ends
         QCOMPARE(stored(), u"de"_s);
+        QCOMPARE(LinkManager::instance()->currentLanguage(), u"de"_s);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed.constFirst().constFirst().toString(), u"de"_s);
         QCOMPARE(

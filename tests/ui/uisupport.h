@@ -6,7 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
-/// Answers the message boxes that open while it lives, as a user would: by clicking a button.
+/// Answers the message boxes that open while it lives, as a user would: by clicking a button,
+/// or the only one that there is.
 class MessageBoxes final
 {
     Q_DISABLE_COPY_MOVE(MessageBoxes)

@@ -1,6 +1,9 @@
 #include "framelessdialog.h"
 
+#include "theme.h"
+
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScreen>
 
 FramelessDialog::FramelessDialog(QWidget *parent)
@@ -11,6 +14,26 @@ FramelessDialog::FramelessDialog(QWidget *parent)
 bool FramelessDialog::isDragArea(QPoint) const
 {
     return true;
+}
+
+void FramelessDialog::paintGround(int radius)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme::color(theme::border));
+    painter.setBrush(theme::color(theme::white));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
+
+void FramelessDialog::paintShadowedGround(int radius)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 30));
+    painter.drawRoundedRect(rect().adjusted(4, 4, -4, -4), radius, radius);
+    painter.setBrush(theme::color(theme::white));
+    painter.drawRoundedRect(rect().adjusted(0, 0, -8, -8), radius, radius);
 }
 
 void FramelessDialog::showEvent(QShowEvent *event)

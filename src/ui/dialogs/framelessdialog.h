@@ -17,6 +17,11 @@ protected:
     /// Where a press starts to move the dialog; everywhere unless a subclass says otherwise.
     [[nodiscard]] virtual bool isDragArea(QPoint position) const;
 
+    /// Draws the white ground of a translucent dialog, with its border and rounded corners.
+    void paintGround(int radius);
+    /// Draws the white ground of a translucent dialog above a shadow to its lower right.
+    void paintShadowedGround(int radius);
+
     void showEvent(QShowEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

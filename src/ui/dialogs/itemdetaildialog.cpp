@@ -98,10 +98,11 @@ QWidget *ItemDetailDialog::buildTitleBar()
     name->setTextFormat(Qt::PlainText);
     name->setStyleSheet(u"font-size: 16px; font-weight: 600;"_s);
     layout->addWidget(name, 1);
-    auto *summary = new QLabel(
-        tr("%1  |  %2 files")
-            .arg(formatSize(m_category->totalSize()), QString::number(m_category->items.size())),
-        bar);
+    auto *summary = new QLabel(hasFiles() ? tr("%1  |  %2 files")
+                                                .arg(formatSize(m_category->totalSize()),
+                                                     QString::number(m_category->items.size()))
+                                          : tr("%1 items").arg(m_category->items.size()),
+                               bar);
     summary->setObjectName("detailSummary"_L1);
     summary->setStyleSheet(u"font-size: 13px;"_s);
     layout->addWidget(summary);
@@ -129,9 +130,19 @@ QWidget *ItemDetailDialog::buildColumnHeader()
         layout->addWidget(label, width > 0 ? 0 : 1);
     };
     addColumn(tr("Name"), Qt::AlignLeft, 0);
-    addColumn(tr("Size"), Qt::AlignRight, 100);
-    addColumn(tr("Action"), Qt::AlignHCenter, 190);
+    if (hasFiles()) {
+        addColumn(tr("Size"), Qt::AlignRight, 100);
+        addColumn(tr("Action"), Qt::AlignHCenter, 190);
+    } else {
+        addColumn(tr("Details"), Qt::AlignLeft, 0);
+    }
     return header;
+}
+
+// Registry entries have neither a size nor a place in the file manager.
+bool ItemDetailDialog::hasFiles() const
+{
+    return m_category->items.isEmpty() || m_category->items.constFirst().registryRoot.isEmpty();
 }
 
 void ItemDetailDialog::loadMoreItems()

@@ -31,6 +31,7 @@ protected:
 private:
     QWidget *buildTitleBar();
     QWidget *buildColumnHeader();
+    [[nodiscard]] bool hasFiles() const;
     void fillScreen();
 
     const CleanCategory *m_category;

@@ -187,7 +187,14 @@ void BasePage::retranslateUi()
     if (isResultShown())
         updateSelection();
     else
-        m_selection->setText(tr("Selected: --"));
+        setNoSelectionText(tr("Selected: --"));
+}
+
+void BasePage::setNoSelectionText(const QString &text)
+{
+    m_noSelectionText = text;
+    if (!isResultShown())
+        m_selection->setText(text);
 }
 
 void BasePage::setTitle(const QString &text)
@@ -224,18 +231,12 @@ void BasePage::startClean()
 {
     if (!m_engine || isEngineBusy())
         return;
-    // Only what is listed can have been chosen: a scan that was cancelled leaves records that
-    // nobody has seen.
-    const int count = isResultShown() ? m_engine->result().checkedCount() : 0;
+    const int count = chosenCount();
     if (count == 0) {
-        QMessageBox box(QMessageBox::Information, tr("Notice"), tr("No items selected"),
-                        QMessageBox::Ok, this);
-        box.setStyleSheet(theme::messageBox());
-        box.exec();
+        showNotice(tr("Notice"), tr("No items selected"));
         return;
     }
-    const bool confirm =
-        Application::instance()->settings()->value("clean/confirmClean"_L1, true).toBool();
+    const bool confirm = Application::instance()->option("clean/confirmClean"_L1, true);
     if (confirm) {
         QMessageBox box(QMessageBox::Question, tr("Confirm Clean"),
                         tr("Are you sure you want to clean %1 selected items?\n"
@@ -244,11 +245,29 @@ void BasePage::startClean()
                         QMessageBox::Yes | QMessageBox::No, this);
         box.setDefaultButton(QMessageBox::No);
         box.setStyleSheet(theme::messageBox());
-        // While the question stood open the list may have gone, by a scan that was started
-        // elsewhere.
-        if (box.exec() != QMessageBox::Yes || isEngineBusy() || !isResultShown())
+        if (box.exec() != QMessageBox::Yes)
             return;
     }
+    runClean();
+}
+
+int BasePage::chosenCount() const
+{
+    return isResultShown() ? std::as_const(*m_engine).result().checkedCount() : 0;
+}
+
+void BasePage::showNotice(const QString &title, const QString &text)
+{
+    QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok, this);
+    box.setStyleSheet(theme::messageBox());
+    box.exec();
+}
+
+void BasePage::runClean()
+{
+    // While a question stood open the list may have gone, by a scan that was started elsewhere.
+    if (isEngineBusy() || !isResultShown())
+        return;
     deliverLateSignals();
     if (!isResultShown())
         return; // They were the end of a cancelled clean, which has emptied the list.
@@ -326,15 +345,23 @@ void BasePage::displayResults()
         return;
     }
     m_emptyState->hide();
-    for (CleanCategory &category : m_engine->result().categories) {
-        auto *widget = new CategoryWidget(&category, m_emptyState->parentWidget());
+    m_resultWidgets =
+        makeResultWidgets(m_engine->result().categories, m_emptyState->parentWidget());
+    for (ResultWidget *widget : std::as_const(m_resultWidgets)) {
         widget->setShowSizes(m_showSizes);
-        connect(widget, &CategoryWidget::selectionChanged, this, &BasePage::updateSelection);
-        m_categoryWidgets.append(widget);
+        connect(widget, &ResultWidget::selectionChanged, this, &BasePage::updateSelection);
         m_listLayout->addWidget(widget);
     }
     m_listLayout->addStretch();
     orderFocus();
+}
+
+QList<ResultWidget *> BasePage::makeResultWidgets(QList<CleanCategory> &categories, QWidget *parent)
+{
+    QList<ResultWidget *> widgets;
+    for (CleanCategory &category : categories)
+        widgets.append(new CategoryWidget(&category, parent));
+    return widgets;
 }
 
 // The list is made after the buttons below it, but stands above them.
@@ -345,8 +372,8 @@ void BasePage::orderFocus() const
         setTabOrder(previous, next);
         previous = next;
     };
-    for (const CategoryWidget *category : m_categoryWidgets) {
-        for (QWidget *control : category->focusChain())
+    for (const ResultWidget *widget : m_resultWidgets) {
+        for (QWidget *control : widget->focusChain())
             append(control);
     }
     append(m_scanButton);
@@ -355,8 +382,8 @@ void BasePage::orderFocus() const
 
 void BasePage::clearResults()
 {
-    qDeleteAll(m_categoryWidgets);
-    m_categoryWidgets.clear();
+    qDeleteAll(m_resultWidgets);
+    m_resultWidgets.clear();
     while (m_listLayout->count() > 1)
         delete m_listLayout->takeAt(1);
 }
@@ -412,5 +439,5 @@ void BasePage::letGoOfResult()
     m_emptyState->show();
     m_cleanButton->setEnabled(false);
     m_statisticValue->setText(u"--"_s);
-    m_selection->setText(tr("Selected: --"));
+    m_selection->setText(m_noSelectionText);
 }

@@ -6,9 +6,9 @@
 #include <QPointer>
 #include <QWidget>
 
-class CategoryWidget;
 class CleanEngine;
 class ProgressDialog;
+class ResultWidget;
 class QLabel;
 class QPushButton;
 class QScrollArea;
@@ -16,7 +16,7 @@ class QVBoxLayout;
 
 /// The one page design of every rule-driven engine: scan, review by category, confirm, clean.
 ///
-/// GUI thread. The category widgets are bound to the records inside the engine's result: they are
+/// GUI thread. The result widgets are bound to the records inside the engine's result: they are
 /// made when a scan has finished and deleted when a scan starts, whoever starts it, since the
 /// engine then drops the records.
 class BasePage : public QWidget
@@ -55,9 +55,12 @@ protected:
     virtual void setupHeader();
     virtual void setupContent();
     virtual void setupFooter();
-    /// Rebuilds the category list from the engine's result.
+    /// Rebuilds the result list from the engine's result.
     virtual void displayResults();
-    /// Deletes all category widgets.
+    /// Makes the widgets of a result that is not empty, with @p parent; here one a category.
+    [[nodiscard]] virtual QList<ResultWidget *> makeResultWidgets(QList<CleanCategory> &categories,
+                                                                  QWidget *parent);
+    /// Deletes all result widgets.
     virtual void clearResults();
     /// Shows what is selected now and enables the clean button accordingly.
     void updateSelection();
@@ -67,6 +70,15 @@ protected:
     void setTitle(const QString &text);
     void setSubtitle(const QString &text);
     void setStatisticCaption(const QString &text);
+    /// What stands in the place of the selection while there is none.
+    void setNoSelectionText(const QString &text);
+    /// How many items would be cleaned now. Only what is listed can have been chosen: a scan that
+    /// was cancelled leaves records that nobody has seen.
+    [[nodiscard]] int chosenCount() const;
+    void showNotice(const QString &title, const QString &text);
+    /// The end of every way to start a clean: opens the dialog and starts the engine, unless the
+    /// list has gone meanwhile.
+    void runClean();
     /// Makes the dialog of a new run in the place of any earlier one and locks the buttons.
     ProgressDialog *openProgressDialog(int mode);
     [[nodiscard]] bool isEngineBusy() const;
@@ -76,10 +88,11 @@ private:
     void deliverLateSignals();
     void closeProgressDialog();
     void orderFocus() const;
-    [[nodiscard]] bool isResultShown() const { return !m_categoryWidgets.isEmpty(); }
+    [[nodiscard]] bool isResultShown() const { return !m_resultWidgets.isEmpty(); }
 
     CleanEngine *m_engine = nullptr;
     bool m_showSizes = true;
+    QString m_noSelectionText;
     QVBoxLayout *m_layout;
     QLabel *m_icon = nullptr;
     QLabel *m_title = nullptr;
@@ -93,6 +106,6 @@ private:
     QLabel *m_selection = nullptr;
     QPushButton *m_scanButton = nullptr;
     QPushButton *m_cleanButton = nullptr;
-    QList<CategoryWidget *> m_categoryWidgets;
+    QList<ResultWidget *> m_resultWidgets;
     QPointer<ProgressDialog> m_progressDialog;
 };

@@ -7,6 +7,7 @@
 #include "svgicon.h"
 #include "text.h"
 #include "theme.h"
+#include "tooltip.h"
 
 #include <QCheckBox>
 #include <QFile>
@@ -42,7 +43,7 @@ QString iconPath(const QString &categoryId)
 } // namespace
 
 CategoryWidget::CategoryWidget(CleanCategory *category, QWidget *parent)
-    : QWidget(parent)
+    : ResultWidget(parent)
     , m_category(category)
     , m_header(new QWidget(this))
     , m_content(new QWidget(this))
@@ -62,7 +63,7 @@ CategoryWidget::CategoryWidget(CleanCategory *category, QWidget *parent)
     m_header->setObjectName("categoryHeader"_L1);
     m_header->setAttribute(Qt::WA_StyledBackground);
     m_header->installEventFilter(this);
-    m_header->setToolTip(singleLine(category->description).toHtmlEscaped());
+    m_header->setToolTip(plainToolTip(category->description));
     buildHeader();
     layout->addWidget(m_header);
 
@@ -149,7 +150,7 @@ bool CategoryWidget::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     }
-    return QWidget::eventFilter(watched, event);
+    return ResultWidget::eventFilter(watched, event);
 }
 
 void CategoryWidget::setShowSizes(bool show)

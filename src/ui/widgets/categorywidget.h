@@ -1,8 +1,9 @@
 #pragma once
 
+#include "resultwidget.h"
+
 #include <QList>
 #include <QPointer>
-#include <QWidget>
 
 class CleanItemWidget;
 class ItemDetailDialog;
@@ -17,7 +18,7 @@ struct CleanCategory;
 ///
 /// Bound to a record inside the engine's result, which outlives the widget and into which the ticks
 /// are written.
-class CategoryWidget final : public QWidget
+class CategoryWidget final : public ResultWidget
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(CategoryWidget)
@@ -25,13 +26,12 @@ public:
     explicit CategoryWidget(CleanCategory *category, QWidget *parent = nullptr);
     ~CategoryWidget() override;
 
-    void setShowSizes(bool show);
+    void setShowSizes(bool show) override;
     /// Ticks or unticks the category with all its items.
     void setChecked(bool checked);
     [[nodiscard]] bool isExpanded() const { return m_expanded; }
 
-    /// The controls that take the keyboard focus, in the order in which they stand.
-    [[nodiscard]] QList<QWidget *> focusChain() const;
+    [[nodiscard]] QList<QWidget *> focusChain() const override;
 
 public Q_SLOTS:
     void toggleExpanded();
@@ -39,7 +39,6 @@ public Q_SLOTS:
     void showDetails();
 
 Q_SIGNALS:
-    void selectionChanged();
     void expandedChanged(bool expanded);
 
 protected:

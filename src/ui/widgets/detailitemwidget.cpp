@@ -5,6 +5,7 @@
 #include "svgicon.h"
 #include "text.h"
 #include "theme.h"
+#include "tooltip.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
@@ -35,15 +36,30 @@ DetailItemWidget::DetailItemWidget(const CleanItem &item, bool striped, QWidget 
     m_name = new ElidedLabel(item.name, this);
     m_name->setObjectName("itemName"_L1);
     m_name->setStyleSheet(theme::label(theme::text, 13));
-    m_name->setToolTip(singleLine(item.path).left(1024).toHtmlEscaped());
+    m_name->setToolTip(plainToolTip(item.path.left(1024)));
     layout->addWidget(m_name, 1);
 
+    if (item.registryRoot.isEmpty()) {
+        addFileColumns(item);
+        return;
+    }
+    const QString description = item.description.isEmpty() ? item.path : item.description;
+    m_description = new ElidedLabel(description, this);
+    m_description->setObjectName("itemDescription"_L1);
+    m_description->setStyleSheet(theme::label(theme::muted, 12));
+    m_description->setToolTip(plainToolTip(item.path.left(1024)));
+    m_description->setMinimumHeight(30);
+    layout->addWidget(m_description, 1);
+}
+
+void DetailItemWidget::addFileColumns(const CleanItem &item)
+{
     auto *size = new QLabel(formatSize(item.size), this);
     size->setObjectName("itemSize"_L1);
     size->setStyleSheet(theme::label(theme::muted, 12, 500));
     size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     size->setFixedWidth(sizeColumn);
-    layout->addWidget(size);
+    layout()->addWidget(size);
 
     auto *button = new QPushButton(
         QIcon(svgPixmap(u":/icons/folder-open.svg"_s, {18, 18}, devicePixelRatioF())),
@@ -57,11 +73,17 @@ DetailItemWidget::DetailItemWidget(const CleanItem &item, bool striped, QWidget 
     button->setAutoDefault(false);
     button->setAccessibleName(tr("Open file location of %1").arg(singleLine(item.name)));
     connect(button, &QPushButton::clicked, this, [this] { Q_EMIT openLocationRequested(m_path); });
-    layout->addWidget(button);
+    layout()->addWidget(button);
 }
 
 void DetailItemWidget::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    m_name->elideTo(width() - sizeColumn - actionColumn - 64);
+    if (m_description) {
+        const int half = (width() - 52) / 2;
+        m_name->elideTo(half);
+        m_description->elideTo(half);
+    } else {
+        m_name->elideTo(width() - sizeColumn - actionColumn - 64);
+    }
 }

@@ -5,7 +5,8 @@
 class ElidedLabel;
 struct CleanItem;
 
-/// One row of the detail dialog: a file's name, its size, and a button that shows where it lies.
+/// One row of the detail dialog: a file's name, its size, and a button that shows where it lies; of
+/// a registry entry the name and what is wrong with it.
 class DetailItemWidget final : public QWidget
 {
     Q_OBJECT
@@ -23,5 +24,8 @@ protected:
 
 private:
     QString m_path;
+    void addFileColumns(const CleanItem &item);
+
     ElidedLabel *m_name;
+    ElidedLabel *m_description = nullptr; ///< of a registry entry
 };

@@ -1,6 +1,7 @@
 #include "elidedlabel.h"
 
 #include "text.h"
+#include "tooltip.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ ElidedLabel::ElidedLabel(const QString &fullText, QWidget *parent)
 {
     setTextFormat(Qt::PlainText);
     setAccessibleName(m_fullText);
-    setToolTip(m_fullText.left(longestMeasured).toHtmlEscaped());
+    setToolTip(plainToolTip(m_fullText.left(longestMeasured)));
     if (m_fullText.size() > longestMeasured)
         m_fullText =
             m_fullText.left(longestMeasured / 2) + u'…' + m_fullText.right(longestMeasured / 2);

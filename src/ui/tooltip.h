@@ -1,0 +1,14 @@
+#pragma once
+
+#include "text.h"
+
+#include <QString>
+#include <QTextDocument>
+
+/// A tool tip that shows @p text as it is, on one line: a tool tip that looks like markup would be
+/// taken for it.
+[[nodiscard]] inline QString plainToolTip(const QString &text)
+{
+    const QString line = singleLine(text);
+    return Qt::mightBeRichText(line) ? line.toHtmlEscaped() : line;
+}

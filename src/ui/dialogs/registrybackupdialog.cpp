@@ -1,0 +1,157 @@
+#include "registrybackupdialog.h"
+
+#include "theme.h"
+
+#include <QCheckBox>
+#include <QDate>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString defaultPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)
+        + u"/registry_backup_%1.reg"_s.arg(QDate::currentDate().toString(u"yyyyMMdd"_s));
+}
+
+QString withSuffix(const QString &path)
+{
+    return path.endsWith(".reg"_L1, Qt::CaseInsensitive) ? path : path + ".reg"_L1;
+}
+
+} // namespace
+
+RegistryBackupDialog::RegistryBackupDialog(int count, QWidget *parent)
+    : FramelessDialog(parent)
+    , m_backupCheck(new QCheckBox(tr("Backup registry before cleaning (Recommended)"), this))
+{
+    setObjectName("registryBackupDialog"_L1);
+    setModal(true);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setFixedSize(450, 280);
+    setWindowTitle(tr("Clean Registry"));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->setSpacing(12);
+
+    auto *title = new QLabel(tr("Clean Registry"), this);
+    title->setStyleSheet(theme::label(theme::text, 18, 600));
+    layout->addWidget(title);
+    auto *message =
+        new QLabel(tr("About to clean <b>%1</b> invalid registry entries").arg(count), this);
+    message->setTextFormat(Qt::RichText);
+    message->setStyleSheet(theme::label(theme::muted, 14));
+    layout->addWidget(message);
+
+    m_backupCheck->setObjectName("backupCheck"_L1);
+    m_backupCheck->setStyleSheet(theme::label(theme::text, 13));
+    m_backupCheck->setChecked(true);
+    layout->addWidget(m_backupCheck);
+    layout->addLayout(buildPathRow());
+    connect(m_backupCheck, &QCheckBox::toggled, this, &RegistryBackupDialog::onBackupCheckChanged);
+
+    auto *hint = new QLabel(
+        tr("⚠️ Backup file can be used to restore accidentally deleted registry entries"),
+        this);
+    hint->setWordWrap(true);
+    hint->setStyleSheet(theme::label(theme::muted, 12));
+    layout->addWidget(hint);
+    layout->addStretch();
+    layout->addLayout(buildButtonRow());
+}
+
+QLayout *RegistryBackupDialog::buildPathRow()
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    auto *label = new QLabel(tr("Save to:"), this);
+    label->setFixedWidth(70);
+    label->setStyleSheet(theme::label(theme::text, 13));
+    m_pathEdit = new QLineEdit(defaultPath(), this);
+    m_pathEdit->setObjectName("backupPathEdit"_L1);
+    m_pathEdit->setAccessibleName(tr("Backup file"));
+    m_pathEdit->setStyleSheet(theme::lineEdit(13, 6));
+    m_pathEdit->setMinimumHeight(34);
+    m_pathEdit->setCursorPosition(0);
+    label->setBuddy(m_pathEdit);
+    m_browseButton = new QPushButton(tr("Browse..."), this);
+    m_browseButton->setObjectName("browseBtn"_L1);
+    m_browseButton->setFixedSize(70, 34);
+    m_browseButton->setStyleSheet(theme::quietButton(6, 12));
+    m_browseButton->setCursor(Qt::PointingHandCursor);
+    m_browseButton->setAutoDefault(false);
+    connect(m_browseButton, &QPushButton::clicked, this, &RegistryBackupDialog::browse);
+    row->addWidget(label);
+    row->addWidget(m_pathEdit, 1);
+    row->addWidget(m_browseButton);
+    return row;
+}
+
+QLayout *RegistryBackupDialog::buildButtonRow()
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(12);
+    row->addStretch();
+    auto *cancel = new QPushButton(tr("Cancel"), this);
+    cancel->setObjectName("cancelBtn"_L1);
+    cancel->setFixedSize(90, 38);
+    cancel->setStyleSheet(theme::quietButton(8, 13));
+    cancel->setDefault(true);
+    auto *start = new QPushButton(tr("Start Cleaning"), this);
+    start->setObjectName("startCleanBtn"_L1);
+    start->setFixedSize(100, 38);
+    start->setStyleSheet(theme::filledButton(theme::dangerHover, theme::danger, 8, 12, u"0"_s));
+    start->setAutoDefault(false);
+    for (QPushButton *button : {cancel, start}) {
+        button->setCursor(Qt::PointingHandCursor);
+        row->addWidget(button);
+    }
+    connect(cancel, &QPushButton::clicked, this, &RegistryBackupDialog::reject);
+    connect(start, &QPushButton::clicked, this, &RegistryBackupDialog::accept);
+    return row;
+}
+
+QString RegistryBackupDialog::backupPath() const
+{
+    const QString path = m_pathEdit->text().trimmed();
+    return !m_backupCheck->isChecked() || path.isEmpty() ? QString() : withSuffix(path);
+}
+
+void RegistryBackupDialog::onBackupCheckChanged(bool checked)
+{
+    m_pathEdit->setEnabled(checked);
+    m_browseButton->setEnabled(checked);
+}
+
+void RegistryBackupDialog::browse()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Select backup location"), m_pathEdit->text(), tr("Registry files (*.reg)"));
+    if (!path.isEmpty())
+        m_pathEdit->setText(withSuffix(path));
+}
+
+// Return in the path field neither starts to delete nor throws away what was typed.
+void RegistryBackupDialog::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && m_pathEdit->hasFocus())
+        event->accept();
+    else
+        FramelessDialog::keyPressEvent(event);
+}
+
+void RegistryBackupDialog::paintEvent(QPaintEvent *)
+{
+    paintGround(12);
+}

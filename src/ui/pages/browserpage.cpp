@@ -1,0 +1,114 @@
+#include "browserpage.h"
+
+#include "application.h"
+#include "browsercleaner.h"
+#include "browsergroupwidget.h"
+#include "flowlayout.h"
+#include "scanresult.h"
+#include "theme.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array browserIds{"google_chrome"_L1, "microsoft_edge"_L1, "mozilla_firefox"_L1,
+                                "opera"_L1, "brave"_L1};
+
+/// Which of the ids above the category belongs to; their number when to none.
+std::size_t browserOf(const CleanCategory &category)
+{
+    const auto *const id =
+        std::find_if(browserIds.begin(), browserIds.end(), [&category](QLatin1StringView browser) {
+            return category.id.startsWith(browser);
+        });
+    return static_cast<std::size_t>(id - browserIds.begin());
+}
+
+// "google_chrome" is Google Chrome.
+QString displayName(QLatin1StringView id)
+{
+    QStringList words = QString(id).split(u'_');
+    for (QString &word : words)
+        word[0] = word.at(0).toUpper();
+    return words.join(u' ');
+}
+
+} // namespace
+
+BrowserPage::BrowserPage(QWidget *parent)
+    : BasePage(parent)
+    , m_cleaner(Application::instance()->browserCleaner())
+{
+    buildSelectionBar();
+    BrowserPage::retranslateUi();
+    setEngine(m_cleaner);
+}
+
+void BrowserPage::buildSelectionBar()
+{
+    auto *bar = new QWidget(this);
+    bar->setObjectName("browserSelectionBar"_L1);
+    auto *row = new FlowLayout(bar);
+    row->setSpacing(12, 6);
+    m_selectLabel = new QLabel(bar);
+    m_selectLabel->setObjectName("browserSelectionLabel"_L1);
+    m_selectLabel->setStyleSheet(theme::label(theme::muted, 13));
+    row->addWidget(m_selectLabel);
+    for (const Browser &browser : m_cleaner->browsers()) {
+        if (!browser.installed)
+            continue;
+        auto *box = new QCheckBox(browser.name, bar);
+        box->setProperty("browserType", browser.type);
+        box->setStyleSheet(theme::browserCheckBox());
+        box->setChecked(true);
+        connect(box, &QCheckBox::toggled, this, &BrowserPage::onBrowserToggled);
+        m_browserBoxes.append(box);
+        row->addWidget(box);
+    }
+    static_cast<QVBoxLayout *>(layout())->insertWidget(1, bar);
+    // What the bar shows is what is scanned from the start: once the engine knows of one choice, it
+    // leaves out every browser of which it knows none.
+    for (const QCheckBox *box : std::as_const(m_browserBoxes))
+        m_cleaner->setBrowserEnabled(box->property("browserType").toInt(), true);
+}
+
+void BrowserPage::onBrowserToggled(bool checked)
+{
+    m_cleaner->setBrowserEnabled(sender()->property("browserType").toInt(), checked);
+}
+
+void BrowserPage::retranslateUi()
+{
+    BasePage::retranslateUi();
+    setTitle(tr("Browser Cleaner"));
+    setSubtitle(tr("Clean browser cache, cookies and history"));
+    setStatisticCaption(tr("Cleanable Data"));
+    m_selectLabel->setText(tr("Select Browser:"));
+}
+
+QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categories,
+                                                     QWidget *parent)
+{
+    std::array<BrowserGroupWidget *, browserIds.size() + 1> groups{};
+    for (CleanCategory &category : categories) {
+        const std::size_t browser = browserOf(category);
+        BrowserGroupWidget *&group = groups.at(browser);
+        if (!group) {
+            const QString name =
+                browser < browserIds.size() ? displayName(browserIds.at(browser)) : tr("Other");
+            group = new BrowserGroupWidget(name, parent);
+        }
+        group->addCategory(&category);
+    }
+    QList<ResultWidget *> widgets;
+    std::copy_if(groups.begin(), groups.end(), std::back_inserter(widgets),
+                 [](const BrowserGroupWidget *group) { return group != nullptr; });
+    return widgets;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "basepage.h"
+
+#include <QList>
+
+class BrowserCleaner;
+class QCheckBox;
+class QLabel;
+
+/// The page of the browser cleaner: a bar that chooses the browsers to scan, and the results by
+/// browser.
+class BrowserPage final : public BasePage
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(BrowserPage)
+public:
+    explicit BrowserPage(QWidget *parent = nullptr);
+
+    void retranslateUi() override;
+
+protected:
+    [[nodiscard]] QList<ResultWidget *> makeResultWidgets(QList<CleanCategory> &categories,
+                                                          QWidget *parent) override;
+
+private:
+    void buildSelectionBar();
+    void onBrowserToggled(bool checked);
+
+    BrowserCleaner *m_cleaner;
+    QLabel *m_selectLabel = nullptr;
+    QList<QCheckBox *> m_browserBoxes;
+};

@@ -1,0 +1,191 @@
+#include "browsergroupwidget.h"
+
+#include "browsersubitem.h"
+#include "scanresult.h"
+#include "svgicon.h"
+#include "text.h"
+#include "theme.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+BrowserGroupWidget::BrowserGroupWidget(const QString &name, QWidget *parent)
+    : ResultWidget(parent)
+    , m_header(new QWidget(this))
+    , m_content(new QWidget(this))
+    , m_contentLayout(new QVBoxLayout(m_content))
+{
+    setObjectName("browserGroupWidget"_L1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+
+    m_header->setObjectName("browserGroupHeader"_L1);
+    m_header->setAttribute(Qt::WA_StyledBackground);
+    m_header->installEventFilter(this);
+    buildHeader(singleLine(name));
+    layout->addWidget(m_header);
+
+    m_content->setObjectName("browserGroupContent"_L1);
+    m_content->setAttribute(Qt::WA_StyledBackground);
+    m_content->setStyleSheet(theme::browserGroupContent());
+    m_contentLayout->setContentsMargins(1, 6, 1, 8);
+    m_contentLayout->setSpacing(0);
+    layout->addWidget(m_content);
+    showExpanded();
+}
+
+QString BrowserGroupWidget::iconPath(const QString &name)
+{
+    const QString lower = name.toLower();
+    for (const QLatin1StringView browser :
+         {"chrome"_L1, "edge"_L1, "firefox"_L1, "opera"_L1, "brave"_L1, "safari"_L1}) {
+        if (lower.contains(browser))
+            return u":/icons/browser-%1.svg"_s.arg(browser);
+    }
+    return u":/icons/browser.svg"_s;
+}
+
+void BrowserGroupWidget::buildHeader(const QString &name)
+{
+    auto *layout = new QHBoxLayout(m_header);
+    layout->setContentsMargins(16, 12, 16, 12);
+    layout->setSpacing(12);
+
+    auto *icon = new QLabel(m_header);
+    icon->setObjectName("browserIcon"_L1);
+    icon->setFixedSize(36, 36);
+    icon->setAlignment(Qt::AlignCenter);
+    icon->setStyleSheet(theme::browserIcon());
+    icon->setPixmap(svgPixmap(iconPath(name), {28, 28}, devicePixelRatioF()));
+    layout->addWidget(icon);
+
+    auto *title = new QLabel(name, m_header);
+    title->setObjectName("browserName"_L1);
+    title->setTextFormat(Qt::PlainText);
+    title->setStyleSheet(theme::label(theme::text, 15, 600));
+    layout->addWidget(title);
+
+    m_count = new QLabel(m_header);
+    m_count->setObjectName("browserItemCount"_L1);
+    m_count->setStyleSheet(theme::badge(theme::muted, theme::button, 10, 12));
+    m_count->hide();
+    layout->addWidget(m_count, 0, Qt::AlignVCenter);
+    layout->addStretch();
+
+    m_checkBox = new QCheckBox(m_header);
+    m_checkBox->setObjectName("browserCheck"_L1);
+    m_checkBox->setAccessibleName(name);
+    connect(m_checkBox, &QCheckBox::stateChanged, this, &BrowserGroupWidget::onHeaderChanged);
+    layout->addWidget(m_checkBox);
+
+    m_expandButton = new QPushButton(m_header);
+    m_expandButton->setObjectName("browserExpandBtn"_L1);
+    m_expandButton->setFixedSize(28, 28);
+    m_expandButton->setIconSize({20, 20});
+    m_expandButton->setCursor(Qt::PointingHandCursor);
+    m_expandButton->setStyleSheet(theme::iconButton());
+    m_expandButton->setAccessibleName(tr("Show the data of %1").arg(name));
+    connect(m_expandButton, &QPushButton::clicked, this, &BrowserGroupWidget::toggleExpanded);
+    layout->addWidget(m_expandButton);
+}
+
+void BrowserGroupWidget::addCategory(CleanCategory *category)
+{
+    auto *subItem = new BrowserSubItem(category, m_content);
+    subItem->setShowSizes(m_showSizes);
+    connect(subItem, &BrowserSubItem::checkChanged, this, [this] {
+        showCheckState();
+        Q_EMIT selectionChanged();
+    });
+    m_subItems.append(subItem);
+    m_contentLayout->addWidget(subItem);
+    showCheckState();
+    showCount();
+}
+
+void BrowserGroupWidget::setShowSizes(bool show)
+{
+    m_showSizes = show;
+    for (BrowserSubItem *subItem : std::as_const(m_subItems))
+        subItem->setShowSizes(show);
+}
+
+QList<QWidget *> BrowserGroupWidget::focusChain() const
+{
+    QList<QWidget *> chain{m_checkBox, m_expandButton};
+    for (const BrowserSubItem *subItem : m_subItems)
+        chain += subItem->focusChain();
+    return chain;
+}
+
+void BrowserGroupWidget::toggleExpanded()
+{
+    m_expanded = !m_expanded;
+    showExpanded();
+}
+
+bool BrowserGroupWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    // The whole header expands and collapses; its own controls keep their clicks to themselves.
+    if (watched == m_header && event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        if (mouse->button() == Qt::LeftButton
+            && m_header->rect().contains(mouse->position().toPoint())) {
+            toggleExpanded();
+            return true;
+        }
+    }
+    return ResultWidget::eventFilter(watched, event);
+}
+
+// Partly ticked is shown, but nobody chooses it: a click ticks all.
+void BrowserGroupWidget::onHeaderChanged(int state)
+{
+    if (state == Qt::PartiallyChecked)
+        return;
+    for (BrowserSubItem *subItem : std::as_const(m_subItems))
+        subItem->setChecked(state == Qt::Checked);
+    showCheckState();
+    Q_EMIT selectionChanged();
+}
+
+void BrowserGroupWidget::showCheckState()
+{
+    const auto checked =
+        std::count_if(m_subItems.begin(), m_subItems.end(),
+                      [](const BrowserSubItem *subItem) { return subItem->isChecked(); });
+    const bool isPartial = checked > 0 && checked < m_subItems.size();
+    const QSignalBlocker blocker(m_checkBox);
+    m_checkBox->setTristate(isPartial);
+    m_checkBox->setCheckState(isPartial         ? Qt::PartiallyChecked
+                                  : checked > 0 ? Qt::Checked
+                                                : Qt::Unchecked);
+}
+
+void BrowserGroupWidget::showCount()
+{
+    qsizetype count = 0;
+    for (const BrowserSubItem *subItem : std::as_const(m_subItems))
+        count += subItem->category().items.size();
+    m_count->setText(tr("%1 items").arg(count));
+    m_count->setVisible(count >= 1);
+}
+
+void BrowserGroupWidget::showExpanded()
+{
+    m_header->setStyleSheet(theme::browserGroupHeader(m_expanded));
+    m_content->setVisible(m_expanded);
+    const QString icon = m_expanded ? u":/icons/chevron-up.svg"_s : u":/icons/chevron-down.svg"_s;
+    m_expandButton->setIcon(QIcon(svgPixmap(icon, {20, 20}, devicePixelRatioF())));
+}

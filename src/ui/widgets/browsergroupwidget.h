@@ -1,0 +1,58 @@
+#pragma once
+
+#include "resultwidget.h"
+
+#include <QList>
+#include <QString>
+
+class BrowserSubItem;
+class QCheckBox;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+struct CleanCategory;
+
+/// The results of one browser: a header with a tri-state check box and, once expanded, a row for
+/// each kind of data.
+class BrowserGroupWidget final : public ResultWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(BrowserGroupWidget)
+public:
+    /// @p name is what is shown and what chooses the icon.
+    explicit BrowserGroupWidget(const QString &name, QWidget *parent = nullptr);
+
+    /// Appends a row for @p category, a record of the engine's result.
+    void addCategory(CleanCategory *category);
+    [[nodiscard]] qsizetype subItemCount() const { return m_subItems.size(); }
+    [[nodiscard]] bool isExpanded() const { return m_expanded; }
+
+    [[nodiscard]] QList<QWidget *> focusChain() const override;
+    void setShowSizes(bool show) override;
+
+    /// The icon of the browser that @p name names in any case; a generic one for others.
+    [[nodiscard]] static QString iconPath(const QString &name);
+
+public Q_SLOTS:
+    void toggleExpanded();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void buildHeader(const QString &name);
+    void onHeaderChanged(int state);
+    void showCheckState();
+    void showCount();
+    void showExpanded();
+
+    QWidget *m_header;
+    QWidget *m_content;
+    QVBoxLayout *m_contentLayout;
+    QLabel *m_count = nullptr;
+    QCheckBox *m_checkBox = nullptr;
+    QPushButton *m_expandButton = nullptr;
+    QList<BrowserSubItem *> m_subItems;
+    bool m_expanded = false;
+    bool m_showSizes = true;
+};

@@ -1,0 +1,133 @@
+#include "browsersubitem.h"
+
+#include "itemdetaildialog.h"
+#include "risk.h"
+#include "scanresult.h"
+#include "svgicon.h"
+#include "text.h"
+#include "theme.h"
+#include "tooltip.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The browser's name stands above.
+QString ruleName(const QString &categoryName)
+{
+    const qsizetype dash = categoryName.indexOf(" - "_L1);
+    return dash < 0 ? categoryName : categoryName.mid(dash + 3);
+}
+
+} // namespace
+
+BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
+    : QWidget(parent)
+    , m_category(category)
+    , m_checkBox(new QCheckBox(this))
+    , m_size(new QLabel(this))
+    , m_detailsButton(new QPushButton(this))
+{
+    // Bound as they come, the items of an unselected category would be ticked.
+    if (!category->checked)
+        category->setChecked(false);
+
+    setObjectName("browserSubItem"_L1);
+    setAttribute(Qt::WA_StyledBackground);
+    setToolTip(plainToolTip(category->description));
+    const QString name = singleLine(ruleName(category->name));
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(16, 7, 12, 7);
+    layout->setSpacing(12);
+
+    m_checkBox->setObjectName("subItemCheck"_L1);
+    m_checkBox->setAccessibleName(name);
+    m_checkBox->setChecked(category->checked);
+    connect(m_checkBox, &QCheckBox::toggled, this, &BrowserSubItem::onToggled);
+    layout->addWidget(m_checkBox);
+
+    auto *label = new QLabel(name, this);
+    label->setObjectName("subItemName"_L1);
+    label->setTextFormat(Qt::PlainText);
+    label->setStyleSheet(theme::label(theme::text, 13));
+    layout->addWidget(label);
+    if (category->riskLevel > LowRisk) {
+        auto *badge = new QLabel(risk::text(category->riskLevel), this);
+        badge->setObjectName("subItemRisk"_L1);
+        badge->setStyleSheet(risk::style(category->riskLevel));
+        layout->addWidget(badge, 0, Qt::AlignVCenter);
+    }
+    layout->addStretch();
+
+    auto *count = new QLabel(tr("%1 items").arg(category->items.size()), this);
+    count->setObjectName("subItemCount"_L1);
+    count->setStyleSheet(theme::label(theme::faint, 12));
+    layout->addWidget(count);
+
+    m_size->setObjectName("subItemSize"_L1);
+    m_size->setText(formatSize(category->totalSize()));
+    m_size->setStyleSheet(theme::label(theme::muted, 12, 500));
+    m_size->setMinimumWidth(76);
+    m_size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addWidget(m_size);
+
+    m_detailsButton->setObjectName("viewDetailsBtn"_L1);
+    m_detailsButton->setText(tr("View Details"));
+    m_detailsButton->setIcon(
+        QIcon(svgPixmap(u":/icons/chevron-right.svg"_s, {16, 16}, devicePixelRatioF())));
+    m_detailsButton->setLayoutDirection(Qt::RightToLeft); // the arrow after the text
+    m_detailsButton->setCursor(Qt::PointingHandCursor);
+    m_detailsButton->setStyleSheet(theme::linkButton());
+    m_detailsButton->setAccessibleName(tr("View details of %1").arg(name));
+    connect(m_detailsButton, &QPushButton::clicked, this, &BrowserSubItem::showDetails);
+    layout->addWidget(m_detailsButton);
+}
+
+BrowserSubItem::~BrowserSubItem()
+{
+    // It shows the same record, which goes with the widget.
+    delete m_details;
+}
+
+bool BrowserSubItem::isChecked() const
+{
+    return m_checkBox->isChecked();
+}
+
+void BrowserSubItem::setChecked(bool checked)
+{
+    const QSignalBlocker blocker(m_checkBox);
+    m_checkBox->setChecked(checked);
+    m_category->setChecked(checked);
+}
+
+void BrowserSubItem::setShowSizes(bool show)
+{
+    m_size->setVisible(show);
+}
+
+QList<QWidget *> BrowserSubItem::focusChain() const
+{
+    return {m_checkBox, m_detailsButton};
+}
+
+void BrowserSubItem::showDetails()
+{
+    m_details = new ItemDetailDialog(m_category, window());
+    m_details->setAttribute(Qt::WA_DeleteOnClose);
+    m_details->setModal(true);
+    m_details->show();
+}
+
+void BrowserSubItem::onToggled(bool checked)
+{
+    m_category->setChecked(checked);
+    Q_EMIT checkChanged();
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+class ItemDetailDialog;
+class QCheckBox;
+class QLabel;
+class QPushButton;
+struct CleanCategory;
+
+/// One kind of data of one browser: a row with a check box, how much there is, and a button for the
+/// details. Bound to a record of the engine's result.
+class BrowserSubItem final : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(BrowserSubItem)
+public:
+    explicit BrowserSubItem(CleanCategory *category, QWidget *parent = nullptr);
+    ~BrowserSubItem() override;
+
+    [[nodiscard]] const CleanCategory &category() const { return *m_category; }
+    [[nodiscard]] bool isChecked() const;
+    /// Ticks or unticks the record with all its items, without a signal.
+    void setChecked(bool checked);
+    void setShowSizes(bool show);
+    [[nodiscard]] QList<QWidget *> focusChain() const;
+
+public Q_SLOTS:
+    /// Opens the dialog that lists every item.
+    void showDetails();
+
+Q_SIGNALS:
+    void checkChanged();
+
+private:
+    void onToggled(bool checked);
+
+    CleanCategory *m_category;
+    QCheckBox *m_checkBox;
+    QLabel *m_size;
+    QPushButton *m_detailsButton;
+    QPointer<ItemDetailDialog> m_details;
+};

@@ -1,0 +1,120 @@
+#include "drivecard.h"
+
+#include "drives.h"
+#include "scanresult.h"
+#include "text.h"
+#include "theme.h"
+#include "tooltip.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSet>
+#include <QStorageInfo>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int textWidth = 112; ///< of the card without its border and margins
+
+constexpr int nearlyFull = 71; // percent, from which on the bar warns
+constexpr int full = 91;
+
+QLabel *makeLabel(const QString &text, const QString &style, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setStyleSheet(style);
+    return label;
+}
+
+QString shortName(const DriveInfo &drive)
+{
+    const QString name = singleLine(drive.name);
+    const QString shown = name.size() > 10 ? name.left(8) + u"..."_s : name;
+    return drive.isRemovable ? shown + u" 📱"_s : shown;
+}
+
+} // namespace
+
+QList<DriveInfo> mountedDrives()
+{
+    QList<DriveInfo> drives;
+    QSet<QString> roots; // what is mounted over something else hides that
+    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+        if (!volume.isValid() || !volume.isReady() || volume.bytesTotal() == 0
+            || roots.contains(volume.rootPath()))
+            continue;
+        roots.insert(volume.rootPath());
+        drives.append({volume.rootPath(), volume.displayName(),
+                       platform::driveKind(volume.rootPath()) != platform::DriveKind::Fixed,
+                       volume.bytesTotal(), volume.bytesFree()});
+    }
+    return drives;
+}
+
+DriveCard::DriveCard(const DriveInfo &drive, QWidget *parent)
+    : QFrame(parent)
+    , m_checkBox(new QCheckBox(this))
+{
+    setObjectName("driveCard"_L1);
+    setFixedSize(140, 110);
+    setCursor(Qt::PointingHandCursor);
+    setStyleSheet(theme::card(objectName(), 2, false));
+    setProperty("checkBox", QVariant::fromValue<QWidget *>(m_checkBox));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 10, 12, 10);
+    layout->addLayout(buildTopRow(drive));
+
+    const DriveInfo named{drive.rootPath, drive.name.isEmpty() ? tr("Local Disk") : drive.name,
+                          drive.isRemovable, drive.totalBytes, drive.freeBytes};
+    auto *name = makeLabel(shortName(named), theme::label(theme::muted, 12), this);
+    name->setObjectName("driveName"_L1);
+    const QString fullName = named.isRemovable ? tr("%1 (Removable)").arg(named.name) : named.name;
+    name->setToolTip(plainToolTip(fullName));
+    layout->addWidget(name);
+    m_checkBox->setAccessibleName(
+        tr("%1 %2").arg(singleLine(drive.rootPath), singleLine(fullName)));
+    addUsage(named, layout);
+}
+
+QLayout *DriveCard::buildTopRow(const DriveInfo &drive)
+{
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_checkBox);
+    row->addWidget(makeLabel(drive.isRemovable ? u"🔌"_s : u"💾"_s, u"font-size: 16px;"_s, this));
+    row->addWidget(makeLabel(drive.rootPath.left(2), theme::label(theme::text, 14, 600), this));
+    row->addStretch();
+    return row;
+}
+
+void DriveCard::addUsage(const DriveInfo &drive, QLayout *layout)
+{
+    const qint64 used = drive.totalBytes - drive.freeBytes;
+    auto *usage = makeLabel(tr("%1/%2").arg(formatSize(used), formatSize(drive.totalBytes)),
+                            theme::label(theme::faint, 11), this);
+    usage->setObjectName("driveUsage"_L1);
+    usage->ensurePolished();
+    if (usage->sizeHint().width() > textWidth) // of a drive of more than a terabyte
+        usage->setStyleSheet(theme::label(theme::faint, 10));
+    usage->setToolTip(usage->text());
+    layout->addWidget(usage);
+    if (drive.totalBytes <= 0)
+        return;
+    const int percent = static_cast<int>(used * 100 / drive.totalBytes);
+    auto *bar = new QProgressBar(this);
+    bar->setRange(0, 100);
+    bar->setValue(percent);
+    bar->setFixedHeight(4);
+    bar->setTextVisible(false);
+    bar->setAccessibleName(tr("Used: %1%").arg(percent));
+    bar->setStyleSheet(theme::thinBar(percent < nearlyFull ? theme::accent
+                                          : percent < full ? theme::warning
+                                                           : theme::danger,
+                                      2));
+    layout->addWidget(bar);
+}

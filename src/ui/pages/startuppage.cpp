@@ -1,0 +1,280 @@
+#include "startuppage.h"
+
+#include "logger.h"
+#include "startupcard.h"
+#include "theme.h"
+#include "windowspaths.h"
+
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype cardsAtOnce = 12; ///< more than the page shows without scrolling
+
+void setQuietly(QCheckBox *box, bool checked)
+{
+    const QSignalBlocker blocker(box);
+    box->setChecked(checked);
+}
+
+} // namespace
+
+StartupPage::StartupPage(QWidget *parent)
+    : QWidget(parent)
+{
+    setObjectName("startupPage"_L1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->setSpacing(14);
+    layout->addLayout(buildHeader());
+    layout->addLayout(buildTools());
+    layout->addWidget(buildLoadingPanel());
+
+    m_scrollArea = new QScrollArea(this);
+    m_scrollArea->setObjectName("startupScrollArea"_L1);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->setStyleSheet(u"QScrollArea { background: transparent; }"_s);
+    m_scrollArea->viewport()->setAutoFillBackground(false);
+    auto *cards = new QWidget(m_scrollArea);
+    m_list = new QVBoxLayout(cards);
+    m_list->setContentsMargins(0, 0, 16, 0);
+    m_list->setSpacing(8);
+    m_list->addStretch();
+    m_scrollArea->setWidget(cards);
+    cards->setAutoFillBackground(false);
+    layout->addWidget(m_scrollArea, 1);
+
+    m_loadingTimer.setInterval(400);
+    connect(&m_loadingTimer, &QTimer::timeout, this, &StartupPage::updateLoadingAnimation);
+    m_cardTimer.setInterval(0);
+    connect(&m_cardTimer, &QTimer::timeout, this, &StartupPage::addCards);
+}
+
+QLayout *StartupPage::buildHeader()
+{
+    auto *header = new QHBoxLayout;
+    auto *titles = new QVBoxLayout;
+    titles->setSpacing(4);
+    auto *title = new QLabel(tr("Startup Manager"), this);
+    title->setStyleSheet(u"font-size: 24px; font-weight: 700; color: %1;"_s.arg(theme::text));
+    auto *subtitle = new QLabel(tr("Check programs to enable auto-start at boot"), this);
+    subtitle->setStyleSheet(u"font-size: 14px; color: %1;"_s.arg(theme::muted));
+    titles->addWidget(title);
+    titles->addWidget(subtitle);
+    header->addLayout(titles, 1);
+    m_counts = new QLabel(tr("%1 programs").arg(0), this);
+    m_counts->setObjectName("countsLabel"_L1);
+    m_counts->setStyleSheet(u"background-color: %1;color: white;padding: 6px 12px;border-radius: "
+                            "12px;font-size: 13px;font-weight: 500;"_s.arg(theme::accent));
+    header->addWidget(m_counts, 0, Qt::AlignTop);
+    return header;
+}
+
+QLayout *StartupPage::buildTools()
+{
+    auto *tools = new QHBoxLayout;
+    tools->setSpacing(12);
+    m_search = new QLineEdit(this);
+    m_search->setObjectName("searchEdit"_L1);
+    m_search->setFixedSize(250, 36);
+    m_search->setPlaceholderText(tr("Search programs..."));
+    m_search->setAccessibleName(tr("Search programs"));
+    m_search->setClearButtonEnabled(true);
+    m_search->setStyleSheet(theme::lineEdit(13, 8));
+    connect(m_search, &QLineEdit::textChanged, this, &StartupPage::onSearchChanged);
+    tools->addWidget(m_search);
+    auto *refresh = new QPushButton(tr("Refresh"), this);
+    refresh->setObjectName("refreshBtn"_L1);
+    refresh->setFixedSize(90, 36);
+    refresh->setCursor(Qt::PointingHandCursor);
+    refresh->setStyleSheet(theme::quietButton(8, 13));
+    connect(refresh, &QPushButton::clicked, this, &StartupPage::onRefreshClicked);
+    tools->addWidget(refresh);
+    auto *hint = new QLabel(tr("Checked programs will run automatically at startup"), this);
+    hint->setStyleSheet(u"font-size: 12px; color: %1;"_s.arg(theme::faint));
+    hint->setWordWrap(true);
+    tools->addWidget(hint, 1);
+    return tools;
+}
+
+QWidget *StartupPage::buildLoadingPanel()
+{
+    m_loadingPanel = new QWidget(this);
+    m_loadingPanel->setObjectName("loadingPanel"_L1);
+    auto *layout = new QVBoxLayout(m_loadingPanel);
+    layout->setContentsMargins(0, 40, 0, 40);
+    layout->setSpacing(8);
+    const auto add = [&](const QString &text, const QString &style, QLatin1StringView colour) {
+        auto *label = new QLabel(text, m_loadingPanel);
+        label->setAlignment(Qt::AlignCenter);
+        label->setStyleSheet(style.arg(colour));
+        layout->addWidget(label);
+        return label;
+    };
+    m_loadingSymbol = add({}, u"font-size: 36px; color: %1;"_s, theme::accent);
+    m_loadingSymbol->setObjectName("loadingSymbol"_L1);
+    add(tr("Scanning installed programs..."), u"font-size: 15px; color: %1;"_s, theme::muted);
+    add(tr("First load may take a few seconds"), u"font-size: 13px; color: %1;"_s, theme::faint);
+    m_loadingPanel->hide();
+    return m_loadingPanel;
+}
+
+void StartupPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (std::exchange(m_hasLoaded, true))
+        return;
+    onRefreshClicked();
+}
+
+void StartupPage::onRefreshClicked()
+{
+    startLoading();
+    // The page paints itself before the registry is read.
+    QTimer::singleShot(100, this, &StartupPage::doLoadApps);
+}
+
+void StartupPage::startLoading()
+{
+    m_loadingTimer.stop();
+    m_frame = -1;
+    updateLoadingAnimation();
+    m_loadingPanel->show();
+    m_loadingTimer.start();
+}
+
+void StartupPage::updateLoadingAnimation()
+{
+    static const std::array frames{u"●"_s, u"◐"_s, u"◑"_s, u"◒"_s};
+    m_frame = (m_frame + 1) % static_cast<int>(frames.size());
+    m_loadingSymbol->setText(frames[static_cast<size_t>(m_frame)]);
+}
+
+void StartupPage::doLoadApps()
+{
+    m_manager.loadInstalledApps();
+    m_apps = m_manager.apps();
+    m_programCount = m_apps.size();
+    m_loadingTimer.stop();
+    m_loadingPanel->hide();
+    refreshList();
+}
+
+void StartupPage::onSearchChanged(QString)
+{
+    refreshList();
+}
+
+void StartupPage::refreshList()
+{
+    m_cardTimer.stop();
+    while (m_list->count() > 1) {
+        const std::unique_ptr<QLayoutItem> item(m_list->takeAt(0));
+        // A card may be about to tell of its own click.
+        item->widget()->hide();
+        item->widget()->setParent(nullptr);
+        item->widget()->deleteLater();
+    }
+    std::sort(m_apps.begin(), m_apps.end(), [](const StartupApp &left, const StartupApp &right) {
+        return left.name.localeAwareCompare(right.name) < 0;
+    });
+    const QString wanted = m_search->text().toLower();
+    m_pending.clear();
+    std::copy_if(m_apps.cbegin(), m_apps.cend(), std::back_inserter(m_pending),
+                 [&wanted](const StartupApp &app) {
+                     return app.name.toLower().contains(wanted)
+                         || app.exePath.toLower().contains(wanted);
+                 });
+    showCounts();
+    addCards();
+}
+
+// The first ones at once, the rest between the user's key strokes.
+void StartupPage::addCards()
+{
+    for (qsizetype made = 0; made < cardsAtOnce && !m_pending.isEmpty(); ++made) {
+        const StartupApp app = m_pending.takeFirst();
+        const QIcon icon = m_icons.icon(QFileInfo(platform::localPath(app.exePath)));
+        auto *card = new StartupCard(app, icon, m_scrollArea->widget());
+        connect(card->checkBox(), &QCheckBox::toggled, this, &StartupPage::onItemToggled);
+        m_list->insertWidget(m_list->count() - 1, card);
+    }
+    if (m_pending.isEmpty())
+        m_cardTimer.stop();
+    else
+        m_cardTimer.start();
+}
+
+void StartupPage::showCounts()
+{
+    const auto startupCount = std::count_if(m_apps.cbegin(), m_apps.cend(),
+                                            [](const StartupApp &app) { return app.isStartup; });
+    m_counts->setText(tr("%1 programs · %2 startup items")
+                          .arg(QString::number(m_programCount), QString::number(startupCount)));
+}
+
+void StartupPage::onItemToggled(bool checked)
+{
+    auto *box = qobject_cast<QCheckBox *>(sender());
+    if (!box)
+        return;
+    const QString exePath = box->property("exePath").toString();
+    const auto app =
+        std::find_if(m_apps.begin(), m_apps.end(), [&exePath](const StartupApp &other) {
+            return other.exePath.compare(exePath, Qt::CaseInsensitive) == 0;
+        });
+    if (app == m_apps.end())
+        return;
+    if (!m_manager.setStartup(*app, checked)) {
+        setQuietly(box, !checked);
+        warn(checked ? tr("Failed to add startup item") : tr("Failed to remove startup item"));
+        return;
+    }
+    showStates();
+    showCounts();
+    const QString name = box->property("displayName").toString();
+    Logger::instance().info(
+        (checked ? u"Added \"%1\" to startup"_s : u"Removed \"%1\" from startup"_s).arg(name));
+}
+
+// One program's new entry may have taken the place of another's.
+void StartupPage::showStates()
+{
+    QHash<QString, bool> states;
+    for (const StartupApp &app : m_manager.apps())
+        states.insert(app.exePath, app.isStartup);
+    for (QList<StartupApp> *list : {&m_apps, &m_pending}) {
+        for (StartupApp &app : *list)
+            app.isStartup = states.value(app.exePath, app.isStartup);
+    }
+    for (StartupCard *card : m_scrollArea->widget()->findChildren<StartupCard *>()) {
+        const bool isStartup = states.value(card->property("appExePath").toString());
+        setQuietly(card->checkBox(), isStartup);
+        card->showState(isStartup);
+    }
+}
+
+void StartupPage::warn(const QString &text)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Operation Failed"), text, QMessageBox::Ok, this);
+    box.setInformativeText(m_manager.errorString());
+    box.setStyleSheet(theme::messageBox());
+    box.exec();
+}

@@ -1,0 +1,103 @@
+#include "startupcard.h"
+
+#include "elidedlabel.h"
+#include "startupmanager.h"
+#include "text.h"
+#include "theme.h"
+#include "tooltip.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int roomAroundName = 240; ///< pixels for check box, icon, status and spaces
+
+} // namespace
+
+StartupCard::StartupCard(const StartupApp &app, const QIcon &icon, QWidget *parent)
+    : QFrame(parent)
+    , m_checkBox(new QCheckBox(this))
+{
+    setObjectName("startupCard"_L1);
+    setProperty("appName", app.name);
+    setProperty("appExePath", app.exePath);
+    setFixedHeight(70);
+    setStyleSheet(theme::card(u"startupCard"_s, 1, false));
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(16, 10, 16, 10);
+    layout->setSpacing(12);
+    m_checkBox->setProperty("displayName", app.name);
+    m_checkBox->setProperty("exePath", app.exePath);
+    m_checkBox->setChecked(app.isStartup);
+    m_checkBox->setCursor(Qt::PointingHandCursor);
+    m_checkBox->setAccessibleName(tr("Start %1 automatically").arg(singleLine(app.name)));
+    layout->addWidget(m_checkBox);
+    layout->addWidget(buildIcon(icon));
+    layout->addLayout(buildTexts(app), 1);
+
+    m_status = new QLabel(tr("Enabled"), this);
+    m_status->setObjectName("statusLabel"_L1);
+    m_status->setStyleSheet(u"background-color: %1;color: %2;padding: 4px 10px;border-radius: 6px;"
+                            "font-size: 12px;font-weight: 500;"_s.arg(QString(theme::startupTint),
+                                                                      QString(theme::startupText)));
+    layout->addWidget(m_status, 0, Qt::AlignVCenter);
+    showState(app.isStartup);
+}
+
+QWidget *StartupCard::buildIcon(const QIcon &icon)
+{
+    m_icon = new QLabel(this);
+    m_icon->setObjectName("iconLabel"_L1);
+    m_icon->setFixedSize(36, 36);
+    m_icon->setAlignment(Qt::AlignCenter);
+    const QPixmap picture = icon.pixmap({32, 32}, devicePixelRatioF());
+    m_icon->setProperty("hasRealIcon", !picture.isNull());
+    if (picture.isNull())
+        m_icon->setText(u"📦"_s);
+    else
+        m_icon->setPixmap(picture);
+    return m_icon;
+}
+
+QLayout *StartupCard::buildTexts(const StartupApp &app)
+{
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    m_name = new ElidedLabel(app.name, this);
+    m_name->setObjectName("appName"_L1);
+    m_name->setStyleSheet(theme::label(theme::text, 14, 600));
+    auto *path = new QLabel(shortPath(singleLine(app.exePath), 30, 27), this);
+    path->setTextFormat(Qt::PlainText);
+    path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    path->setStyleSheet(theme::label(theme::faint, 11));
+    path->setToolTip(plainToolTip(app.exePath));
+    texts->addWidget(m_name);
+    texts->addWidget(path);
+    return texts;
+}
+
+void StartupCard::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    m_name->elideTo(width() - roomAroundName);
+}
+
+void StartupCard::showState(bool isStartup)
+{
+    if (m_isShown == isStartup)
+        return;
+    m_isShown = isStartup;
+    const QString ground(isStartup ? theme::startupTint : theme::button);
+    m_icon->setStyleSheet((m_icon->property("hasRealIcon").toBool()
+                               ? u"background-color: %1; border-radius: 8px; padding: 2px;"_s
+                               : u"background-color: %1; border-radius: 8px; font-size: 16px;"_s)
+                              .arg(ground));
+    m_status->setVisible(isStartup);
+}

@@ -1,9 +1,19 @@
 #include "mainwindow.h"
 
 #include "application.h"
-#include "emptypage.h"
+#include "browsercleaner.h"
+#include "browserpage.h"
+#include "dashboardpage.h"
+#include "fullscan.h"
+#include "junkcleaner.h"
 #include "junkpage.h"
+#include "largefilepage.h"
+#include "linkmanager.h"
 #include "navbutton.h"
+#include "registrycleaner.h"
+#include "registrypage.h"
+#include "settingsdialog.h"
+#include "startuppage.h"
 #include "svgicon.h"
 #include "theme.h"
 #include "titlebar.h"
@@ -19,7 +29,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
-#include <QSettings>
 #include <QStackedWidget>
 #include <QTranslator>
 #include <QVBoxLayout>
@@ -33,7 +42,8 @@ constexpr int settingsIndex = 6;
 } // namespace
 
 MainWindow::MainWindow()
-    : m_translator(new QTranslator(this))
+    : m_fullScan(new FullScan(this))
+    , m_translator(new QTranslator(this))
 {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -45,7 +55,10 @@ MainWindow::MainWindow()
     buildLayout();
     buildTray();
     connectTitleBar();
+    connectDashboard();
     applyStyleSheet();
+    connect(LinkManager::instance(), &LinkManager::languageChanged, this,
+            &MainWindow::onLanguageChanged);
     switchToPage(0);
     // Nothing is focused until the user tabs: a ring around the first button would point at
     // nothing.
@@ -162,14 +175,19 @@ void MainWindow::buildNavigation()
 
 void MainWindow::buildPages()
 {
+    m_dashboardPage = new DashboardPage(m_pageStack);
     auto *junkPage = new JunkPage(m_pageStack);
-    m_pageStack->addWidget(new EmptyPage(tr("Dashboard"), m_pageStack));
+    auto *browserPage = new BrowserPage(m_pageStack);
+    auto *registryPage = new RegistryPage(m_pageStack);
+    m_pageStack->addWidget(m_dashboardPage);
     m_pageStack->addWidget(junkPage);
-    m_pageStack->addWidget(new EmptyPage(tr("Browser Cleaner"), m_pageStack));
-    m_pageStack->addWidget(new EmptyPage(tr("Registry Cleaner"), m_pageStack));
-    m_pageStack->addWidget(new EmptyPage(tr("Startup Manager"), m_pageStack));
-    m_pageStack->addWidget(new EmptyPage(tr("Large Files"), m_pageStack));
-    connect(junkPage, &BasePage::scanFinished, this, &MainWindow::updateStats);
+    m_pageStack->addWidget(browserPage);
+    m_pageStack->addWidget(registryPage);
+    m_pageStack->addWidget(new StartupPage(m_pageStack));
+    m_pageStack->addWidget(new LargeFilePage(m_pageStack));
+    for (const BasePage *page :
+         std::initializer_list<BasePage *>{junkPage, browserPage, registryPage})
+        connect(page, &BasePage::scanFinished, this, &MainWindow::updateStats);
 }
 
 void MainWindow::buildTray()
@@ -195,6 +213,22 @@ void MainWindow::connectTitleBar()
     connect(m_titleBar, &TitleBar::helpClicked, this, &MainWindow::onHelpClicked);
     connect(m_titleBar, &TitleBar::supportClicked, this, &MainWindow::onSupportClicked);
     connect(m_titleBar, &TitleBar::languageChanged, this, &MainWindow::onLanguageChanged);
+}
+
+void MainWindow::connectDashboard()
+{
+    connect(m_dashboardPage, &DashboardPage::scanRequested, this,
+            &MainWindow::onDashboardScanRequested);
+    connect(m_dashboardPage, &DashboardPage::cleanRequested, this,
+            &MainWindow::onDashboardCleanRequested);
+    connect(m_dashboardPage, &DashboardPage::navigateToPage, this,
+            &MainWindow::onDashboardNavigate);
+    connect(m_fullScan, &FullScan::progressed, m_dashboardPage, &DashboardPage::updateProgress);
+    connect(m_fullScan, &FullScan::finished, this,
+            [this](qint64 junkSize, qint64 browserSize, int registryCount) {
+                m_dashboardPage->setScanning(false);
+                m_dashboardPage->showResults(junkSize, browserSize, registryCount);
+            });
 }
 
 void MainWindow::applyStyleSheet()
@@ -242,11 +276,22 @@ void MainWindow::onCloseClicked()
     close();
 }
 
-void MainWindow::onSettingsClicked() { }
+void MainWindow::onSettingsClicked()
+{
+    if (!m_settingsDialog)
+        m_settingsDialog = new SettingsDialog(this);
+    m_settingsDialog->exec();
+}
 
-void MainWindow::onHelpClicked() { }
+void MainWindow::onHelpClicked()
+{
+    LinkManager::instance()->openLink(u"support"_s, u"help"_s, this);
+}
 
-void MainWindow::onSupportClicked() { }
+void MainWindow::onSupportClicked()
+{
+    LinkManager::instance()->openLink(u"support"_s, u"contact"_s, this);
+}
 
 void MainWindow::updateStats() { }
 
@@ -265,6 +310,16 @@ void MainWindow::onAboutClicked()
     box.setStyleSheet(theme::messageBox());
     box.exec();
 }
+
+void MainWindow::onDashboardScanRequested()
+{
+    const auto *application = Application::instance();
+    m_dashboardPage->setScanning(true);
+    m_fullScan->start({application->junkCleaner(), application->browserCleaner(),
+                       application->registryCleaner()});
+}
+
+void MainWindow::onDashboardCleanRequested() { }
 
 void MainWindow::onDashboardNavigate(int pageId)
 {
@@ -309,8 +364,7 @@ void MainWindow::showTrayMessage(const QString &title, const QString &text, int 
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    const bool toTray =
-        Application::instance()->settings()->value("general/minimizeToTray"_L1, false).toBool();
+    const bool toTray = Application::instance()->option("general/minimizeToTray"_L1, false);
     if (toTray && isTrayShown()) {
         hide();
         showTrayMessage(tr("Sweepwise"),

@@ -6,10 +6,13 @@
 #include <QSystemTrayIcon>
 #include <QWidget>
 
+class DashboardPage;
+class FullScan;
 class NavButton;
 class QMenu;
 class QStackedWidget;
 class QTranslator;
+class SettingsDialog;
 class TitleBar;
 
 /// The program's one window: frameless, with a navigation column, a title bar, a stack of pages and
@@ -35,6 +38,10 @@ public Q_SLOTS:
     void onSupportClicked();
     /// Kept as a hook for figures that follow a scan; changes nothing today.
     void updateStats();
+    /// Scans with all three engines at once and shows the dashboard how far they have come.
+    void onDashboardScanRequested();
+    /// Nothing is cleaned that no page has shown.
+    void onDashboardCleanRequested();
     void onDashboardNavigate(int pageId);
     void onTrayIconActivated(QSystemTrayIcon::ActivationReason reason);
     void onTrayShowWindow();
@@ -57,6 +64,7 @@ private:
     QWidget *buildLogo();
     void buildNavigation();
     void buildPages();
+    void connectDashboard();
     void buildTray();
     void connectTitleBar();
     void applyStyleSheet();
@@ -67,6 +75,9 @@ private:
     TitleBar *m_titleBar = nullptr;
     QWidget *m_navWidget = nullptr;
     QStackedWidget *m_pageStack = nullptr;
+    DashboardPage *m_dashboardPage = nullptr;
+    SettingsDialog *m_settingsDialog = nullptr; ///< from its first use on
+    FullScan *m_fullScan;
     QSystemTrayIcon *m_trayIcon = nullptr;
     QMenu *m_trayMenu = nullptr;
     QTranslator *m_translator = nullptr;

@@ -4,9 +4,13 @@
 #include "application.h"
 #include "categorywidget.h"
 #include "junkcleaner.h"
+#include "junkpage.h"
+#include "linkmanager.h"
+#include "logcapture.h"
 #include "logger.h"
 #include "navbutton.h"
 #include "progressdialog.h"
+#include "settingsdialog.h"
 #include "signalspy.h"
 #include "testhome.h"
 #include "titlebar.h"
@@ -14,6 +18,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFrame>
@@ -26,6 +31,7 @@
 #include <QStackedWidget>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -98,6 +104,8 @@ private Q_SLOTS:
         Application::instance()->initialize();
     }
 
+    void cleanupTestCase() { QSettings(appinfo::organisation, appinfo::name).clear(); }
+
     void init()
     {
         Application::instance()->settings()->setValue("general/minimizeToTray"_L1, false);
@@ -159,7 +167,20 @@ private Q_SLOTS:
         MainWindow window;
         show(window);
         QTest::mouseClick(navButtons(window).at(3), Qt::LeftButton);
+        QList<QWidget *> dialogs;
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, &closer, [&dialogs] {
+            auto *dialog = qobject_cast<SettingsDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            dialogs.append(dialog);
+            dialog->onCancelClicked();
+        });
+        closer.start(10);
         QTest::mouseClick(navButtons(window).at(6), Qt::LeftButton);
+        window.onSettingsClicked();
+        QCOMPARE(dialogs.size(), 2);
+        QCOMPARE(dialogs.at(0), dialogs.at(1)); // one for the life of the window
         QCOMPARE(window.currentPage(), 3);
         QCOMPARE(checks(window), (QList<bool>{false, false, false, true, false, false, false}));
     }
@@ -362,6 +383,67 @@ private Q_SLOTS:
         QCOMPARE(code, 7);
     }
 
+    void theSavedOptionsAreHonoured()
+    {
+        SettingsDialog dialog;
+        dialog.findChild<QCheckBox *>(u"minimizeToTrayCheck"_s)->setChecked(true);
+        dialog.onSaveClicked();
+        TrayWindow window;
+        show(window);
+        QVERIFY(!window.close());
+        QCOMPARE(window.messages.size(), 1);
+        dialog.findChild<QCheckBox *>(u"minimizeToTrayCheck"_s)->setChecked(false);
+        dialog.onSaveClicked();
+        show(window);
+        QVERIFY(window.close());
+
+        // The junk page asks before it cleans, or not.
+        const auto *page = window.findChild<JunkPage *>();
+        SignalSpy scanned(page, &BasePage::scanFinished);
+        const QString temp = m_home.point("TMPDIR", u"temp"_s);
+        qputenv("TMP", temp.toUtf8());
+        qputenv("TEMP", temp.toUtf8());
+        for (const bool asks : {true, false}) {
+            QFile file(temp + "/junk.tmp"_L1);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.close();
+            dialog.findChild<QCheckBox *>(u"confirmCleanCheck"_s)->setChecked(asks);
+            dialog.onSaveClicked();
+            page->findChild<QPushButton *>(u"scanBtn"_s)->click();
+            QVERIFY(scanned.wait(30'000));
+            const MessageBoxes boxes(QMessageBox::No);
+            SignalSpy cleaned(page, &BasePage::cleanFinished);
+            page->findChild<QPushButton *>(u"cleanBtn"_s)->click();
+            QCOMPARE(boxes.seen().size(), asks ? 1 : 0);
+            QVERIFY(asks || cleaned.size() == 1 || cleaned.wait(30'000));
+            QCOMPARE(QFile::exists(temp + "/junk.tmp"_L1), asks);
+        }
+    }
+
+    void helpAndSupportOpenTheirPages()
+    {
+        MainWindow window;
+        show(window);
+        LinkManager::instance()->setLanguage(u"fr"_s);
+        QDesktopServices::setUrlHandler(u"https"_s, this, "onUrl");
+        Q_EMIT window.findChild<TitleBar *>()->helpClicked();
+        Q_EMIT window.findChild<TitleBar *>()->supportClicked();
+        QDesktopServices::unsetUrlHandler(u"https"_s);
+        QCOMPARE(m_opened,
+                 (QList<QUrl>{QUrl(u"https://sweepwise.example/fr/help"_s),
+                              QUrl(u"https://sweepwise.example/fr/contact"_s)}));
+    }
+
+    void aNewLanguageIsTakenNoteOf()
+    {
+        const MainWindow window;
+        const LogCapture log;
+        LinkManager::instance()->setLanguage(u"it"_s);
+        QCOMPARE(log.count(u"[MainWindow] 语言已切换为: \"it\""_s), 1);
+        Q_EMIT window.findChild<TitleBar *>()->languageChanged(u"de"_s);
+        QCOMPARE(log.count(u"[MainWindow] 语言已切换为: \"de\""_s), 1);
+    }
+
     void theAboutBoxTellsNameAndVersion()
     {
         MainWindow window;
@@ -388,11 +470,12 @@ private Q_SLOTS:
         MainWindow window;
         show(window);
         QTest::mouseClick(navButtons(window).at(1), Qt::LeftButton);
+        const auto *page = window.findChild<JunkPage *>();
         auto *engine = Application::instance()->junkCleaner();
         SignalSpy scanned(engine, &CleanEngine::scanFinished);
-        QTest::mouseClick(window.findChild<QPushButton *>(u"scanBtn"_s), Qt::LeftButton);
+        QTest::mouseClick(page->findChild<QPushButton *>(u"scanBtn"_s), Qt::LeftButton);
         QVERIFY(scanned.wait(30'000));
-        auto *category = window.findChild<CategoryWidget *>();
+        auto *category = page->findChild<CategoryWidget *>();
         QVERIFY(category);
         QVERIFY(hasText(*category, u"System Temporary Files"_s));
         category->toggleExpanded();
@@ -402,7 +485,7 @@ private Q_SLOTS:
 
         const MessageBoxes boxes(QMessageBox::Yes);
         SignalSpy cleaned(engine, &CleanEngine::cleanFinished);
-        QTest::mouseClick(window.findChild<QPushButton *>(u"cleanBtn"_s), Qt::LeftButton);
+        QTest::mouseClick(page->findChild<QPushButton *>(u"cleanBtn"_s), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, 30'000);
         QCOMPARE(boxes.seen().size(), 1);
         QTRY_VERIFY(hasText(window, u"Cleaned 24 items, freed 48.0 KB"_s));
@@ -416,6 +499,9 @@ private Q_SLOTS:
         QVERIFY(content.contains(
             "[INFO] Junk clean finished. Cleaned 24 items, 48.0 KB. Failed: 0 items"));
     }
+
+public Q_SLOTS:
+    void onUrl(const QUrl &url) { m_opened.append(url); }
 
 private:
     static void show(MainWindow &window)
@@ -438,6 +524,7 @@ private:
     }
 
     const TestHome &m_home;
+    QList<QUrl> m_opened;
 };
 
 SWEEPWISE_TEST_MAIN(TestMainWindow, QApplication)

@@ -1,0 +1,87 @@
+#include "aboutdialog.h"
+
+#include "appinfo.h"
+#include "theme.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int shadow = 8; ///< pixels below the ground
+
+QLabel *addLabel(QVBoxLayout *layout, const QString &text, const QString &style)
+{
+    auto *label = new QLabel(text, layout->parentWidget());
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setStyleSheet(style);
+    layout->addWidget(label);
+    return label;
+}
+
+// How high the texts are depends on font and language: spaces give way before a line is cut.
+void fitHeight(QVBoxLayout *layout, int height)
+{
+    const QMargins margins = layout->contentsMargins();
+    const int width = layout->parentWidget()->width();
+    const auto isTooHigh = [=] { return layout->totalHeightForWidth(width) > height; };
+    while (isTooHigh() && layout->spacing() > 6)
+        layout->setSpacing(layout->spacing() - 1);
+    for (int edge = margins.top(); isTooHigh() && edge > 16; --edge)
+        layout->setContentsMargins(margins.left(), edge, margins.right(), edge);
+}
+
+} // namespace
+
+AboutDialog::AboutDialog(QWidget *parent)
+    : FramelessDialog(parent)
+{
+    setObjectName("aboutDialog"_L1);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setFixedSize(400, 380);
+    setModal(true);
+    setWindowTitle(tr("About"));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(32, 32, 32, 32);
+    layout->setSpacing(16);
+    QLabel *icon = addLabel(
+        layout, u"🧹"_s,
+        u"background-color: %1; border-radius: 16px; font-size: 36px;"_s.arg(theme::accent));
+    icon->setFixedSize(72, 72);
+    layout->setAlignment(icon, Qt::AlignHCenter);
+    addLabel(layout, u"Sweepwise"_s, theme::label(theme::text, 24, 700));
+    addLabel(layout, tr("Version %1").arg(appinfo::version), theme::label(theme::muted, 13));
+    QLabel *features = addLabel(layout,
+                                tr("Your Personal System Butler\n\n"
+                                   "🧹 Junk Cleaner - Free up valuable disk space\n"
+                                   "🌐 Browser Cleaner - Protect your privacy\n"
+                                   "🔧 Registry Cleaner - Boost system performance\n"
+                                   "⚡ Startup Manager - Speed up boot time"),
+                                theme::label(theme::faint, 13) + " line-height: 1.5;"_L1);
+    features->setAlignment(Qt::AlignLeft);
+    features->setWordWrap(true);
+    layout->addSpacing(12);
+    addLabel(layout, tr("© 2026 Norvak. All rights reserved."), theme::label(theme::faint, 11));
+    layout->addStretch();
+    auto *ok = new QPushButton(tr("OK"), this);
+    ok->setObjectName("okBtn"_L1);
+    ok->setFixedSize(100, 36);
+    ok->setCursor(Qt::PointingHandCursor);
+    ok->setStyleSheet(theme::dialogButton(theme::accent, theme::white, theme::accentHover, 14));
+    ok->setDefault(true);
+    layout->addWidget(ok, 0, Qt::AlignCenter);
+    connect(ok, &QPushButton::clicked, this, &AboutDialog::accept);
+    for (const QLabel *label : findChildren<QLabel *>())
+        label->ensurePolished(); // it is measured with its own font
+    fitHeight(layout, height() - shadow);
+}
+
+void AboutDialog::paintEvent(QPaintEvent *)
+{
+    paintShadowedGround(20);
+}

@@ -1,0 +1,139 @@
+#include "settingsdialog.h"
+
+#include "aboutdialog.h"
+#include "application.h"
+#include "autostart.h"
+#include "theme.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView autoStartKey("general/autoStart");
+constexpr QLatin1StringView minimizeToTrayKey("general/minimizeToTray");
+constexpr QLatin1StringView confirmCleanKey("clean/confirmClean");
+constexpr QLatin1StringView backupRegistryKey("clean/backupRegistry");
+
+} // namespace
+
+SettingsDialog::SettingsDialog(QWidget *parent)
+    : FramelessDialog(parent)
+    , m_autoStart(new QCheckBox(tr("Start with Windows")))
+    , m_minimizeToTray(new QCheckBox(tr("Minimize to tray on close")))
+    , m_confirmClean(new QCheckBox(tr("Confirm before cleaning")))
+    , m_backupRegistry(new QCheckBox(tr("Auto backup before registry cleaning")))
+{
+    setObjectName("settingsDialog"_L1);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setFixedSize(450, 400);
+    setModal(true);
+    setWindowTitle(tr("Settings"));
+    m_autoStart->setObjectName("autoStartCheck"_L1);
+    m_minimizeToTray->setObjectName("minimizeToTrayCheck"_L1);
+    m_confirmClean->setObjectName("confirmCleanCheck"_L1);
+    m_backupRegistry->setObjectName("backupRegistryCheck"_L1);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 24, 24, 24);
+    layout->setSpacing(20);
+    auto *title = new QLabel(tr("Settings"), this);
+    title->setStyleSheet(theme::label(theme::text, 20, 600));
+    layout->addWidget(title);
+    buildGroup(layout, tr("General"), {m_autoStart, m_minimizeToTray});
+    buildGroup(layout, tr("Cleaning"), {m_confirmClean, m_backupRegistry});
+    layout->addStretch();
+    buildButtons(layout);
+    load();
+}
+
+void SettingsDialog::buildGroup(QVBoxLayout *layout, const QString &title,
+                                const QList<QCheckBox *> &boxes)
+{
+    auto *group = new QGroupBox(title, this);
+    group->setStyleSheet(theme::groupBox());
+    auto *rows = new QVBoxLayout(group);
+    rows->setContentsMargins(12, 9, 12, 9);
+    rows->setSpacing(12);
+    for (QCheckBox *box : boxes) {
+        box->setStyleSheet(theme::label(theme::text, 13));
+        box->setCursor(Qt::PointingHandCursor);
+        rows->addWidget(box);
+    }
+    layout->addWidget(group);
+}
+
+void SettingsDialog::buildButtons(QVBoxLayout *layout)
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(12);
+    const auto add = [this, row](const QString &name, const QString &text, const QString &style) {
+        auto *button = new QPushButton(text, this);
+        button->setObjectName(name);
+        button->setFixedSize(80, 36);
+        button->setCursor(Qt::PointingHandCursor);
+        button->setStyleSheet(style);
+        button->setAutoDefault(false);
+        row->addWidget(button);
+        return button;
+    };
+    const QPushButton *about = add(u"aboutBtn"_s, tr("About"), theme::framedButton());
+    row->addStretch();
+    const QPushButton *cancel =
+        add(u"cancelBtn"_s, tr("Cancel"),
+            theme::dialogButton(theme::button, theme::text, theme::border, 13));
+    QPushButton *save =
+        add(u"saveBtn"_s, tr("Save"),
+            theme::dialogButton(theme::accent, theme::white, theme::accentHover, 13));
+    save->setDefault(true);
+    connect(about, &QPushButton::clicked, this, &SettingsDialog::onAboutClicked);
+    connect(cancel, &QPushButton::clicked, this, &SettingsDialog::onCancelClicked);
+    connect(save, &QPushButton::clicked, this, &SettingsDialog::onSaveClicked);
+    layout->addLayout(row);
+}
+
+void SettingsDialog::load()
+{
+    const auto *application = Application::instance();
+    m_autoStart->setChecked(application->option(autoStartKey, false));
+    m_minimizeToTray->setChecked(application->option(minimizeToTrayKey, false));
+    m_confirmClean->setChecked(application->option(confirmCleanKey, true));
+    m_backupRegistry->setChecked(application->option(backupRegistryKey, true));
+}
+
+void SettingsDialog::onSaveClicked()
+{
+    auto *application = Application::instance();
+    const bool autoStartBefore = application->option(autoStartKey, false);
+    application->setOption(autoStartKey, m_autoStart->isChecked());
+    application->setOption(minimizeToTrayKey, m_minimizeToTray->isChecked());
+    application->setOption(confirmCleanKey, m_confirmClean->isChecked());
+    application->setOption(backupRegistryKey, m_backupRegistry->isChecked());
+    application->settings()->sync();
+    // An entry that the user has removed by other means is not forced back by every save.
+    if (m_autoStart->isChecked() != autoStartBefore)
+        autostart::set(m_autoStart->isChecked());
+    accept();
+}
+
+void SettingsDialog::onCancelClicked()
+{
+    reject();
+}
+
+void SettingsDialog::onAboutClicked()
+{
+    AboutDialog(this).exec();
+}
+
+void SettingsDialog::paintEvent(QPaintEvent *)
+{
+    paintShadowedGround(16);
+}

@@ -1,0 +1,372 @@
+#include "settingsdialog.h"
+
+#include "aboutdialog.h"
+#include "appinfo.h"
+#include "application.h"
+#include "autostart.h"
+#include "registryfixture.h"
+#include "testhome.h"
+#include "testtree.h"
+#include "uisupport.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLayout>
+#include <QProcess>
+#include <QPushButton>
+#include <QSettings>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString runKey = u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+const QString valueName = u"Sweepwise"_s;
+
+QCheckBox *box(const SettingsDialog &dialog, const QString &name)
+{
+    return dialog.findChild<QCheckBox *>(name + "Check"_L1);
+}
+
+void click(const QWidget &dialog, const QString &name)
+{
+    QTest::mouseClick(dialog.findChild<QPushButton *>(name), Qt::LeftButton);
+}
+
+QList<bool> checks(const SettingsDialog &dialog)
+{
+    QList<bool> list;
+    for (const QCheckBox *check : dialog.findChildren<QCheckBox *>())
+        list.append(check->isChecked());
+    return list;
+}
+
+// What the test program does when it is started as an installed one: saves the option.
+int saveAutoStart(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(appinfo::name);
+    QCoreApplication::setOrganizationName(appinfo::organisation);
+    Application::instance()->initialize();
+    SettingsDialog dialog;
+    box(dialog, u"autoStart"_s)->setChecked(qstrcmp(argv[2], "on") == 0);
+    dialog.onSaveClicked();
+    return 0;
+}
+
+} // namespace
+
+class TestSettingsDialog : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestSettingsDialog(const TestHome &home)
+        : m_home(home)
+    {
+    }
+
+private Q_SLOTS:
+    void initTestCase() { Application::instance()->initialize(); }
+
+    void init()
+    {
+        settings()->clear();
+        settings()->sync();
+        m_fixture = std::make_unique<RegistryFixture>(m_home);
+        m_fixture->addText(runKey, u"Sweepwise neighbour"_s, u"C:\\neighbour.exe"_s);
+        m_fixture->write();
+    }
+    // The neighbour stays whatever is saved.
+    void cleanup()
+    {
+        QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise neighbour"_s));
+        QVERIFY(autostart::set(false));
+        m_fixture.reset();
+    }
+
+    void theDialogIsBuiltAsItShould()
+    {
+        const SettingsDialog dialog;
+        QVERIFY(dialog.isModal());
+        QVERIFY(dialog.windowFlags().testFlag(Qt::FramelessWindowHint));
+        QVERIFY(dialog.testAttribute(Qt::WA_TranslucentBackground));
+        QCOMPARE(dialog.size(), QSize(450, 400));
+        QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
+        QStringList texts;
+        for (const auto *group : dialog.findChildren<QGroupBox *>()) {
+            texts.append(group->title());
+            for (const auto *check : group->findChildren<QCheckBox *>())
+                texts.append(check->text());
+        }
+        QCOMPARE(texts,
+                 (QStringList{u"General"_s, u"Start with Windows"_s, u"Minimize to tray on close"_s,
+                              u"Cleaning"_s, u"Confirm before cleaning"_s,
+                              u"Auto backup before registry cleaning"_s}));
+        for (const auto *button : dialog.findChildren<QPushButton *>())
+            QCOMPARE(button->size(), QSize(80, 36));
+        // Nothing is cut off.
+        QVERIFY(dialog.layout()->minimumSize().height() <= dialog.height() - 8);
+    }
+
+    void theFirstOpeningShowsTheDefaults()
+    {
+        const SettingsDialog dialog;
+        QCOMPARE(checks(dialog), (QList<bool>{false, false, true, true}));
+    }
+
+    void savingWritesAllFourOptions()
+    {
+        SettingsDialog dialog;
+        dialog.show();
+        for (QCheckBox *check : dialog.findChildren<QCheckBox *>())
+            QTest::mouseClick(check, Qt::LeftButton, {}, {8, check->height() / 2});
+        click(dialog, u"saveBtn"_s);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(!dialog.isVisible());
+        QFile file(settings()->fileName());
+        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+        const QByteArrayList lines = file.readAll().split('\n');
+        for (const char *line : {"autoStart=true", "minimizeToTray=true", "confirmClean=false",
+                                 "backupRegistry=false"})
+            QCOMPARE(lines.count(line), 1);
+        const SettingsDialog next;
+        QCOMPARE(checks(next), (QList<bool>{true, true, false, false}));
+    }
+
+    /// The options outlive the program that saved them, and are saved again in the same place.
+    void anotherStartFindsTheOptions()
+    {
+        for (const bool on : {true, false}) {
+            const QString program = QCoreApplication::applicationFilePath();
+            QCOMPARE(QProcess::execute(program, {u"--save-auto-start"_s, on ? u"on"_s : u"off"_s}),
+                     0);
+            Application::instance()->initialize();
+            const SettingsDialog dialog;
+            QCOMPARE(checks(dialog), (QList<bool>{on, false, true, true}));
+        }
+        QFile file(settings()->fileName());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().count("autoStart"), 1);
+    }
+
+    void cancellingWritesNothing_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("button") << false;
+        QTest::newRow("Escape") << true;
+    }
+
+    void cancellingWritesNothing()
+    {
+        QFETCH(bool, byKey);
+        SettingsDialog dialog;
+        dialog.show();
+        box(dialog, u"autoStart"_s)->setChecked(true);
+        if (byKey)
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        else
+            click(dialog, u"cancelBtn"_s);
+        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        QVERIFY(settings()->allKeys().isEmpty());
+        QVERIFY(!m_fixture->hasValue(runKey, valueName));
+        // What was cancelled is still ticked when the same dialog opens again.
+        dialog.show();
+        QVERIFY(box(dialog, u"autoStart"_s)->isChecked());
+    }
+
+    void returnSaves()
+    {
+        SettingsDialog dialog;
+        dialog.show();
+        QTest::keyClick(box(dialog, u"autoStart"_s), Qt::Key_Return);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+
+    void theCommandIsQuotedOnlyWhereABlankIs_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("command");
+        const QString plain = QDir::toNativeSeparators(u"C:/Sweepwise/sweepwise.exe"_s);
+        const QString blank = QDir::toNativeSeparators(u"C:/Program Files/sweepwise.exe"_s);
+        QTest::newRow("without a blank") << u"C:/Sweepwise/sweepwise.exe"_s << plain;
+        QTest::newRow("with a blank") << u"C:/Program Files/sweepwise.exe"_s << u'"' + blank + u'"';
+    }
+
+    void theCommandIsQuotedOnlyWhereABlankIs()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, command);
+        QCOMPARE(autostart::command(path), command);
+    }
+
+    /// The whole way, from an installed program to the value that the system reads.
+    void theRunValueIsThePathOfTheProgram_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("isQuoted");
+        QTest::newRow("without a blank") << u"installed"_s << false;
+        QTest::newRow("with a blank") << u"Program Files"_s << true;
+    }
+
+    void theRunValueIsThePathOfTheProgram()
+    {
+        QFETCH(QString, folder);
+        QFETCH(bool, isQuoted);
+        const QString program = m_home.folder(folder) + u'/'
+            + QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+        QVERIFY(QFile::exists(program)
+                || QFile::copy(QCoreApplication::applicationFilePath(), program));
+        QVERIFY(!QDir(m_home.path()).path().contains(u' '));
+        QCOMPARE(QProcess::execute(program, {u"--save-auto-start"_s, u"on"_s}), 0);
+        QString expected = QDir::toNativeSeparators(program);
+        if (isQuoted)
+            expected = u'"' + expected + u'"';
+        QCOMPARE(runValue(), expected);
+        QCOMPARE(QProcess::execute(program, {u"--save-auto-start"_s, u"off"_s}), 0);
+        QVERIFY(!m_fixture->hasValue(runKey, valueName));
+    }
+
+    void savingWithAutoStartUnchangedLeavesTheRunKeyAlone_data()
+    {
+        QTest::addColumn<bool>("on");
+        QTest::newRow("on, the entry removed by hand") << true;
+        QTest::newRow("off, an entry made by hand") << false;
+    }
+
+    void savingWithAutoStartUnchangedLeavesTheRunKeyAlone()
+    {
+        QFETCH(bool, on);
+        settings()->setValue("general/autoStart"_L1, on);
+        if (!on) {
+            m_fixture->addText(runKey, valueName, u"C:\\by hand.exe"_s);
+            m_fixture->write();
+        }
+        const QStringList before = m_fixture->exported(runKey);
+        SettingsDialog dialog;
+        QCOMPARE(box(dialog, u"autoStart"_s)->isChecked(), on);
+        box(dialog, u"minimizeToTray"_s)->setChecked(true);
+        dialog.onSaveClicked();
+        QCOMPARE(m_fixture->exported(runKey), before);
+        QCOMPARE(m_fixture->hasValue(runKey, valueName), !on);
+    }
+
+    void turningAutoStartOffRemovesTheRunValue()
+    {
+        settings()->setValue("general/autoStart"_L1, true);
+        m_fixture->addText(runKey, valueName, u"C:\\Sweepwise\\sweepwise.exe"_s);
+        m_fixture->write();
+        SettingsDialog dialog;
+        box(dialog, u"autoStart"_s)->setChecked(false);
+        dialog.onSaveClicked();
+        QVERIFY(!m_fixture->hasValue(runKey, valueName));
+    }
+
+    void turningAutoStartOffWithoutAnEntryChangesNothing()
+    {
+        settings()->setValue("general/autoStart"_L1, true);
+        const QStringList before = m_fixture->exported(runKey);
+        SettingsDialog dialog;
+        box(dialog, u"autoStart"_s)->setChecked(false);
+        dialog.onSaveClicked();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(m_fixture->exported(runKey), before);
+    }
+
+    void theAboutButtonOpensTheCard()
+    {
+        SettingsDialog dialog;
+        dialog.show();
+        bool met = false;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, &timer, [&] {
+            auto *about = qobject_cast<AboutDialog *>(QApplication::activeModalWidget());
+            if (!about)
+                return;
+            met = about->parentWidget() == &dialog;
+            click(*about, u"okBtn"_s);
+        });
+        timer.start(10);
+        click(dialog, u"aboutBtn"_s);
+        QVERIFY(met);
+        QVERIFY(!dialog.findChild<AboutDialog *>());
+        QVERIFY(dialog.isVisible());
+    }
+
+    void theCardTellsNameVersionAndFunctions()
+    {
+        AboutDialog dialog;
+        dialog.show();
+        QCOMPARE(dialog.size(), QSize(400, 380));
+        QVERIFY(dialog.isModal());
+        QStringList texts;
+        for (const QLabel *label : dialog.findChildren<QLabel *>()) {
+            texts.append(label->text());
+            // No line of any text is cut.
+            const int needed = label->wordWrap() ? label->heightForWidth(label->width())
+                                                 : label->sizeHint().height();
+            QVERIFY2(label->height() >= needed || label->text() == u"🧹"_s,
+                     qPrintable(label->text()));
+        }
+        QCOMPARE(texts.first(4),
+                 (QStringList{u"🧹"_s, u"Sweepwise"_s, u"Version 1.0.0"_s,
+                              u"Your Personal System Butler\n\n"
+                              "🧹 Junk Cleaner - Free up valuable disk space\n"
+                              "🌐 Browser Cleaner - Protect your privacy\n"
+                              "🔧 Registry Cleaner - Boost system performance\n"
+                              "⚡ Startup Manager - Speed up boot time"_s}));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+
+    void theGroundIsWhiteAboveItsShadow()
+    {
+        AboutDialog dialog;
+        QImage picture(dialog.size(), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        dialog.render(&picture, {}, {}, QWidget::DrawChildren);
+        QCOMPARE(picture.pixelColor(200, 4), QColor(Qt::white));
+        QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(picture.pixelColor(394, 200), QColor(0, 0, 0, 30)); // right of the ground
+        QCOMPARE(picture.pixelColor(398, 200).alpha(), 0);
+    }
+
+private:
+    static QSettings *settings() { return Application::instance()->settings(); }
+
+    // The value as the registry's own export has it.
+    QString runValue() const
+    {
+        const QStringList lines = m_fixture->exported(runKey);
+        const QString start = u"\"Sweepwise\"="_s;
+        for (const QString &line : lines) {
+            if (!line.startsWith(start))
+                continue;
+            QString text = line.mid(start.size() + 1).chopped(1);
+            return text.replace("\\\""_L1, "\""_L1).replace("\\\\"_L1, "\\"_L1);
+        }
+        return {};
+    }
+
+    const TestHome &m_home;
+    std::unique_ptr<RegistryFixture> m_fixture;
+};
+
+int main(int argc, char *argv[])
+{
+    if (argc == 3 && qstrcmp(argv[1], "--save-auto-start") == 0)
+        return saveAutoStart(argc, argv);
+    const TestHome home;
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(appinfo::name);
+    QCoreApplication::setApplicationVersion(appinfo::version);
+    QCoreApplication::setOrganizationName(appinfo::organisation);
+    TestSettingsDialog test(home);
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_settingsdialog.moc"

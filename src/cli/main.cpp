@@ -1,135 +1,34 @@
 #include "appinfo.h"
-#include "junkcleaner.h"
+#include "enginecommand.h"
+#include "largefilescommand.h"
 #include "logger.h"
+#include "output.h"
 #include "process.h"
-#include "report.h"
+#include "restorecommand.h"
+#include "startupcommand.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QStandardPaths>
 
 #include <algorithm>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-enum ExitStatus { Success = 0, SomeFailed = 1, WrongUse = 2 };
-
-void complain(const QString &text)
-{
-    std::fputs(qPrintable(text), stderr);
-}
-
-/// Writes a whole report; false when it did not get out, for instance because the disk is full.
-bool print(const QByteArray &report)
-{
-    const auto size = static_cast<std::size_t>(report.size());
-    return std::fwrite(report.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-}
-
-int refuse(const QString &message)
-{
-    complain("sweepwise-cli: "_L1 + message + "\nSee sweepwise-cli --help.\n"_L1);
-    return WrongUse;
-}
-
 // The engines tell the debug output what they do; here that would mix with the report.
 void dropDebugOutput(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type != QtDebugMsg && type != QtInfoMsg)
-        complain(message + u'\n');
+        cli::complain(message + u'\n');
 }
 
-struct Options {
-    bool items = false;
-    bool json = false;
-    bool yes = false;
-    QStringList categories;
-};
-
-/// Runs the engine's scan to its end.
-void scan(CleanEngine &engine)
+bool isLeft(const QCommandLineParser &parser, const QList<QCommandLineOption> &options)
 {
-    QObject::connect(&engine, &CleanEngine::scanFinished, qApp, &QCoreApplication::quit);
-    engine.startScan();
-    QCoreApplication::exec();
-}
-
-report::CleanOutcome clean(CleanEngine &engine)
-{
-    report::CleanOutcome outcome;
-    QObject::connect(&engine, &CleanEngine::cleanFinished, qApp,
-                     [&outcome](qint64 totalCleaned, int itemsCleaned) {
-                         outcome.cleanedSize = totalCleaned;
-                         outcome.cleanedCount = itemsCleaned;
-                         QCoreApplication::quit();
-                     });
-    engine.startClean();
-    QCoreApplication::exec();
-    engine.stopAndWait();
-    outcome.failures = engine.failures();
-    return outcome;
-}
-
-int runScan(CleanEngine &engine, const QString &name, const Options &options)
-{
-    scan(engine);
-    const auto items = options.items ? report::Items::Listed : report::Items::Left;
-    const ScanResult &result = std::as_const(engine).result();
-    const QByteArray text = options.json ? report::scanAsJson(name, result, items)
-                                         : report::scanAsText(result, items).toLocal8Bit();
-    return print(text) ? Success : refuse(u"the report could not be written"_s);
-}
-
-int runClean(CleanEngine &engine, const QString &name, const Options &options)
-{
-    if (!options.yes)
-        return refuse(u"cleaning deletes files for good: say so with --yes"_s);
-    scan(engine);
-    if (!options.categories.isEmpty()) {
-        for (CleanCategory &category : engine.result().categories)
-            category.checked = category.checked && options.categories.contains(category.id);
-    }
-    const report::CleanOutcome outcome = clean(engine);
-    const QByteArray text = options.json ? report::cleanAsJson(name, outcome)
-                                         : report::cleanAsText(outcome).toLocal8Bit();
-    if (!print(text))
-        return refuse(u"the report could not be written"_s);
-    return outcome.failures.isEmpty() ? Success : SomeFailed;
-}
-
-int runJunk(const QString &command, const Options &options)
-{
-    JunkCleaner cleaner;
-    cleaner.loadRules(u":/rules/junk_rules.json"_s);
-    if (cleaner.rules().isEmpty())
-        return refuse(u"the junk rules could not be read"_s);
-    for (const QString &id : options.categories) {
-        const auto &rules = cleaner.rules();
-        if (std::none_of(rules.begin(), rules.end(),
-                         [&id](const JunkRule &rule) { return rule.id == id; }))
-            return refuse(u"there is no category '%1'"_s.arg(id));
-    }
-    return command == "scan"_L1 ? runScan(cleaner, u"junk"_s, options)
-                                : runClean(cleaner, u"junk"_s, options);
-}
-
-int run(const QStringList &words, const Options &options)
-{
-    if (words.size() != 2)
-        return refuse(u"a command and an engine are wanted, such as 'scan junk'"_s);
-    const QString &command = words.at(0);
-    if (command != "scan"_L1 && command != "clean"_L1)
-        return refuse(u"there is no command '%1'"_s.arg(command));
-    if (words.at(1) != "junk"_L1)
-        return refuse(u"there is no engine '%1'"_s.arg(words.at(1)));
-    if (command == "scan"_L1 && (options.yes || !options.categories.isEmpty()))
-        return refuse(u"--yes and --category go with 'clean'"_s);
-    if (command == "clean"_L1 && options.items)
-        return refuse(u"--items goes with 'scan'"_s);
-    return runJunk(command, options);
+    return std::none_of(
+        options.begin(), options.end(),
+        [&parser](const QCommandLineOption &option) { return parser.isSet(option); });
 }
 
 } // namespace
@@ -146,8 +45,13 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(
         u"Finds clutter and removes it, without a window.\n\n"
-        "  scan junk    lists what could be cleaned; deletes nothing\n"
-        "  clean junk   scans, then deletes what is selected by default\n\n"
+        "  scan ENGINE    lists what could be cleaned; deletes nothing\n"
+        "  clean ENGINE   scans, then deletes what is selected by default\n"
+        "  restore FILE   puts the registry entries of a backup back\n"
+        "  startup list, startup enable NAME, startup disable NAME\n"
+        "                 what starts with the session\n"
+        "  large-files PATH...   lists the large files below, largest first\n\n"
+        "Engines: junk, browser, registry.\n"
         "Exit status: 0 success, 1 some items could not be cleaned, 2 wrong use or failure."_s);
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
@@ -158,20 +62,53 @@ int main(int argc, char *argv[])
         u"category"_s,
         u"clean: only this one of the categories that are selected by default; may be repeated."_s,
         u"ID"_s);
-    parser.addOptions({items, json, yes, category});
-    parser.addPositionalArgument(u"command"_s, u"scan or clean"_s);
-    parser.addPositionalArgument(u"engine"_s, u"junk"_s);
+    const QCommandLineOption backup(
+        u"backup"_s, u"clean registry: first write the entries to this file."_s, u"FILE"_s);
+    const QCommandLineOption noBackup(u"no-backup"_s, u"clean registry: keep no backup."_s);
+    const QCommandLineOption browser(
+        u"browser"_s, u"browser: only this one, such as 'chrome'; may be repeated."_s, u"NAME"_s);
+    const QCommandLineOption minSize(
+        u"min-size"_s, u"large-files: from this size on, such as 64K, 100M (the default) or 2G."_s,
+        u"SIZE"_s);
+    parser.addOptions({items, json, yes, category, backup, noBackup, browser, minSize});
+    parser.addPositionalArgument(u"command"_s, u"scan, clean, restore, startup or large-files"_s);
+    parser.addPositionalArgument(u"argument"_s, u"an engine, a file, folders, or what to do"_s);
 
     if (!parser.parse(QCoreApplication::arguments()))
-        return refuse(parser.errorText());
+        return cli::refuse(parser.errorText());
     if (parser.isSet(help))
-        parser.showHelp(Success);
+        parser.showHelp(cli::Success);
     if (parser.isSet(version))
         parser.showVersion();
 
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     Logger::instance().init(dataFolder + "/logs"_L1);
-    return run(
-        parser.positionalArguments(),
-        {parser.isSet(items), parser.isSet(json), parser.isSet(yes), parser.values(category)});
+
+    const QStringList words = parser.positionalArguments();
+    if (!words.isEmpty() && words.constFirst() == "large-files"_L1) {
+        if (!isLeft(parser, {items, yes, category, backup, noBackup, browser}))
+            return cli::refuse(u"only --min-size and --json go with 'large-files'"_s);
+        return cli::runLargeFiles(words.sliced(1), parser.value(minSize), parser.isSet(json));
+    }
+    if (parser.isSet(minSize))
+        return cli::refuse(u"--min-size goes with 'large-files'"_s);
+    if (words.size() >= 2 && words.size() <= 3 && words.at(0) == "startup"_L1) {
+        if (!isLeft(parser, {items, yes, category, backup, noBackup, browser}))
+            return cli::refuse(u"only --json goes with 'startup'"_s);
+        return cli::runStartup(words.at(1), words.value(2), parser.isSet(json));
+    }
+    if (words.size() != 2)
+        return cli::refuse(u"a command and what it is for are wanted, such as 'scan junk'"_s);
+    const QString &command = words.at(0);
+    if (command == "scan"_L1 || command == "clean"_L1)
+        return cli::runEngine(command, words.at(1),
+                              {parser.isSet(items), parser.isSet(json), parser.isSet(yes),
+                               parser.values(category), parser.value(backup),
+                               parser.isSet(noBackup), parser.values(browser)});
+    if (command == "restore"_L1) {
+        if (!isLeft(parser, {items, yes, category, backup, noBackup, browser}))
+            return cli::refuse(u"only --json goes with 'restore'"_s);
+        return cli::runRestore(words.at(1), parser.isSet(json));
+    }
+    return cli::refuse(u"there is no command '%1'"_s.arg(command));
 }

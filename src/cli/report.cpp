@@ -61,13 +61,13 @@ QString riskWord(int level)
 
 } // namespace
 
-QByteArray scanAsJson(const QString &engine, const ScanResult &result, Items items)
+QByteArray scanAsJson(const Subject &subject, const ScanResult &result, Items items)
 {
     QJsonArray categories;
     for (const CleanCategory &category : result.categories)
         categories.append(categoryAsJson(category, items));
     const QJsonObject object{
-        {u"engine"_s, engine},
+        {u"engine"_s, subject.engine},
         {u"scanTime"_s, timeStamp(result.scanTime)},
         {u"totalCount"_s, result.totalCount()},
         {u"totalSize"_s, result.totalSize()},
@@ -78,39 +78,54 @@ QByteArray scanAsJson(const QString &engine, const ScanResult &result, Items ite
     return QJsonDocument(object).toJson();
 }
 
-QString scanAsText(const ScanResult &result, Items items)
+QString scanAsText(const Subject &subject, const ScanResult &result, Items items)
 {
     QString text;
     QTextStream stream(&text);
+    const bool hasSizes = subject.unit == Unit::Bytes;
     for (const CleanCategory &category : result.categories) {
         stream << (category.checked ? "[x] " : "[ ] ");
         stream << qSetFieldWidth(32) << Qt::left << singleLine(category.name);
         stream << qSetFieldWidth(9) << Qt::right << category.items.size() << qSetFieldWidth(0)
                << " items  ";
-        stream << qSetFieldWidth(11) << Qt::right << formatSize(category.totalSize())
-               << qSetFieldWidth(0);
+        if (hasSizes)
+            stream << qSetFieldWidth(11) << Qt::right << formatSize(category.totalSize())
+                   << qSetFieldWidth(0);
         stream << "  " << singleLine(category.id);
         if (category.riskLevel > LowRisk)
             stream << " (" << riskWord(category.riskLevel) << ')';
         stream << '\n';
         if (items == Items::Left)
             continue;
-        for (const CleanItem &item : category.items)
-            stream << "      " << formatSize(item.size) << "  " << singleLine(item.path) << '\n';
+        for (const CleanItem &item : category.items) {
+            stream << "      ";
+            if (hasSizes)
+                stream << formatSize(item.size) << "  " << singleLine(item.path) << '\n';
+            else
+                stream << singleLine(item.registryRoot + u'\\' + item.registryKey) << "  "
+                       << singleLine(item.description) << '\n';
+        }
     }
-    stream << "Found " << result.totalCount() << " items, " << formatSize(result.totalSize())
-           << "; selected " << result.checkedCount() << " items, "
-           << formatSize(result.checkedSize()) << ".\n";
+    const auto total = [&](int count, qint64 size) {
+        stream << count << " items";
+        if (hasSizes)
+            stream << ", " << formatSize(size);
+    };
+    stream << "Found ";
+    total(result.totalCount(), result.totalSize());
+    stream << "; selected ";
+    total(result.checkedCount(), result.checkedSize());
+    stream << ".\n";
     return text;
 }
 
-QByteArray cleanAsJson(const QString &engine, const CleanOutcome &outcome)
+QByteArray cleanAsJson(const Subject &subject, const CleanOutcome &outcome)
 {
     QJsonArray failures;
     for (const CleanFailure &failure : outcome.failures)
         failures.append(QJsonObject{{u"path"_s, failure.path}, {u"reason"_s, failure.reason}});
     const QJsonObject object{
-        {u"engine"_s, engine},
+        {u"engine"_s, subject.engine},
         {u"cleanedCount"_s, outcome.cleanedCount},
         {u"cleanedSize"_s, outcome.cleanedSize},
         {u"failedCount"_s, outcome.failures.size()},
@@ -119,15 +134,17 @@ QByteArray cleanAsJson(const QString &engine, const CleanOutcome &outcome)
     return QJsonDocument(object).toJson();
 }
 
-QString cleanAsText(const CleanOutcome &outcome)
+QString cleanAsText(const Subject &subject, const CleanOutcome &outcome)
 {
     QString text;
     QTextStream stream(&text);
     for (const CleanFailure &failure : outcome.failures)
         stream << "Not cleaned: " << singleLine(failure.path) << " - " << singleLine(failure.reason)
                << '\n';
-    stream << "Cleaned " << outcome.cleanedCount << " items, freed "
-           << formatSize(outcome.cleanedSize) << "; " << outcome.failures.size() << " failed.\n";
+    stream << "Cleaned " << outcome.cleanedCount << " items";
+    if (subject.unit == Unit::Bytes)
+        stream << ", freed " << formatSize(outcome.cleanedSize);
+    stream << "; " << outcome.failures.size() << " failed.\n";
     return text;
 }
 

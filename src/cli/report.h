@@ -10,12 +10,19 @@
 namespace report {
 
 enum class Items { Left, Listed };
+enum class Unit { Bytes, Entries }; ///< Entries have no size: they are counted
+
+/// What is told of.
+struct Subject {
+    QString engine; ///< as the command line names it
+    Unit unit = Unit::Bytes;
+};
 
 /// @p result as one JSON object whose members are named as the records' fields are; ends with a
 /// line feed.
-[[nodiscard]] QByteArray scanAsJson(const QString &engine, const ScanResult &result, Items items);
+[[nodiscard]] QByteArray scanAsJson(const Subject &subject, const ScanResult &result, Items items);
 /// @p result as text for people, one line a category and, when listed, one an item.
-[[nodiscard]] QString scanAsText(const ScanResult &result, Items items);
+[[nodiscard]] QString scanAsText(const Subject &subject, const ScanResult &result, Items items);
 
 struct CleanOutcome {
     qint64 cleanedSize = 0; ///< bytes
@@ -23,7 +30,7 @@ struct CleanOutcome {
     QList<CleanFailure> failures;
 };
 
-[[nodiscard]] QByteArray cleanAsJson(const QString &engine, const CleanOutcome &outcome);
-[[nodiscard]] QString cleanAsText(const CleanOutcome &outcome);
+[[nodiscard]] QByteArray cleanAsJson(const Subject &subject, const CleanOutcome &outcome);
+[[nodiscard]] QString cleanAsText(const Subject &subject, const CleanOutcome &outcome);
 
 } // namespace report

@@ -1,5 +1,8 @@
 #include "appinfo.h"
+#include "registrybackup.h"
+#include "registryfixture.h"
 #include "testhome.h"
+#include "testtree.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -8,6 +11,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QSet>
 #include <QTest>
 
@@ -174,6 +178,158 @@ private Q_SLOTS:
     }
 #endif
 
+    void theRegistryIsScannedCleanedAndRestored()
+    {
+        RegistryFixture fixture(m_home);
+        const QString key =
+            u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\"
+            "Sweepwise cli.exe"_s;
+        const QString dlls =
+            u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\SharedDLLs"_s;
+        fixture.addText(key, {}, u"C:\\Sweepwise Missing\\cli.exe"_s);
+        fixture.addBytes(key, u"Data"_s, 3, QByteArray(30, 'd'));
+        fixture.addText(dlls, u"sweepwise.dll"_s, u"1"_s);
+        fixture.write();
+
+        const Run scan = run({u"scan"_s, u"registry"_s, u"--items"_s});
+        QCOMPARE(scan.exitCode, 0);
+        QVERIFY(scan.output.contains("[x] Invalid Software Paths"));
+        QVERIFY(scan.output.contains("[ ] Invalid Shared DLLs"));
+        QVERIFY(scan.output.contains("\\App Paths\\Sweepwise cli.exe  Path: C:\\Sweepwise"));
+        QVERIFY(!scan.output.contains(" B"));
+
+        const QString backup = m_home.folder(u"backups"_s) + "/cli.reg"_L1;
+        const Run clean = run({u"clean"_s, u"registry"_s, u"--category"_s, u"invalid_software"_s,
+                               u"--backup"_s, backup, u"--yes"_s});
+        QVERIFY2(clean.exitCode == 0 || clean.exitCode == 1, clean.error.constData());
+        QVERIFY(clean.output.contains("Cleaned "));
+        QVERIFY(!fixture.hasKey(key));
+        QVERIFY(fixture.hasValue(dlls, u"sweepwise.dll"_s));
+
+        const Run restored = run({u"restore"_s, backup, u"--json"_s});
+        QCOMPARE(restored.exitCode, 0);
+        const QJsonObject object = QJsonDocument::fromJson(restored.output).object();
+        QCOMPARE(names(object), (QStringList{u"entries"_s, u"failedCount"_s, u"restoredCount"_s}));
+        QCOMPARE(object["failedCount"_L1].toInt(), 0);
+        QVERIFY(object["restoredCount"_L1].toInt() >= 3);
+        QVERIFY(fixture.hasValue(key, u"Data"_s));
+        QVERIFY(fixture.hasValue(key, {}));
+    }
+
+    void startUpProgramsAreListedAndSwitched()
+    {
+        RegistryFixture fixture(m_home);
+#ifdef Q_OS_WIN
+        const QString folder = m_home.folder(u"Sweepwise Files"_s);
+        const QString path = QDir::toNativeSeparators(folder) + "\\player.exe"_L1;
+#else
+        const QString folder = m_home.folder(u"prefix/drive_c/Sweepwise Files"_s);
+        const QString path = u"C:\\Sweepwise Files\\player.exe"_s;
+#endif
+        QFile program(folder + "/player.exe"_L1);
+        QVERIFY(program.open(QIODevice::WriteOnly));
+        const QString list =
+            u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"_s;
+        fixture.addText(list + "Sweepwise cli"_L1, u"DisplayName"_s, u"Sweepwise Player"_s);
+        fixture.addText(list + "Sweepwise cli"_L1, u"DisplayIcon"_s, path);
+        fixture.write();
+        const QString run =
+            u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+        const auto startup = [](const QStringList &words) {
+            return ::run(QStringList{u"startup"_s} + words);
+        };
+        QVERIFY(startup({u"list"_s}).output.contains("[ ] Sweepwise Player  "));
+        QCOMPARE(startup({u"enable"_s, u"sweepwise player"_s}).exitCode, 0);
+        QVERIFY(fixture.hasValue(run, u"Sweepwise Player"_s));
+        const QJsonArray apps =
+            QJsonDocument::fromJson(startup({u"list"_s, u"--json"_s}).output)["apps"_L1].toArray();
+        QJsonObject found;
+        for (const auto &app : apps) {
+            if (app["name"_L1] == "Sweepwise Player"_L1)
+                found = app.toObject();
+        }
+        QCOMPARE(names(found),
+                 (QStringList{u"exePath"_s, u"iconPath"_s, u"id"_s, u"isStartup"_s, u"name"_s,
+                              u"publisher"_s}));
+        QCOMPARE(found["exePath"_L1].toString(), path);
+        QVERIFY(found["isStartup"_L1].toBool());
+        QCOMPARE(startup({u"disable"_s, u"Sweepwise Player"_s}).exitCode, 0);
+        QVERIFY(!fixture.hasValue(run, u"Sweepwise Player"_s));
+        const Run unknown = startup({u"enable"_s, u"Sweepwise Nothing"_s});
+        QCOMPARE(unknown.exitCode, 2);
+        QVERIFY(unknown.error.contains("Sweepwise Nothing"));
+        QVERIFY(!fixture.hasValue(run, u"Sweepwise Nothing"_s));
+    }
+
+    void aFailedBackupIsNamed()
+    {
+        RegistryFixture fixture(m_home);
+        fixture.addText(u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s,
+                        u"Sweepwise cli"_s, u"C:\\Sweepwise\\missing.exe"_s);
+        fixture.write();
+        const Run clean =
+            run({u"clean"_s, u"registry"_s, u"--category"_s, u"invalid_startup"_s, u"--backup"_s,
+                 m_home.path() + "/no such folder/b.reg"_L1, u"--yes"_s});
+        QCOMPARE(clean.exitCode, 1);
+        QVERIFY(clean.output.contains("the backup could not be written"));
+    }
+
+    void aDamagedBackupRestoresNothing()
+    {
+        const QString path = m_home.folder(u"backups"_s) + "/damaged.reg"_L1;
+        QString error;
+        QVERIFY(RegistryBackup::write(path,
+                                      u"Windows Registry Editor Version 5.00\r\n\r\n"
+                                      "[HKEY_CURRENT_USER\\Software\\Sweepwise cli]\r\n"
+                                      "\"a\"=\"b\"\r\n\"c\"=\"d\r\n"_s,
+                                      error));
+        RegistryFixture fixture(m_home);
+        const Run restored = run({u"restore"_s, path});
+        QCOMPARE(restored.exitCode, 2);
+        QVERIFY2(restored.error.contains("line 5"), restored.error.constData());
+        QVERIFY(!fixture.hasKey(u"HKEY_CURRENT_USER\\Software\\Sweepwise cli"_s));
+    }
+
+#ifdef Q_OS_UNIX
+    void browsersAreScannedAndCleanedByName()
+    {
+        const TestTree tree;
+        tree.folder(u"AppData/Roaming"_s);
+        const QString chrome =
+            tree.file(u"Local/Google/Chrome/User Data/Default/GPUCache/a"_s, "12");
+        const QString cookies = tree.file(u"Local/Google/Chrome/User Data/Default/Cookies"_s, "1");
+        const QString edge = tree.file(u"Local/Microsoft/Edge/User Data/Default/GPUCache/b"_s, "3");
+        qputenv("USERPROFILE", tree.path().toUtf8());
+        qputenv("LOCALAPPDATA", tree.path(u"Local"_s).toUtf8());
+        const auto unset = qScopeGuard([] {
+            qunsetenv("USERPROFILE");
+            qunsetenv("LOCALAPPDATA");
+        });
+        const Run all = run({u"scan"_s, u"browser"_s});
+        QCOMPARE(all.exitCode, 0);
+        QVERIFY(all.output.contains("[x] Google Chrome - GPU Cache"));
+        QVERIFY(all.output.contains("[ ] Google Chrome - Cookies"));
+        QVERIFY(all.output.contains("microsoft_edge_gpu_cache"));
+        for (const QString &name : {u"edge"_s, u"Microsoft Edge"_s, u"microsoft_edge"_s}) {
+            const Run one = run({u"scan"_s, u"browser"_s, u"--browser"_s, name, u"--items"_s});
+            QCOMPARE(one.exitCode, 0);
+            QVERIFY2(one.output.contains(edge.toUtf8()), qPrintable(name));
+            QVERIFY(!one.output.contains("google_chrome"));
+        }
+        const Run two = run({u"scan"_s, u"browser"_s, u"--browser"_s, u"edge"_s, u"--browser"_s,
+                             u"chrome"_s, u"--json"_s});
+        const QJsonObject report = QJsonDocument::fromJson(two.output).object();
+        QCOMPARE(report["engine"_L1].toString(), u"browser"_s);
+        QCOMPARE(report["categories"_L1].toArray().size(), 3);
+
+        const Run clean = run({u"clean"_s, u"browser"_s, u"--yes"_s, u"--browser"_s, u"chrome"_s});
+        QCOMPARE(clean.exitCode, 0);
+        QVERIFY(clean.output.contains("Cleaned 1 items, freed 2 B; 0 failed"));
+        QVERIFY(!QFile::exists(chrome));
+        QVERIFY(QFile::exists(cookies) && QFile::exists(edge));
+    }
+#endif
+
     void wrongUseIsRefused_data()
     {
         QTest::addColumn<QString>("arguments");
@@ -186,6 +342,25 @@ private Q_SLOTS:
         QTest::newRow("too many words") << u"scan junk junk"_s;
         QTest::newRow("scan does not delete") << u"scan junk --yes"_s;
         QTest::newRow("clean lists no items") << u"clean junk --yes --items"_s;
+        QTest::newRow("registry without a word on a backup") << u"clean registry --yes"_s;
+        QTest::newRow("registry with two words on it")
+            << u"clean registry --yes --no-backup --backup b.reg"_s;
+        QTest::newRow("registry without a yes") << u"clean registry --no-backup"_s;
+        QTest::newRow("unknown registry category")
+            << u"clean registry --yes --no-backup --category temp_files"_s;
+        QTest::newRow("browser without a yes") << u"clean browser"_s;
+        QTest::newRow("unknown browser") << u"scan browser --browser netscape"_s;
+        QTest::newRow("unknown browser category") << u"clean browser --yes --category temp_files"_s;
+        QTest::newRow("browser of junk") << u"scan junk --browser chrome"_s;
+        QTest::newRow("backup of junk") << u"clean junk --yes --backup b.reg"_s;
+        QTest::newRow("startup alone") << u"startup"_s;
+        QTest::newRow("startup with an unknown word") << u"startup fly x"_s;
+        QTest::newRow("startup of nothing") << u"startup enable"_s;
+        QTest::newRow("startup list with a name") << u"startup list x"_s;
+        QTest::newRow("startup says no yes") << u"startup list --yes"_s;
+        QTest::newRow("no file to restore") << u"restore"_s;
+        QTest::newRow("missing file to restore") << u"restore missing.reg"_s;
+        QTest::newRow("restore says no yes") << u"restore missing.reg --yes"_s;
     }
 
     void wrongUseIsRefused()
@@ -203,7 +378,8 @@ private Q_SLOTS:
         const Run help = run({u"--help"_s});
         QCOMPARE(help.exitCode, 0);
         for (const char *word :
-             {"scan junk", "clean junk", "--items", "--json", "--yes", "--category", "Exit status"})
+             {"scan ENGINE", "clean ENGINE", "restore FILE", "Engines: junk, browser", "--browser",
+              "--items", "--json", "--yes", "--category", "--backup", "--no-backup", "Exit status"})
             QVERIFY2(help.output.contains(word), word);
     }
 
@@ -212,6 +388,68 @@ private Q_SLOTS:
         const Run version = run({u"--version"_s});
         QCOMPARE(version.exitCode, 0);
         QVERIFY(version.output.contains(QString(appinfo::version).toUtf8()));
+    }
+
+    void largeFilesAreListedLargestFirst()
+    {
+        const QString folder = m_home.folder(u"big"_s);
+        for (const auto &[name, size] :
+             {std::pair{u"middle.iso"_s, 2'097'152}, std::pair{u"large\u0301.mp4"_s, 3'145'728},
+              std::pair{u"small.txt"_s, 2'097'151}}) {
+            QFile file(folder + u'/' + name);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(size));
+        }
+        const Run json = run({u"large-files"_s, folder, u"--min-size"_s, u"2M"_s, u"--json"_s});
+        QCOMPARE(json.exitCode, 0);
+        QVERIFY(json.error.isEmpty());
+        const QJsonObject object = QJsonDocument::fromJson(json.output).object();
+        QCOMPARE(names(object),
+                 (QStringList{u"files"_s, u"filesScanned"_s, u"totalCount"_s, u"totalSize"_s}));
+        QCOMPARE(object.value("filesScanned"_L1).toInt(), 3);
+        QCOMPARE(object.value("totalCount"_L1).toInt(), 2);
+        QCOMPARE(object.value("totalSize"_L1).toInt(), 5'242'880);
+        const QJsonArray files = object.value("files"_L1).toArray();
+        QCOMPARE(files.size(), 2);
+        QCOMPARE(names(files.at(0).toObject()),
+                 (QStringList{u"directory"_s, u"modified"_s, u"name"_s, u"path"_s, u"size"_s,
+                              u"type"_s}));
+        QCOMPARE(files.at(0)["name"_L1].toString(), u"large\u0301.mp4"_s);
+        QCOMPARE(files.at(0)["type"_L1].toString(), u"video"_s);
+        QCOMPARE(files.at(0)["directory"_L1].toString(), folder);
+        QCOMPARE(files.at(1)["name"_L1].toString(), u"middle.iso"_s);
+        QCOMPARE(files.at(1)["size"_L1].toInt(), 2'097'152);
+
+        const Run text = run({u"large-files"_s, folder, u"--min-size=2097152"_s});
+        QCOMPARE(text.exitCode, 0);
+        QVERIFY(text.output.contains("Found 2 large files, 5.0 MB, among 3 files"));
+        QVERIFY(text.output.indexOf("3.0 MB") < text.output.indexOf("2.0 MB"));
+        const Run none = run({u"large-files"_s, folder});
+        QCOMPARE(none.exitCode, 0);
+        QVERIFY(none.output.contains("Found 0 large files"));
+    }
+
+    void largeFilesRefusesWhatItCannotUse_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("no folder") << QStringList{u"large-files"_s};
+        QTest::newRow("a missing folder") << QStringList{u"large-files"_s, u"/no/such/folder"_s};
+        for (const QString &size : {u"0"_s, u"-1"_s, u"M"_s, u"1.5G"_s, u"1T"_s, u"9999999999G"_s,
+                                    u"99999999999999999999"_s})
+            QTest::newRow(qPrintable("size "_L1 + size))
+                << QStringList{u"large-files"_s, m_home.path(), u"--min-size="_s + size};
+        QTest::newRow("an option of the others")
+            << QStringList{u"large-files"_s, m_home.path(), u"--yes"_s};
+        QTest::newRow("a size for the others")
+            << QStringList{u"scan"_s, u"junk"_s, u"--min-size=5M"_s};
+    }
+
+    void largeFilesRefusesWhatItCannotUse()
+    {
+        QFETCH(QStringList, arguments);
+        const Run refused = run(arguments);
+        QCOMPARE(refused.exitCode, 2);
+        QVERIFY(refused.output.isEmpty());
+        QVERIFY(refused.error.startsWith("sweepwise-cli: "));
     }
 
 private:

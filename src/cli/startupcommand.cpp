@@ -1,0 +1,75 @@
+#include "startupcommand.h"
+
+#include "output.h"
+#include "startupmanager.h"
+#include "text.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace cli {
+
+namespace {
+
+QJsonObject asObject(const StartupApp &app)
+{
+    return {{u"id"_s, app.id},
+            {u"name"_s, app.name},
+            {u"exePath"_s, app.exePath},
+            {u"iconPath"_s, app.iconPath},
+            {u"publisher"_s, app.publisher},
+            {u"isStartup"_s, app.isStartup}};
+}
+
+int list(StartupManager &manager, bool asJson)
+{
+    if (asJson) {
+        QJsonArray apps;
+        for (const StartupApp &app : manager.apps())
+            apps.append(asObject(app));
+        return finish(QJsonDocument(QJsonObject{{u"apps"_s, apps}}).toJson(), Success);
+    }
+    QString text;
+    for (const StartupApp &app : manager.apps())
+        text += (app.isStartup ? "[x] "_L1 : "[ ] "_L1) + singleLine(app.name) + "  "_L1
+            + singleLine(app.exePath) + u'\n';
+    return finish(text.toLocal8Bit(), Success);
+}
+
+} // namespace
+
+int runStartup(const QString &action, const QString &name, bool asJson)
+{
+    StartupManager manager;
+    if (action == "list"_L1 && name.isEmpty())
+        return list(manager, asJson);
+    const bool enable = action == "enable"_L1;
+    if (name.isEmpty() || (!enable && action != "disable"_L1))
+        return refuse(u"'list', 'enable NAME' or 'disable NAME' is wanted after 'startup'"_s);
+    const QList<StartupApp> &apps = manager.apps();
+    const auto hasName = [&name](const StartupApp &other) {
+        return other.name.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    const auto count = std::count_if(apps.cbegin(), apps.cend(), hasName);
+    if (count != 1)
+        return refuse((count == 0 ? u"no installed program is called '%1'"_s
+                                  : u"several installed programs are called '%1'"_s)
+                          .arg(name));
+    const StartupApp app = *std::find_if(apps.cbegin(), apps.cend(), hasName);
+    // An entry of that name may belong to another program.
+    if (app.isStartup != enable && !manager.setStartup(app, enable))
+        return refuse(u"'%1' was not changed: %2"_s.arg(app.name, manager.errorString()));
+    StartupApp changed = app;
+    changed.isStartup = enable;
+    const QString line = (enable ? u"%1 starts with the session now.\n"_s
+                                 : u"%1 does not start with the session any more.\n"_s)
+                             .arg(singleLine(app.name));
+    return finish(asJson ? QJsonDocument(asObject(changed)).toJson() : line.toLocal8Bit(), Success);
+}
+
+} // namespace cli

@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev)
 font_packages=(fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji)
-windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 librsvg2-bin python3 xz-utils)
+windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 librsvg2-bin nsis python3 xz-utils)
 
 need() { # PACKAGE...
   local missing=() package

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Scans one Wine prefix with the native companion and with the Windows one, and requires the same items and sizes.
+"""Scans one Wine prefix with the native companion and with the Windows one, and requires the same items and sizes, and the same
+registry entries with the same descriptions.
 
 Usage: same_prefix.py NATIVE_CLI WINDOWS_CLI, with WINEPREFIX set to a prefix that the test may fill.
 """
@@ -69,8 +70,74 @@ def fill():
             "tencent_logs": 1, "windows_old": 1, "error_reports": 1}
 
 
-def scan(command, environment):
-    return json.loads(output_of(command + ["scan", "junk", "--json", "--items"], environment))
+def fill_browsers():
+    """Profiles of a browser of each family. Returns the least number of items of some categories."""
+    def write(path, size):
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(b"x" * size)
+
+    chrome = local / "Google" / "Chrome" / "User Data"
+    for profile in ("Default", "Profile 1", "Profile 文件"):
+        for i in range(4):
+            write(chrome / profile / "Cache" / "Cache_Data" / f"f_{i}", 10 + i)
+            write(chrome / profile / "Code Cache" / "js" / "sub folder" / f"ümlaut {i}", 5)
+        for name in ("Cookies", "Cookies-journal", "History", "Login Data", "Web Data", "Preferences"):
+            write(chrome / profile / name, 30)
+        write(chrome / profile / "Local Storage" / "leveldb" / "000003.log", 7)
+    (chrome / "Default" / "Cache" / "link").symlink_to("/etc")
+    roaming = user / "AppData" / "Roaming" / "Mozilla" / "Firefox"
+    write(roaming / "Profiles" / "abc.default" / "cookies.sqlite", 11)
+    write(roaming / "Profiles" / "abc.default" / "cookies.sqlite-wal", 12)
+    write(roaming / "Profiles" / "abc.default" / "places.sqlite", 13)
+    (roaming / "profiles.ini").write_text("[Profile0]\nPath=Profiles/abc.default\nIsRelative=1\n")
+    write(local / "Mozilla" / "Firefox" / "Profiles" / "abc.default" / "cache2" / "entries" / "E1", 9)
+    return {"google_chrome_cache": 12, "google_chrome_cookies": 3}
+
+
+def fill_registry():
+    """Entries of every kind that the checks look at, whole and dead ones. Returns how many dead ones of each category."""
+    present = "C:\\windows\\system32\\kernel32.dll"
+    missing = "C:\\Nowhere\\Sweepwise %s.exe"
+    current = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion"
+    machine, user, classes = "HKEY_LOCAL_MACHINE\\", "HKEY_CURRENT_USER\\", "HKEY_CLASSES_ROOT\\"
+    mui = "SOFTWARE\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"
+    entries = []
+    for kind in ("present.exe", "ümlaut 文件 🧹.exe", "in %SystemRoot%.exe", "%UNKNOWN%.exe"):
+        path = {"p": present.upper(), "i": "%SystemRoot%\\Sweepwise none.dll", "%": "%Unknown%\\x.dll"}.get(kind[0], missing % kind)
+        entries += [(machine + current + "\\App Paths\\" + kind, "", path),
+                    (machine + current + "\\Uninstall\\" + kind, "UninstallString", '"' + path + '" /S'),
+                    (machine + current + "\\Uninstall\\" + kind, "DisplayName", kind + " \\ \"x\""),
+                    (classes + ".sweep" + kind, "", "Sweepwise." + kind),
+                    (classes + "Sweepwise." + kind + "\\shell\\open\\command", "", '"' + path + '" "%1"'),
+                    (classes + "CLSID\\{0-" + kind + "}\\InprocServer32", "", path),
+                    (classes + "CLSID\\{0-" + kind + "}\\LocalServer32", "", '"' + path + '" -x'),
+                    (machine + "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts", kind, path),
+                    (machine + "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts", kind + " bare", kind),
+                    (machine + current + "\\Run", kind, '"' + path + '" -x'),
+                    (user + current + "\\RunOnce", kind, path),
+                    (machine + current + "\\SharedDLLs", path, "1"),
+                    (user + mui, path + ".FriendlyAppName", "x")]
+
+    def quoted(text):
+        return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
+
+    lines = ["Windows Registry Editor Version 5.00", ""]
+    for key, name, text in entries:
+        lines += ["[" + key + "]", (quoted(name) if name else "@") + "=" + quoted(text), ""]
+    with tempfile.NamedTemporaryFile(suffix=".reg") as file:
+        file.write("\r\n".join(lines).encode("utf-16"))
+        file.flush()
+        subprocess.run(["wine", "reg", "import", "Z:" + file.name.replace("/", "\\")], check=True, stdin=subprocess.DEVNULL,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    # What the native build reads is the files, which the server writes when it ends.
+    subprocess.run(["wineserver", "-k"], check=False)
+    subprocess.run(["wineserver", "-w"], check=True)
+    return {"invalid_software": 4, "invalid_file_assoc": 2, "invalid_com": 4, "invalid_fonts": 5, "invalid_startup": 4,
+            "invalid_shared_dll": 2, "mui_cache": 2}
+
+
+def scan(command, engine, environment):
+    return json.loads(output_of(command + ["scan", engine, "--json", "--items"], environment))
 
 
 def items(result, translate):
@@ -78,22 +145,48 @@ def items(result, translate):
                                for category in result["categories"] for item in category["items"])
 
 
-def main():
-    expected = fill()
-    plain = {name: value for name, value in os.environ.items()
-             if name not in ("TMPDIR", "TEMP", "TMP", "LOCALAPPDATA", "APPDATA", "USERPROFILE", "PROGRAMDATA", "WINDIR",
-                             "SYSTEMDRIVE")}
-    native = items(scan([native_cli], plain), lambda path: path)
-    foreign = items(scan(["wine", windows_cli], plain), lambda path: str(drive) + path[2:] if path[1] == ":" else path)
+def entries(result):
+    """With their order, which decides what of a long list is looked at."""
+    return collections.Counter((category["id"], place, item["name"], item["path"], item["description"], item["registryRoot"],
+                                item["registryKey"])
+                               for category in result["categories"] for place, item in enumerate(category["items"]))
+
+
+def compare(what, native, foreign, expected):
+    """Whether both are the same and have at least what was to be found."""
     for title, left, right in (("only native", native, foreign), ("only Windows", foreign, native)):
         for item in sorted((left - right).elements()):
             print(f"{title}: {item}")
-    found = collections.Counter(category for category, _, _ in native.elements())
+    found = collections.Counter(item[0] for item in native.elements())
     short = {category: (count, found[category]) for category, count in expected.items() if found[category] < count}
     if short:
         print(f"not all was found (expected, found): {short}")
-    print(f"{native.total()} items native, {foreign.total()} Windows")
-    return 1 if native != foreign or short else 0
+    print(f"{what}: {native.total()} items native, {foreign.total()} Windows")
+    return native == foreign and not short
+
+
+def main():
+    expected = fill()
+    expected_browsers = fill_browsers()
+    expected_entries = fill_registry()
+    plain = {name: value for name, value in os.environ.items()
+             if name not in ("TMPDIR", "TEMP", "TMP", "LOCALAPPDATA", "APPDATA", "USERPROFILE", "PROGRAMDATA", "WINDIR",
+                             "SYSTEMDRIVE")}
+    native = items(scan([native_cli], "junk", plain), lambda path: path)
+    native_browsers = items(scan([native_cli], "browser", plain), lambda path: path)
+    native_entries = entries(scan([native_cli], "registry", plain))
+    # The first Windows program of a server starts services that keep its output open.
+    subprocess.run(["wine", "cmd", "/c", "exit"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                   stderr=subprocess.DEVNULL, check=False)
+    def local_path(path):
+        return str(drive) + path[2:] if path[1] == ":" else path
+
+    foreign = items(scan(["wine", windows_cli], "junk", plain), local_path)
+    foreign_browsers = items(scan(["wine", windows_cli], "browser", plain), local_path)
+    foreign_entries = entries(scan(["wine", windows_cli], "registry", plain))
+    same = compare("junk", native, foreign, expected)
+    same = compare("browser", native_browsers, foreign_browsers, expected_browsers) and same
+    return 0 if compare("registry", native_entries, foreign_entries, expected_entries) and same else 1
 
 
 sys.exit(main())

@@ -1,5 +1,7 @@
 #include "filewalk.h"
 
+#include "browsercleaner.h"
+#include "browserprofiles.h"
 #include "fakelinks.h"
 #include "fileremove.h"
 #include "folders.h"
@@ -127,6 +129,36 @@ private Q_SLOTS:
                 });
             QCOMPARE(report.failureCount, 1);
         }
+    }
+
+    void aBrowserProfileIsCleanedAroundAJunction()
+    {
+        const TestTree outside;
+        browserprofiles::makeChromium(outside, u"Profile 9"_s);
+        const auto before = outside.snapshot();
+        const TestTree tree;
+        const QString root = u"Local/Google/Chrome/User Data/"_s;
+        tree.file(root + "Default/Cache/own"_L1, "1");
+        fakelinks::makeJunction(tree.folder(root + "Default/Cache/junction"_L1), outside.path());
+        BrowserCleaner cleaner({tree.path(u"Local"_s), tree.folder(u"Roaming"_s)});
+        cleaner.loadRules(u":/rules/browser_rules.json"_s);
+        cleaner.startScan();
+        QTRY_COMPARE_WITH_TIMEOUT(cleaner.state(), CleanEngine::State::Finished, 30'000);
+        const ScanResult result = cleaner.result();
+        QCOMPARE(result.categories.size(), 1);
+        QStringList names;
+        for (const CleanItem &item : result.categories.constFirst().items)
+            names.append(u"%1 %2"_s.arg(item.name, QString::number(item.size)));
+        names.sort();
+        QCOMPARE(names, (QStringList{u"junction 0"_s, u"own 1"_s}));
+        cleaner.startClean();
+        QTRY_COMPARE_WITH_TIMEOUT(cleaner.state(), CleanEngine::State::Finished, 30'000);
+        cleaner.stopAndWait();
+        fakelinks::clear();
+        QVERIFY(cleaner.failures().isEmpty());
+        QVERIFY(!tree.has(root + "Default/Cache/own"_L1));
+        QVERIFY(!tree.has(root + "Default/Cache/junction"_L1));
+        QCOMPARE(outside.snapshot(), before);
     }
 
     void aJunctionInARemovedFolderGoesAndItsTargetStays()

@@ -45,11 +45,11 @@ bool exists(const QString &path)
 
 // Judged by what comes of it: Wine knows neither the end nor the exit code of a program below it.
 void runUntil(const std::function<bool()> &done, const QString &program,
-              const QStringList &arguments)
+              const QStringList &arguments, int patience = 10'000)
 {
     if (!QProcess::startDetached(program, arguments))
         qFatal("cannot run %s", qPrintable(program));
-    for (int tries = 0; tries < 1000; ++tries) {
+    for (int waited = 0; waited < patience; waited += 10) {
         if (done())
             return;
         QThread::msleep(10);
@@ -136,13 +136,41 @@ void windowsfiles::removeFolderLink(const QString &path)
 
 void windowsfiles::removeTreeBelowWine(const QString &path)
 {
-    runUntil([&path] { return !exists(path); }, u"Z:\\bin\\rm"_s, {u"-r"_s, pathBelowWine(path)});
+    runUntil([&path] { return !exists(path); }, u"Z:\\bin\\rm"_s, {u"-r"_s, pathBelowWine(path)},
+             120'000);
 }
 
 void windowsfiles::makeEmptyFileBelowWine(const QString &folder, const QString &name)
 {
     runUntil([&] { return walk(folder).contains(name); }, u"Z:\\bin\\cp"_s,
              {u"/dev/null"_s, pathBelowWine(folder) + u'/' + name});
+}
+
+void windowsfiles::makeManyFiles(const QString &folder, int count)
+{
+    if (!isWine()) {
+        for (int i = 0; i < count; ++i)
+            makeFile(folder + u"/f%1"_s.arg(i));
+        return;
+    }
+    // One file for each line of a list.
+    const QString list = folder + ".list"_L1;
+    makeFile(list, QByteArray(count, '\n'));
+    const QString last =
+        u"%1/f%2"_s.arg(folder, QString::number(count - 1).rightJustified(6, u'0'));
+    runUntil([&last] { return exists(last); }, u"Z:\\usr\\bin\\split"_s,
+             {u"--lines=1"_s, u"--numeric-suffixes"_s, u"--suffix-length=6"_s, pathBelowWine(list),
+              pathBelowWine(folder) + "/f"_L1},
+             120'000);
+    removeTreeBelowWine(list);
+}
+
+void windowsfiles::removeManyFiles(const QString &folder)
+{
+    if (isWine())
+        removeTreeBelowWine(folder);
+    else if (!QDir(folder).removeRecursively())
+        qFatal("cannot remove %s", qPrintable(folder));
 }
 
 QStringList windowsfiles::walk(const QString &root)

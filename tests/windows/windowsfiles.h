@@ -25,6 +25,10 @@ void removeFolderLink(const QString &path);
 void removeTreeBelowWine(const QString &path);
 /// Makes a file past Wine, which would take a name that differs in case for the one that is there.
 void makeEmptyFileBelowWine(const QString &folder, const QString &name);
+/// Makes so many files in an empty folder, past Wine where that would look through the folder for
+/// each; and removes the folder with them.
+void makeManyFiles(const QString &folder, int count);
+void removeManyFiles(const QString &folder);
 
 /// The paths that a walk lists, sorted, without the root in front.
 [[nodiscard]] QStringList walk(const QString &root);

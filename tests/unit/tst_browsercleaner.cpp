@@ -738,7 +738,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
         QProcess process;
         process.start(program, {QString::fromLatin1(sleepArgument)});
-        QVERIFY(process.waitForStarted());
+        QVERIFY2(process.waitForStarted(), qPrintable(process.errorString()));
         QTest::qWait(300);
         SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         const LogCapture log;

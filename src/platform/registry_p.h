@@ -2,8 +2,15 @@
 
 #include "registry.h"
 
+#include <QCoreApplication>
+
 // What the two halves of registry.h share.
 namespace platform {
+
+/// What is said of the registry is translated under one name, whichever half says it.
+struct RegistryTexts {
+    Q_DECLARE_TR_FUNCTIONS(RegistryTexts)
+};
 
 /// The value's data as text, as Registry::text() gives it.
 [[nodiscard]] QString registryText(const RegistryValue &value);

@@ -21,10 +21,6 @@ namespace platform {
 
 namespace {
 
-struct Text {
-    Q_DECLARE_TR_FUNCTIONS(platform::Registry)
-};
-
 // Tells a file that was written in between from the one that was read.
 struct Stamp {
     bool exists = false;
@@ -64,18 +60,18 @@ HiveFile readHive(const QString &path)
     if (!file.exists())
         return hive;
     if (!file.open(QIODevice::ReadOnly)) {
-        hive.error = Text::tr("%1 cannot be read: %2").arg(path, file.errorString());
+        hive.error = RegistryTexts::tr("%1 cannot be read: %2").arg(path, file.errorString());
         return hive;
     }
     const QByteArray text = file.readAll();
     // Half a file would be written back as a whole one.
     if (file.error() != QFileDevice::NoError || text.size() != hive.stamp.size) {
-        hive.error = Text::tr("%1 cannot be read: %2").arg(path, file.errorString());
+        hive.error = RegistryTexts::tr("%1 cannot be read: %2").arg(path, file.errorString());
         return hive;
     }
     hive.content = RegistryFile::parse(text);
     if (!hive.content)
-        hive.error = Text::tr("%1 is not a registry file").arg(path);
+        hive.error = RegistryTexts::tr("%1 is not a registry file").arg(path);
     return hive;
 }
 
@@ -159,16 +155,16 @@ QList<Registry::Private::Place> Registry::Private::places(Hive hive, const QStri
 Registry::Private::Place Registry::Private::placeToChange(Hive hive, const QString &key)
 {
     if (!Registry::isKeyPath(key)) {
-        error = Text::tr("'%1' is not the path of a key").arg(key);
+        error = RegistryTexts::tr("'%1' is not the path of a key").arg(key);
         return {};
     }
     const QList<Place> found = places(hive, key);
     if (found.isEmpty()) {
-        error = Text::tr("There is no such key");
+        error = RegistryTexts::tr("There is no such key");
         return {};
     }
     if (found.constFirst().file->isLink(found.constFirst().key)) {
-        error = Text::tr("The key is a link to another one");
+        error = RegistryTexts::tr("The key is a link to another one");
         return {};
     }
     return found.constFirst();
@@ -270,7 +266,7 @@ bool Registry::deleteKey(Hive hive, const QString &key)
     if (!place.file)
         return false;
     if (!place.file->subkeys(place.key).isEmpty())
-        return d->refuse(Text::tr("There are keys below it"));
+        return d->refuse(RegistryTexts::tr("There are keys below it"));
     place.file->removeTree(place.key);
     return true;
 }
@@ -281,24 +277,25 @@ bool Registry::deleteValue(Hive hive, const QString &key, const QString &name)
     if (!place.file)
         return false;
     return place.file->removeValue(place.key, name)
-        || d->refuse(Text::tr("There is no such value"));
+        || d->refuse(RegistryTexts::tr("There is no such value"));
 }
 
 bool Registry::createKey(Hive hive, const QString &key)
 {
     if (!Registry::isKeyPath(key))
-        return d->refuse(Text::tr("'%1' is not the path of a key").arg(key));
+        return d->refuse(RegistryTexts::tr("'%1' is not the path of a key").arg(key));
     if (hasKey(hive, key))
         return true;
     const bool isClass = hive == Hive::ClassesRoot;
     HiveFile &file = d->file(isClass ? Hive::LocalMachine : hive);
     if (!file.content)
-        return d->refuse(file.error.isEmpty() ? Text::tr("There is no registry") : file.error);
+        return d->refuse(file.error.isEmpty() ? RegistryTexts::tr("There is no registry")
+                                              : file.error);
     const QString path = isClass ? classes + u'\\' + key : key;
     for (qsizetype end = path.indexOf(u'\\'); end >= 0; end = path.indexOf(u'\\', end + 1)) {
         const RegistryFile::Key above = file.content->find(path.first(end));
         if (above != RegistryFile::none && file.content->isLink(above))
-            return d->refuse(Text::tr("The key is a link to another one"));
+            return d->refuse(RegistryTexts::tr("The key is a link to another one"));
     }
     file.content->create(path);
     return true;
@@ -332,19 +329,22 @@ bool Registry::save()
         if (!saver->open(QIODevice::WriteOnly))
             error = saver->errorString();
         if (!error.isEmpty() || !writeToDisk(*saver, file->content->text(), error))
-            return fail(Text::tr("%1 cannot be written: %2").arg(file->path, error));
+            return fail(RegistryTexts::tr("%1 cannot be written: %2").arg(file->path, error));
     }
     if (isPrefixInUse(wineprefix::folder()))
         return fail(
-            Text::tr("Windows programs are running in the Wine prefix %1; end them and try again")
+            RegistryTexts::tr(
+                "Windows programs are running in the Wine prefix %1; end them and try again")
                 .arg(wineprefix::folder()));
     for (const auto &[file, saver] : changed) {
         if (!(stampOf(file->path) == file->stamp))
-            return fail(Text::tr("%1 was changed by another program; scan again").arg(file->path));
+            return fail(
+                RegistryTexts::tr("%1 was changed by another program; scan again").arg(file->path));
     }
     for (auto &[file, saver] : changed) {
         if (!saver->commit())
-            return fail(Text::tr("%1 cannot be written: %2").arg(file->path, saver->errorString()));
+            return fail(RegistryTexts::tr("%1 cannot be written: %2")
+                            .arg(file->path, saver->errorString()));
     }
     *d = Private();
     return true;

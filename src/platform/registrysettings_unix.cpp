@@ -1,5 +1,7 @@
 #include "registrysettings.h"
 
+#include "registry_p.h"
+
 #include <QCoreApplication>
 #include <QtEndian>
 
@@ -13,13 +15,9 @@ bool fail(QString &error, const QString &reason)
     return false;
 }
 
-struct Text {
-    Q_DECLARE_TR_FUNCTIONS(platform::Registry)
-};
-
 QString noName()
 {
-    return Text::tr("A value without a name is not written");
+    return RegistryTexts::tr("A value without a name is not written");
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "registrysettings.h"
 
+#include "registry_p.h"
+
 #include <QCoreApplication>
 #include <QSettings>
 
@@ -8,10 +10,6 @@ using namespace Qt::StringLiterals;
 namespace platform::registrysettings {
 
 namespace {
-
-struct Text {
-    Q_DECLARE_TR_FUNCTIONS(platform::Registry)
-};
 
 bool fail(QString &error, const QString &reason)
 {
@@ -47,9 +45,9 @@ bool setText(Hive hive, const QString &key, const QString &name, const QString &
              QString &error)
 {
     if (name.isEmpty())
-        return fail(error, Text::tr("A value without a name is not written"));
+        return fail(error, RegistryTexts::tr("A value without a name is not written"));
     if (name.contains(QChar(u'\0')) || text.contains(QChar(u'\0')))
-        return fail(error, Text::tr("The name or the text cannot be stored as it is"));
+        return fail(error, RegistryTexts::tr("The name or the text cannot be stored as it is"));
     Registry registry;
     if (!registry.createKey(hive, key)) {
         error = registry.errorString();
@@ -69,21 +67,21 @@ bool setText(Hive hive, const QString &key, const QString &name, const QString &
     const std::optional<RegistryValue> stored = registry.value(hive, key, name);
     if (!isTaken || !stored || stored->type != RegistryText
         || registry.text(hive, key, name) != text)
-        return fail(error, Text::tr("The registry did not take the value"));
+        return fail(error, RegistryTexts::tr("The registry did not take the value"));
     return true;
 }
 
 bool remove(Hive hive, const QString &key, const QString &name, QString &error)
 {
     if (name.isEmpty())
-        return fail(error, Text::tr("A value without a name is not written"));
+        return fail(error, RegistryTexts::tr("A value without a name is not written"));
     Registry registry;
     if (!registry.value(hive, key, name))
         return true;
     // Not by the settings class: it would also remove a key of the same name with all below it.
     registry.deleteValue(hive, key, name);
     return !registry.value(hive, key, name)
-        || fail(error, Text::tr("The registry did not let go of the value"));
+        || fail(error, RegistryTexts::tr("The registry did not let go of the value"));
 }
 
 } // namespace platform::registrysettings

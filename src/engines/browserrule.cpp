@@ -8,8 +8,8 @@ BrowserRule BrowserRule::fromJson(const QJsonObject &object)
 {
     BrowserRule rule;
     rule.id = object["id"_L1].toString();
-    rule.name = object["name"_L1].toString();
-    rule.description = object["description"_L1].toString();
+    rule.name = rulefile::text("BrowserRule", object["name"_L1]);
+    rule.description = rulefile::text("BrowserRule", object["description"_L1]);
     rule.subPath = object["subPath"_L1].toString();
     rule.firefoxSubPath = object["firefoxSubPath"_L1].toString();
     rule.patterns = rulefile::stringList(object["patterns"_L1]);

@@ -8,8 +8,8 @@ JunkRule JunkRule::fromJson(const QJsonObject &object)
 {
     JunkRule rule;
     rule.id = object["id"_L1].toString();
-    rule.name = object["name"_L1].toString();
-    rule.description = object["description"_L1].toString();
+    rule.name = rulefile::text("JunkRule", object["name"_L1]);
+    rule.description = rulefile::text("JunkRule", object["description"_L1]);
     rule.paths = rulefile::stringList(object["paths"_L1]);
     rule.patterns = rulefile::stringList(object["patterns"_L1]);
     rule.defaultChecked = object["defaultChecked"_L1].toBool(true);

@@ -1,10 +1,16 @@
 #include "rulefile.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 
 #include <algorithm>
 
 namespace rulefile {
+
+QString text(const char *context, const QJsonValue &value)
+{
+    return QCoreApplication::translate(context, value.toString().toUtf8().constData());
+}
 
 QStringList stringList(const QJsonValue &value)
 {

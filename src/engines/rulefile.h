@@ -6,6 +6,10 @@
 /// What the rules of every rule file have in common.
 namespace rulefile {
 
+/// A name or description of a rule in the language of the interface: what the catalogue has for it
+/// under @p context, else as it stands.
+[[nodiscard]] QString text(const char *context, const QJsonValue &value);
+
 /// The array's elements as text; one that is no string becomes an empty one and is kept.
 [[nodiscard]] QStringList stringList(const QJsonValue &value);
 

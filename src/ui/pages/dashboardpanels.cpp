@@ -4,6 +4,7 @@
 #include "statcard.h"
 #include "theme.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -46,12 +47,12 @@ QString sizeText(qint64 bytes)
         return QString::number(static_cast<double>(bytes) / static_cast<double>(unit), 'f', 1);
     };
     if (bytes < 1LL << 10)
-        return u"%1 B"_s.arg(bytes);
+        return QCoreApplication::translate("formatSize", "%1 B").arg(bytes);
     if (bytes < 1LL << 20)
-        return u"%1 KB"_s.arg(rounded(1LL << 10));
+        return QCoreApplication::translate("formatSize", "%1 KB").arg(rounded(1LL << 10));
     if (bytes < 1LL << 30)
-        return u"%1 MB"_s.arg(rounded(1LL << 20));
-    return u"%1 GB"_s.arg(rounded(1LL << 30));
+        return QCoreApplication::translate("formatSize", "%1 MB").arg(rounded(1LL << 20));
+    return QCoreApplication::translate("formatSize", "%1 GB").arg(rounded(1LL << 30));
 }
 
 } // namespace
@@ -88,7 +89,7 @@ QWidget *DashboardStartPanel::buildProgressArea()
 {
     auto *area = new QWidget(this);
     area->setObjectName("progressArea"_L1);
-    m_percent = makeLabel(u"0%"_s, theme::label(theme::accent, 24, 700), area);
+    m_percent = makeLabel(tr("%1%").arg(0), theme::label(theme::accent, 24, 700), area);
     m_percent->setObjectName("percentLabel"_L1);
     auto *track = new QWidget(area);
     track->setAttribute(Qt::WA_StyledBackground);
@@ -130,7 +131,7 @@ void DashboardStartPanel::setScanning(bool scanning)
 
 void DashboardStartPanel::setProgress(int percent, const QString &path)
 {
-    m_percent->setText(u"%1%"_s.arg(percent));
+    m_percent->setText(tr("%1%").arg(percent));
     m_fill->setFixedWidth(qMax(0, percent) * pixelsPerPercent);
     m_path->setText(path);
 }
@@ -139,7 +140,7 @@ DashboardResultsPanel::DashboardResultsPanel(QWidget *parent)
     : QWidget(parent)
     , m_circle(new CircleProgressWidget(this))
 {
-    m_circle->setUnit(u"GB"_s);
+    m_circle->setUnit(tr("GB"));
     m_circle->setCaption(tr("Can be cleaned"));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 8, 28, 20);
@@ -266,7 +267,7 @@ void DashboardResultsPanel::setResults(qint64 junkSize, qint64 browserSize, int 
 {
     m_circle->setValue(static_cast<double>(junkSize + browserSize)
                        / static_cast<double>(1LL << 30));
-    m_circle->setUnit(u"GB"_s);
+    m_circle->setUnit(tr("GB"));
     m_circle->setCaption(tr("Can be cleaned"));
     m_circle->setProgress(fixedArc);
 

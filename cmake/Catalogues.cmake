@@ -1,0 +1,35 @@
+# sweepwise_catalogues(<target> <code>...): compiles the catalogues of resources/translations, together with the toolkit's own texts
+# in the same languages, into the resources ":/translations/Sweepwise_<code>.qm" of a library.
+#
+# The toolkit's catalogues come with the distribution; where they lack a language, it is qt_<code>.ts beside ours.
+find_program(LRELEASE NAMES lrelease lrelease-qt6 PATHS /usr/lib/qt6/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+find_program(LCONVERT NAMES lconvert lconvert-qt6 PATHS /usr/lib/qt6/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+find_program(LRELEASE NAMES lrelease lrelease-qt6 NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+find_program(LCONVERT NAMES lconvert lconvert-qt6 NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+find_path(QT_CATALOGUES qtbase_de.qm PATHS /usr/share/qt6/translations NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+
+function(sweepwise_catalogues target)
+    set(folder "${PROJECT_SOURCE_DIR}/resources/translations")
+    set(output "${CMAKE_CURRENT_BINARY_DIR}/translations")
+    file(MAKE_DIRECTORY "${output}")
+    set(catalogues)
+    foreach(code IN LISTS ARGN)
+        set(ours "${folder}/Sweepwise_${code}.ts")
+        set(toolkit "${folder}/qt_${code}.ts")
+        if(NOT EXISTS "${toolkit}")
+            set(toolkit "${QT_CATALOGUES}/qtbase_${code}.qm")
+        endif()
+        set(catalogue "${output}/Sweepwise_${code}.qm")
+        add_custom_command(
+            OUTPUT "${catalogue}"
+            COMMAND "${LCONVERT}" -target-language ${code} -i "${ours}" "${toolkit}" -o "${output}/${code}.ts"
+            COMMAND "${LRELEASE}" -silent "${output}/${code}.ts" -qm "${catalogue}"
+            DEPENDS "${ours}" "${toolkit}"
+            VERBATIM)
+        list(APPEND catalogues "${catalogue}")
+    endforeach()
+    qt_add_resources(${target} "translations"
+        PREFIX "/translations"
+        BASE "${output}"
+        FILES ${catalogues})
+endfunction()

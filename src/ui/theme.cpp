@@ -46,15 +46,16 @@ QString filledButton(QLatin1StringView background, QLatin1StringView hovered, in
                QString::number(weight));
 }
 
-QString dangerButton(int radius, int pixels)
+QString dangerButton(int radius, int pixels, const QString &padding)
 {
     return u"QPushButton { background-color: %1; color: %2; border: 2px solid %1; "
-           u"border-radius: %3px; font-size: %4px; font-weight: 500; padding: 0 16px; }"
+           u"border-radius: %3px; font-size: %4px; font-weight: 500; padding: %8; }"
            "QPushButton:hover { background-color: %5; border-color: %5; }"
            "QPushButton:focus { border-color: %2; }"
            "QPushButton:disabled { background-color: %6; border-color: %6; color: %7; }"_s.arg(
                QString(dangerTint), QString(dangerHover), QString::number(radius),
-               QString::number(pixels), QString(dangerTintHover), QString(button), QString(faint));
+               QString::number(pixels), QString(dangerTintHover), QString(button), QString(faint),
+               padding);
 }
 
 QString card(const QString &objectName, int borderPixels, bool hoverable)

@@ -53,7 +53,7 @@ inline constexpr QLatin1StringView boxText("#333333");
                                    int radius, int pixels, const QString &padding,
                                    int weight = 500);
 /// A button for what cannot be undone, in quiet red.
-[[nodiscard]] QString dangerButton(int radius, int pixels);
+[[nodiscard]] QString dangerButton(int radius, int pixels, const QString &padding);
 /// A quiet grey button.
 [[nodiscard]] QString quietButton(int radius, int pixels);
 /// A white rounded box, its border in the accent colour under the mouse if it is @p hoverable.

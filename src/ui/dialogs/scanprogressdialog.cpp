@@ -60,7 +60,7 @@ ScanProgressDialog::ScanProgressDialog(QWidget *parent)
     cancel->setObjectName("cancelBtn"_L1);
     cancel->setFixedSize(100, 36);
     cancel->setCursor(Qt::PointingHandCursor);
-    cancel->setStyleSheet(theme::dangerButton(8, 14));
+    cancel->setStyleSheet(theme::dangerButton(8, 14, u"0 6px"_s));
     layout->addWidget(cancel, 0, Qt::AlignCenter);
     connect(cancel, &QPushButton::clicked, this, &ScanProgressDialog::cancelRequested);
 }

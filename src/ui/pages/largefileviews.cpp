@@ -124,7 +124,7 @@ LargeFileResultsView::LargeFileResultsView(QWidget *parent)
     , m_selected(makeLabel(QString(), theme::label(theme::muted, 14), this))
     , m_backButton(makeButton(u"backBtn"_s, tr("← Back"), theme::quietButton(10, 14), this))
     , m_deleteButton(makeButton(u"deleteBtn"_s, tr("🗑️ Delete Selected"),
-                                theme::dangerButton(10, 14), this))
+                                theme::dangerButton(10, 14, u"0 16px"_s), this))
     , m_list(new FileCardList(this))
 {
     setObjectName("resultsView"_L1);

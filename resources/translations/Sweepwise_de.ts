@@ -160,7 +160,7 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     </message>
     <message>
         <source>Select Browser:</source>
-        <translation>Browser auswählen:</translation>
+        <translation>Browser wählen:</translation>
     </message>
     <message>
         <source>Other</source>
@@ -368,7 +368,7 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     </message>
     <message>
         <source>View details of %1</source>
-        <translation>Details zu %1 anzeigen</translation>
+        <translation>Details zu „%1“ anzeigen</translation>
     </message>
 </context>
 <context>
@@ -392,6 +392,13 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     <message>
         <source>%1: %2 items, view details</source>
         <translation>%1: %2 Treffer, Details anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -485,7 +492,7 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -503,7 +510,7 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     <name>DriveCard</name>
     <message>
         <source>Local Disk</source>
-        <translation>Lokales Laufwerk</translation>
+        <translation>Laufwerk</translation>
     </message>
     <message>
         <source>%1 (Removable)</source>
@@ -647,7 +654,7 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     </message>
     <message>
         <source>Web server and HTTP error log files</source>
-        <translation>Protokolldateien des Webservers und zu HTTP-Fehlern</translation>
+        <translation>Protokolldateien zu Webserver und HTTP-Fehlern</translation>
     </message>
     <message>
         <source>Memory Dumps</source>
@@ -735,7 +742,7 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     </message>
     <message>
         <source>Files of a previous Windows installation, needed to go back to it</source>
-        <translation>Dateien einer vorherigen Windows-Installation, für die Rückkehr zu dieser erforderlich</translation>
+        <translation>Dateien einer vorherigen Windows-Installation, für die Rückkehr zu ihr erforderlich</translation>
     </message>
     <message>
         <source>Web Cache</source>
@@ -985,7 +992,7 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
         <source>无法加载页面链接。
 
 请联系技术支持或重新安装软件。</source>
-        <translation>Die Seitenlinks konnten nicht geladen werden.
+        <translation>Die Links zu den Webseiten konnten nicht geladen werden.
 
 Wenden Sie sich an den technischen Support oder installieren Sie das Programm neu.</translation>
     </message>
@@ -1057,7 +1064,7 @@ Kopieren Sie den Link und öffnen Sie ihn manuell:
     </message>
     <message>
         <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise – Bereinigungstool für den PC&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Bereinigen Sie Ihren PC mit einem Klick!&lt;br&gt;Entfernt Datenmüll und Browserdaten und behebt Registry-Probleme.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Alle Rechte vorbehalten.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Sweepwise – Bereinigungstool für den PC&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Bereinigen Sie Ihren PC mit einem Klick!&lt;br&gt;Beseitigt Datenmüll, Browserdaten und Registry-Probleme.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Alle Rechte vorbehalten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
@@ -1430,6 +1437,17 @@ Kopieren Sie den Link und öffnen Sie ihn manuell:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>Der Wert ließ sich nicht aus der Registry entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Reduziert</translation>
     </message>
 </context>
 <context>

@@ -386,6 +386,13 @@ This action cannot be undone!</translation>
     </message>
 </context>
 <context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
     <name>CleanItemWidget</name>
     <message>
         <source>High</source>
@@ -1406,6 +1413,17 @@ Please copy the link and open it yourself:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>The registry did not let go of the value</translation>
+    </message>
+</context>
+<context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>Expanded</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Collapsed</translation>
     </message>
 </context>
 <context>

@@ -22,7 +22,7 @@
 
 🧹 Limpiar basura - Libere espacio en disco
 🌐 Limpiar navegador - Proteja su privacidad
-🔧 Limpiar el Registro - Mejore el rendimiento
+🔧 Limpiar Registro - Mejore el rendimiento
 ⚡ Gestor de inicio - Acelere el arranque</translation>
     </message>
     <message>
@@ -88,7 +88,7 @@ Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation>Elementos: %1</translation>
+        <translation>Total: %1</translation>
     </message>
     <message>
         <source>Selected: %1 items</source>
@@ -158,7 +158,7 @@ Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>Select Browser:</source>
-        <translation>Seleccione el navegador:</translation>
+        <translation>Navegadores:</translation>
     </message>
     <message>
         <source>Other</source>
@@ -185,7 +185,7 @@ Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>GPU Cache</source>
-        <translation>Caché de GPU</translation>
+        <translation>Caché de la GPU</translation>
     </message>
     <message>
         <source>GPU rendering cache</source>
@@ -394,6 +394,13 @@ Esta acción no se puede deshacer.</translation>
     </message>
 </context>
 <context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>CleanItemWidget</name>
     <message>
         <source>High</source>
@@ -432,11 +439,11 @@ Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>Browser Data</source>
-        <translation>Datos de navegador</translation>
+        <translation>Datos de navegadores</translation>
     </message>
     <message>
         <source>Registry Issues</source>
-        <translation>Fallos de Registro</translation>
+        <translation>Fallos del Registro</translation>
     </message>
     <message>
         <source>&lt;span style=&apos;font-weight:600;&apos;&gt;Tip:&lt;/span&gt; Regular cleaning can improve your PC performance by up to 30%</source>
@@ -484,14 +491,14 @@ Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
     <name>DetailItemWidget</name>
     <message>
         <source>Open file location</source>
-        <translation>Abrir ubicación</translation>
+        <translation>Abrir ubicación del archivo</translation>
     </message>
     <message>
         <source>Open file location of %1</source>
@@ -672,7 +679,7 @@ Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>Delivery Optimization Files</source>
-        <translation>Archivos de Optimización de distribución</translation>
+        <translation>Optimización de distribución</translation>
     </message>
     <message>
         <source>Update files kept for sharing with other PCs</source>
@@ -688,7 +695,7 @@ Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>.NET Framework Cache Logs</source>
-        <translation>Archivos de registro de la caché de .NET Framework</translation>
+        <translation>Archivos de registro de .NET Framework</translation>
     </message>
     <message>
         <source>.NET temporary web files and usage logs</source>
@@ -696,7 +703,7 @@ Esta acción no se puede deshacer.</translation>
     </message>
     <message>
         <source>System Integrity Check Logs</source>
-        <translation>Archivos de registro de comprobación de integridad</translation>
+        <translation>Archivos de registro de integridad</translation>
     </message>
     <message>
         <source>Logs of system file and component checks</source>
@@ -984,7 +991,7 @@ Esta acción no se puede deshacer.</translation>
 请联系技术支持或重新安装软件。</source>
         <translation>No se pueden cargar los enlaces de las páginas.
 
-Póngase en contacto con el soporte técnico o vuelva a instalar el software.</translation>
+Contacte con el soporte técnico o reinstale el programa.</translation>
     </message>
     <message>
         <source>无法打开浏览器</source>
@@ -1022,7 +1029,7 @@ Copie el enlace y ábralo manualmente:
     </message>
     <message>
         <source>Registry Cleaner</source>
-        <translation>Limpiar el Registro</translation>
+        <translation>Limpiar Registro</translation>
     </message>
     <message>
         <source>Startup Manager</source>
@@ -1054,7 +1061,7 @@ Copie el enlace y ábralo manualmente:
     </message>
     <message>
         <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise - Herramienta de limpieza para PC&lt;/h3&gt;&lt;p&gt;Versión 1.0.0&lt;/p&gt;&lt;p&gt;¡Limpie su PC con un solo clic!&lt;br&gt;Elimine archivos basura, datos de navegadores y fallos del Registro.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Todos los derechos reservados.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Sweepwise - Herramienta de limpieza para PC&lt;/h3&gt;&lt;p&gt;Versión 1.0.0&lt;/p&gt;&lt;p&gt;¡Limpie su PC con un solo clic!&lt;br&gt;Elimine basura, datos de navegadores y fallos del Registro.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Todos los derechos reservados.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
@@ -1112,7 +1119,7 @@ Copie el enlace y ábralo manualmente:
     </message>
     <message>
         <source>Clean Registry</source>
-        <translation>Limpiar el Registro</translation>
+        <translation>Limpiar Registro</translation>
     </message>
     <message>
         <source>About to clean &lt;b&gt;%1&lt;/b&gt; invalid registry entries</source>
@@ -1272,7 +1279,7 @@ Copie el enlace y ábralo manualmente:
     <name>RegistryPage</name>
     <message>
         <source>Registry Cleaner</source>
-        <translation>Limpiar el Registro</translation>
+        <translation>Limpiar Registro</translation>
     </message>
     <message>
         <source>Clean invalid registry entries</source>
@@ -1339,7 +1346,7 @@ Copie el enlace y ábralo manualmente:
     </message>
     <message>
         <source>the kind of the value is not known</source>
-        <translation>se desconoce la clase del valor</translation>
+        <translation>se desconoce el formato del valor</translation>
     </message>
     <message>
         <source>a backslash stands before something else than a quote or a backslash</source>
@@ -1430,6 +1437,17 @@ Copie el enlace y ábralo manualmente:
     </message>
 </context>
 <context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>Expandido</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Contraído</translation>
+    </message>
+</context>
+<context>
     <name>ScanProgressDialog</name>
     <message>
         <source>Scanning for large files...</source>
@@ -1468,7 +1486,7 @@ Copie el enlace y ábralo manualmente:
     </message>
     <message>
         <source>Auto backup before registry cleaning</source>
-        <translation>Copia de seguridad antes de limpiar el Registro</translation>
+        <translation>Hacer copia de seguridad antes de limpiar el Registro</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1610,11 +1628,11 @@ Copie el enlace y ábralo manualmente:
 The application will restart now.</source>
         <translation>Se ha cambiado el idioma.
 
-La aplicación se reiniciará ahora.</translation>
+El programa se reiniciará ahora.</translation>
     </message>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
-        <translation>No se ha podido reiniciar la aplicación. Vuelva a iniciarla manualmente.</translation>
+        <translation>No se ha podido reiniciar el programa. Vuelva a iniciarlo manualmente.</translation>
     </message>
 </context>
 <context>

@@ -160,7 +160,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>Select Browser:</source>
-        <translation>Sélectionnez un navigateur&#xa0;:</translation>
+        <translation>Navigateurs&#xa0;:</translation>
     </message>
     <message>
         <source>Other</source>
@@ -365,7 +365,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>View Details</source>
-        <translation>Afficher les détails</translation>
+        <translation>Détails</translation>
     </message>
     <message>
         <source>View details of %1</source>
@@ -393,6 +393,13 @@ Cette action est irréversible&#xa0;!</translation>
     <message>
         <source>%1: %2 items, view details</source>
         <translation>%1&#xa0;: %2&#xa0;élément(s), afficher les détails</translation>
+    </message>
+</context>
+<context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -434,15 +441,15 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>Browser Data</source>
-        <translation>Données navigateur</translation>
+        <translation>Données de navigation</translation>
     </message>
     <message>
         <source>Registry Issues</source>
-        <translation>Problèmes Registre</translation>
+        <translation>Problèmes du Registre</translation>
     </message>
     <message>
         <source>&lt;span style=&apos;font-weight:600;&apos;&gt;Tip:&lt;/span&gt; Regular cleaning can improve your PC performance by up to 30%</source>
-        <translation>&lt;span style=&apos;font-weight:600;&apos;&gt;Conseil&#xa0;:&lt;/span&gt; Un nettoyage régulier peut améliorer les performances de votre PC jusqu’à 30&#xa0;%</translation>
+        <translation>&lt;span style=&apos;font-weight:600;&apos;&gt;Conseil&#xa0;:&lt;/span&gt; un nettoyage régulier peut améliorer les performances de votre PC jusqu’à 30&#xa0;%</translation>
     </message>
     <message>
         <source>Scanning...</source>
@@ -454,7 +461,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation>%1&#xa0;élément(s)</translation>
+        <translation>Total : %1</translation>
     </message>
     <message>
         <source>GB</source>
@@ -485,7 +492,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -591,7 +598,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>Clean system temp files, cache and logs</source>
-        <translation>Nettoyez les fichiers temporaires, le cache et les journaux du système</translation>
+        <translation>Nettoyez les fichiers temporaires, caches et journaux du système</translation>
     </message>
     <message>
         <source>Cleanable Space</source>
@@ -674,7 +681,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>Delivery Optimization Files</source>
-        <translation>Fichiers d’optimisation de la distribution</translation>
+        <translation>Optimisation de la distribution</translation>
     </message>
     <message>
         <source>Update files kept for sharing with other PCs</source>
@@ -698,7 +705,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>System Integrity Check Logs</source>
-        <translation>Journaux de vérification de l’intégrité du système</translation>
+        <translation>Journaux d’intégrité du système</translation>
     </message>
     <message>
         <source>Logs of system file and component checks</source>
@@ -914,7 +921,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>Found %1 large files, total %2</source>
-        <translation>Fichiers trouvés : %1, total : %2</translation>
+        <translation>Fichiers trouvés&#xa0;: %1, total&#xa0;: %2</translation>
     </message>
     <message>
         <source>Selected: %1 files (%2)</source>
@@ -933,7 +940,7 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>Select Scan Location</source>
-        <translation>Emplacement à analyser</translation>
+        <translation>Lecteurs à analyser</translation>
     </message>
     <message>
         <source>🔍 Start Scan</source>
@@ -980,7 +987,7 @@ Cette action est irréversible&#xa0;!</translation>
 请联系技术支持或重新安装软件。</source>
         <translation>Impossible de charger les liens des pages.
 
-Contactez l’assistance technique ou réinstallez le logiciel.</translation>
+Contactez l’assistance technique ou réinstallez l’application.</translation>
     </message>
     <message>
         <source>无法打开浏览器</source>
@@ -1050,7 +1057,7 @@ Copiez le lien et ouvrez-le manuellement&#xa0;:
     </message>
     <message>
         <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise - Outil de nettoyage pour PC&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Nettoyez votre PC en un clic&#xa0;!&lt;br&gt;Éliminez les fichiers inutiles, les données de navigateur et les problèmes de Registre.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Tous droits réservés.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Sweepwise - Outil de nettoyage pour PC&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Nettoyez votre PC en un clic&#xa0;!&lt;br&gt;Éliminez les fichiers inutiles, les données de navigation et les problèmes du Registre.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Tous droits réservés.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
@@ -1421,6 +1428,17 @@ Copiez le lien et ouvrez-le manuellement&#xa0;:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>Le Registre n’a pas supprimé la valeur</translation>
+    </message>
+</context>
+<context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>Développé</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Réduit</translation>
     </message>
 </context>
 <context>

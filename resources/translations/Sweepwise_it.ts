@@ -159,7 +159,7 @@ L&apos;operazione non può essere annullata.</translation>
     </message>
     <message>
         <source>Select Browser:</source>
-        <translation>Selezionare il browser:</translation>
+        <translation>Browser:</translation>
     </message>
     <message>
         <source>Other</source>
@@ -394,6 +394,14 @@ L&apos;operazione non può essere annullata.</translation>
     </message>
 </context>
 <context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
     <name>CleanItemWidget</name>
     <message>
         <source>High</source>
@@ -436,7 +444,7 @@ L&apos;operazione non può essere annullata.</translation>
     </message>
     <message>
         <source>Registry Issues</source>
-        <translation>Problemi registro</translation>
+        <translation>Problemi del registro</translation>
     </message>
     <message>
         <source>&lt;span style=&apos;font-weight:600;&apos;&gt;Tip:&lt;/span&gt; Regular cleaning can improve your PC performance by up to 30%</source>
@@ -452,7 +460,7 @@ L&apos;operazione non può essere annullata.</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation>Elementi: %1</translation>
+        <translation>Totale: %1</translation>
     </message>
     <message>
         <source>GB</source>
@@ -503,7 +511,7 @@ L&apos;operazione non può essere annullata.</translation>
     <name>DriveCard</name>
     <message>
         <source>Local Disk</source>
-        <translation>Disco locale</translation>
+        <translation>Disco</translation>
     </message>
     <message>
         <source>%1 (Removable)</source>
@@ -929,7 +937,7 @@ L&apos;operazione non può essere annullata.</translation>
     </message>
     <message>
         <source>Scan and clean files that take up a lot of disk space</source>
-        <translation>Analisi e pulizia dei file che occupano molto spazio su disco</translation>
+        <translation>Ricerca ed eliminazione dei file che occupano molto spazio su disco</translation>
     </message>
     <message>
         <source>Select Scan Location</source>
@@ -937,7 +945,7 @@ L&apos;operazione non può essere annullata.</translation>
     </message>
     <message>
         <source>🔍 Start Scan</source>
-        <translation>🔍 Avvia analisi</translation>
+        <translation>🔍 Analizza</translation>
     </message>
     <message>
         <source>Minimum File Size:</source>
@@ -1074,7 +1082,7 @@ Copiare il collegamento e aprirlo manualmente:
     </message>
     <message>
         <source>正在分析系统...</source>
-        <translation>Esame del sistema...</translation>
+        <translation>Analisi del sistema...</translation>
     </message>
     <message>
         <source>正在删除文件...</source>
@@ -1213,27 +1221,27 @@ Copiare il collegamento e aprirlo manualmente:
     </message>
     <message>
         <source>Scanning invalid software paths...</source>
-        <translation>Analisi dei percorsi software non validi...</translation>
+        <translation>Ricerca di percorsi software non validi...</translation>
     </message>
     <message>
         <source>Scanning invalid file associations...</source>
-        <translation>Analisi delle associazioni di file non valide...</translation>
+        <translation>Ricerca di associazioni di file non valide...</translation>
     </message>
     <message>
         <source>Scanning invalid COM components...</source>
-        <translation>Analisi dei componenti COM non validi...</translation>
+        <translation>Ricerca di componenti COM non validi...</translation>
     </message>
     <message>
         <source>Scanning invalid font references...</source>
-        <translation>Analisi dei riferimenti non validi a tipi di carattere...</translation>
+        <translation>Ricerca di riferimenti non validi a tipi di carattere...</translation>
     </message>
     <message>
         <source>Scanning invalid startup items...</source>
-        <translation>Analisi degli elementi di avvio non validi...</translation>
+        <translation>Ricerca di elementi di avvio non validi...</translation>
     </message>
     <message>
         <source>Scanning invalid shared DLLs...</source>
-        <translation>Analisi delle DLL condivise non valide...</translation>
+        <translation>Ricerca di DLL condivise non valide...</translation>
     </message>
     <message>
         <source>Scanning MUI cache...</source>
@@ -1429,6 +1437,17 @@ Copiare il collegamento e aprirlo manualmente:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>Il registro non ha rimosso il valore</translation>
+    </message>
+</context>
+<context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>Espanso</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Compresso</translation>
     </message>
 </context>
 <context>

@@ -394,6 +394,14 @@ This action cannot be undone!</source>
     </message>
 </context>
 <context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
     <name>CleanItemWidget</name>
     <message>
         <source>High</source>
@@ -1428,6 +1436,17 @@ This action cannot be undone!</source>
     <message>
         <source>The registry did not let go of the value</source>
         <translation>レジストリから値を削除できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>展開済み</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>折りたたみ済み</translation>
     </message>
 </context>
 <context>

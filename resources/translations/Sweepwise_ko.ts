@@ -393,6 +393,14 @@ This action cannot be undone!</source>
     </message>
 </context>
 <context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
     <name>CleanItemWidget</name>
     <message>
         <source>High</source>
@@ -1428,6 +1436,17 @@ This action cannot be undone!</source>
     <message>
         <source>The registry did not let go of the value</source>
         <translation>레지스트리에서 값이 삭제되지 않았습니다</translation>
+    </message>
+</context>
+<context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>펼쳐짐</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>접힘</translation>
     </message>
 </context>
 <context>

@@ -20,10 +20,10 @@
 ⚡ Startup Manager - Speed up boot time</source>
         <translation>De persoonlijke butler voor uw pc
 
-🧹 Schijf opruimen - maak kostbare ruimte vrij
-🌐 Browser opruimen - bescherm uw privacy
-🔧 Register opruimen - verbeter de prestaties
-⚡ Opstartbeheer - laat uw pc sneller opstarten</translation>
+🧹 Schijf opruimen – maak kostbare ruimte vrij
+🌐 Browser opruimen – bescherm uw privacy
+🔧 Register opruimen – verbeter de prestaties
+⚡ Opstartbeheer – laat uw pc sneller opstarten</translation>
     </message>
     <message>
         <source>© 2026 Norvak. All rights reserved.</source>
@@ -89,8 +89,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>%1 items</translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Selected: %1 items</source>
@@ -160,7 +159,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Select Browser:</source>
-        <translation>Selecteer een browser:</translation>
+        <translation>Browsers kiezen:</translation>
     </message>
     <message>
         <source>Other</source>
@@ -175,7 +174,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Temporary web page cache files</source>
-        <translation>Tijdelijke cachebestanden van webpagina&apos;s</translation>
+        <translation>Tijdelijke cachebestanden van webpagina’s</translation>
     </message>
     <message>
         <source>Code Cache</source>
@@ -321,7 +320,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Web browsing history records</source>
-        <translation>Lijst met bezochte webpagina&apos;s</translation>
+        <translation>Lijst met bezochte webpagina’s</translation>
     </message>
     <message>
         <source>Download History</source>
@@ -395,6 +394,14 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
 </context>
 <context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
     <name>CleanItemWidget</name>
     <message>
         <source>High</source>
@@ -425,7 +432,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>🗑️ Clean All</source>
-        <translation>🗑️ Ruim alles op</translation>
+        <translation>🗑️ Alles opruimen</translation>
     </message>
     <message>
         <source>Junk Files</source>
@@ -437,7 +444,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Registry Issues</source>
-        <translation>Registerproblemen</translation>
+        <translation>Registerfouten</translation>
     </message>
     <message>
         <source>&lt;span style=&apos;font-weight:600;&apos;&gt;Tip:&lt;/span&gt; Regular cleaning can improve your PC performance by up to 30%</source>
@@ -453,8 +460,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>%1 items</translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>GB</source>
@@ -505,7 +511,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     <name>DriveCard</name>
     <message>
         <source>Local Disk</source>
-        <translation>Lokale schijf</translation>
+        <translation>Schijf</translation>
     </message>
     <message>
         <source>%1 (Removable)</source>
@@ -672,7 +678,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Queued and archived program error reports</source>
-        <translation>Foutrapporten van programma&apos;s, in de wachtrij of gearchiveerd</translation>
+        <translation>Foutrapporten van programma’s, in de wachtrij of gearchiveerd</translation>
     </message>
     <message>
         <source>Delivery Optimization Files</source>
@@ -680,7 +686,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Update files kept for sharing with other PCs</source>
-        <translation>Updatebestanden die worden bewaard om met andere pc&apos;s te delen</translation>
+        <translation>Updatebestanden die worden bewaard om met andere pc’s te delen</translation>
     </message>
     <message>
         <source>Windows Defender Scan History</source>
@@ -744,7 +750,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Windows web cache, downloaded pages and cookies</source>
-        <translation>Webcache van Windows, gedownloade pagina&apos;s en cookies</translation>
+        <translation>Webcache van Windows, gedownloade pagina’s en cookies</translation>
     </message>
     <message>
         <source>Office Cache</source>
@@ -894,7 +900,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source> %1 files failed to delete.</source>
-        <translation> Niet verwijderde bestanden: %1.</translation>
+        <translation> Niet-verwijderde bestanden: %1.</translation>
     </message>
     <message>
         <source>Delete Completed</source>
@@ -917,7 +923,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Found %1 large files, total %2</source>
-        <translation>Gevonden grote bestanden: %1, totale grootte: %2</translation>
+        <translation>Gevonden grote bestanden: %1 (%2)</translation>
     </message>
     <message>
         <source>Selected: %1 files (%2)</source>
@@ -936,7 +942,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
     <message>
         <source>Select Scan Location</source>
-        <translation>Selecteer een scanlocatie</translation>
+        <translation>Selecteer stations om te scannen</translation>
     </message>
     <message>
         <source>🔍 Start Scan</source>
@@ -986,7 +992,7 @@ Dit kan niet ongedaan worden gemaakt!</translation>
         <source>无法加载页面链接。
 
 请联系技术支持或重新安装软件。</source>
-        <translation>De koppelingen naar de webpagina&apos;s kunnen niet worden geladen.
+        <translation>De koppelingen naar de webpagina’s kunnen niet worden geladen.
 
 Neem contact op met de technische ondersteuning of installeer het programma opnieuw.</translation>
     </message>
@@ -1050,7 +1056,7 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>Sweepwise - PC Cleaning Tool</source>
-        <translation>Sweepwise - Opruimprogramma voor uw pc</translation>
+        <translation>Sweepwise – Opruimprogramma voor uw pc</translation>
     </message>
     <message>
         <source>About Sweepwise</source>
@@ -1058,7 +1064,7 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise - Opruimprogramma voor uw pc&lt;/h3&gt;&lt;p&gt;Versie 1.0.0&lt;/p&gt;&lt;p&gt;Ruim uw pc met één klik op!&lt;br&gt;Verwijder onnodige bestanden en browsergegevens en los registerproblemen op.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Alle rechten voorbehouden.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Sweepwise – Opruimprogramma voor uw pc&lt;/h3&gt;&lt;p&gt;Versie 1.0.0&lt;/p&gt;&lt;p&gt;Ruim uw pc met één klik op!&lt;br&gt;Verwijder onnodige bestanden en browsergegevens en los registerproblemen op.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Alle rechten voorbehouden.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
@@ -1172,7 +1178,7 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>File associations pointing to missing programs</source>
-        <translation>Bestandskoppelingen die verwijzen naar ontbrekende programma&apos;s</translation>
+        <translation>Bestandskoppelingen die verwijzen naar ontbrekende programma’s</translation>
     </message>
     <message>
         <source>Invalid COM/ActiveX</source>
@@ -1196,11 +1202,11 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>Startup items pointing to non-existent programs</source>
-        <translation>Opstartitems die verwijzen naar niet-bestaande programma&apos;s</translation>
+        <translation>Opstartitems die verwijzen naar niet-bestaande programma’s</translation>
     </message>
     <message>
         <source>Invalid Shared DLLs</source>
-        <translation>Ongeldige gedeelde DLL&apos;s</translation>
+        <translation>Ongeldige gedeelde DLL’s</translation>
     </message>
     <message>
         <source>References to non-existent shared DLL files</source>
@@ -1212,7 +1218,7 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>Application MUI cache data</source>
-        <translation>MUI-cachegegevens van programma&apos;s</translation>
+        <translation>MUI-cachegegevens van programma’s</translation>
     </message>
     <message>
         <source>Scanning invalid software paths...</source>
@@ -1236,7 +1242,7 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>Scanning invalid shared DLLs...</source>
-        <translation>Scannen op ongeldige gedeelde DLL&apos;s...</translation>
+        <translation>Scannen op ongeldige gedeelde DLL’s...</translation>
     </message>
     <message>
         <source>Scanning MUI cache...</source>
@@ -1411,7 +1417,7 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>Windows programs are running in the Wine prefix %1; end them and try again</source>
-        <translation>Er zijn Windows-programma&apos;s actief in de Wine-prefix %1; sluit ze af en probeer het opnieuw</translation>
+        <translation>Er zijn Windows-programma’s actief in de Wine-prefix %1; sluit ze af en probeer het opnieuw</translation>
     </message>
     <message>
         <source>%1 was changed by another program; scan again</source>
@@ -1432,6 +1438,17 @@ Kopieer de koppeling en open deze zelf in een browser:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>De waarde is niet uit het register verwijderd</translation>
+    </message>
+</context>
+<context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>Uitgevouwen</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Samengevouwen</translation>
     </message>
 </context>
 <context>
@@ -1523,15 +1540,15 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>%1 programs</source>
-        <translation>Programma&apos;s: %1</translation>
+        <translation>Programma’s: %1</translation>
     </message>
     <message>
         <source>Search programs...</source>
-        <translation>Programma&apos;s zoeken...</translation>
+        <translation>Programma’s zoeken...</translation>
     </message>
     <message>
         <source>Search programs</source>
-        <translation>Programma&apos;s zoeken</translation>
+        <translation>Programma’s zoeken</translation>
     </message>
     <message>
         <source>Refresh</source>
@@ -1539,11 +1556,11 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>Checked programs will run automatically at startup</source>
-        <translation>Aangevinkte programma&apos;s starten automatisch bij het opstarten</translation>
+        <translation>Aangevinkte programma’s starten automatisch bij het opstarten</translation>
     </message>
     <message>
         <source>Scanning installed programs...</source>
-        <translation>Geïnstalleerde programma&apos;s scannen...</translation>
+        <translation>Geïnstalleerde programma’s scannen...</translation>
     </message>
     <message>
         <source>First load may take a few seconds</source>
@@ -1551,7 +1568,7 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
     <message>
         <source>%1 programs · %2 startup items</source>
-        <translation>Programma&apos;s: %1 · Opstartitems: %2</translation>
+        <translation>Programma’s: %1 · Opstartitems: %2</translation>
     </message>
     <message>
         <source>Failed to add startup item</source>
@@ -1620,7 +1637,7 @@ Het programma wordt nu opnieuw gestart.</translation>
     </message>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
-        <translation>Het programma kon niet opnieuw worden gestart. Start het zelf opnieuw.</translation>
+        <translation>Het programma kan niet opnieuw worden gestart. Start het zelf opnieuw.</translation>
     </message>
 </context>
 <context>

@@ -159,7 +159,7 @@ Esta ação não pode ser anulada!</translation>
     </message>
     <message>
         <source>Select Browser:</source>
-        <translation>Selecionar browser:</translation>
+        <translation>Browsers:</translation>
     </message>
     <message>
         <source>Other</source>
@@ -329,7 +329,7 @@ Esta ação não pode ser anulada!</translation>
     </message>
     <message>
         <source>Download history records (downloaded files are not deleted)</source>
-        <translation>Lista de transferências (os ficheiros transferidos não são eliminados)</translation>
+        <translation>Histórico de transferências (os ficheiros transferidos não são eliminados)</translation>
     </message>
     <message>
         <source>Session Data</source>
@@ -392,6 +392,14 @@ Esta ação não pode ser anulada!</translation>
     <message>
         <source>%1: %2 items, view details</source>
         <translation>%1 (itens: %2), ver detalhes</translation>
+    </message>
+</context>
+<context>
+    <name>CircleProgressWidget</name>
+    <message>
+        <source>%1%</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>
@@ -686,7 +694,7 @@ Esta ação não pode ser anulada!</translation>
     </message>
     <message>
         <source>Windows Defender scan history and definition backups</source>
-        <translation>Histórico de análises e cópias das definições de vírus do Windows Defender</translation>
+        <translation>Histórico de análises e cópias de segurança das definições do Windows Defender</translation>
     </message>
     <message>
         <source>.NET Framework Cache Logs</source>
@@ -930,7 +938,7 @@ Esta ação não pode ser anulada!</translation>
     </message>
     <message>
         <source>Scan and clean files that take up a lot of disk space</source>
-        <translation>Procure e limpe ficheiros que ocupam muito espaço no disco</translation>
+        <translation>Procure e elimine ficheiros que ocupam muito espaço no disco</translation>
     </message>
     <message>
         <source>Select Scan Location</source>
@@ -938,7 +946,7 @@ Esta ação não pode ser anulada!</translation>
     </message>
     <message>
         <source>🔍 Start Scan</source>
-        <translation>🔍 Iniciar análise</translation>
+        <translation>🔍 Analisar</translation>
     </message>
     <message>
         <source>Minimum File Size:</source>
@@ -1174,7 +1182,7 @@ Copie a ligação e abra-a manualmente:
     </message>
     <message>
         <source>Invalid COM/ActiveX</source>
-        <translation>COM/ActiveX inválidos</translation>
+        <translation>Itens COM/ActiveX inválidos</translation>
     </message>
     <message>
         <source>Invalid COM components and ActiveX controls</source>
@@ -1401,7 +1409,7 @@ Copie a ligação e abra-a manualmente:
     </message>
     <message>
         <source>There is no registry</source>
-        <translation>O registo não existe</translation>
+        <translation>Não foi possível encontrar o registo</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
@@ -1430,6 +1438,17 @@ Copie a ligação e abra-a manualmente:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>O registo não permitiu remover o valor</translation>
+    </message>
+</context>
+<context>
+    <name>ResultWidget</name>
+    <message>
+        <source>Expanded</source>
+        <translation>Expandido</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Fechado</translation>
     </message>
 </context>
 <context>
@@ -1541,7 +1560,7 @@ Copie a ligação e abra-a manualmente:
     </message>
     <message>
         <source>Scanning installed programs...</source>
-        <translation>A analisar os programas instalados...</translation>
+        <translation>A procurar programas instalados...</translation>
     </message>
     <message>
         <source>First load may take a few seconds</source>

@@ -264,7 +264,7 @@
         <source>&apos;%1&apos; is write protected.
 Do you want to delete it anyway?</source>
         <translation>«%1» está protegido contra escrita.
-Pretende eliminar mesmo assim?</translation>
+Pretende eliminá-lo mesmo assim?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete &apos;%1&apos;?</source>
@@ -637,6 +637,52 @@ Verifique se o nome do ficheiro está correto.</translation>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>O ficheiro ou a pasta não existe</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permissão recusada</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Não há espaço livre no dispositivo</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Demasiados ficheiros abertos</translation>
+    </message>
+    <message>
+        <source>file to open is a directory</source>
+        <translation>o ficheiro a abrir é uma pasta</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Erro desconhecido</translation>
+    </message>
+</context>
+<context>
+    <name>QSaveFile</name>
+    <message>
+        <source>Existing file %1 is not writable</source>
+        <translation>Não é possível escrever no ficheiro existente %1</translation>
+    </message>
+    <message>
+        <source>Filename refers to a directory</source>
+        <translation>O nome do ficheiro refere-se a uma pasta</translation>
+    </message>
+    <message>
+        <source>Writing canceled by application</source>
+        <translation>Escrita cancelada pela aplicação</translation>
+    </message>
+    <message>
+        <source>QSaveFile cannot open &apos;%1&apos; without direct write fallback enabled.</source>
+        <translation>O QSaveFile não consegue abrir «%1» sem a escrita direta alternativa ativada.</translation>
     </message>
 </context>
 </TS>

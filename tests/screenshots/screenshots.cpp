@@ -6,6 +6,7 @@
 //        screenshots [--language CODE] --check           a line for each text without room; exit
 //        status 1 if there is one
 
+#include "access.h"
 #include "appinfo.h"
 #include "language.h"
 #include "testhome.h"
@@ -92,7 +93,7 @@ int check(const TestHome &home)
     int count = 0;
     takeTour(home, [&count](const QString &name, QWidget *window, const QList<QWidget *> &above) {
         for (const QWidget *widget : QList<QWidget *>{window} + above) {
-            const QStringList complaints = unreadableTexts(widget);
+            const QStringList complaints = unreadableTexts(widget) + accessFaults(widget);
             for (const QString &complaint : complaints)
                 std::printf("%s: %s\n", qPrintable(name), qPrintable(complaint));
             count += static_cast<int>(complaints.size());

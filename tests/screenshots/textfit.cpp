@@ -171,7 +171,8 @@ QStringList checkChildren(const QWidget *parent)
         const QRect place = child->geometry();
         const bool isOutside = isScrolled(child) ? place.right() > parent->rect().right()
                                                  : !parent->rect().contains(place);
-        if (isOutside && hasText(child) && !qobject_cast<const QAbstractScrollArea *>(parent))
+        if (isOutside && (hasText(child) || isScrolled(child))
+            && !qobject_cast<const QAbstractScrollArea *>(parent))
             complaints.append(described(child, {}, u"reaches beyond its parent"_s));
         if (!hasText(child))
             continue;

@@ -262,7 +262,7 @@ void visitJunk(Tour &tour)
     ProgressDialog scanning(ProgressDialog::Scanning, window);
     scanning.show();
     scanning.setProgress(11, 25);
-    scanning.setDetail(u"Defender Scan History"_s);
+    scanning.setDetail(Application::instance()->junkCleaner()->rules().at(10).name);
     tour.stop(u"junk-scanning"_s, window, {&scanning});
     scanning.hide();
 

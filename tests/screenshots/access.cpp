@@ -1,0 +1,89 @@
+#include "access.h"
+
+#include <QAccessible>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString described(const QWidget *widget)
+{
+    return u"%1 %2"_s.arg(QLatin1StringView(widget->metaObject()->className()),
+                          widget->objectName());
+}
+
+bool takesFocus(const QWidget *widget)
+{
+    return widget->isVisible() && widget->isEnabled() && !widget->focusProxy()
+        && (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus
+        && !widget->visibleRegion().isEmpty();
+}
+
+/// The controls of the window in the order in which the tab key leads to them.
+QList<const QWidget *> tabChain(const QWidget *window)
+{
+    QList<const QWidget *> chain;
+    for (const QWidget *widget = window->nextInFocusChain(); widget && widget != window;
+         widget = widget->nextInFocusChain()) {
+        if (widget->window() == window && takesFocus(widget))
+            chain.append(widget);
+    }
+    return chain;
+}
+
+/// The part of the window that the eye goes through before it turns to the next.
+const QWidget *partOf(const QWidget *widget)
+{
+    for (const QWidget *parent = widget; parent; parent = parent->parentWidget()) {
+        for (const QLatin1StringView name : {"navWidget"_L1, "titleBar"_L1, "pageStack"_L1}) {
+            if (parent->objectName() == name)
+                return parent;
+        }
+    }
+    return widget->window();
+}
+
+QRect place(const QWidget *widget)
+{
+    return widget->visibleRegion().boundingRect().translated(
+        widget->mapTo(widget->window(), QPoint(0, 0)));
+}
+
+bool standsBefore(const QRect &one, const QRect &other)
+{
+    return one.bottom() < other.top()
+        || (one.right() < other.left() && one.top() <= other.bottom());
+}
+
+QStringList nameFaults(const QWidget *widget)
+{
+    QAccessibleInterface *access = QAccessible::queryAccessibleInterface(
+        const_cast<QWidget *>(widget)); // NOLINT: it is only read
+    if (!access)
+        return {described(widget) + ": no accessible interface"_L1};
+    QStringList faults;
+    if (access->text(QAccessible::Name).trimmed().isEmpty())
+        faults.append(described(widget) + ": takes the focus and has no name"_L1);
+    if (access->role() == QAccessible::NoRole || access->role() == QAccessible::Client)
+        faults.append(described(widget) + ": takes the focus and has no role"_L1);
+    return faults;
+}
+
+} // namespace
+
+QStringList accessFaults(const QWidget *window)
+{
+    QStringList faults;
+    const QList<const QWidget *> chain = tabChain(window);
+    const QWidget *before = nullptr;
+    for (const QWidget *widget : chain) {
+        faults += nameFaults(widget);
+        if (before && partOf(before) == partOf(widget) && !before->isAncestorOf(widget)
+            && standsBefore(place(widget), place(before)))
+            faults.append(u"%1: the tab key comes to it after %2, which stands behind it"_s.arg(
+                described(widget), described(before)));
+        before = widget;
+    }
+    return faults;
+}

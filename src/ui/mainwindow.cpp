@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "accessible.h"
 #include "application.h"
 #include "browsercleaner.h"
 #include "browserpage.h"
@@ -25,10 +26,12 @@
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QTranslator>
 #include <QVBoxLayout>
@@ -45,6 +48,7 @@ MainWindow::MainWindow()
     : m_fullScan(new FullScan(this))
     , m_translator(new QTranslator(this))
 {
+    installAccessibleInterfaces();
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
     setMinimumSize(970, 670);
@@ -388,6 +392,17 @@ void MainWindow::changeEvent(QEvent *event)
 bool MainWindow::isInside(const QWidget *part, QPoint position) const
 {
     return QRect(part->mapTo(this, QPoint(0, 0)), part->size()).contains(position);
+}
+
+// Outside of a dialog a button leaves the Enter keys to whom it belongs.
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && button && button->isEnabled() && !event->isAutoRepeat())
+        button->click();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void MainWindow::mousePressEvent(QMouseEvent *event)

@@ -1,8 +1,10 @@
 #include "navbutton.h"
 
-#include "svgicon.h"
+#include "keys.h"
+#include "svglabel.h"
 #include "theme.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -14,7 +16,7 @@ using namespace Qt::StringLiterals;
 NavButton::NavButton(const QString &text, const QString &iconPath, QWidget *parent)
     : QWidget(parent)
     , m_iconPath(iconPath)
-    , m_icon(new QLabel(this))
+    , m_icon(new SvgLabel(this))
     , m_text(new QLabel(text, this))
 {
     setFixedHeight(48);
@@ -47,6 +49,10 @@ void NavButton::setChecked(bool checked)
     m_checked = checked;
     Q_EMIT checkedChanged(checked);
     updateLook();
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 void NavButton::setCentered(bool centered)
@@ -86,22 +92,10 @@ void NavButton::leaveEvent(QEvent *)
 
 void NavButton::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (isPress(*event))
         Q_EMIT clicked();
-        break;
-    default:
+    else if (const int step = arrowStep(*event); step == 0 || !focusNextPrevChild(step > 0))
         QWidget::keyPressEvent(event);
-    }
-}
-
-void NavButton::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    // Only now is it known on which screen, and so how fine the icon has to be drawn.
-    updateLook();
 }
 
 void NavButton::focusInEvent(QFocusEvent *)
@@ -134,7 +128,7 @@ void NavButton::updateLook()
 {
     const QColor iconColour =
         m_checked ? theme::color(theme::accent) : theme::color(theme::white, 217);
-    m_icon->setPixmap(svgPixmap(m_iconPath, m_icon->size(), devicePixelRatioF(), iconColour));
+    m_icon->setSvg(m_iconPath, m_icon->size(), iconColour);
     m_text->setStyleSheet(
         m_checked
             ? u"font-size: 14px; font-weight: 600; color: %1; background: transparent; border: none;"_s

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QLabel;
+class SvgLabel;
 
 /// One entry of the navigation column: an icon and a text on a painted highlight.
 class NavButton final : public QWidget
@@ -30,7 +31,6 @@ protected:
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void showEvent(QShowEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -39,7 +39,7 @@ private:
     void updateLook();
 
     QString m_iconPath;
-    QLabel *m_icon;
+    SvgLabel *m_icon;
     QLabel *m_text;
     bool m_checked = false;
     bool m_hovered = false;

@@ -51,6 +51,7 @@ QString dangerButton(int radius, int pixels, const QString &padding)
     return u"QPushButton { background-color: %1; color: %2; border: 2px solid %1; "
            u"border-radius: %3px; font-size: %4px; font-weight: 500; padding: %8; }"
            "QPushButton:hover { background-color: %5; border-color: %5; }"
+           "QPushButton:pressed { background-color: %5; border-color: %5; padding-top: 2px; }"
            "QPushButton:focus { border-color: %2; }"
            "QPushButton:disabled { background-color: %6; border-color: %6; color: %7; }"_s.arg(
                QString(dangerTint), QString(dangerHover), QString::number(radius),
@@ -74,6 +75,12 @@ QString sizeBadge(QLatin1StringView colour, QLatin1StringView background)
            u"font-weight: 600;"_s.arg(QString(background), QString(colour));
 }
 
+QString scrolledList()
+{
+    return u"QScrollArea { border: 1px solid %1; }QScrollArea:focus { border-color: %2; }"_s.arg(
+        QString(white), QString(accent));
+}
+
 QString comboBox()
 {
     return u"QComboBox { background-color: %1; color: %2; border: 1px solid %3; border-radius: "
@@ -86,7 +93,7 @@ QString comboBox()
            "QComboBox QAbstractItemView { background-color: %1; color: %2; border: 1px solid %3; "
            "selection-background-color: %5; selection-color: %6; outline: none; }"_s.arg(
                QString(white), QString(text), QString(border), QString(accent),
-               QString(lowRiskTint), QString(accentHover));
+               QString(lowRiskTint), QString(accentText));
 }
 
 QString quietButton(int radius, int pixels)
@@ -95,9 +102,11 @@ QString quietButton(int radius, int pixels)
            u"%3px; "
            "font-size: %4px; }"
            "QPushButton:hover { background-color: %5; border-color: %5; }"
-           "QPushButton:focus { border-color: %6; }"_s.arg(
+           "QPushButton:pressed { background-color: %6; border-color: %6; }"
+           "QPushButton:focus { border-color: %7; }"
+           "QPushButton:disabled { color: %8; }"_s.arg(
                QString(button), QString(text), QString::number(radius), QString::number(pixels),
-               QString(border), QString(faint));
+               QString(border), QString(disabled), QString(muted), QString(faint));
 }
 
 QString loadMoreButton()
@@ -118,16 +127,18 @@ QString linkButton()
 {
     return u"QPushButton { border: none; color: %1; font-size: 12px; padding: 4px 2px; }"
            "QPushButton:hover { color: %2; text-decoration: underline; }"
-           "QPushButton:focus { text-decoration: underline; }"_s.arg(QString(accentHover),
-                                                                     QString(accent));
+           "QPushButton:pressed { color: %3; }"
+           "QPushButton:focus { text-decoration: underline; }"_s.arg(
+               QString(accentText), QString(accentHover), QString(text));
 }
 
 QString iconButton()
 {
     return u"QPushButton { border: none; border-radius: 6px; background: transparent; }"
            "QPushButton:hover { background-color: %1; }"
-           "QPushButton:focus { background-color: %2; }"_s.arg(QString(button),
-                                                               QString(lowRiskTint));
+           "QPushButton:focus { background-color: %2; }"
+           "QPushButton:pressed { background-color: %3; }"_s.arg(
+               QString(button), QString(lowRiskTint), QString(border));
 }
 
 QString browserCheckBox()
@@ -173,7 +184,7 @@ QString menu()
            "%4;\n"
            "        }\n        QMenu::separator {\n            height: 1px;\n"
            "            background: %1;\n            margin: 4px 12px;\n        }\n"_s.arg(
-               QString(menuBorder), QString(text), QString(lowRiskTint), QString(accentHover));
+               QString(menuBorder), QString(text), QString(lowRiskTint), QString(accentText));
 }
 
 QString contextMenu()
@@ -192,8 +203,9 @@ QString messageBox()
            "QMessageBox QLabel { color: %1; font-size: 13px; }"
            "QPushButton { background-color: %2; color: white; border: none; border-radius: 6px; "
            "padding: 8px 24px; font-size: 13px; min-width: 80px; }"
-           "QPushButton:hover { background-color: %3; }"_s.arg(QString(boxText), QString(accent),
-                                                               QString(accentHover));
+           "QPushButton:hover, QPushButton:pressed { background-color: %3; }"
+           "QPushButton:focus { border: 2px solid %4; padding: 6px 22px; }"_s.arg(
+               QString(boxText), QString(accent), QString(accentHover), QString(text));
 }
 
 QString progressBar()
@@ -234,17 +246,19 @@ QString dialogButton(QLatin1StringView background, QLatin1StringView colour,
 {
     return u"QPushButton { background-color: %1; color: %2; border: none; border-radius: 8px; "
            u"font-size: %4px; }QPushButton:hover { background-color: %3; }"
+           "QPushButton:pressed { background-color: %3; padding-top: 2px; }"
            "QPushButton:focus { border: 2px solid %5; }"_s.arg(
                QString(background), QString(colour), QString(hovered), QString::number(pixels),
-               QString(colour == white ? text : faint));
+               QString(colour == white ? text : muted));
 }
 
 QString framedButton()
 {
     return u"QPushButton { background-color: transparent; color: %1; border: 1px solid %2; "
            u"border-radius: 8px; font-size: 13px; }QPushButton:hover { background-color: %3; }"
+           "QPushButton:pressed { background-color: %2; }"
            "QPushButton:focus { border: 2px solid %4; }"_s.arg(QString(text), QString(border),
-                                                               QString(button), QString(faint));
+                                                               QString(button), QString(muted));
 }
 
 namespace {

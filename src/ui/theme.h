@@ -9,11 +9,15 @@ namespace theme {
 
 inline constexpr QLatin1StringView accent("#10B981");
 inline constexpr QLatin1StringView accentHover("#059669");
+/// The accent where it is small text, dark enough to be read.
+inline constexpr QLatin1StringView accentText("#047857");
 inline constexpr QLatin1StringView danger("#EF4444");
 inline constexpr QLatin1StringView dangerHover("#DC2626");
 inline constexpr QLatin1StringView warning("#F59E0B");
 inline constexpr QLatin1StringView text("#111827");
 inline constexpr QLatin1StringView muted("#6B7280");
+/// Muted on a grey ground.
+inline constexpr QLatin1StringView mutedOnGrey("#4B5563");
 inline constexpr QLatin1StringView faint("#9CA3AF");
 inline constexpr QLatin1StringView border("#E5E7EB");
 inline constexpr QLatin1StringView button("#F3F4F6");
@@ -61,6 +65,8 @@ inline constexpr QLatin1StringView boxText("#333333");
 /// A pill with the size of a file.
 [[nodiscard]] QString sizeBadge(QLatin1StringView colour, QLatin1StringView background);
 [[nodiscard]] QString comboBox();
+/// A list that scrolls by the keyboard.
+[[nodiscard]] QString scrolledList();
 [[nodiscard]] QString loadMoreButton();
 [[nodiscard]] QString expandButton();
 /// A button that reads like a link.

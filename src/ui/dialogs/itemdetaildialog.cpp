@@ -23,6 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype batchSize = 50;
+constexpr int columnMargin = 20; ///< of the rows and of the header above them
 
 } // namespace
 
@@ -41,12 +42,15 @@ ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *paren
     layout->setSpacing(0);
     m_titleBar = buildTitleBar();
     layout->addWidget(m_titleBar);
-    layout->addWidget(buildColumnHeader());
+    QWidget *header = buildColumnHeader();
+    layout->addWidget(header);
 
     m_scrollArea = new QScrollArea(this);
     m_scrollArea->setObjectName("detailScrollArea"_L1);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setStyleSheet(theme::scrolledList());
+    m_scrollArea->setAccessibleName(windowTitle());
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *list = new QWidget(m_scrollArea);
     list->setObjectName("detailList"_L1);
@@ -57,6 +61,12 @@ ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *paren
     m_rows->setAlignment(Qt::AlignTop);
     m_scrollArea->setWidget(list);
     layout->addWidget(m_scrollArea, 1);
+    // The columns stand over those of the rows, which leave the scroll bar its room.
+    const QScrollBar *bar = m_scrollArea->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, header, [bar, header](int, int maximum) {
+        const int room = maximum > 0 ? bar->sizeHint().width() : 0;
+        header->layout()->setContentsMargins(columnMargin, 0, columnMargin + room, 0);
+    });
     m_scrollArea->setFocus();
 
     connect(m_scrollArea->verticalScrollBar(), &QScrollBar::valueChanged, this,
@@ -119,7 +129,7 @@ QWidget *ItemDetailDialog::buildColumnHeader()
             QString(theme::hover), QString(theme::border)));
     header->setFixedHeight(38);
     auto *layout = new QHBoxLayout(header);
-    layout->setContentsMargins(20, 0, 20, 0);
+    layout->setContentsMargins(columnMargin, 0, columnMargin, 0);
     layout->setSpacing(12);
     const auto addColumn = [&](const QString &text, Qt::Alignment alignment, int width) {
         auto *label = new QLabel(text, header);

@@ -71,7 +71,7 @@ ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
     m_bar->setStyleSheet(theme::progressBar());
     m_bar->setAccessibleName(m_title->text());
     layout->addWidget(m_bar);
-    m_percentage = addCentredLabel(layout, theme::label(theme::accentHover, 14, 600));
+    m_percentage = addCentredLabel(layout, theme::label(theme::accentText, 14, 600));
     m_percentage->setText(tr("%1%").arg(0));
     layout->addStretch();
 

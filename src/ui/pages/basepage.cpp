@@ -4,7 +4,7 @@
 #include "categorywidget.h"
 #include "cleanengine.h"
 #include "progressdialog.h"
-#include "svgicon.h"
+#include "svglabel.h"
 #include "theme.h"
 
 #include <QCoreApplication>
@@ -77,13 +77,11 @@ void BasePage::setupHeader()
 {
     auto *header = new QHBoxLayout;
     header->setSpacing(16);
-    m_icon = new QLabel(this);
-    m_icon->setObjectName("pageIcon"_L1);
-    m_icon->setFixedSize(48, 48);
-    m_icon->setAlignment(Qt::AlignCenter);
-    m_icon->setPixmap(svgPixmap(u":/icons/trash.svg"_s, {26, 26}, devicePixelRatioF(),
-                                theme::color(theme::accent)));
-    header->addWidget(m_icon);
+    auto *icon = new SvgLabel(this);
+    icon->setObjectName("pageIcon"_L1);
+    icon->setFixedSize(48, 48);
+    icon->setSvg(u":/icons/trash.svg"_s, {26, 26}, theme::color(theme::accent));
+    header->addWidget(icon);
 
     auto *titles = new QVBoxLayout;
     titles->setSpacing(2);
@@ -102,7 +100,7 @@ void BasePage::setupHeader()
     m_statisticCaption->setAlignment(Qt::AlignRight);
     m_statisticValue = new QLabel(u"--"_s, this);
     m_statisticValue->setObjectName("statisticValue"_L1);
-    m_statisticValue->setStyleSheet(theme::label(theme::accentHover, 24, 700));
+    m_statisticValue->setStyleSheet(theme::label(theme::accentText, 24, 700));
     m_statisticValue->setAlignment(Qt::AlignRight);
     statistic->addWidget(m_statisticCaption);
     statistic->addWidget(m_statisticValue);
@@ -116,6 +114,7 @@ void BasePage::setupContent()
     m_scrollArea->setObjectName("contentScrollArea"_L1);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setFocusPolicy(Qt::NoFocus); // it follows the focus of what it holds
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setStyleSheet(u"QScrollArea { background: transparent; }"_s);
     m_scrollArea->viewport()->setAutoFillBackground(false);
@@ -285,6 +284,7 @@ void BasePage::deliverLateSignals()
 
 ProgressDialog *BasePage::openProgressDialog(int mode)
 {
+    m_focus.keep(this);
     m_scanButton->setEnabled(false);
     m_cleanButton->setEnabled(false);
     closeProgressDialog();
@@ -311,6 +311,7 @@ void BasePage::cancelOperation()
     m_scanButton->setEnabled(true);
     // The list, not the engine's result: that still belongs to the worker, which winds down.
     m_cleanButton->setEnabled(isResultShown());
+    m_focus.giveBack(m_scanButton);
 }
 
 void BasePage::onScanProgress(int current, int total, QString currentPath)
@@ -334,6 +335,7 @@ void BasePage::onScanFinished(ScanResult)
     m_cleanButton->setEnabled(!std::as_const(*m_engine).result().categories.isEmpty());
     displayResults();
     updateSelection();
+    m_focus.giveBack(m_scanButton);
     Q_EMIT scanFinished();
 }
 
@@ -362,6 +364,20 @@ QList<ResultWidget *> BasePage::makeResultWidgets(QList<CleanCategory> &categori
     for (CleanCategory &category : categories)
         widgets.append(new CategoryWidget(&category, parent));
     return widgets;
+}
+
+void BasePage::insertBar(QWidget *bar)
+{
+    m_layout->insertWidget(1, bar);
+    QWidget *last = nullptr;
+    const auto controls = bar->findChildren<QWidget *>();
+    for (QWidget *control : controls) {
+        if (control->focusPolicy() != Qt::NoFocus)
+            last = control;
+    }
+    if (last)
+        setTabOrder(last, m_scrollArea);
+    orderFocus();
 }
 
 // The list is made after the buttons below it, but stands above them.
@@ -422,6 +438,7 @@ void BasePage::onCleanFinished(qint64 totalCleaned, int itemsCleaned)
                 .arg(QString::number(itemsCleaned), formatSize(totalCleaned)));
     m_scanButton->setEnabled(true);
     letGoOfResult();
+    m_focus.giveBack(m_scanButton);
     Q_EMIT cleanFinished();
 }
 
@@ -431,6 +448,7 @@ void BasePage::onEngineError(QString error)
         m_progressDialog->showResult(false, error);
     m_scanButton->setEnabled(true);
     m_cleanButton->setEnabled(isResultShown());
+    m_focus.giveBack(m_scanButton);
 }
 
 void BasePage::letGoOfResult()

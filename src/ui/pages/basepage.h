@@ -1,5 +1,6 @@
 #pragma once
 
+#include "focuskeeper.h"
 #include "scanresult.h"
 
 #include <QList>
@@ -60,6 +61,8 @@ protected:
     /// Makes the widgets of a result that is not empty, with @p parent; here one a category.
     [[nodiscard]] virtual QList<ResultWidget *> makeResultWidgets(QList<CleanCategory> &categories,
                                                                   QWidget *parent);
+    /// Puts @p bar, which holds controls in the order of the eye, above the result list.
+    void insertBar(QWidget *bar);
     /// Deletes all result widgets.
     virtual void clearResults();
     /// Shows what is selected now and enables the clean button accordingly.
@@ -94,7 +97,6 @@ private:
     bool m_showSizes = true;
     QString m_noSelectionText;
     QVBoxLayout *m_layout;
-    QLabel *m_icon = nullptr;
     QLabel *m_title = nullptr;
     QLabel *m_subtitle = nullptr;
     QLabel *m_statisticCaption = nullptr;
@@ -107,5 +109,6 @@ private:
     QPushButton *m_scanButton = nullptr;
     QPushButton *m_cleanButton = nullptr;
     QList<ResultWidget *> m_resultWidgets;
+    FocusKeeper m_focus;
     QPointer<ProgressDialog> m_progressDialog;
 };

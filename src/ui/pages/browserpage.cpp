@@ -9,7 +9,6 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -72,7 +71,7 @@ void BrowserPage::buildSelectionBar()
         m_browserBoxes.append(box);
         row->addWidget(box);
     }
-    static_cast<QVBoxLayout *>(layout())->insertWidget(1, bar);
+    insertBar(bar);
     // What the bar shows is what is scanned from the start: once the engine knows of one choice, it
     // leaves out every browser of which it knows none.
     for (const QCheckBox *box : std::as_const(m_browserBoxes))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "focuskeeper.h"
+
 #include <QWidget>
 
 class DashboardResultsPanel;
@@ -41,5 +43,6 @@ private:
     QStackedWidget *m_panels;
     DashboardStartPanel *m_start;
     DashboardResultsPanel *m_results;
+    FocusKeeper m_focus;
     bool m_hasResults = false;
 };

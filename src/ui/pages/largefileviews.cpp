@@ -4,6 +4,7 @@
 #include "scanresult.h"
 #include "theme.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -105,6 +106,7 @@ QLayout *LargeFileSelectionView::buildSizeRow(QWidget *parent)
     m_sizeCombo->setFixedSize(140, 36);
     m_sizeCombo->setStyleSheet(theme::comboBox());
     m_sizeCombo->setAccessibleName(caption->text());
+    m_sizeCombo->view()->setAccessibleName(caption->text());
     caption->setBuddy(m_sizeCombo);
     m_sizeCombo->addItem(tr("50 MB"), 50 * mebibyte);
     m_sizeCombo->addItem(tr("100 MB"), 100 * mebibyte);

@@ -49,6 +49,7 @@ StartupPage::StartupPage(QWidget *parent)
     m_scrollArea->setObjectName("startupScrollArea"_L1);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setFocusPolicy(Qt::NoFocus); // it follows the focus of the cards
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setStyleSheet(u"QScrollArea { background: transparent; }"_s);
     m_scrollArea->viewport()->setAutoFillBackground(false);

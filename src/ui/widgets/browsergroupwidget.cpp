@@ -3,6 +3,7 @@
 #include "browsersubitem.h"
 #include "scanresult.h"
 #include "svgicon.h"
+#include "svglabel.h"
 #include "text.h"
 #include "theme.h"
 
@@ -10,7 +11,6 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -32,7 +32,6 @@ BrowserGroupWidget::BrowserGroupWidget(const QString &name, QWidget *parent)
 
     m_header->setObjectName("browserGroupHeader"_L1);
     m_header->setAttribute(Qt::WA_StyledBackground);
-    m_header->installEventFilter(this);
     buildHeader(singleLine(name));
     layout->addWidget(m_header);
 
@@ -42,7 +41,7 @@ BrowserGroupWidget::BrowserGroupWidget(const QString &name, QWidget *parent)
     m_contentLayout->setContentsMargins(1, 6, 1, 8);
     m_contentLayout->setSpacing(0);
     layout->addWidget(m_content);
-    showExpanded();
+    BrowserGroupWidget::showExpanded(false);
 }
 
 QString BrowserGroupWidget::iconPath(const QString &name)
@@ -62,12 +61,11 @@ void BrowserGroupWidget::buildHeader(const QString &name)
     layout->setContentsMargins(16, 12, 16, 12);
     layout->setSpacing(12);
 
-    auto *icon = new QLabel(m_header);
+    auto *icon = new SvgLabel(m_header);
     icon->setObjectName("browserIcon"_L1);
     icon->setFixedSize(36, 36);
-    icon->setAlignment(Qt::AlignCenter);
     icon->setStyleSheet(theme::browserIcon());
-    icon->setPixmap(svgPixmap(iconPath(name), {28, 28}, devicePixelRatioF()));
+    icon->setSvg(iconPath(name), {28, 28});
     layout->addWidget(icon);
 
     auto *title = new QLabel(name, m_header);
@@ -78,7 +76,7 @@ void BrowserGroupWidget::buildHeader(const QString &name)
 
     m_count = new QLabel(m_header);
     m_count->setObjectName("browserItemCount"_L1);
-    m_count->setStyleSheet(theme::badge(theme::muted, theme::button, 10, 12));
+    m_count->setStyleSheet(theme::badge(theme::mutedOnGrey, theme::button, 10, 12));
     m_count->hide();
     layout->addWidget(m_count, 0, Qt::AlignVCenter);
     layout->addStretch();
@@ -96,7 +94,7 @@ void BrowserGroupWidget::buildHeader(const QString &name)
     m_expandButton->setCursor(Qt::PointingHandCursor);
     m_expandButton->setStyleSheet(theme::iconButton());
     m_expandButton->setAccessibleName(tr("Show the data of %1").arg(name));
-    connect(m_expandButton, &QPushButton::clicked, this, &BrowserGroupWidget::toggleExpanded);
+    setExpander(m_header, m_expandButton);
     layout->addWidget(m_expandButton);
 }
 
@@ -127,26 +125,6 @@ QList<QWidget *> BrowserGroupWidget::focusChain() const
     for (const BrowserSubItem *subItem : m_subItems)
         chain += subItem->focusChain();
     return chain;
-}
-
-void BrowserGroupWidget::toggleExpanded()
-{
-    m_expanded = !m_expanded;
-    showExpanded();
-}
-
-bool BrowserGroupWidget::eventFilter(QObject *watched, QEvent *event)
-{
-    // The whole header expands and collapses; its own controls keep their clicks to themselves.
-    if (watched == m_header && event->type() == QEvent::MouseButtonRelease) {
-        const auto *mouse = static_cast<QMouseEvent *>(event);
-        if (mouse->button() == Qt::LeftButton
-            && m_header->rect().contains(mouse->position().toPoint())) {
-            toggleExpanded();
-            return true;
-        }
-    }
-    return ResultWidget::eventFilter(watched, event);
 }
 
 // Partly ticked is shown, but nobody chooses it: a click ticks all.
@@ -182,10 +160,10 @@ void BrowserGroupWidget::showCount()
     m_count->setVisible(count >= 1);
 }
 
-void BrowserGroupWidget::showExpanded()
+void BrowserGroupWidget::showExpanded(bool expanded)
 {
-    m_header->setStyleSheet(theme::browserGroupHeader(m_expanded));
-    m_content->setVisible(m_expanded);
-    const QString icon = m_expanded ? u":/icons/chevron-up.svg"_s : u":/icons/chevron-down.svg"_s;
+    m_header->setStyleSheet(theme::browserGroupHeader(expanded));
+    m_content->setVisible(expanded);
+    const QString icon = expanded ? u":/icons/chevron-up.svg"_s : u":/icons/chevron-down.svg"_s;
     m_expandButton->setIcon(QIcon(svgPixmap(icon, {20, 20}, devicePixelRatioF())));
 }

@@ -25,7 +25,6 @@ public:
     /// Appends a row for @p category, a record of the engine's result.
     void addCategory(CleanCategory *category);
     [[nodiscard]] qsizetype subItemCount() const { return m_subItems.size(); }
-    [[nodiscard]] bool isExpanded() const { return m_expanded; }
 
     [[nodiscard]] QList<QWidget *> focusChain() const override;
     void setShowSizes(bool show) override;
@@ -33,18 +32,14 @@ public:
     /// The icon of the browser that @p name names in any case; a generic one for others.
     [[nodiscard]] static QString iconPath(const QString &name);
 
-public Q_SLOTS:
-    void toggleExpanded();
-
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showExpanded(bool expanded) override;
 
 private:
     void buildHeader(const QString &name);
     void onHeaderChanged(int state);
     void showCheckState();
     void showCount();
-    void showExpanded();
 
     QWidget *m_header;
     QWidget *m_content;
@@ -53,6 +48,5 @@ private:
     QCheckBox *m_checkBox = nullptr;
     QPushButton *m_expandButton = nullptr;
     QList<BrowserSubItem *> m_subItems;
-    bool m_expanded = false;
     bool m_showSizes = true;
 };

@@ -68,7 +68,7 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
 
     auto *count = new QLabel(tr("%1 items").arg(category->items.size()), this);
     count->setObjectName("subItemCount"_L1);
-    count->setStyleSheet(theme::label(theme::faint, 12));
+    count->setStyleSheet(theme::label(theme::muted, 12));
     layout->addWidget(count);
 
     m_size->setObjectName("subItemSize"_L1);

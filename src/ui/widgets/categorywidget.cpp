@@ -4,7 +4,7 @@
 #include "itemdetaildialog.h"
 #include "risk.h"
 #include "scanresult.h"
-#include "svgicon.h"
+#include "svglabel.h"
 #include "text.h"
 #include "theme.h"
 #include "tooltip.h"
@@ -13,7 +13,6 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -62,7 +61,6 @@ CategoryWidget::CategoryWidget(CleanCategory *category, QWidget *parent)
 
     m_header->setObjectName("categoryHeader"_L1);
     m_header->setAttribute(Qt::WA_StyledBackground);
-    m_header->installEventFilter(this);
     m_header->setToolTip(plainToolTip(category->description));
     buildHeader();
     layout->addWidget(m_header);
@@ -89,14 +87,13 @@ void CategoryWidget::buildHeader()
     layout->setContentsMargins(16, 12, 16, 12);
     layout->setSpacing(12);
 
-    m_icon = new QLabel(m_header);
-    m_icon->setObjectName("categoryIcon"_L1);
-    m_icon->setFixedSize(32, 32);
-    m_icon->setAlignment(Qt::AlignCenter);
-    m_icon->setStyleSheet(
+    auto *icon = new SvgLabel(m_header);
+    icon->setObjectName("categoryIcon"_L1);
+    icon->setFixedSize(32, 32);
+    icon->setStyleSheet(
         u"background-color: %1; border-radius: 6px; padding: 4px;"_s.arg(theme::accent));
-    m_icon->setPixmap(svgPixmap(iconPath(m_category->id), {22, 22}, devicePixelRatioF()));
-    layout->addWidget(m_icon);
+    icon->setSvg(iconPath(m_category->id), {22, 22});
+    layout->addWidget(icon);
 
     m_name = new QLabel(singleLine(m_category->name), m_header);
     m_name->setTextFormat(Qt::PlainText);
@@ -135,22 +132,8 @@ void CategoryWidget::buildHeader()
     m_expandButton->setCursor(Qt::PointingHandCursor);
     m_expandButton->setStyleSheet(theme::expandButton());
     m_expandButton->setAccessibleName(tr("Show items of %1").arg(m_name->text()));
-    connect(m_expandButton, &QPushButton::clicked, this, &CategoryWidget::toggleExpanded);
+    setExpander(m_header, m_expandButton);
     layout->addWidget(m_expandButton);
-}
-
-bool CategoryWidget::eventFilter(QObject *watched, QEvent *event)
-{
-    // The whole header expands and collapses; its own controls keep their clicks to themselves.
-    if (watched == m_header && event->type() == QEvent::MouseButtonRelease) {
-        const auto *mouse = static_cast<QMouseEvent *>(event);
-        if (mouse->button() == Qt::LeftButton
-            && m_header->rect().contains(mouse->position().toPoint())) {
-            toggleExpanded();
-            return true;
-        }
-    }
-    return ResultWidget::eventFilter(watched, event);
 }
 
 void CategoryWidget::setShowSizes(bool show)
@@ -170,15 +153,14 @@ void CategoryWidget::setChecked(bool checked)
     Q_EMIT selectionChanged();
 }
 
-void CategoryWidget::toggleExpanded()
+void CategoryWidget::showExpanded(bool expanded)
 {
-    m_expanded = !m_expanded;
-    m_category->expanded = m_expanded;
-    m_expandButton->setText(m_expanded ? u"▲"_s : u"▼"_s);
-    if (m_expanded && m_loadedCount == 0)
+    m_category->expanded = expanded;
+    m_expandButton->setText(expanded ? u"▲"_s : u"▼"_s);
+    if (expanded && m_loadedCount == 0)
         loadMore();
-    m_content->setVisible(m_expanded);
-    Q_EMIT expandedChanged(m_expanded);
+    m_content->setVisible(expanded);
+    Q_EMIT expandedChanged(expanded);
 }
 
 void CategoryWidget::showDetails()

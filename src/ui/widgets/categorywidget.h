@@ -29,12 +29,10 @@ public:
     void setShowSizes(bool show) override;
     /// Ticks or unticks the category with all its items.
     void setChecked(bool checked);
-    [[nodiscard]] bool isExpanded() const { return m_expanded; }
 
     [[nodiscard]] QList<QWidget *> focusChain() const override;
 
 public Q_SLOTS:
-    void toggleExpanded();
     /// Opens the dialog that lists every item of the category.
     void showDetails();
 
@@ -42,7 +40,7 @@ Q_SIGNALS:
     void expandedChanged(bool expanded);
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showExpanded(bool expanded) override;
 
 private:
     void buildHeader();
@@ -56,11 +54,9 @@ private:
     CleanCategory *m_category;
     qsizetype m_loadedCount = 0;
     bool m_showSizes = true;
-    bool m_expanded = false;
     QWidget *m_header;
     QWidget *m_content;
     QVBoxLayout *m_contentLayout;
-    QLabel *m_icon = nullptr;
     QLabel *m_name = nullptr;
     QPushButton *m_count = nullptr;
     QLabel *m_size = nullptr;

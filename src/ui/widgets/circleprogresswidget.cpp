@@ -67,7 +67,9 @@ QString CircleProgressWidget::valueText(double value, const QString &unit)
         number.chop(1);
     if (number.endsWith(u'.'))
         number.chop(1);
-    return unit == "%"_L1 || unit.isEmpty() ? number + unit : number + u' ' + unit;
+    if (unit == "%"_L1)
+        return tr("%1%").arg(number);
+    return unit.isEmpty() ? number : number + u' ' + unit;
 }
 
 namespace {

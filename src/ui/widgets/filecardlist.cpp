@@ -27,6 +27,7 @@ FileCardList::FileCardList(QWidget *parent)
     setObjectName("fileCardList"_L1);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus); // it follows the focus of the cards
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setStyleSheet(u"QScrollArea { background: transparent; }"_s);
     viewport()->setAutoFillBackground(false);

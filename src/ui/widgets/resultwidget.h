@@ -3,8 +3,11 @@
 #include <QList>
 #include <QWidget>
 
-/// Something in a page's list of results. It is bound to records inside the engine's result, which
-/// outlive it and into which the ticks are written.
+class QAbstractButton;
+
+/// Something in a page's list of results: a header, and what it holds once it is expanded. It is
+/// bound to records inside the engine's result, which outlive it and into which the ticks are
+/// written.
 class ResultWidget : public QWidget
 {
     Q_OBJECT
@@ -16,7 +19,26 @@ public:
     [[nodiscard]] virtual QList<QWidget *> focusChain() const = 0;
     /// Whether bytes are told beside the item counts.
     virtual void setShowSizes(bool show) = 0;
+    [[nodiscard]] bool isExpanded() const { return m_expanded; }
+
+public Q_SLOTS:
+    void toggleExpanded();
 
 Q_SIGNALS:
     void selectionChanged();
+
+protected:
+    /// Names what expands and collapses: a click on @p header, a click on @p button, and on the
+    /// button the right and the left arrow key.
+    void setExpander(QWidget *header, QAbstractButton *button);
+    /// Shows or hides the content.
+    virtual void showExpanded(bool expanded) = 0;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void describeExpander();
+
+    QWidget *m_header = nullptr;
+    QAbstractButton *m_expander = nullptr;
+    bool m_expanded = false;
 };

@@ -1,6 +1,7 @@
 #include "statcard.h"
 
-#include "svgicon.h"
+#include "keys.h"
+#include "svglabel.h"
 #include "theme.h"
 
 #include <QHBoxLayout>
@@ -26,8 +27,6 @@ QLabel *makeLabel(const QString &text, const QString &style, QWidget *parent)
 
 StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     : QFrame(parent)
-    , m_look(look)
-    , m_icon(new QLabel(this))
     , m_title(makeLabel(title, theme::clearLabel(theme::muted, 13), this))
     , m_value(makeLabel({}, theme::clearLabel(theme::text, 15, 700), this))
 {
@@ -37,11 +36,12 @@ StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(title);
     m_title->setWordWrap(true); // so that no language makes the window wider
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // cards in a row are of one width
 
-    m_icon->setFixedSize(42, 42);
-    m_icon->setAlignment(Qt::AlignCenter);
-    m_icon->setStyleSheet(theme::iconBox(look.iconBackground));
-    drawIcon();
+    auto *icon = new SvgLabel(this);
+    icon->setFixedSize(42, 42);
+    icon->setStyleSheet(theme::iconBox(look.iconBackground));
+    icon->setSvg(look.iconPath, {22, 22}, theme::color(look.accent));
 
     auto *track = new QWidget(this);
     track->setAttribute(Qt::WA_StyledBackground);
@@ -63,7 +63,7 @@ StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(14, 12, 12, 12);
     layout->setSpacing(12);
-    layout->addWidget(m_icon);
+    layout->addWidget(icon);
     layout->addLayout(texts, 1);
     layout->addWidget(makeLabel(
         u"›"_s,
@@ -92,27 +92,10 @@ int StatCard::barWidth() const
     return m_bar->minimumWidth();
 }
 
-void StatCard::drawIcon()
-{
-    m_icon->setPixmap(
-        svgPixmap(m_look.iconPath, {22, 22}, devicePixelRatioF(), theme::color(m_look.accent)));
-}
-
-void StatCard::showEvent(QShowEvent *event)
-{
-    QFrame::showEvent(event);
-    drawIcon(); // Only now is it known how fine.
-}
-
 void StatCard::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (isPress(*event))
         Q_EMIT activated();
-        break;
-    default:
+    else if (const int step = arrowStep(*event); step == 0 || !focusNextPrevChild(step > 0))
         QFrame::keyPressEvent(event);
-    }
 }

@@ -33,13 +33,8 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private:
-    void drawIcon();
-
-    const Look m_look;
-    QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_value;
     QWidget *m_bar;

@@ -1,0 +1,48 @@
+#include "resultwidget.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+void ResultWidget::setExpander(QWidget *header, QAbstractButton *button)
+{
+    m_header = header;
+    m_expander = button;
+    header->installEventFilter(this);
+    button->installEventFilter(this);
+    connect(button, &QAbstractButton::clicked, this, &ResultWidget::toggleExpanded);
+    describeExpander();
+}
+
+void ResultWidget::toggleExpanded()
+{
+    m_expanded = !m_expanded;
+    showExpanded(m_expanded);
+    describeExpander();
+}
+
+void ResultWidget::describeExpander()
+{
+    m_expander->setAccessibleDescription(m_expanded ? tr("Expanded") : tr("Collapsed"));
+}
+
+bool ResultWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    // The whole header expands and collapses; its own controls keep their clicks to themselves.
+    if (watched == m_header && event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        if (mouse->button() == Qt::LeftButton
+            && m_header->rect().contains(mouse->position().toPoint())) {
+            toggleExpanded();
+            return true;
+        }
+    }
+    if (watched == m_expander && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == (m_expanded ? Qt::Key_Left : Qt::Key_Right)) {
+            toggleExpanded();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}

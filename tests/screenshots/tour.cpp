@@ -13,11 +13,13 @@
 #include "largefilepage.h"
 #include "linkmanager.h"
 #include "mainwindow.h"
+#include "navbutton.h"
 #include "progressdialog.h"
 #include "registryfixture.h"
 #include "registrypage.h"
 #include "scanprogressdialog.h"
 #include "startupcard.h"
+#include "statcard.h"
 #include "testhome.h"
 #include "testtree.h"
 #include "titlebar.h"
@@ -121,7 +123,6 @@ void visitBrowsers(Tour &tour, MainWindow *window)
 {
     auto *page = window->findChild<BrowserPage *>();
     window->onDashboardNavigate(2);
-    tour.stop(u"browser-empty"_s, window);
     QSignalSpy scanned(page, &BasePage::scanFinished);
     page->startScan();
     if (scanned.isEmpty())
@@ -216,6 +217,27 @@ void visitDialog(Tour &tour, const QString &name, QWidget *window,
     open();
 }
 
+// Before the first scan, which the pages share with the dashboard.
+void visitEmptyPages(Tour &tour, MainWindow *window)
+{
+    window->onDashboardNavigate(1);
+    tour.stop(u"junk-empty"_s, window);
+    window->onDashboardNavigate(2);
+    tour.stop(u"browser-empty"_s, window);
+    window->onDashboardNavigate(3);
+    tour.stop(u"registry-empty"_s, window);
+    window->onDashboardNavigate(0);
+}
+
+/// What shows where the keyboard is.
+void visitFocus(Tour &tour, const QString &name, MainWindow *window, QWidget *control)
+{
+    window->activateWindow();
+    control->setFocus(Qt::TabFocusReason);
+    tour.stop(u"focus-"_s + name, window);
+    window->findChild<QStackedWidget *>(u"pageStack"_s)->setFocus();
+}
+
 void visitDashboard(Tour &tour, MainWindow *window)
 {
     auto *page = window->findChild<DashboardPage *>();
@@ -229,6 +251,8 @@ void visitDashboard(Tour &tour, MainWindow *window)
     page->onScanClicked();
     shown.wait(60'000);
     tour.stop(u"dashboard-results"_s, window);
+    visitFocus(tour, u"card"_s, window, page->findChild<StatCard *>());
+    visitFocus(tour, u"navigation"_s, window, window->findChildren<NavButton *>().at(3));
     page->setScanning(true);
     page->updateProgress(64, path);
     tour.stop(u"dashboard-scanning-again"_s, window);
@@ -255,8 +279,6 @@ void visitJunk(Tour &tour)
     auto *clean = page->findChild<QPushButton *>(u"cleanBtn"_s);
 
     window->onDashboardNavigate(1);
-    tour.stop(u"junk-empty"_s, window);
-
     // A scan of so few files is over at once: the dialog is shown as it stands in the middle of a
     // long one.
     ProgressDialog scanning(ProgressDialog::Scanning, window);
@@ -272,6 +294,9 @@ void visitJunk(Tour &tour)
     tour.stop(u"junk-results"_s, window);
     page->findChild<QPushButton *>(u"expandBtn"_s)->click();
     tour.stop(u"junk-results-open"_s, window);
+    visitFocus(tour, u"check"_s, window, page->findChild<QCheckBox *>(u"categoryCheck"_s));
+    visitFocus(tour, u"expander"_s, window, page->findChild<QPushButton *>(u"expandBtn"_s));
+    visitFocus(tour, u"button"_s, window, scan);
 
     page->findChildren<QPushButton *>(u"itemCount"_s).at(1)->click();
     auto *details = findWindow<ItemDetailDialog>();
@@ -378,7 +403,6 @@ void visitRegistry(Tour &tour, const TestHome &home)
     RegistryFixture registry(home);
     fillRegistry(registry);
     window->onDashboardNavigate(3);
-    tour.stop(u"registry-empty"_s, window);
     QSignalSpy scanned(page, &BasePage::scanFinished);
     page->findChild<QPushButton *>(u"scanBtn"_s)->click();
     scanned.wait(60'000);
@@ -409,6 +433,7 @@ void takeTour(const TestHome &home, const TourVisitor &visit)
     Application::instance()->initialize();
     Application::instance()->showMainWindow();
     Tour tour(visit);
+    visitEmptyPages(tour, Application::instance()->mainWindow());
     visitDashboard(tour, Application::instance()->mainWindow());
     visitJunk(tour);
     visitRegistry(tour, home);

@@ -1,6 +1,7 @@
 #include "language.h"
 
 #include "appinfo.h"
+#include "browsercleaner.h"
 #include "logcapture.h"
 #include "testhome.h"
 
@@ -9,6 +10,8 @@
 #include <QSettings>
 #include <QTest>
 #include <QTranslator>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -75,6 +78,50 @@ private Q_SLOTS:
         const QString code = language::choose(QString(), u"zh_CN"_s);
         QTranslator translator;
         QVERIFY(!translator.load(u":/translations/Sweepwise_%1.qm"_s.arg(code)));
+    }
+
+    void everyCatalogueSpeaksForProgramRulesAndToolkit_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("clean");
+        QTest::addColumn<QString>("exit");
+        QTest::addColumn<QString>("rule");
+        QTest::addColumn<QString>("yes"); // Qt's own, without its mnemonic
+        QTest::newRow("en") << u"en"_s << u"Clean Now"_s << u"Exit"_s << u"Cookies"_s << u"Yes"_s;
+        QTest::newRow("fr") << u"fr"_s << u"Nettoyer"_s << u"Quitter"_s << u"Cookies"_s << u"Oui"_s;
+        QTest::newRow("de") << u"de"_s << u"Jetzt bereinigen"_s << u"Beenden"_s << u"Cookies"_s
+                            << u"Ja"_s;
+        QTest::newRow("ja") << u"ja"_s << u"今すぐ掃除"_s << u"終了"_s << u"Cookie"_s
+                            << u"はい(Y)"_s;
+        QTest::newRow("es") << u"es"_s << u"Limpiar ahora"_s << u"Salir"_s << u"Cookies"_s
+                            << u"Sí"_s;
+        QTest::newRow("ko") << u"ko"_s << u"지금 정리"_s << u"종료"_s << u"쿠키"_s << u"예(Y)"_s;
+        QTest::newRow("nl") << u"nl"_s << u"Nu opruimen"_s << u"Afsluiten"_s << u"Cookies"_s
+                            << u"Ja"_s;
+        QTest::newRow("pt") << u"pt"_s << u"Limpar agora"_s << u"Sair"_s << u"Cookies"_s
+                            << u"Sim"_s;
+        QTest::newRow("it") << u"it"_s << u"Pulisci ora"_s << u"Esci"_s << u"Cookie"_s << u"Sì"_s;
+    }
+
+    void everyCatalogueSpeaksForProgramRulesAndToolkit()
+    {
+        QFETCH(QString, code);
+        QSettings(appinfo::organisation, appinfo::name).setValue("language"_L1, code);
+        QTranslator translator;
+        language::install(translator);
+        QVERIFY(!translator.isEmpty());
+        QTEST(QCoreApplication::translate("BasePage", "Clean Now"), "clean");
+        QTEST(QCoreApplication::translate("MainWindow", "退出"), "exit");
+        QTEST(QCoreApplication::translate("QPlatformTheme", "&Yes").remove(u'&'), "yes");
+        // As the engines load them.
+        BrowserCleaner cleaner;
+        cleaner.loadRules(u":/rules/browser_rules.json"_s);
+        const auto &rules = cleaner.rules();
+        const auto cookies = std::find_if(rules.begin(), rules.end(), [](const BrowserRule &rule) {
+            return rule.id == "cookies"_L1;
+        });
+        QVERIFY(cookies != rules.end());
+        QTEST(cookies->name, "rule");
     }
 
     void theLanguageIsNeverReadFromTheApplicationsSettings()

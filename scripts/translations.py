@@ -101,6 +101,12 @@ def complaints_of(code, source, message):
         yield "is the source's text" if text == source else 'is not the source\'s text, and says "same"'
 
 
+def differences(code, current, messages):
+    """Between the texts that the source has now and those of a catalogue."""
+    yield from (f"{code}: {context}: missing: {source!r}" for context, source in current - messages)
+    yield from (f"{code}: {context}: no longer in the source: {source!r}" for context, source in messages - current)
+
+
 def check():
     complaints = []
     current = {}
@@ -113,8 +119,7 @@ def check():
             complaints.append(f"{code}: there is no catalogue")
             continue
         messages = read(catalogue(code))
-        complaints += [f"{code}: {context}: missing: {source!r}" for context, source in current.keys() - messages.keys()]
-        complaints += [f"{code}: {context}: no longer in the source: {source!r}" for context, source in messages.keys() - current.keys()]
+        complaints += differences(code, current.keys(), messages.keys())
         complaints += [f"{code}: {context}: {complaint}: {source!r} -> {message.translation!r}"
                        for (context, source), message in messages.items() for complaint in complaints_of(code, source, message)]
     for (context, source), message in read(toolkit).items():
@@ -141,4 +146,5 @@ def main():
     return 0
 
 
-sys.exit(main())
+if __name__ == "__main__":
+    sys.exit(main())

@@ -737,8 +737,12 @@ private Q_SLOTS:
         const QString program = tree.path(u"Opera.exe"_s);
         QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
         QProcess process;
-        process.start(program, {QString::fromLatin1(sleepArgument)});
-        QVERIFY2(process.waitForStarted(), qPrintable(process.errorString()));
+        // A busy Wine refuses now and then to start what has just been written.
+        const auto start = [&process, &program] {
+            process.start(program, {QString::fromLatin1(sleepArgument)});
+            return process.waitForStarted();
+        };
+        QVERIFY2(QTest::qWaitFor(start, patience), qPrintable(process.errorString()));
         QTest::qWait(300);
         SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         const LogCapture log;

@@ -35,12 +35,12 @@ def stop():
     subprocess.run(["wineserver", "-w"], check=True)
 
 
-def boot():
-    """Starts the prefix as a user's session does; how often the program ran by that."""
+def boot(patience=20):
+    """Starts the prefix as a user's session does; how often the program ran by that, after waiting so many seconds for it."""
     before = log.read_text().count("started") if log.exists() else 0
     stop()
     run(["wineboot"])
-    deadline = time.monotonic() + 20
+    deadline = time.monotonic() + patience
     count = 0
     while time.monotonic() < deadline and count == 0:
         time.sleep(0.5)
@@ -83,7 +83,7 @@ def main():
         assert r'"C:\Program Files\Sample Player\bin\player.exe"' in run_value()
         stop()
         assert listed(native)["isStartup"] and listed(windows)["isStartup"]
-        assert boot() >= 1, "it was switched on and did not run"
+        assert boot(patience=90) >= 1, "it was switched on and did not run"
         run(switch + ["startup", "disable", name])
         assert name not in run_value()
         stop()
@@ -92,7 +92,7 @@ def main():
 
     # The uninstaller hands over to a copy of itself, which takes a moment and removes the entry last.
     run(["wine", str(drive / "Program Files" / "Sample Player" / "uninstall.exe"), "/S"])
-    deadline = time.monotonic() + 20
+    deadline = time.monotonic() + 60
     while time.monotonic() < deadline and listed(windows):
         time.sleep(0.5)
     stop()

@@ -973,11 +973,11 @@ This action cannot be undone!</translation>
 请联系技术支持或重新安装软件。</source>
         <translation>The page links could not be loaded.
 
-Please contact support or install the program again.</translation>
+Please contact support or reinstall the program.</translation>
     </message>
     <message>
         <source>无法打开浏览器</source>
-        <translation>Browser Not Opened</translation>
+        <translation>Could Not Open Browser</translation>
     </message>
     <message>
         <source>无法打开默认浏览器。

@@ -440,11 +440,11 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>Browser Data</source>
-        <translation>ブラウザー データ</translation>
+        <translation>閲覧データ</translation>
     </message>
     <message>
         <source>Registry Issues</source>
-        <translation>レジストリの問題</translation>
+        <translation>レジストリ問題</translation>
     </message>
     <message>
         <source>&lt;span style=&apos;font-weight:600;&apos;&gt;Tip:&lt;/span&gt; Regular cleaning can improve your PC performance by up to 30%</source>
@@ -472,7 +472,7 @@ This action cannot be undone!</source>
     <name>DashboardStartPanel</name>
     <message>
         <source>🔍  Start Full Scan</source>
-        <translation>🔍  フルスキャン開始</translation>
+        <translation>🔍  フル スキャン開始</translation>
     </message>
     <message>
         <source>Ready to Clean Your PC</source>
@@ -515,7 +515,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>%1 (Removable)</source>
-        <translation>%1 (取り外し可能)</translation>
+        <translation>%1 (リムーバブル)</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -992,7 +992,7 @@ This action cannot be undone!</source>
 请联系技术支持或重新安装软件。</source>
         <translation>ページのリンクを読み込めません。
 
-サポートに問い合わせるか、ソフトウェアを再インストールしてください。</translation>
+サポートに問い合わせるか、再インストールしてください。</translation>
     </message>
     <message>
         <source>无法打开浏览器</source>
@@ -1062,7 +1062,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise - PC 掃除ツール&lt;/h3&gt;&lt;p&gt;バージョン 1.0.0&lt;/p&gt;&lt;p&gt;ワンクリックで PC を掃除!&lt;br&gt;不要ファイル、ブラウザー データ、レジストリの問題を取り除きます。&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</translation>
+        <translation>&lt;h3&gt;Sweepwise - PC 掃除ツール&lt;/h3&gt;&lt;p&gt;バージョン 1.0.0&lt;/p&gt;&lt;p&gt;ワンクリックで PC を掃除!&lt;br&gt;不要ファイル、閲覧データ、レジストリの問題を取り除きます。&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
@@ -1129,7 +1129,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>⚠️ Backup file can be used to restore accidentally deleted registry entries</source>
-        <translation>⚠️ 誤って削除した項目は、バックアップ ファイルから復元できます</translation>
+        <translation>⚠️ 誤って削除したエントリは、バックアップ ファイルから復元できます</translation>
     </message>
     <message>
         <source>Save to:</source>
@@ -1344,7 +1344,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>a value&apos;s name has no value</source>
-        <translation>名前に対応する値がありません</translation>
+        <translation>値の名前の後にデータがありません</translation>
     </message>
     <message>
         <source>the kind of the value is not known</source>
@@ -1364,7 +1364,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>the type of the value is not a number</source>
-        <translation>値の型が数値ではありません</translation>
+        <translation>値の種類が数値ではありません</translation>
     </message>
     <message>
         <source>a byte of two hexadecimal digits is wanted here</source>
@@ -1538,7 +1538,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>%1 programs</source>
-        <translation>%1 個のプログラム</translation>
+        <translation>プログラム %1 個</translation>
     </message>
     <message>
         <source>Search programs...</source>
@@ -1554,7 +1554,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>Checked programs will run automatically at startup</source>
-        <translation>チェックを入れたプログラムは、PC の起動時に自動的に実行されます</translation>
+        <translation>チェックしたプログラムは起動時に自動実行されます</translation>
     </message>
     <message>
         <source>Scanning installed programs...</source>

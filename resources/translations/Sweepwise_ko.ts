@@ -514,7 +514,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>%1 (Removable)</source>
-        <translation>%1 (이동식)</translation>
+        <translation>%1(이동식)</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -1157,7 +1157,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>Registry files (*.reg)</source>
-        <translation>레지스트리 파일 (*.reg)</translation>
+        <translation>레지스트리 파일(*.reg)</translation>
     </message>
 </context>
 <context>
@@ -1387,7 +1387,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
-        <translation>‘%1’은(는) 키 경로가 아닙니다</translation>
+        <translation>“%1”은(는) 키 경로가 아닙니다</translation>
     </message>
     <message>
         <source>There is no such key</source>
@@ -1423,7 +1423,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>A value without a name is not written</source>
-        <translation>이름이 없는 값은 기록하지 않습니다</translation>
+        <translation>이름이 없는 값은 기록할 수 없습니다</translation>
     </message>
     <message>
         <source>The name or the text cannot be stored as it is</source>
@@ -1554,7 +1554,7 @@ This action cannot be undone!</source>
     </message>
     <message>
         <source>Checked programs will run automatically at startup</source>
-        <translation>선택한 프로그램은 시스템을 시작할 때 자동으로 실행됩니다</translation>
+        <translation>선택한 프로그램은 부팅할 때 자동으로 실행됩니다</translation>
     </message>
     <message>
         <source>Scanning installed programs...</source>

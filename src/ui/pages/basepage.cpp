@@ -89,6 +89,8 @@ void BasePage::setupHeader()
     m_title->setStyleSheet(theme::label(theme::text, 24, 600));
     m_subtitle = new QLabel(this);
     m_subtitle->setStyleSheet(theme::label(theme::muted, 14));
+    for (QLabel *label : {m_title, m_subtitle})
+        label->setIndent(2); // bold letters such as J reach to the left of where they begin
     titles->addWidget(m_title);
     titles->addWidget(m_subtitle);
     header->addLayout(titles, 1);

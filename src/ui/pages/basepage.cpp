@@ -371,23 +371,21 @@ QList<ResultWidget *> BasePage::makeResultWidgets(QList<CleanCategory> &categori
 void BasePage::insertBar(QWidget *bar)
 {
     m_layout->insertWidget(1, bar);
-    QWidget *last = nullptr;
     const auto controls = bar->findChildren<QWidget *>();
     for (QWidget *control : controls) {
         if (control->focusPolicy() != Qt::NoFocus)
-            last = control;
+            m_lastOfBar = control;
     }
-    if (last)
-        setTabOrder(last, m_scrollArea);
     orderFocus();
 }
 
 // The list is made after the buttons below it, but stands above them.
 void BasePage::orderFocus() const
 {
-    QWidget *previous = m_scrollArea;
+    QWidget *previous = m_lastOfBar;
     const auto append = [&previous](QWidget *next) {
-        setTabOrder(previous, next);
+        if (previous)
+            setTabOrder(previous, next);
         previous = next;
     };
     for (const ResultWidget *widget : m_resultWidgets) {

@@ -110,5 +110,6 @@ private:
     QPushButton *m_cleanButton = nullptr;
     QList<ResultWidget *> m_resultWidgets;
     FocusKeeper m_focus;
+    QWidget *m_lastOfBar = nullptr; ///< to take the focus above the list
     QPointer<ProgressDialog> m_progressDialog;
 };

@@ -109,7 +109,6 @@ def differences(code, current, messages):
 
 def check():
     complaints = []
-    current = {}
     with tempfile.TemporaryDirectory() as temporary:
         fresh = pathlib.Path(temporary) / "fresh_en.ts"
         bring_up_to_date([fresh])

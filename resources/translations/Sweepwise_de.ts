@@ -415,6 +415,10 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
         <source>Low</source>
         <translation>Niedrig</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>Risiko: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

@@ -406,6 +406,10 @@ This action cannot be undone!</translation>
         <source>Low</source>
         <translation>Low</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>Risk: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

@@ -414,6 +414,10 @@ Esta acción no se puede deshacer.</translation>
         <source>Low</source>
         <translation>Bajo</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>Riesgo: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

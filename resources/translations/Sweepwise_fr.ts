@@ -416,6 +416,10 @@ Cette action est irréversible&#xa0;!</translation>
         <source>Low</source>
         <translation>Faible</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>Risque : %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

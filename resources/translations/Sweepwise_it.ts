@@ -415,6 +415,10 @@ L&apos;operazione non può essere annullata.</translation>
         <source>Low</source>
         <translation>Basso</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>Rischio: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

@@ -415,6 +415,10 @@ This action cannot be undone!</source>
         <source>Low</source>
         <translation>低</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>リスク: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

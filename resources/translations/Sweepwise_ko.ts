@@ -414,6 +414,10 @@ This action cannot be undone!</source>
         <source>Low</source>
         <translation>낮음</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>위험도: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

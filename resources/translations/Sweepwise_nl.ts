@@ -415,6 +415,10 @@ Dit kan niet ongedaan worden gemaakt!</translation>
         <source>Low</source>
         <translation>Laag</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>Risico: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

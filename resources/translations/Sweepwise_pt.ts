@@ -416,6 +416,10 @@ Esta ação não pode ser anulada!</translation>
         <source>Low</source>
         <translation>Baixo</translation>
     </message>
+    <message>
+        <source>Risk: %1</source>
+        <translation>Risco: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardResultsPanel</name>

@@ -4,12 +4,14 @@
 #include "navbutton.h"
 #include "statcard.h"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QPointer>
 #include <QScrollArea>
 
 namespace {
 
-/// A widget that is pressed by a key or the mouse.
+/// A widget that is pressed by a key or the mouse, and may tell whether it is checked or expanded.
 class PressableInterface : public QAccessibleWidget
 {
 public:
@@ -25,12 +27,13 @@ public:
 
     void doAction(const QString &name) override
     {
-        if (name != pressAction())
+        if (name != pressAction()) {
             QAccessibleWidget::doAction(name);
-        else if (auto *button = qobject_cast<NavButton *>(widget()))
-            Q_EMIT button->clicked();
-        else if (auto *card = qobject_cast<StatCard *>(widget()))
-            Q_EMIT card->activated();
+            return;
+        }
+        // Later: what it does may run a dialog, for which nobody here should have to wait.
+        QMetaObject::invokeMethod(
+            widget(), [pressed = QPointer(widget())] { press(pressed); }, Qt::QueuedConnection);
     }
 
     [[nodiscard]] QAccessible::State state() const override
@@ -40,7 +43,25 @@ public:
             state.checkable = true;
             state.checked = button->isChecked();
         }
+        if (const QVariant expanded = widget()->property("expanded"); expanded.isValid()) {
+            state.expandable = true;
+            state.expanded = expanded.toBool();
+            state.collapsed = !expanded.toBool();
+        }
         return state;
+    }
+
+private:
+    static void press(QWidget *widget)
+    {
+        if (!widget || !widget->isEnabled())
+            return;
+        if (auto *entry = qobject_cast<NavButton *>(widget))
+            Q_EMIT entry->clicked();
+        else if (auto *card = qobject_cast<StatCard *>(widget))
+            Q_EMIT card->activated();
+        else if (auto *button = qobject_cast<QAbstractButton *>(widget))
+            button->click();
     }
 };
 
@@ -70,7 +91,7 @@ private:
     CircleProgressWidget *m_circle;
 };
 
-/// Something that scrolls and holds nothing that takes the focus.
+/// A list that is scrolled by the keyboard, for which the toolkit has no role.
 class PaneInterface : public QAccessibleWidget
 {
 public:
@@ -84,9 +105,12 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
 {
     if (auto *circle = qobject_cast<CircleProgressWidget *>(object))
         return new CircleInterface(circle);
-    if (qobject_cast<NavButton *>(object) || qobject_cast<StatCard *>(object))
-        return new PressableInterface(static_cast<QWidget *>(object));
-    if (auto *area = qobject_cast<QScrollArea *>(object))
+    auto *widget = qobject_cast<QWidget *>(object);
+    if (qobject_cast<NavButton *>(object) || qobject_cast<StatCard *>(object)
+        || (qobject_cast<QAbstractButton *>(object) && widget->property("expanded").isValid()))
+        return new PressableInterface(widget);
+    if (auto *area = qobject_cast<QScrollArea *>(object);
+        area && area->focusPolicy() != Qt::NoFocus)
         return new PaneInterface(area);
     return nullptr;
 }

@@ -4,26 +4,32 @@
 #include <QWidget>
 
 /// Remembers which control of a part of the window has the focus while the control is disabled: the
-/// focus would wander off, and who works by the keyboard would have to look for it.
+/// focus wanders off then, and who works by the keyboard would have to look for it.
 class FocusKeeper final
 {
 public:
-    /// Notes the control of @p part that has the window's focus, before it is disabled.
-    void keep(const QWidget *part)
+    /// Calls @p disable and notes which control of @p part has lost the window's focus by it.
+    template<class Disable>
+    void keep(const QWidget *part, Disable disable)
     {
         QWidget *control = part->window()->focusWidget();
         m_control = control && part->isAncestorOf(control) ? control : nullptr;
+        disable();
+        m_stray = part->window()->focusWidget();
     }
 
-    /// Puts the focus back on what was noted; on @p otherwise when that cannot take it. Without
-    /// something noted nothing happens.
+    /// Puts the focus back on what was noted; on @p otherwise when that cannot take it. It stays
+    /// where it is when nothing was noted, when the user has moved it meanwhile, or when the part
+    /// is not shown any more.
     void giveBack(QWidget *otherwise)
     {
-        if (m_control)
-            (m_control->isEnabled() ? m_control.data() : otherwise)->setFocus();
+        QWidget *target = m_control && !m_control->isEnabled() ? otherwise : m_control.data();
+        if (target && target->isVisible() && target->window()->focusWidget() == m_stray)
+            target->setFocus();
         m_control.clear();
     }
 
 private:
     QPointer<QWidget> m_control;
+    QPointer<QWidget> m_stray; ///< where the focus went of itself
 };

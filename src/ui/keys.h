@@ -1,14 +1,20 @@
 #pragma once
 
 #include <QKeyEvent>
+#include <QPushButton>
 
-/// What a key does on a control that is pressed like a button but is painted by hand.
+/// What keys do on controls that do not know it themselves.
 
-/// Space and both Enter keys press it.
+[[nodiscard]] inline bool isEnter(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+/// Space and both Enter keys press a control that is painted by hand. A key that is held down
+/// presses once.
 [[nodiscard]] inline bool isPress(const QKeyEvent &event)
 {
-    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return
-        || event.key() == Qt::Key_Enter;
+    return (event.key() == Qt::Key_Space || isEnter(event)) && !event.isAutoRepeat();
 }
 
 /// The arrow keys lead to the next control (1) or the one before (-1); other keys do not (0).
@@ -24,4 +30,20 @@
     default:
         return 0;
     }
+}
+
+/// Lets Enter press the button of @p window that has the focus, for which a toolkit's button needs
+/// to be a dialog's and to be asked for it. Whether the key is used up: one that is held down is,
+/// so that it presses nothing in a window that it has just opened.
+inline bool enterPressesButton(QWidget *window, const QKeyEvent &event)
+{
+    if (!isEnter(event))
+        return false;
+    if (event.isAutoRepeat())
+        return true;
+    auto *button = qobject_cast<QPushButton *>(window->focusWidget());
+    if (!button || !button->isEnabled())
+        return false;
+    button->click();
+    return true;
 }

@@ -8,6 +8,7 @@
 #include "fullscan.h"
 #include "junkcleaner.h"
 #include "junkpage.h"
+#include "keys.h"
 #include "largefilepage.h"
 #include "linkmanager.h"
 #include "navbutton.h"
@@ -26,12 +27,10 @@
 #include <QGraphicsDropShadowEffect>
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QTranslator>
 #include <QVBoxLayout>
@@ -80,7 +79,7 @@ void MainWindow::buildLayout()
     container->setObjectName("mainContainer"_L1);
     auto *shadow = new QGraphicsDropShadowEffect(container);
     shadow->setBlurRadius(20);
-    shadow->setColor(QColor(0, 0, 0, 50));
+    shadow->setColor(theme::color(theme::black, 50));
     shadow->setOffset(0, 5);
     container->setGraphicsEffect(shadow);
     outer->addWidget(container);
@@ -311,7 +310,7 @@ void MainWindow::onAboutClicked()
     const QPixmap icon = svgPixmap(u":/icons/app.svg"_s, {64, 64}, devicePixelRatioF());
     if (!icon.isNull())
         box.setIconPixmap(icon);
-    box.setStyleSheet(theme::messageBox());
+    box.setStyleSheet(theme::aboutBox());
     box.exec();
 }
 
@@ -394,14 +393,9 @@ bool MainWindow::isInside(const QWidget *part, QPoint position) const
     return QRect(part->mapTo(this, QPoint(0, 0)), part->size()).contains(position);
 }
 
-// Outside of a dialog a button leaves the Enter keys to whom it belongs.
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
-    auto *button = qobject_cast<QPushButton *>(focusWidget());
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && button && button->isEnabled() && !event->isAutoRepeat())
-        button->click();
-    else
+    if (!enterPressesButton(this, *event))
         QWidget::keyPressEvent(event);
 }
 

@@ -31,6 +31,15 @@ QString badge(QLatin1StringView colour, QLatin1StringView background, int radius
              QString::number(pixels));
 }
 
+QString badgeButton(QLatin1StringView colour, QLatin1StringView background, int radius, int pixels)
+{
+    return u"QPushButton { %1 border: none; }QPushButton:hover { background-color: %2; }"
+           "QPushButton:pressed { background-color: %3; }"
+           "QPushButton:focus { border: 2px solid %4; padding: 0 6px; }"_s.arg(
+               badge(colour, background, radius, pixels), QString(border), QString(disabled),
+               QString(text));
+}
+
 QString filledButton(QLatin1StringView background, QLatin1StringView hovered, int radius,
                      int pixels, const QString &padding, int weight)
 {
@@ -52,11 +61,11 @@ QString dangerButton(int radius, int pixels, const QString &padding)
            u"border-radius: %3px; font-size: %4px; font-weight: 500; padding: %8; }"
            "QPushButton:hover { background-color: %5; border-color: %5; }"
            "QPushButton:pressed { background-color: %5; border-color: %5; padding-top: 2px; }"
-           "QPushButton:focus { border-color: %2; }"
+           "QPushButton:focus { border-color: %9; }"
            "QPushButton:disabled { background-color: %6; border-color: %6; color: %7; }"_s.arg(
                QString(dangerTint), QString(dangerHover), QString::number(radius),
                QString::number(pixels), QString(dangerTintHover), QString(button), QString(faint),
-               padding);
+               padding, QString(text));
 }
 
 QString card(const QString &objectName, int borderPixels, bool hoverable)
@@ -106,7 +115,7 @@ QString quietButton(int radius, int pixels)
            "QPushButton:focus { border-color: %7; }"
            "QPushButton:disabled { color: %8; }"_s.arg(
                QString(button), QString(text), QString::number(radius), QString::number(pixels),
-               QString(border), QString(disabled), QString(muted), QString(faint));
+               QString(border), QString(disabled), QString(text), QString(faint));
 }
 
 QString loadMoreButton()
@@ -114,31 +123,37 @@ QString loadMoreButton()
     return u"QPushButton {  background-color: %1;  color: %2;  border: 1px solid %3;  "
            u"border-radius: 6px;"
            "  padding: 8px 16px;  font-size: 13px;}QPushButton:hover {  background-color: %4;}"_s
-               .arg(QString(hover), QString(accent), QString(border), QString(button));
+               .arg(QString(hover), QString(accent), QString(border), QString(button))
+        + u"QPushButton:pressed {  background-color: %1;}"
+          "QPushButton:focus {  border: 2px solid %2;  padding: 7px 15px;}"_s.arg(QString(border),
+                                                                                  QString(text));
 }
 
 QString expandButton()
 {
     return u"QPushButton { border: none; color: %1; font-size: 10px; }QPushButton:hover { color: %2; }"_s
-        .arg(QString(faint), QString(accent));
+               .arg(QString(faint), QString(accent))
+        + u"QPushButton:pressed { color: %1; }"
+          "QPushButton:focus { border: 2px solid %1; border-radius: 6px; }"_s.arg(text);
 }
 
 QString linkButton()
 {
-    return u"QPushButton { border: none; color: %1; font-size: 12px; padding: 4px 2px; }"
-           "QPushButton:hover { color: %2; text-decoration: underline; }"
-           "QPushButton:pressed { color: %3; }"
-           "QPushButton:focus { text-decoration: underline; }"_s.arg(
-               QString(accentText), QString(accentHover), QString(text));
+    return u"QPushButton { border: 2px solid transparent; border-radius: 6px; color: %1; "
+           u"font-size: 12px; padding: 2px 0; }"
+           "QPushButton:hover { text-decoration: underline; }"
+           "QPushButton:pressed { background-color: %2; }"
+           "QPushButton:focus { border-color: %1; }"_s.arg(QString(text), QString(button));
 }
 
 QString iconButton()
 {
-    return u"QPushButton { border: none; border-radius: 6px; background: transparent; }"
+    return u"QPushButton { border: 2px solid transparent; border-radius: 6px; background: "
+           u"transparent; }"
            "QPushButton:hover { background-color: %1; }"
-           "QPushButton:focus { background-color: %2; }"
-           "QPushButton:pressed { background-color: %3; }"_s.arg(
-               QString(button), QString(lowRiskTint), QString(border));
+           "QPushButton:pressed { background-color: %2; }"
+           "QPushButton:focus { border-color: %3; }"_s.arg(QString(button), QString(border),
+                                                           QString(text));
 }
 
 QString browserCheckBox()
@@ -197,15 +212,35 @@ QString contextMenu()
                QString(white), QString(border), QString(text), QString(button));
 }
 
-QString messageBox()
+QString aboutBox()
 {
     return u"QMessageBox { background-color: #ffffff; }"
            "QMessageBox QLabel { color: %1; font-size: 13px; }"
            "QPushButton { background-color: %2; color: white; border: none; border-radius: 6px; "
            "padding: 8px 24px; font-size: 13px; min-width: 80px; }"
-           "QPushButton:hover, QPushButton:pressed { background-color: %3; }"
-           "QPushButton:focus { border: 2px solid %4; padding: 6px 22px; }"_s.arg(
-               QString(boxText), QString(accent), QString(accentHover), QString(text));
+           "QPushButton:hover { background-color: %3; }"_s.arg(QString(boxText), QString(accent),
+                                                               QString(accentHover));
+}
+
+QString messageBox()
+{
+    return aboutBox()
+        + u"QPushButton:pressed { background-color: %1; }"
+          "QPushButton:focus { border: 2px solid %2; padding: 6px 22px; }"_s.arg(
+              QString(accentHover), QString(text));
+}
+
+QString inputDialog()
+{
+    return messageBox()
+        + u"QInputDialog { background-color: %1; }QLabel { color: %2; font-size: 13px; }"
+          "QSpinBox { background-color: %1; color: %2; border: 1px solid %3; border-radius: 6px; "
+          "padding: 6px 8px; font-size: 13px; }"
+          "QSpinBox:focus { border-color: %4; }"
+          "QSpinBox::up-button, QSpinBox::down-button { border: none; width: 20px; }"
+          "QSpinBox::up-arrow { image: url(:/icons/chevron-up.svg); width: 10px; height: 10px; }"
+          "QSpinBox::down-arrow { image: url(:/icons/chevron-down.svg); width: 10px; "
+          "height: 10px; }"_s.arg(QString(white), QString(text), QString(border), QString(accent));
 }
 
 QString progressBar()
@@ -249,7 +284,7 @@ QString dialogButton(QLatin1StringView background, QLatin1StringView colour,
            "QPushButton:pressed { background-color: %3; padding-top: 2px; }"
            "QPushButton:focus { border: 2px solid %5; }"_s.arg(
                QString(background), QString(colour), QString(hovered), QString::number(pixels),
-               QString(colour == white ? text : muted));
+               QString(text));
 }
 
 QString framedButton()
@@ -258,7 +293,7 @@ QString framedButton()
            u"border-radius: 8px; font-size: 13px; }QPushButton:hover { background-color: %3; }"
            "QPushButton:pressed { background-color: %2; }"
            "QPushButton:focus { border: 2px solid %4; }"_s.arg(QString(text), QString(border),
-                                                               QString(button), QString(muted));
+                                                               QString(button), QString(text));
 }
 
 namespace {
@@ -332,8 +367,8 @@ QString plainCard(const QString &objectName)
 QString statCard(const QString &objectName)
 {
     return u"#%1 { background: white;border: 1px solid %2;border-radius: 14px; }"
-           "#%1:hover { border-color: %3; }#%1:focus { border: 2px solid %3; }"_s.arg(
-               objectName, QString(border), QString(accent));
+           "#%1:hover { border-color: %3; }#%1:focus { border: 2px solid %4; }"_s.arg(
+               objectName, QString(border), QString(accent), QString(text));
 }
 
 QString tipBox(const QString &objectName)

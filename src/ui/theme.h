@@ -16,14 +16,13 @@ inline constexpr QLatin1StringView dangerHover("#DC2626");
 inline constexpr QLatin1StringView warning("#F59E0B");
 inline constexpr QLatin1StringView text("#111827");
 inline constexpr QLatin1StringView muted("#6B7280");
-/// Muted on a grey ground.
-inline constexpr QLatin1StringView mutedOnGrey("#4B5563");
 inline constexpr QLatin1StringView faint("#9CA3AF");
 inline constexpr QLatin1StringView border("#E5E7EB");
 inline constexpr QLatin1StringView button("#F3F4F6");
 inline constexpr QLatin1StringView hover("#F9FAFB");
 inline constexpr QLatin1StringView stripe("#FAFBFC");
 inline constexpr QLatin1StringView white("#FFFFFF");
+inline constexpr QLatin1StringView black("#000000");
 inline constexpr QLatin1StringView disabled("#D1D5DB");
 inline constexpr QLatin1StringView closeHover("#E81123");
 inline constexpr QLatin1StringView sparkle("#FCD34D");
@@ -52,6 +51,9 @@ inline constexpr QLatin1StringView boxText("#333333");
 /// A rounded pill of text.
 [[nodiscard]] QString badge(QLatin1StringView colour, QLatin1StringView background, int radius,
                             int pixels);
+/// The same as a button.
+[[nodiscard]] QString badgeButton(QLatin1StringView colour, QLatin1StringView background,
+                                  int radius, int pixels);
 /// A filled button with white text.
 [[nodiscard]] QString filledButton(QLatin1StringView background, QLatin1StringView hovered,
                                    int radius, int pixels, const QString &padding,
@@ -81,7 +83,11 @@ inline constexpr QLatin1StringView boxText("#333333");
 [[nodiscard]] QString menu();
 /// A menu on a card.
 [[nodiscard]] QString contextMenu();
+[[nodiscard]] QString aboutBox();
+/// Every other message box: the same, and its focus is seen.
 [[nodiscard]] QString messageBox();
+/// A box that asks for a number.
+[[nodiscard]] QString inputDialog();
 [[nodiscard]] QString progressBar();
 [[nodiscard]] QString lineEdit(int pixels, int radius);
 /// A thin bar whose filled part has this colour.

@@ -58,8 +58,8 @@ void WinButton::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const bool isClose = m_type == Close;
     QColor glyph = theme::color(theme::muted);
-    if (underMouse()) {
-        const QColor background = isClose ? theme::color(theme::closeHover)
+    if (underMouse() || isDown()) {
+        const QColor background = isClose ? theme::color(theme::closeHover, isDown() ? 200 : 255)
                                           : theme::color(theme::muted, isDown() ? 64 : 32);
         painter.setPen(Qt::NoPen);
         painter.setBrush(background);

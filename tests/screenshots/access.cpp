@@ -1,6 +1,8 @@
 #include "access.h"
 
 #include <QAccessible>
+#include <QCheckBox>
+#include <QScrollArea>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -56,6 +58,16 @@ bool standsBefore(const QRect &one, const QRect &other)
         || (one.right() < other.left() && one.top() <= other.bottom());
 }
 
+/// Whether the widget is one of many alike, of which the name alone may not tell enough.
+bool isListed(const QWidget *widget)
+{
+    for (const QWidget *parent = widget; parent; parent = parent->parentWidget()) {
+        if (qobject_cast<const QScrollArea *>(parent))
+            return true;
+    }
+    return false;
+}
+
 QStringList nameFaults(const QWidget *widget)
 {
     QAccessibleInterface *access = QAccessible::queryAccessibleInterface(
@@ -65,6 +77,9 @@ QStringList nameFaults(const QWidget *widget)
     QStringList faults;
     if (access->text(QAccessible::Name).trimmed().isEmpty())
         faults.append(described(widget) + ": takes the focus and has no name"_L1);
+    if (qobject_cast<const QCheckBox *>(widget) && isListed(widget)
+        && access->text(QAccessible::Description).isEmpty())
+        faults.append(described(widget) + ": stands in a list and has no description"_L1);
     if (access->role() == QAccessible::NoRole || access->role() == QAccessible::Client)
         faults.append(described(widget) + ": takes the focus and has no role"_L1);
     return faults;
@@ -76,6 +91,17 @@ QStringList accessFaults(const QWidget *window)
 {
     QStringList faults;
     const QList<const QWidget *> chain = tabChain(window);
+    QList<const QWidget *> parts;
+    for (const QWidget *widget : chain) {
+        if (parts.isEmpty() || parts.constLast() != partOf(widget))
+            parts.append(partOf(widget));
+    }
+    if (parts.size() > 1 && parts.constFirst() == parts.constLast())
+        parts.removeLast(); // the chain is a ring
+    for (qsizetype i = 0; i < parts.size(); ++i) {
+        if (parts.indexOf(parts.at(i)) < i)
+            faults.append(u"the tab key comes back to %1"_s.arg(described(parts.at(i))));
+    }
     const QWidget *before = nullptr;
     for (const QWidget *widget : chain) {
         faults += nameFaults(widget);

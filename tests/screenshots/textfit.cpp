@@ -13,6 +13,7 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
+#include <QStyleOptionFrame>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -90,8 +91,8 @@ QStringList checkButton(const QAbstractButton *button, QStyle::SubElement conten
     QSize needed = textSize(button, button->text());
     if (!button->icon().isNull())
         needed.rwidth() += button->iconSize().width() + 4;
-    needed.setHeight(qMin(needed.height(), button->height())); // emoji are higher than the line
-    if (needed.width() <= given.width() && needed.height() <= button->height())
+    needed.setHeight(button->fontMetrics().height()); // emoji are higher than the line
+    if (fits(needed, given))
         return {};
     return {described(button, button->text(), sizes(needed, given))};
 }
@@ -130,8 +131,12 @@ QStringList checkOne(const QWidget *widget)
     if (const auto *edit = qobject_cast<const QLineEdit *>(widget)) {
         const QString text = edit->placeholderText();
         const QSize needed = textSize(edit, text);
-        if (needed.width() + 2 > edit->contentsRect().width())
-            return {described(edit, text, sizes(needed, edit->contentsRect().size()))};
+        QStyleOptionFrame option;
+        option.initFrom(edit);
+        const QSize given =
+            edit->style()->subElementRect(QStyle::SE_LineEditContents, &option, edit).size();
+        if (needed.width() > given.width())
+            return {described(edit, text, sizes(needed, given))};
     }
     return {};
 }

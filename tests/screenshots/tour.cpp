@@ -22,6 +22,7 @@
 #include "statcard.h"
 #include "testhome.h"
 #include "testtree.h"
+#include "theme.h"
 #include "titlebar.h"
 
 #include <QApplication>
@@ -30,6 +31,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -119,6 +121,25 @@ Widget *findWindow()
     return nullptr;
 }
 
+/// Calls @p open, which runs a dialog, and stops there; @p change may change it for a second stop.
+void visitDialog(Tour &tour, const QString &name, QWidget *window,
+                 const std::function<void()> &open,
+                 const std::function<void(QWidget *)> &change = {})
+{
+    QTimer::singleShot(300, window, [&tour, &name, window, &change] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            qFatal("no dialog for %s", qPrintable(name));
+        tour.stop(name, window, {dialog});
+        if (change) {
+            change(dialog);
+            tour.stop(name + "-changed"_L1, window, {dialog});
+        }
+        dialog->close();
+    });
+    open();
+}
+
 void visitBrowsers(Tour &tour, MainWindow *window)
 {
     auto *page = window->findChild<BrowserPage *>();
@@ -174,7 +195,6 @@ void visitLargeFiles(Tour &tour, const TestHome &home)
     auto *stack = window->findChild<QStackedWidget *>(u"pageStack"_s);
     auto *page = new LargeFilePage(drives, stack);
     window->onDashboardNavigate(5);
-    tour.stop(u"large-mounted"_s, window);
     stack->addWidget(page);
     stack->setCurrentWidget(page);
     const auto cards = page->findChildren<DriveCard *>();
@@ -184,6 +204,8 @@ void visitLargeFiles(Tour &tour, const TestHome &home)
     combo->showPopup();
     tour.stop(u"large-sizes"_s, window, {combo->findChild<QFrame *>()});
     combo->hidePopup();
+    visitDialog(tour, u"large-custom"_s, window,
+                [combo] { combo->setCurrentIndex(combo->count() - 1); });
 
     ScanProgressDialog scanning(window);
     scanning.show();
@@ -203,18 +225,8 @@ void visitLargeFiles(Tour &tour, const TestHome &home)
     Q_EMIT first->customContextMenuRequested({300, 40});
     tour.stop(u"large-menu"_s, window, {first->findChild<QMenu *>()});
     first->findChild<QMenu *>()->close();
+    visitDialog(tour, u"large-question"_s, window, [page] { page->onDeleteSelected(); });
     window->onDashboardNavigate(1);
-}
-
-void visitDialog(Tour &tour, const QString &name, QWidget *window,
-                 const std::function<void()> &open)
-{
-    QTimer::singleShot(300, window, [&tour, &name, window] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        tour.stop(name, window, {dialog});
-        dialog->close();
-    });
-    open();
 }
 
 // Before the first scan, which the pages share with the dashboard.
@@ -312,12 +324,28 @@ void visitJunk(Tour &tour)
     languages->close();
     titleBar->menu()->close();
 
-    QTimer::singleShot(300, window, [&tour, window] {
-        QWidget *box = QApplication::activeModalWidget();
-        tour.stop(u"about"_s, window, {box});
-        box->close();
+    visitDialog(tour, u"about"_s, window, [window] { window->onAboutClicked(); });
+    visitDialog(tour, u"language-changed"_s, window, [window] {
+        QMessageBox box(
+            QMessageBox::Information, QCoreApplication::translate("TitleBar", "Language Changed"),
+            QCoreApplication::translate("TitleBar",
+                                        "Language has been changed.\n\nThe application will "
+                                        "restart now."),
+            QMessageBox::Ok, window);
+        box.setStyleSheet(theme::messageBox());
+        box.exec();
     });
-    window->onAboutClicked();
+    application->settings()->setValue("clean/confirmClean"_L1, true);
+    visitDialog(tour, u"junk-question"_s, window, [clean] { clean->click(); });
+    application->settings()->setValue("clean/confirmClean"_L1, false);
+    ProgressDialog cleaning(ProgressDialog::Cleaning, window);
+    cleaning.show();
+    cleaning.setProgress(11, 25);
+    cleaning.setCleanedSize(1'234'567'890);
+    tour.stop(u"junk-cleaning"_s, window, {&cleaning});
+    cleaning.showResult(false, u"C:/Windows/Temp: Access is denied"_s);
+    tour.stop(u"junk-failed"_s, window, {&cleaning});
+    cleaning.hide();
 
     QSignalSpy cleaned(application->junkCleaner(), &CleanEngine::cleanFinished);
     clean->click();
@@ -364,14 +392,10 @@ void visitStartup(Tour &tour, const TestHome &home)
     tour.stop(u"startup-list"_s, window);
     window->findChild<QLineEdit *>(u"searchEdit"_s)->setText(u"p"_s);
     tour.stop(u"startup-search"_s, window);
-    QTimer::singleShot(300, window, [&tour, window] {
-        QWidget *box = QApplication::activeModalWidget();
-        tour.stop(u"startup-warning"_s, window, {box});
-        box->close();
-    });
     // A prefix that may not be written: somebody else has changed it since it was read.
     QFile::remove(registry.file(u"HKEY_CURRENT_USER"_s));
-    window->findChild<StartupCard *>()->checkBox()->click();
+    visitDialog(tour, u"startup-warning"_s, window,
+                [window] { window->findChild<StartupCard *>()->checkBox()->click(); });
 }
 
 void fillRegistry(RegistryFixture &registry)
@@ -414,14 +438,10 @@ void visitRegistry(Tour &tour, const TestHome &home)
     tour.stop(u"registry-details"_s, window, {details});
     details->reject();
 
-    QTimer::singleShot(300, window, [&tour, window] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        tour.stop(u"registry-backup"_s, window, {dialog});
-        dialog->findChild<QCheckBox *>()->click();
-        tour.stop(u"registry-backup-off"_s, window, {dialog});
-        dialog->close();
-    });
-    page->findChild<QPushButton *>(u"cleanBtn"_s)->click();
+    visitDialog(
+        tour, u"registry-backup"_s, window,
+        [page] { page->findChild<QPushButton *>(u"cleanBtn"_s)->click(); },
+        [](QWidget *dialog) { dialog->findChild<QCheckBox *>()->click(); });
 }
 
 } // namespace

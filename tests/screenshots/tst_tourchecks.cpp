@@ -3,8 +3,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTest>
@@ -61,6 +63,25 @@ private Q_SLOTS:
         QCOMPARE(faultsOf(new QPushButton(text), -60).size(), 1);
         QCOMPARE(faultsOf(new QCheckBox(text), 0), QStringList());
         QCOMPARE(faultsOf(new QCheckBox(text), -10).size(), 1);
+        auto *low = new QPushButton(text);
+        low->setMaximumHeight(8);
+        QCOMPARE(faultsOf(low, 0).size(), 1);
+        QCOMPARE(faultsOf(new QGroupBox(text), 200), QStringList());
+        QCOMPARE(faultsOf(new QGroupBox(text), -20).size(), 1);
+    }
+
+    void aPlaceholderNeedsRoomWithinThePadding()
+    {
+        QWidget window;
+        auto *edit = new QLineEdit(&window);
+        edit->setPlaceholderText(text);
+        edit->setStyleSheet(u"padding: 0 8px; border: 1px solid black;"_s);
+        edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(text) + 24);
+        window.resize(400, 100);
+        window.show();
+        QCOMPARE(unreadableTexts(&window), QStringList());
+        edit->setFixedWidth(edit->width() - 10);
+        QCOMPARE(unreadableTexts(&window).size(), 1);
     }
 
     void aComboBoxNeedsRoomForItsLongestEntry()

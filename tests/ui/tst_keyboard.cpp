@@ -6,6 +6,8 @@
 #include "cleanitemwidget.h"
 #include "dashboardpage.h"
 #include "filecard.h"
+#include "focuskeeper.h"
+#include "itemdetaildialog.h"
 #include "junkcleaner.h"
 #include "junkpage.h"
 #include "largefileinfo.h"
@@ -32,6 +34,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -41,15 +44,16 @@ constexpr int patience = 30'000;
 constexpr int mostStops = 200;
 
 /// Presses a key where the focus is, as the desktop would deliver it.
-void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+bool press(Qt::Key key)
 {
     QWidget *target = QApplication::activePopupWidget();
     if (!target)
         target = QApplication::focusWidget();
     if (!target)
         target = QApplication::activeWindow();
-    QVERIFY(target);
-    QTest::keyClick(target, key, modifiers);
+    if (target)
+        QTest::keyClick(target, key);
+    return target;
 }
 
 /// Tabs until the focus is on @p target; false when it never gets there.
@@ -58,7 +62,8 @@ bool tabTo(const QWidget *target)
     for (int stop = 0; stop < mostStops; ++stop) {
         if (QApplication::focusWidget() == target)
             return true;
-        press(Qt::Key_Tab);
+        if (!press(Qt::Key_Tab))
+            return false;
     }
     return false;
 }
@@ -80,6 +85,15 @@ Dialog *shownDialog()
             return dialog;
     }
     return nullptr;
+}
+
+/// For a test that does not find the dialog that it looked for, and would wait for another for
+/// ever.
+void endModal()
+{
+    if (QWidget *dialog = QApplication::activeModalWidget())
+        dialog->close();
+    QFAIL("there is no such dialog");
 }
 
 QAccessibleInterface *accessOf(QObject *object)
@@ -171,7 +185,8 @@ private Q_SLOTS:
         bool wasAsked = false;
         QTimer::singleShot(200, this, [&wasAsked] {
             auto *box = shownDialog<QMessageBox>();
-            QVERIFY(box);
+            if (!box)
+                return endModal();
             const QAbstractButton *yes = box->button(QMessageBox::Yes);
             wasAsked = tabTo(yes);
             press(Qt::Key_Space);
@@ -193,11 +208,116 @@ private Q_SLOTS:
 
     void escapeCancelsAScan()
     {
-        ProgressDialog dialog(ProgressDialog::Scanning, m_window.get());
-        SignalSpy cancelled(&dialog, &ProgressDialog::cancelRequested);
+        for (int i = 0; i < 3000; ++i)
+            write(u"%1/many/%2/file.tmp"_s.arg(m_temp, QString::number(i)), 1);
+        auto *page = m_window->findChild<JunkPage *>();
+        m_window->onDashboardNavigate(1);
+        SignalSpy scanned(page, &BasePage::scanFinished);
+        page->startScan();
+        auto *dialog = shownDialog<ProgressDialog>();
+        QVERIFY(dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(!shownDialog<ProgressDialog>());
+        page->engine()->stopAndWait();
+        QCoreApplication::processEvents();
+        QCOMPARE(scanned.size(), 0);
+        QCOMPARE(page->engine()->state(), CleanEngine::State::Cancelled);
+    }
+
+    void enterPressesTheButtonThatHasTheFocus_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("saves");
+        QTest::newRow("cancel") << u"cancelBtn"_s << false;
+        QTest::newRow("save") << u"saveBtn"_s << true;
+    }
+
+    void enterPressesTheButtonThatHasTheFocus()
+    {
+        QFETCH(QString, button);
+        QFETCH(bool, saves);
+        SettingsDialog dialog(m_window.get());
         dialog.show();
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-        QCOMPARE(cancelled.size(), 1);
+        auto *box = dialog.findChild<QCheckBox *>(u"confirmCleanCheck"_s);
+        QVERIFY(box->isChecked());
+        box->click();
+        dialog.findChild<QPushButton *>(button)->setFocus();
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(Application::instance()->option("clean/confirmClean"_L1, true), !saves);
+    }
+
+    void theDetailsCloseByEnterOnTheirButtonAndByEscape()
+    {
+        CleanCategory category(u"temp_files"_s, u"Temporary"_s, {});
+        category.items.append(CleanItem(u"a"_s, u"/a"_s, 1));
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            ItemDetailDialog dialog(&category, m_window.get());
+            dialog.show();
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            QVERIFY(dialog.isVisible()); // the list has the focus
+            dialog.findChild<QPushButton *>()->setFocus();
+            QTest::keyClick(&dialog, key);
+            QVERIFY(!dialog.isVisible());
+        }
+    }
+
+    void aKeyThatIsHeldDownPressesOnce()
+    {
+        SettingsDialog dialog(m_window.get());
+        dialog.show();
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, true);
+        QApplication::sendEvent(&dialog, &held);
+        QVERIFY(dialog.isVisible());
+        SignalSpy clicked(nav(1), &NavButton::clicked);
+        QApplication::sendEvent(nav(1), &held);
+        QCOMPARE(clicked.size(), 0);
+        QTest::keyClick(nav(1), Qt::Key_Return);
+        QCOMPARE(clicked.size(), 1);
+    }
+
+    void theFocusComesBackOnlyToWhoWaitsForIt_data()
+    {
+        QTest::addColumn<QString>("meanwhile");
+        QTest::newRow("nothing") << u"nothing"_s;
+        QTest::newRow("the focus is moved") << u"moved"_s;
+        QTest::newRow("the part is hidden") << u"hidden"_s;
+        QTest::newRow("the control stays disabled") << u"disabled"_s;
+        QTest::newRow("the control is gone") << u"gone"_s;
+    }
+
+    void theFocusComesBackOnlyToWhoWaitsForIt()
+    {
+        QFETCH(QString, meanwhile);
+        QWidget window;
+        QWidget part(&window);
+        auto *control = new QPushButton(&part);
+        QPushButton otherwise(&part);
+        QPushButton first(&window);
+        QPushButton second(&window);
+        window.show();
+        control->setFocus();
+        FocusKeeper keeper;
+        keeper.keep(&part, [&control, &otherwise] {
+            control->setEnabled(false);
+            otherwise.setEnabled(false);
+        });
+        const QWidget *stray = window.focusWidget();
+        QVERIFY(stray != control);
+        otherwise.setEnabled(true);
+        control->setEnabled(meanwhile != "disabled"_L1);
+        if (meanwhile == "moved"_L1)
+            (stray == &first ? second : first).setFocus();
+        if (meanwhile == "hidden"_L1)
+            part.hide();
+        if (meanwhile == "gone"_L1)
+            delete std::exchange(control, nullptr);
+        const QWidget *before = window.focusWidget();
+        keeper.giveBack(&otherwise);
+        const QWidget *expected = meanwhile == "nothing"_L1 ? control
+            : meanwhile == "disabled"_L1                    ? &otherwise
+                                                            : before;
+        QCOMPARE(window.focusWidget(), expected);
     }
 
     void arrowsLeadAlongTheNavigation()
@@ -237,7 +357,8 @@ private Q_SLOTS:
     {
         QTimer::singleShot(200, this, [] {
             auto *dialog = shownDialog<SettingsDialog>();
-            QVERIFY(dialog);
+            if (!dialog)
+                return endModal();
             auto *box = dialog->findChild<QCheckBox *>(u"confirmCleanCheck"_s);
             QVERIFY(tabTo(box));
             press(Qt::Key_Space);
@@ -287,7 +408,7 @@ private Q_SLOTS:
         QVERIFY(entry->actionInterface()->actionNames().contains(
             QAccessibleActionInterface::pressAction()));
         entry->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QCOMPARE(stack()->currentIndex(), 2);
+        QTRY_COMPARE(stack()->currentIndex(), 2);
         QVERIFY(entry->state().checked);
 
         auto *page = m_window->findChild<DashboardPage *>();
@@ -296,7 +417,7 @@ private Q_SLOTS:
         QCOMPARE(card->role(), QAccessible::Button);
         QVERIFY(card->text(QAccessible::Name).contains(u"1.0 KB"_s));
         card->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QCOMPARE(stack()->currentIndex(), 1);
+        QTRY_COMPARE(stack()->currentIndex(), 1);
 
         QAccessibleInterface *circle = accessOf(page->findChild<CircleProgressWidget *>());
         QCOMPARE(circle->role(), QAccessible::ProgressBar);
@@ -311,9 +432,28 @@ private Q_SLOTS:
         category.items.append(CleanItem(u"a"_s, u"/a"_s, 1));
         CategoryWidget widget(&category);
         QAccessibleInterface *expander = accessOf(widget.findChild<QPushButton *>(u"expandBtn"_s));
+        QCOMPARE(expander->role(), QAccessible::Button);
         QCOMPARE(expander->text(QAccessible::Description), u"Collapsed"_s);
-        widget.toggleExpanded();
+        QVERIFY(expander->state().expandable && expander->state().collapsed);
+        expander->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QTRY_VERIFY(widget.isExpanded());
         QCOMPARE(expander->text(QAccessible::Description), u"Expanded"_s);
+        QVERIFY(expander->state().expanded && !expander->state().collapsed);
+    }
+
+    void checkBoxesTellRiskSizeAndPlace()
+    {
+        CleanCategory category(u"google_chrome_cookies"_s, u"Cookies"_s, u"Signs you out"_s);
+        category.riskLevel = HighRisk;
+        CleanItem item(u"a"_s, u"/b/a"_s, 1024);
+        item.riskLevel = MediumRisk;
+        category.items.append(item);
+        CategoryWidget widget(&category);
+        widget.toggleExpanded();
+        const auto *header = widget.findChild<QCheckBox *>(u"categoryCheck"_s);
+        QCOMPARE(header->accessibleDescription(), u"Risk: High. Signs you out"_s);
+        const auto *box = widget.findChild<CleanItemWidget *>()->findChild<QCheckBox *>();
+        QCOMPARE(box->accessibleDescription(), u"Risk: Medium, 1.0 KB, /b/a"_s);
     }
 
 private:

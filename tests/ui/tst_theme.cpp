@@ -47,8 +47,10 @@ private Q_SLOTS:
         add("text", theme::text, theme::hover);
         add("quiet text on a page", theme::muted, theme::hover);
         add("quiet text on a card", theme::muted, theme::white);
-        add("badge of a browser", theme::mutedOnGrey, theme::button);
-        add("link", theme::accentText, theme::white);
+        add("badge of a browser", theme::text, theme::button);
+        add("link", theme::text, theme::white);
+        add("link, pressed", theme::text, theme::button);
+        add("list of sizes", theme::text, theme::white);
         add("percentage and figure", theme::accentText, theme::hover);
         add("chosen entry of a menu", theme::accentText, theme::lowRiskTint);
         add("enabled", theme::startupText, theme::startupTint);

@@ -1,5 +1,6 @@
 #include "framelessdialog.h"
 
+#include "keys.h"
 #include "theme.h"
 
 #include <QMouseEvent>
@@ -30,7 +31,7 @@ void FramelessDialog::paintShadowedGround(int radius)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 30));
+    painter.setBrush(theme::color(theme::black, 30));
     painter.drawRoundedRect(rect().adjusted(4, 4, -4, -4), radius, radius);
     painter.setBrush(theme::color(theme::white));
     painter.drawRoundedRect(rect().adjusted(0, 0, -8, -8), radius, radius);
@@ -48,6 +49,12 @@ void FramelessDialog::showEvent(QShowEvent *event)
     place.moveLeft(qMax(available.left(), qMin(place.left(), available.right() - place.width())));
     place.moveTop(qMax(available.top(), qMin(place.top(), available.bottom() - place.height())));
     move(place.topLeft());
+}
+
+void FramelessDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (!enterPressesButton(this, *event))
+        QDialog::keyPressEvent(event);
 }
 
 void FramelessDialog::mousePressEvent(QMouseEvent *event)

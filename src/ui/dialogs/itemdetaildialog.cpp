@@ -24,6 +24,7 @@ namespace {
 
 constexpr qsizetype batchSize = 50;
 constexpr int columnMargin = 20; ///< of the rows and of the header above them
+constexpr int listBorder = 1;
 
 } // namespace
 
@@ -65,7 +66,8 @@ ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *paren
     const QScrollBar *bar = m_scrollArea->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, header, [bar, header](int, int maximum) {
         const int room = maximum > 0 ? bar->sizeHint().width() : 0;
-        header->layout()->setContentsMargins(columnMargin, 0, columnMargin + room, 0);
+        header->layout()->setContentsMargins(columnMargin + listBorder, 0,
+                                             columnMargin + listBorder + room, 0);
     });
     m_scrollArea->setFocus();
 
@@ -129,7 +131,7 @@ QWidget *ItemDetailDialog::buildColumnHeader()
             QString(theme::hover), QString(theme::border)));
     header->setFixedHeight(38);
     auto *layout = new QHBoxLayout(header);
-    layout->setContentsMargins(columnMargin, 0, columnMargin, 0);
+    layout->setContentsMargins(columnMargin + listBorder, 0, columnMargin + listBorder, 0);
     layout->setSpacing(12);
     const auto addColumn = [&](const QString &text, Qt::Alignment alignment, int width) {
         auto *label = new QLabel(text, header);

@@ -286,9 +286,10 @@ void BasePage::deliverLateSignals()
 
 ProgressDialog *BasePage::openProgressDialog(int mode)
 {
-    m_focus.keep(this);
-    m_scanButton->setEnabled(false);
-    m_cleanButton->setEnabled(false);
+    m_focus.keep(this, [this] {
+        m_scanButton->setEnabled(false);
+        m_cleanButton->setEnabled(false);
+    });
     closeProgressDialog();
     m_progressDialog = new ProgressDialog(static_cast<ProgressDialog::Mode>(mode), this);
     connect(m_progressDialog, &ProgressDialog::cancelRequested, this, &BasePage::cancelOperation);

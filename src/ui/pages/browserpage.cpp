@@ -90,6 +90,8 @@ void BrowserPage::retranslateUi()
     setSubtitle(tr("Clean browser cache, cookies and history"));
     setStatisticCaption(tr("Cleanable Data"));
     m_selectLabel->setText(tr("Select Browser:"));
+    for (QCheckBox *box : std::as_const(m_browserBoxes))
+        box->setAccessibleDescription(m_selectLabel->text());
 }
 
 QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categories,

@@ -40,12 +40,16 @@ DashboardPage::DashboardPage(QWidget *parent)
 
 void DashboardPage::setScanning(bool scanning)
 {
-    if (scanning)
-        m_focus.keep(this);
-    m_start->setScanning(scanning);
-    m_results->setScanning(scanning);
-    if (!scanning)
-        m_focus.giveBack(this);
+    const auto show = [this, scanning] {
+        m_start->setScanning(scanning);
+        m_results->setScanning(scanning);
+    };
+    if (scanning) {
+        m_focus.keep(this, show);
+        return;
+    }
+    show();
+    m_focus.giveBack(this);
 }
 
 void DashboardPage::updateProgress(int percent, const QString &currentPath)

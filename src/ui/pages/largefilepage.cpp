@@ -115,10 +115,16 @@ void LargeFilePage::onSizeComboChanged(int index)
     if (m_selection->sizeCombo()->itemData(index).toLongLong()
         != LargeFileSelectionView::customItem)
         return;
-    bool isAccepted = false;
-    const int value =
-        QInputDialog::getInt(this, tr("Custom File Size"), tr("Enter minimum file size (MB):"), 100,
-                             1, 10'240, 10, &isAccepted);
+    QInputDialog dialog(this);
+    dialog.setInputMode(QInputDialog::IntInput);
+    dialog.setWindowTitle(tr("Custom File Size"));
+    dialog.setLabelText(tr("Enter minimum file size (MB):"));
+    dialog.setIntRange(1, 10'240);
+    dialog.setIntStep(10);
+    dialog.setIntValue(100);
+    dialog.setStyleSheet(theme::inputDialog());
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    const int value = dialog.intValue();
     const QSignalBlocker blocker(m_selection->sizeCombo());
     if (!isAccepted) {
         m_selection->sizeCombo()->setCurrentIndex(LargeFileSelectionView::defaultSizeIndex);

@@ -76,7 +76,7 @@ void BrowserGroupWidget::buildHeader(const QString &name)
 
     m_count = new QLabel(m_header);
     m_count->setObjectName("browserItemCount"_L1);
-    m_count->setStyleSheet(theme::badge(theme::mutedOnGrey, theme::button, 10, 12));
+    m_count->setStyleSheet(theme::badge(theme::text, theme::button, 10, 12));
     m_count->hide();
     layout->addWidget(m_count, 0, Qt::AlignVCenter);
     layout->addStretch();
@@ -88,13 +88,13 @@ void BrowserGroupWidget::buildHeader(const QString &name)
     layout->addWidget(m_checkBox);
 
     m_expandButton = new QPushButton(m_header);
+    setExpander(m_header, m_expandButton);
     m_expandButton->setObjectName("browserExpandBtn"_L1);
     m_expandButton->setFixedSize(28, 28);
     m_expandButton->setIconSize({20, 20});
     m_expandButton->setCursor(Qt::PointingHandCursor);
     m_expandButton->setStyleSheet(theme::iconButton());
     m_expandButton->setAccessibleName(tr("Show the data of %1").arg(name));
-    setExpander(m_header, m_expandButton);
     layout->addWidget(m_expandButton);
 }
 
@@ -157,6 +157,7 @@ void BrowserGroupWidget::showCount()
     for (const BrowserSubItem *subItem : std::as_const(m_subItems))
         count += subItem->category().items.size();
     m_count->setText(tr("%1 items").arg(count));
+    m_checkBox->setAccessibleDescription(m_count->text());
     m_count->setVisible(count >= 1);
 }
 

@@ -49,6 +49,8 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
 
     m_checkBox->setObjectName("subItemCheck"_L1);
     m_checkBox->setAccessibleName(name);
+    m_checkBox->setAccessibleDescription(risk::described(*category));
+    m_checkBox->setWhatsThis(plainToolTip(m_checkBox->accessibleDescription()));
     m_checkBox->setChecked(category->checked);
     connect(m_checkBox, &QCheckBox::toggled, this, &BrowserSubItem::onToggled);
     layout->addWidget(m_checkBox);

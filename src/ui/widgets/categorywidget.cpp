@@ -102,7 +102,7 @@ void CategoryWidget::buildHeader()
 
     m_count = new QPushButton(m_header);
     m_count->setObjectName("itemCount"_L1);
-    m_count->setStyleSheet(theme::badge(theme::muted, theme::button, 10, 12) + " border: none;"_L1);
+    m_count->setStyleSheet(theme::badgeButton(theme::muted, theme::button, 10, 12));
     m_count->setCursor(Qt::PointingHandCursor);
     m_count->setToolTip(tr("View Details"));
     connect(m_count, &QPushButton::clicked, this, &CategoryWidget::showDetails);
@@ -123,16 +123,19 @@ void CategoryWidget::buildHeader()
     m_checkBox = new QCheckBox(m_header);
     m_checkBox->setObjectName("categoryCheck"_L1);
     m_checkBox->setAccessibleName(m_name->text());
+    m_checkBox->setAccessibleDescription(risk::described(*m_category));
+    m_checkBox->setWhatsThis(plainToolTip(m_checkBox->accessibleDescription()));
     connect(m_checkBox, &QCheckBox::clicked, this, &CategoryWidget::setChecked);
     layout->addWidget(m_checkBox);
 
-    m_expandButton = new QPushButton(u"▼"_s, m_header);
+    m_expandButton = new QPushButton(m_header);
+    setExpander(m_header, m_expandButton);
+    m_expandButton->setText(u"▼"_s);
     m_expandButton->setObjectName("expandBtn"_L1);
     m_expandButton->setFixedSize(28, 28);
     m_expandButton->setCursor(Qt::PointingHandCursor);
     m_expandButton->setStyleSheet(theme::expandButton());
     m_expandButton->setAccessibleName(tr("Show items of %1").arg(m_name->text()));
-    setExpander(m_header, m_expandButton);
     layout->addWidget(m_expandButton);
 }
 

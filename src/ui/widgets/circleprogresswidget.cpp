@@ -2,6 +2,7 @@
 
 #include "theme.h"
 
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QPainter>
@@ -34,6 +35,8 @@ void CircleProgressWidget::setProgress(int progress)
 {
     m_progress = qBound(0, progress, 100);
     refresh();
+    QAccessibleValueChangeEvent event(this, m_progress);
+    QAccessible::updateAccessibility(&event);
 }
 
 void CircleProgressWidget::setValue(double value)

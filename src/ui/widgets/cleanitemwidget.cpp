@@ -41,6 +41,9 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
     m_checkBox = new QCheckBox(this);
     m_checkBox->setChecked(item().checked);
     m_checkBox->setAccessibleName(singleLine(item().name));
+    m_checkBox->setAccessibleDescription(QStringList{
+        risk::spoken(item().riskLevel), formatSize(item().size), singleLine(item().path)}
+                                             .join(", "_L1));
     connect(m_checkBox, &QCheckBox::toggled, this, &CleanItemWidget::checkChanged);
     m_checkBox->setFixedWidth(checkWidth);
     layout->addWidget(m_checkBox);

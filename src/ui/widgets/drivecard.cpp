@@ -102,6 +102,7 @@ void DriveCard::addUsage(const DriveInfo &drive, QLayout *layout)
     if (usage->sizeHint().width() > textWidth) // of a drive of more than a terabyte
         usage->setStyleSheet(theme::label(theme::faint, 10));
     usage->setToolTip(usage->text());
+    m_checkBox->setAccessibleDescription(usage->text());
     layout->addWidget(usage);
     if (drive.totalBytes <= 0)
         return;

@@ -61,6 +61,7 @@ FileCard::FileCard(const LargeFileInfo &info, QWidget *parent)
     }
     m_checkBox->setAccessibleName(
         tr("%1, %2").arg(singleLine(info.name).left(256), formatSize(info.size)));
+    m_checkBox->setAccessibleDescription(singleLine(info.directory));
     m_layout->setContentsMargins(margin, 10, margin, 10);
     m_layout->setSpacing(spacing);
     m_layout->addWidget(m_checkBox);

@@ -1,6 +1,7 @@
 #include "resultwidget.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -23,7 +24,13 @@ void ResultWidget::toggleExpanded()
 
 void ResultWidget::describeExpander()
 {
+    m_expander->setProperty("expanded", m_expanded);
     m_expander->setAccessibleDescription(m_expanded ? tr("Expanded") : tr("Collapsed"));
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(m_expander, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 bool ResultWidget::eventFilter(QObject *watched, QEvent *event)

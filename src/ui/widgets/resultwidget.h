@@ -29,7 +29,8 @@ Q_SIGNALS:
 
 protected:
     /// Names what expands and collapses: a click on @p header, a click on @p button, and on the
-    /// button the right and the left arrow key.
+    /// button the right and the left arrow key. Before anything is told of the button, so that
+    /// screen readers know it as one that expands.
     void setExpander(QWidget *header, QAbstractButton *button);
     /// Shows or hides the content.
     virtual void showExpanded(bool expanded) = 0;

@@ -1,9 +1,12 @@
 #include "risk.h"
 
 #include "scanresult.h"
+#include "text.h"
 #include "theme.h"
 
 #include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
 
 QString risk::text(int level)
 {
@@ -27,4 +30,16 @@ QString risk::style(int level)
     default:
         return theme::badge(theme::accent, theme::lowRiskTint, 4, 11);
     }
+}
+
+QString risk::spoken(int level)
+{
+    return QCoreApplication::translate("CleanItemWidget", "Risk: %1").arg(text(level));
+}
+
+QString risk::described(const CleanCategory &category)
+{
+    const QString description = singleLine(category.description);
+    return category.riskLevel > LowRisk ? spoken(category.riskLevel) + ". "_L1 + description
+                                        : description;
 }

@@ -38,6 +38,7 @@ StartupCard::StartupCard(const StartupApp &app, const QIcon &icon, QWidget *pare
     m_checkBox->setChecked(app.isStartup);
     m_checkBox->setCursor(Qt::PointingHandCursor);
     m_checkBox->setAccessibleName(tr("Start %1 automatically").arg(singleLine(app.name)));
+    m_checkBox->setAccessibleDescription(singleLine(app.exePath));
     layout->addWidget(m_checkBox);
     layout->addWidget(buildIcon(icon));
     layout->addLayout(buildTexts(app), 1);

@@ -31,9 +31,9 @@ def catalogue(code):
     return folder / f"Sweepwise_{code}.ts"
 
 
-def lupdate():
-    found = shutil.which("lupdate", path="/usr/lib/qt6/bin") or shutil.which("lupdate6") or shutil.which("lupdate")
-    return found or sys.exit("translations: lupdate is not installed (qt6-l10n-tools)")
+def tool(name):
+    found = shutil.which(name, path="/usr/lib/qt6/bin") or shutil.which(f"{name}6") or shutil.which(name)
+    return found or sys.exit(f"translations: {name} is not installed (qt6-l10n-tools)")
 
 
 def rule_texts():
@@ -50,7 +50,7 @@ def bring_up_to_date(files):
     with tempfile.TemporaryDirectory() as temporary:
         rules = pathlib.Path(temporary) / "rules.cpp"
         rules.write_text(rule_texts(), encoding="utf-8")
-        result = subprocess.run([lupdate(), "-silent", "-no-obsolete", "-locations", "none", "src", str(rules), "-ts", *map(str, files)],
+        result = subprocess.run([tool("lupdate"), "-silent", "-no-obsolete", "-locations", "none", "src", str(rules), "-ts", *map(str, files)],
                                 cwd=project, check=False, text=True, capture_output=True)
         if result.returncode != 0:
             sys.exit(f"translations: {result.stderr}")
@@ -66,6 +66,14 @@ def read(file):
             messages[name, message.findtext("source")] = Message(
                 translation.text or "", translation.get("type", ""), message.findtext("translatorcomment", ""))
     return messages
+
+
+def toolkit_texts():
+    """(context, source) of the toolkit's texts, as one of its own catalogues has them."""
+    with tempfile.TemporaryDirectory() as temporary:
+        texts = pathlib.Path(temporary) / "toolkit.ts"
+        subprocess.run([tool("lconvert"), "-i", "/usr/share/qt6/translations/qtbase_de.qm", "-o", str(texts)], check=True)
+        return read(texts).keys()
 
 
 def is_chinese(text):
@@ -121,7 +129,11 @@ def check():
         complaints += differences(code, current.keys(), messages.keys())
         complaints += [f"{code}: {context}: {complaint}: {source!r} -> {message.translation!r}"
                        for (context, source), message in messages.items() for complaint in complaints_of(code, source, message)]
-    for (context, source), message in read(toolkit).items():
+    ours = read(toolkit)
+    contexts = {context for context, _ in ours} - {"QShortcut"}  # of which the keys of a usual keyboard are enough
+    complaints += [f"{toolkit.name}: {context}: missing: {source!r}" for context, source in toolkit_texts() - ours.keys()
+                   if context in contexts]
+    for (context, source), message in ours.items():
         complaints += [f"{toolkit.name}: {context}: {complaint}: {source!r} -> {message.translation!r}"
                        for complaint in complaints_of("pt", source, message)]
     print("\n".join(sorted(complaints)) or f"{len(current)} texts in each of {len(codes)} catalogues, no complaint")

@@ -685,4 +685,154 @@ Verifique se o nome do ficheiro está correto.</translation>
         <translation>O QSaveFile não consegue abrir «%1» sem a escrita direta alternativa ativada.</translation>
     </message>
 </context>
+<context>
+    <name>QAccessibleActionInterface</name>
+    <message>
+        <source>Press</source>
+        <translation>Premir</translation>
+    </message>
+    <message>
+        <source>Shows the menu</source>
+        <translation>Mostra o menu</translation>
+    </message>
+    <message>
+        <source>Scrolls to the left</source>
+        <translation>Desloca para a esquerda</translation>
+    </message>
+    <message>
+        <source>Scroll Down</source>
+        <translation>Deslocar para baixo</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>Deslocar para a esquerda</translation>
+    </message>
+    <message>
+        <source>Goes back a page</source>
+        <translation>Retrocede uma página</translation>
+    </message>
+    <message>
+        <source>Triggers the action</source>
+        <translation>Aciona a ação</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Aumentar</translation>
+    </message>
+    <message>
+        <source>Toggle</source>
+        <translation>Alternar</translation>
+    </message>
+    <message>
+        <source>Toggles the state</source>
+        <translation>Alterna o estado</translation>
+    </message>
+    <message>
+        <source>Scrolls up</source>
+        <translation>Desloca para cima</translation>
+    </message>
+    <message>
+        <source>Scrolls down</source>
+        <translation>Desloca para baixo</translation>
+    </message>
+    <message>
+        <source>Scroll Up</source>
+        <translation>Deslocar para cima</translation>
+    </message>
+    <message>
+        <source>Goes to the next page</source>
+        <translation>Avança para a página seguinte</translation>
+    </message>
+    <message>
+        <source>Scrolls to the right</source>
+        <translation>Desloca para a direita</translation>
+    </message>
+    <message>
+        <source>Increase the value</source>
+        <translation>Aumenta o valor</translation>
+    </message>
+    <message>
+        <source>Decrease the value</source>
+        <translation>Diminui o valor</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Diminuir</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>Deslocar para a direita</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Sets the focus</source>
+        <translation>Coloca o foco</translation>
+    </message>
+    <message>
+        <source>SetFocus</source>
+        <translation>Colocar o foco</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Página seguinte</translation>
+    </message>
+    <message>
+        <source>ShowMenu</source>
+        <translation>Mostrar menu</translation>
+    </message>
+</context>
+<context>
+    <name>QFile</name>
+    <message>
+        <source>Cannot remove source file</source>
+        <translation>Não é possível remover o ficheiro de origem</translation>
+    </message>
+    <message>
+        <source>Destination file is the same file.</source>
+        <translation>O ficheiro de destino é o mesmo ficheiro.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1 for input</source>
+        <translation>Não é possível abrir %1 para leitura</translation>
+    </message>
+    <message>
+        <source>Destination file exists</source>
+        <translation>O ficheiro de destino já existe</translation>
+    </message>
+    <message>
+        <source>Cannot open destination file: %1</source>
+        <translation>Não é possível abrir o ficheiro de destino: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create %1 for output: %2</source>
+        <translation>Não é possível criar %1 para escrita: %2</translation>
+    </message>
+    <message>
+        <source>Failure to write block: %1</source>
+        <translation>Falha ao escrever um bloco: %1</translation>
+    </message>
+    <message>
+        <source>Will not rename sequential file using block copy</source>
+        <translation>Um ficheiro sequencial não é mudado de nome por cópia de blocos</translation>
+    </message>
+    <message>
+        <source>Error while renaming: %1</source>
+        <translation>Erro ao mudar o nome: %1</translation>
+    </message>
+    <message>
+        <source>Source file does not exist.</source>
+        <translation>O ficheiro de origem não existe.</translation>
+    </message>
+    <message>
+        <source>Unable to restore from %1: %2</source>
+        <translation>Não é possível restaurar a partir de %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot open for output: %1</source>
+        <translation>Não é possível abrir para escrita: %1</translation>
+    </message>
+</context>
 </TS>

@@ -12,6 +12,6 @@ class TestHome;
 using TourVisitor =
     std::function<void(const QString &name, QWidget *window, const QList<QWidget *> &above)>;
 
-/// Starts the program on data of its own below @p home and leads through every page and dialog, as
-/// a user meets them one after the other.
+/// Starts the program on data of its own below @p home and leads through its pages and dialogs, as
+/// a user meets them one after the other. The file chooser is the desktop's and left out.
 void takeTour(const TestHome &home, const TourVisitor &visit);

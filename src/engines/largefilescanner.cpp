@@ -6,12 +6,15 @@
 #include "scanresult.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMutexLocker>
 #include <QThread>
 
 #include <algorithm>
 #include <array>
+#include <numeric>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +27,7 @@ constexpr int longestWait = 3000; // milliseconds
 constexpr int mostWalkers = 2;
 // How many files a walker looks at before it tells the others, when there are any.
 constexpr int filesPerCount = 25;
+constexpr qint64 deleteProgressPause = 50; // milliseconds
 
 /// Whether a path is left out, asked of its folder and its name one after the other: none of the
 /// texts reaches over a slash. The two with a backslash match no path with forward slashes; what
@@ -131,20 +135,19 @@ void LargeFileScanner::setWalkerCount(int count)
 
 void LargeFileScanner::startScan()
 {
-    if (m_running)
+    if (m_running || m_deleting)
         return;
-    if (m_worker) {
+    if (m_worker)
         m_worker->wait();
-        m_worker.reset();
-    }
     m_running = true;
     m_cancelled = false;
     m_scannedDrives = m_drives;
     m_scannedMinSize = m_minSize;
     m_scanningWalkers = m_walkerCount;
+    QList<LargeFileInfo> discarded;
     {
         const QMutexLocker locker(&m_mutex);
-        m_results.clear();
+        discarded = std::exchange(m_results, {});
         m_followed.clear();
         m_totalSize = 0;
     }
@@ -152,7 +155,17 @@ void LargeFileScanner::startScan()
     m_foundPaths.clear();
     Q_EMIT scanStarted();
 
-    m_worker.reset(QThread::create([this] { doScan(); }));
+    // A million records take a noticeable time to free: the worker does it.
+    startWorker(
+        std::unique_ptr<QThread>(QThread::create([this, old = std::move(discarded)]() mutable {
+            old.clear();
+            doScan();
+        })));
+}
+
+void LargeFileScanner::startWorker(std::unique_ptr<QThread> worker)
+{
+    m_worker = std::move(worker);
     m_worker->setObjectName("LargeFileScannerWorker"_L1);
     // The signal of a cancelled run may arrive when the next one is busy: it is known by its
     // number.
@@ -171,7 +184,7 @@ void LargeFileScanner::cancel()
 
 void LargeFileScanner::onWorkerFinished(quint64 run)
 {
-    if (run != m_run)
+    if (run != m_run || !m_running)
         return;
     m_running = false;
     if (m_cancelled)
@@ -202,6 +215,8 @@ void LargeFileScanner::doScan()
         Logger::instance().info(u"Scanning drive: %1"_s.arg(drive));
         scanDrive(drive);
     }
+    if (!m_cancelled)
+        sortResults();
     Logger::instance().info(u"Scan completed. Found %1 files, total size: %2"_s.arg(
         QString::number(results().size()), formatSize(totalSize())));
 }
@@ -225,6 +240,23 @@ void LargeFileScanner::scanDrive(const QString &drive)
             u"Cannot read %1 folders below %2"_s.arg(QString::number(report.failureCount), drive));
     const QMutexLocker locker(&m_mutex);
     m_followed += report.followed;
+}
+
+// The largest first, and those of one size in the order of their arrival.
+void LargeFileScanner::sortResults()
+{
+    const QList<LargeFileInfo> found = results();
+    std::vector<qsizetype> order(static_cast<std::size_t>(found.size()));
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&found](qsizetype left, qsizetype right) {
+        return found.at(left).size > found.at(right).size;
+    });
+    QList<LargeFileInfo> sorted;
+    sorted.reserve(found.size());
+    for (const qsizetype index : order)
+        sorted.append(found.at(index));
+    const QMutexLocker locker(&m_mutex);
+    m_results.swap(sorted);
 }
 
 void LargeFileScanner::addResult(const LargeFileInfo &info)
@@ -271,19 +303,75 @@ QString LargeFileScanner::withoutFollowedLinks(const QString &path) const
 bool LargeFileScanner::deleteFile(const QString &path)
 {
     platform::FileRemover remover;
-    if (remover.removeFile(withoutFollowedLinks(path)).status
-        != platform::FileRemover::Status::Removed) {
-        Logger::instance().error(u"Failed to delete file: %1"_s.arg(path));
+    if (!removeFound(remover, path))
         return false;
-    }
-    Logger::instance().info(u"Deleted file: %1"_s.arg(path));
-    const QMutexLocker locker(&m_mutex);
-    const auto record =
-        std::find_if(m_results.cbegin(), m_results.cend(),
-                     [&path](const LargeFileInfo &info) { return info.path == path; });
-    if (record != m_results.cend()) {
-        m_totalSize -= record->size;
-        m_results.erase(record);
-    }
+    dropResults({path});
     return true;
+}
+
+bool LargeFileScanner::removeFound(platform::FileRemover &remover, const QString &path) const
+{
+    const bool isRemoved = remover.removeFile(withoutFollowedLinks(path)).status
+        == platform::FileRemover::Status::Removed;
+    if (isRemoved)
+        Logger::instance().info(u"Deleted file: %1"_s.arg(path));
+    else
+        Logger::instance().error(u"Failed to delete file: %1"_s.arg(path));
+    return isRemoved;
+}
+
+void LargeFileScanner::dropResults(const QSet<QString> &paths)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_results.removeIf([&](const LargeFileInfo &info) {
+        const bool isGone = paths.contains(info.path);
+        if (isGone)
+            m_totalSize -= info.size;
+        return isGone;
+    });
+}
+
+void LargeFileScanner::startDelete(const QList<LargeFileInfo> &files)
+{
+    if (m_running || m_deleting)
+        return;
+    if (m_worker)
+        m_worker->wait();
+    m_deleting = true;
+    m_cancelled = false;
+    startWorker(std::unique_ptr<QThread>(QThread::create([this, files] { doDelete(files); })));
+}
+
+void LargeFileScanner::cancelDelete()
+{
+    if (m_deleting)
+        m_cancelled = true;
+}
+
+void LargeFileScanner::doDelete(const QList<LargeFileInfo> &files)
+{
+    platform::FileRemover remover;
+    QBitArray deleted(files.size());
+    QSet<QString> gone;
+    qint64 size = 0;
+    int tried = 0;
+    QElapsedTimer sinceProgress;
+    for (; tried < files.size() && !m_cancelled; ++tried) {
+        if (!sinceProgress.isValid() || sinceProgress.elapsed() >= deleteProgressPause) {
+            Q_EMIT deleteProgress(tried, static_cast<int>(files.size()), size);
+            sinceProgress.start();
+        }
+        const LargeFileInfo &file = files.at(tried);
+        if (!removeFound(remover, file.path))
+            continue;
+        deleted.setBit(tried);
+        gone.insert(file.path);
+        size += file.size;
+    }
+    dropResults(gone);
+    const auto finish = [this, deleted, tried] {
+        m_deleting = false;
+        Q_EMIT deleteFinished(deleted, tried);
+    };
+    QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
 }

@@ -2,9 +2,11 @@
 
 #include "largefileinfo.h"
 
+#include <QBitArray>
 #include <QList>
 #include <QMutex>
 #include <QObject>
+#include <QSet>
 #include <QStringList>
 
 #include <atomic>
@@ -13,20 +15,21 @@
 class QThread;
 
 namespace platform {
+class FileRemover;
 struct FollowedLink;
-}
+} // namespace platform
 
-/// Finds every file of a minimum size on whole drives, and deletes single ones of them.
+/// Finds every file of a minimum size on whole drives, and deletes those of them that are chosen.
 ///
-/// Lives on the GUI thread, owned by its page. The walk runs on the worker thread and on helpers
-/// that the worker starts and joins. Who touches what:
+/// Lives on the GUI thread, owned by its page. A walk or a deletion runs on the worker thread, the
+/// walk also on helpers that the worker starts and joins. Who touches what:
 ///  - drives, minimum size, walker count: the GUI thread; the worker has copies of its own;
 ///  - results, total size, followed links: all threads, under the mutex;
-///  - running, cancelled, count of files: atomic;
+///  - running, deleting, cancelled, count of files: atomic;
 ///  - worker, run number: the GUI thread.
 ///
-/// scanProgress() and fileFound() are emitted by the worker and its helpers, the latter under the
-/// mutex: whoever listens does so by a queued connection.
+/// scanProgress(), fileFound() and deleteProgress() are emitted by the worker and its helpers,
+/// fileFound() under the mutex: whoever listens does so by a queued connection.
 class LargeFileScanner final : public QObject
 {
     Q_OBJECT
@@ -43,14 +46,16 @@ public:
     /// How many threads walk one drive; with one, files arrive in the order of the file system.
     void setWalkerCount(int count);
 
-    /// Starts a scan; does nothing while one runs. Waits for a cancelled one that is still busy.
+    /// Starts a scan; does nothing while one runs or files are deleted. Waits for a cancelled one
+    /// that is still busy.
     void startScan();
-    /// Stops the scan and waits for its end, but no longer than 3 seconds. No scanFinished()
-    /// follows.
+    /// Stops the scan or the deletion and waits for its end, but no longer than 3 seconds. No
+    /// scanFinished() follows.
     void cancel();
 
     [[nodiscard]] bool isRunning() const { return m_running; }
-    /// What the last scan has found so far and nobody has deleted, in the order of arrival.
+    /// What the last scan has found so far and nobody has deleted: in the order of arrival while it
+    /// runs and after it was cancelled, the largest first once it has finished.
     [[nodiscard]] QList<LargeFileInfo> results() const;
     /// Together in bytes.
     [[nodiscard]] qint64 totalSize() const;
@@ -62,12 +67,25 @@ public:
     /// passed. False when nothing was removed: the log tells the path.
     [[nodiscard]] bool deleteFile(const QString &path);
 
+    /// Removes files as deleteFile() does, one after the other, on the worker; deleteFinished()
+    /// follows in any case. Does nothing while a scan or another deletion runs.
+    void startDelete(const QList<LargeFileInfo> &files);
+    /// Lets a deletion end after the file that is in hand. Does not wait.
+    void cancelDelete();
+    [[nodiscard]] bool isDeleting() const { return m_deleting; }
+
 Q_SIGNALS:
     void scanStarted();
     /// @p percent is always 0: how many files there are is not known before the end.
     void scanProgress(int percent, QString currentPath, int foundCount, qint64 totalSize);
     void scanFinished(int totalFound, qint64 totalSize);
     void fileFound(LargeFileInfo fileInfo);
+    /// @p done of @p total files have been tried, of which those that are gone had @p size bytes;
+    /// a few times a second.
+    void deleteProgress(int done, int total, qint64 size);
+    /// @p deleted has a bit for each file that was given, in the same order: whether it was
+    /// removed. The first @p tried of them were tried, which is all unless it was cancelled.
+    void deleteFinished(QBitArray deleted, int tried);
 
 private Q_SLOTS:
     void doScan();
@@ -75,8 +93,14 @@ private Q_SLOTS:
 private:
     class Sweep;
 
+    void startWorker(std::unique_ptr<QThread> worker);
     void scanDrive(const QString &drive);
+    void sortResults();
     void onWorkerFinished(quint64 run);
+    void doDelete(const QList<LargeFileInfo> &files);
+    /// Whether @p path was removed; the log tells either way.
+    bool removeFound(platform::FileRemover &remover, const QString &path) const;
+    void dropResults(const QSet<QString> &paths);
     /// Takes a file over; on the worker or a helper.
     void addResult(const LargeFileInfo &info);
     void reportProgress(const QString &folder);
@@ -93,7 +117,8 @@ private:
     QSet<QString> m_foundPaths; ///< of a scan of several drives
     QList<platform::FollowedLink> m_followed;
     std::atomic_bool m_running = false;
-    std::atomic_bool m_cancelled = false;
+    std::atomic_bool m_deleting = false;
+    std::atomic_bool m_cancelled = false; ///< the scan or the deletion
     mutable QMutex m_mutex;
     std::atomic_int m_filesScanned = 0;
     qint64 m_totalSize = 0;

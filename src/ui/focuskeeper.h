@@ -18,6 +18,11 @@ public:
         m_stray = part->window()->focusWidget();
     }
 
+    /// What has lost the focus, if it is still there.
+    [[nodiscard]] QWidget *control() const { return m_control; }
+    /// Takes @p control in the place of what was noted.
+    void replaceControl(QWidget *control) { m_control = control; }
+
     /// Puts the focus back on what was noted; on @p otherwise when that cannot take it. It stays
     /// where it is when nothing was noted, when the user has moved it meanwhile, or when the part
     /// is not shown any more.

@@ -376,7 +376,8 @@ private Q_SLOTS:
         file.path = u"/a/b.iso"_s;
         file.name = u"b.iso"_s;
         file.directory = u"/a"_s;
-        FileCard card(file);
+        FileCard card;
+        card.bind(file, false);
         card.show();
         SignalSpy asked(&card, &QWidget::customContextMenuRequested);
         QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5},

@@ -505,6 +505,103 @@ private Q_SLOTS:
         QVERIFY(tree.has(u"empty"_s));
     }
 
+    void aFinishedScanHasTheLargestFirst()
+    {
+        const TestTree tree;
+        for (const auto &[name, size] : std::initializer_list<std::pair<QString, qsizetype>>{
+                 {u"a"_s, 3}, {u"b"_s, 9}, {u"c"_s, 3}, {u"d"_s, 1}, {u"e"_s, 9}, {u"f"_s, 3}})
+            tree.file(name, QByteArray(size, 'x'));
+        LargeFileScanner scanner;
+        scanner.setWalkerCount(1);
+        const SignalSpy found(&scanner, &LargeFileScanner::fileFound);
+        scan(scanner, {tree.path()});
+        QStringList arrival;
+        for (const QVariantList &arguments : found)
+            arrival.append(arguments.constFirst().value<LargeFileInfo>().path);
+        QList<qint64> sizes;
+        for (const LargeFileInfo &info : scanner.results())
+            sizes.append(info.size);
+        QCOMPARE(sizes, (QList<qint64>{9, 9, 3, 3, 3, 1}));
+        // Those of one size stay in the order in which they came.
+        const QList<LargeFileInfo> results = scanner.results();
+        for (qsizetype i = 1; i < results.size(); ++i) {
+            if (results.at(i - 1).size == results.at(i).size)
+                QVERIFY(arrival.indexOf(results.at(i - 1).path)
+                        < arrival.indexOf(results.at(i).path));
+        }
+    }
+
+    void theWorkerDeletesExactlyWhatItIsGiven()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 6; ++i)
+            tree.file(u"f%1"_s.arg(i), QByteArray(6 - i, 'x'));
+        LargeFileScanner scanner;
+        scan(scanner, {tree.path()});
+        const QList<LargeFileInfo> all = scanner.results();
+        QVERIFY(QFile::remove(tree.path(u"f3"_s)));
+        const SignalSpy finished(&scanner, &LargeFileScanner::deleteFinished);
+        const SignalSpy progress(&scanner, &LargeFileScanner::deleteProgress);
+        scanner.startDelete({all.at(1), all.at(3), all.at(4)});
+        QVERIFY(scanner.isDeleting());
+        scanner.startScan(); // does nothing now
+        QVERIFY(!scanner.isRunning());
+        scanner.startDelete({all.at(0)}); // neither does this
+        QVERIFY(finished.wait(patience));
+        QVERIFY(!scanner.isDeleting());
+        QCOMPARE(finished.size(), 1);
+        QBitArray expected(3, true);
+        expected.clearBit(1);
+        QCOMPARE(finished.constFirst(), (QVariantList{expected, 3}));
+        QCOMPARE(progress.constFirst(), (QVariantList{0, 3, qint64(0)}));
+        QStringList left;
+        for (int i = 0; i < 6; ++i) {
+            if (tree.has(u"f%1"_s.arg(i)))
+                left.append(u"f%1"_s.arg(i));
+        }
+        QCOMPARE(left, (QStringList{u"f0"_s, u"f2"_s, u"f5"_s}));
+        // What could not be deleted stays among the results, as it was found.
+        QCOMPARE(scanner.results().size(), 4);
+        QCOMPARE(scanner.totalSize(), 6 + 4 + 3 + 1);
+        scan(scanner, {tree.path()});
+        QCOMPARE(scanner.results().size(), 3);
+    }
+
+    void aDeletionThatIsCancelledLeavesTheRest()
+    {
+        const TestTree tree;
+        fill(tree, 50);
+        LargeFileScanner scanner;
+        scan(scanner, {tree.path()});
+        const SignalSpy finished(&scanner, &LargeFileScanner::deleteFinished);
+        // The worker asks after each file; its first word comes before the first of them.
+        connect(
+            &scanner, &LargeFileScanner::deleteProgress, &scanner,
+            [&scanner] { scanner.cancelDelete(); }, Qt::DirectConnection);
+        scanner.startDelete(scanner.results());
+        QVERIFY(finished.wait(patience));
+        QBitArray first(50);
+        first.setBit(0);
+        QCOMPARE(finished.constFirst(), (QVariantList{first, 1}));
+        QCOMPARE(scanner.results().size(), 49);
+        QCOMPARE(scanner.totalSize(), 49);
+        for (const LargeFileInfo &info : scanner.results())
+            QVERIFY(QFile::exists(info.path));
+    }
+
+    void theScannerMayGoWhileItDeletes()
+    {
+        const TestTree tree;
+        fill(tree, 300);
+        auto scanner = std::make_unique<LargeFileScanner>();
+        scan(*scanner, {tree.path()});
+        const SignalSpy finished(scanner.get(), &LargeFileScanner::deleteFinished);
+        scanner->startDelete(scanner->results());
+        scanner.reset();
+        QTest::qWait(20);
+        QCOMPARE(finished.size(), 0);
+    }
+
     void noPathButAnAbsoluteOneIsDeleted()
     {
         LargeFileScanner scanner;

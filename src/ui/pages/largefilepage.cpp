@@ -4,6 +4,7 @@
 #include "filecardlist.h"
 #include "filemanager.h"
 #include "largefileviews.h"
+#include "progressdialog.h"
 #include "scanprogressdialog.h"
 #include "scanresult.h"
 #include "text.h"
@@ -12,7 +13,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
@@ -21,15 +21,13 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr qint64 mebibyte = 1'048'576;
 constexpr qint64 defaultSize = 100 * mebibyte;
-constexpr qint64 longestWork = 8; // milliseconds between two looks at the window's events
+constexpr int patience = 300; // milliseconds
 
 QMessageBox::StandardButton showBox(QWidget *parent, QMessageBox::Icon icon, const QString &title,
                                     const QString &text)
@@ -54,7 +52,7 @@ LargeFilePage::LargeFilePage(const QList<DriveInfo> &drives, QWidget *parent)
     : QWidget(parent)
     , m_views(new QStackedWidget(this))
     , m_selection(new LargeFileSelectionView(drives, m_views))
-    , m_results(new LargeFileResultsView(m_views))
+    , m_results(new LargeFileResultsView(&m_model, m_views))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -70,11 +68,16 @@ LargeFilePage::LargeFilePage(const QList<DriveInfo> &drives, QWidget *parent)
     connect(m_results->backButton(), &QPushButton::clicked, this, &LargeFilePage::onBackClicked);
     connect(m_results->deleteButton(), &QPushButton::clicked, this,
             &LargeFilePage::onDeleteSelected);
-    connect(m_results->list(), &FileCardList::cardAdded, this, &LargeFilePage::onCardAdded);
+    connect(m_results->list(), &FileCardList::cardMade, this, &LargeFilePage::serveCard);
     connect(&m_scanner, &LargeFileScanner::scanStarted, this, &LargeFilePage::onScanStarted);
     connect(&m_scanner, &LargeFileScanner::scanProgress, this, &LargeFilePage::onScanProgress);
     connect(&m_scanner, &LargeFileScanner::scanFinished, this, &LargeFilePage::onScanFinished);
+    connect(&m_scanner, &LargeFileScanner::deleteProgress, this, &LargeFilePage::onDeleteProgress);
+    connect(&m_scanner, &LargeFileScanner::deleteFinished, this, &LargeFilePage::onDeleteFinished);
     connect(qApp, &QCoreApplication::aboutToQuit, &m_scanner, &LargeFileScanner::cancel);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(patience);
+    connect(&m_patience, &QTimer::timeout, this, &LargeFilePage::showDeletion);
 }
 
 LargeFilePage::~LargeFilePage() = default;
@@ -138,6 +141,8 @@ void LargeFilePage::onSizeComboChanged(int index)
 void LargeFilePage::onScanStarted()
 {
     closeDialog();
+    m_model.setFiles({});
+    updateSelectedInfo();
     m_dialog = new ScanProgressDialog(this);
     connect(m_dialog, &ScanProgressDialog::cancelRequested, this, &LargeFilePage::onCancelScan);
     m_dialog->show();
@@ -173,22 +178,13 @@ void LargeFilePage::onScanFinished(int totalFound, qint64 totalSize)
         return;
     }
     m_results->setSummary(totalFound, totalSize);
-    m_fileCards.clear();
-    m_selectedCount = 0;
-    m_selectedSize = 0;
+    m_model.setFiles(m_scanner.results());
     updateSelectedInfo();
-    QList<LargeFileInfo> files = m_scanner.results();
-    std::stable_sort(files.begin(), files.end(),
-                     [](const LargeFileInfo &left, const LargeFileInfo &right) {
-                         return left.size > right.size;
-                     });
-    m_results->list()->setFiles(files);
     m_views->setCurrentIndex(1);
 }
 
-void LargeFilePage::onCardAdded(FileCard *card)
+void LargeFilePage::serveCard(FileCard *card)
 {
-    m_fileCards.insert(card->info().path, card);
     connect(card->checkBox(), &QCheckBox::toggled, this, &LargeFilePage::onFileCheckChanged);
     connect(card, &QWidget::customContextMenuRequested, this,
             [this, card](QPoint position) { showFileMenu(card, position); });
@@ -201,23 +197,21 @@ void LargeFilePage::onBackClicked()
 
 void LargeFilePage::onFileCheckChanged(bool checked)
 {
-    const QObject *box = sender();
-    if (!box)
+    const int row = m_results->list()->rowOf(sender());
+    if (row < 0)
         return;
-    const qint64 size = box->property("fileSize").toLongLong();
-    m_selectedCount += checked ? 1 : -1;
-    m_selectedSize += checked ? size : -size;
+    m_model.setTicked(row, checked);
     updateSelectedInfo();
 }
 
 void LargeFilePage::updateSelectedInfo()
 {
-    m_results->setSelected(m_selectedCount, m_selectedSize);
+    m_results->setSelected(m_model.tickedCount(), m_model.tickedSize());
 }
 
-void LargeFilePage::updateSummaryFromScanner()
+void LargeFilePage::updateSummary()
 {
-    m_results->setSummary(m_scanner.results().size(), m_scanner.totalSize());
+    m_results->setSummary(m_model.rowCount(), m_scanner.totalSize());
 }
 
 void LargeFilePage::showFileMenu(FileCard *card, QPoint position)
@@ -225,94 +219,116 @@ void LargeFilePage::showFileMenu(FileCard *card, QPoint position)
     auto *menu = new QMenu(card);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setStyleSheet(theme::contextMenu());
-    const QString path = card->info().path;
+    // The card may show another file by the time that something is chosen.
+    const LargeFileInfo file = card->info();
+    const int row = m_results->list()->rowOf(card);
     QAction *open = menu->addAction(tr("📂 Open file location"));
-    open->setProperty("filePath", path);
-    connect(open, &QAction::triggered, this, [path] {
+    open->setProperty("filePath", file.path);
+    connect(open, &QAction::triggered, this, [path = file.path] {
         if (!path.isEmpty() && !platform::revealFile(path))
             qWarning("[LargeFilePage] The file manager could not be started");
     });
     menu->addSeparator();
     QAction *remove = menu->addAction(tr("🗑️ Delete this file"));
-    remove->setProperty("filePath", path);
+    remove->setProperty("filePath", file.path);
     remove->setProperty("card", QVariant::fromValue<QWidget *>(card));
-    // The card may go while the question stands open.
-    connect(remove, &QAction::triggered, this,
-            [this, guarded = QPointer(card)] { deleteOne(guarded); });
+    connect(remove, &QAction::triggered, this, [this, file, row] { deleteOne(file, row); });
     menu->popup(card->mapToGlobal(position));
 }
 
-void LargeFilePage::deleteOne(FileCard *card)
+void LargeFilePage::deleteOne(const LargeFileInfo &file, int row)
 {
-    const QPointer<FileCard> guarded = card;
-    if (!card)
-        return;
-    const LargeFileInfo info = card->info();
     const QString question = tr("Are you sure you want to delete this file?\n\n%1\nSize: %2\n\n"
                                 "This action cannot be undone!")
-                                 .arg(singleLine(info.path).left(1024), formatSize(info.size));
-    if (showBox(this, QMessageBox::Question, tr("Confirm Delete"), question) != QMessageBox::Yes
-        || !guarded)
+                                 .arg(singleLine(file.path).left(1024), formatSize(file.size));
+    if (showBox(this, QMessageBox::Question, tr("Confirm Delete"), question) != QMessageBox::Yes)
         return;
-    if (!m_scanner.deleteFile(info.path)) {
-        showBox(this, QMessageBox::Warning, tr("Delete Failed"),
-                tr("Unable to delete this file. It may be in use by another program."));
-        return;
-    }
-    dropCard(card);
-    updateSelectedInfo();
-    updateSummaryFromScanner();
-    if (m_results->list()->isEmpty())
-        showBox(this, QMessageBox::Information, tr("Info"), tr("All files have been deleted"));
-}
-
-// Of a deleted file, which leaves the selection with its card.
-void LargeFilePage::dropCard(FileCard *card)
-{
-    if (card->checkBox()->isChecked()) {
-        --m_selectedCount;
-        m_selectedSize -= card->info().size;
-    }
-    m_fileCards.remove(card->info().path);
-    m_results->list()->discard(card);
+    const bool isStillThere =
+        row >= 0 && row < m_model.rowCount() && m_model.at(row).path == file.path;
+    if (isStillThere)
+        startDeletion(Deletion::OfOne, {row});
 }
 
 void LargeFilePage::onDeleteSelected()
 {
-    if (m_selectedCount == 0)
+    const QList<int> rows = m_model.tickedRows();
+    if (rows.isEmpty())
         return;
-    const QString question = tr("Are you sure you want to delete the selected %1 files?\n\n"
-                                "Total: %2\n\nThis action cannot be undone!")
-                                 .arg(QString::number(m_selectedCount), formatSize(m_selectedSize));
+    const QString question =
+        tr("Are you sure you want to delete the selected %1 files?\n\n"
+           "Total: %2\n\nThis action cannot be undone!")
+            .arg(QString::number(rows.size()), formatSize(m_model.tickedSize()));
     if (showBox(this, QMessageBox::Question, tr("Confirm Delete"), question) != QMessageBox::Yes)
         return;
-    QList<FileCard *> chosen;
-    for (FileCard *card : m_results->list()->cards()) {
-        if (card->checkBox()->isChecked())
-            chosen.append(card);
+    // Exactly those that were asked about, or none.
+    if (rows == m_model.tickedRows())
+        startDeletion(Deletion::OfTicked, rows);
+}
+
+void LargeFilePage::startDeletion(Deletion kind, const QList<int> &rows)
+{
+    if (m_scanner.isRunning() || m_scanner.isDeleting())
+        return;
+    m_deletion = kind;
+    m_deletedRows = rows;
+    m_focus.keep(this, [this] { m_results->setEnabled(false); });
+    QList<LargeFileInfo> files;
+    files.reserve(rows.size());
+    for (const int row : rows)
+        files.append(m_model.at(row));
+    m_patience.start();
+    m_scanner.startDelete(files);
+}
+
+void LargeFilePage::showDeletion()
+{
+    m_deletionDialog = new ProgressDialog(ProgressDialog::Cleaning, this);
+    connect(m_deletionDialog, &ProgressDialog::cancelRequested, &m_scanner,
+            &LargeFileScanner::cancelDelete);
+    m_deletionDialog->show();
+}
+
+void LargeFilePage::onDeleteProgress(int done, int total, qint64 size)
+{
+    if (!m_deletionDialog)
+        return;
+    m_deletionDialog->setProgress(done, total);
+    m_deletionDialog->setCleanedSize(size);
+}
+
+void LargeFilePage::onDeleteFinished(const QBitArray &deleted, int tried)
+{
+    m_patience.stop();
+    delete m_deletionDialog;
+    QList<int> gone;
+    for (qsizetype i = 0; i < m_deletedRows.size(); ++i) {
+        if (deleted.testBit(i))
+            gone.append(m_deletedRows.at(i));
     }
-    int deleted = 0;
-    int failed = 0;
-    QElapsedTimer timer;
-    timer.start();
-    for (FileCard *card : std::as_const(chosen)) {
-        if (m_scanner.deleteFile(card->info().path)) {
-            dropCard(card);
-            ++deleted;
-        } else {
-            ++failed;
-        }
-        // Thousands of files take their time, in which the window is at least painted.
-        if (timer.elapsed() >= longestWork) {
-            updateSelectedInfo();
-            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-            timer.restart();
-        }
-    }
+    m_deletedRows.clear();
+    m_results->setEnabled(true);
+    m_model.removeRows(gone);
     updateSelectedInfo();
-    updateSummaryFromScanner();
-    QString message = tr("Deleted %1 files successfully.").arg(deleted);
-    if (failed > 0)
-        message += tr(" %1 files failed to delete.").arg(failed);
-    showBox(this, QMessageBox::Information, tr("Delete Completed"), message);
+    updateSummary();
+    QWidget *rows = m_results->list()->tabStop();
+    if (m_results->list()->isAncestorOf(m_focus.control()))
+        m_focus.replaceControl(rows); // the card that had it may show another file now
+    m_focus.giveBack(rows ? rows : m_results->backButton());
+    const auto count = static_cast<int>(gone.size());
+    tellOutcome(m_deletion, count, tried - count);
+}
+
+void LargeFilePage::tellOutcome(Deletion kind, int deleted, int failed)
+{
+    if (kind == Deletion::OfTicked) {
+        QString message = tr("Deleted %1 files successfully.").arg(deleted);
+        if (failed > 0)
+            message += tr(" %1 files failed to delete.").arg(failed);
+        showBox(this, QMessageBox::Information, tr("Delete Completed"), message);
+    } else if (failed > 0) {
+        showBox(this, QMessageBox::Warning, tr("Delete Failed"),
+                tr("Unable to delete this file. It may be in use by another program."));
+    } else if (m_model.rowCount() == 0) {
+        showBox(this, QMessageBox::Information, tr("Info"), tr("All files have been deleted"));
+    }
 }

@@ -1,21 +1,25 @@
 #pragma once
 
 #include "drivecard.h"
+#include "focuskeeper.h"
+#include "largefilemodel.h"
 #include "largefilescanner.h"
 
-#include <QHash>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 class FileCard;
 class LargeFileResultsView;
 class LargeFileSelectionView;
+class ProgressDialog;
 class QStackedWidget;
 class ScanProgressDialog;
 
 /// The page on which large files are searched for on chosen drives, reviewed and deleted.
 ///
-/// Owns its scanner. GUI thread.
+/// Owns its scanner and the model of what it found. While files are deleted, which the scanner does
+/// on its worker, the results are locked. GUI thread.
 class LargeFilePage final : public QWidget
 {
     Q_OBJECT
@@ -27,6 +31,7 @@ public:
     ~LargeFilePage() override;
 
     [[nodiscard]] LargeFileScanner *scanner() { return &m_scanner; }
+    [[nodiscard]] LargeFileModel *model() { return &m_model; }
     [[nodiscard]] qint64 customSize() const { return m_customSize; }
 
 public Q_SLOTS:
@@ -47,20 +52,31 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// What a deletion was asked for by, which decides what is said at its end.
+    enum class Deletion { OfTicked, OfOne };
+
     void closeDialog();
-    void onCardAdded(FileCard *card);
+    void serveCard(FileCard *card);
     void showFileMenu(FileCard *card, QPoint position);
-    void deleteOne(FileCard *card);
-    void dropCard(FileCard *card);
-    void updateSummaryFromScanner();
+    /// Asks, and deletes the file if it still stands in @p row.
+    void deleteOne(const LargeFileInfo &file, int row);
+    void startDeletion(Deletion kind, const QList<int> &rows);
+    void showDeletion();
+    void onDeleteProgress(int done, int total, qint64 size);
+    void onDeleteFinished(const QBitArray &deleted, int tried);
+    void tellOutcome(Deletion kind, int deleted, int failed);
+    void updateSummary();
 
     LargeFileScanner m_scanner;
+    LargeFileModel m_model;
     QStackedWidget *m_views;
     LargeFileSelectionView *m_selection;
     LargeFileResultsView *m_results;
     qint64 m_customSize = 0; ///< bytes
-    QHash<QString, FileCard *> m_fileCards; ///< by path
-    int m_selectedCount = 0;
-    qint64 m_selectedSize = 0;
     QPointer<ScanProgressDialog> m_dialog;
+    Deletion m_deletion = Deletion::OfTicked;
+    QList<int> m_deletedRows; ///< that the scanner is deleting
+    FocusKeeper m_focus; ///< while the results are locked
+    QTimer m_patience; ///< a deletion that takes longer shows its dialog
+    QPointer<ProgressDialog> m_deletionDialog;
 };

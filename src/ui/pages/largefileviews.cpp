@@ -120,14 +120,14 @@ QLayout *LargeFileSelectionView::buildSizeRow(QWidget *parent)
     return row;
 }
 
-LargeFileResultsView::LargeFileResultsView(QWidget *parent)
+LargeFileResultsView::LargeFileResultsView(LargeFileModel *model, QWidget *parent)
     : QWidget(parent)
     , m_summary(makeLabel(QString(), theme::label(theme::muted, 14), this))
     , m_selected(makeLabel(QString(), theme::label(theme::muted, 14), this))
     , m_backButton(makeButton(u"backBtn"_s, tr("← Back"), theme::quietButton(10, 14), this))
     , m_deleteButton(makeButton(u"deleteBtn"_s, tr("🗑️ Delete Selected"),
                                 theme::dangerButton(10, 14, u"0 16px"_s), this))
-    , m_list(new FileCardList(this))
+    , m_list(new FileCardList(model, this))
 {
     setObjectName("resultsView"_L1);
     m_summary->setObjectName("summaryLabel"_L1);

@@ -7,6 +7,7 @@
 #include <QScrollArea>
 
 class FileCardList;
+class LargeFileModel;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -47,7 +48,8 @@ class LargeFileResultsView final : public QWidget
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(LargeFileResultsView)
 public:
-    explicit LargeFileResultsView(QWidget *parent = nullptr);
+    /// Shows the rows of @p model, which must outlive the view.
+    explicit LargeFileResultsView(LargeFileModel *model, QWidget *parent = nullptr);
 
     void setSummary(qsizetype count, qint64 size);
     void setSelected(int count, qint64 size);

@@ -13,15 +13,20 @@ constexpr qsizetype longestMeasured = 1024;
 
 ElidedLabel::ElidedLabel(const QString &fullText, QWidget *parent)
     : QLabel(parent)
-    , m_fullText(singleLine(fullText))
 {
     setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setFullText(fullText);
+}
+
+void ElidedLabel::setFullText(const QString &fullText)
+{
+    m_fullText = singleLine(fullText);
     setAccessibleName(m_fullText);
     setToolTip(plainToolTip(m_fullText.left(longestMeasured)));
     if (m_fullText.size() > longestMeasured)
         m_fullText =
             m_fullText.left(longestMeasured / 2) + u'…' + m_fullText.right(longestMeasured / 2);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setText(m_fullText);
 }
 

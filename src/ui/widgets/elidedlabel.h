@@ -11,6 +11,7 @@ class ElidedLabel final : public QLabel
 public:
     explicit ElidedLabel(const QString &fullText, QWidget *parent = nullptr);
 
+    void setFullText(const QString &fullText);
     /// Shortens the text to @p width pixels.
     void elideTo(int width);
 

@@ -9,7 +9,10 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -35,9 +38,15 @@ QString iconOf(const QString &type)
     return u"📁"_s;
 }
 
-QLabel *makeLabel(const QString &name, const QString &text, const QString &style, QWidget *parent)
+QString badgeStyle(bool isHuge)
 {
-    auto *label = new QLabel(text, parent);
+    return isHuge ? theme::sizeBadge(theme::dangerHover, theme::dangerTint)
+                  : theme::sizeBadge(theme::text, theme::button);
+}
+
+QLabel *makeLabel(const QString &name, const QString &style, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setStyleSheet(style);
@@ -46,82 +55,64 @@ QLabel *makeLabel(const QString &name, const QString &text, const QString &style
 
 } // namespace
 
-FileCard::FileCard(const LargeFileInfo &info, QWidget *parent)
+FileCard::FileCard(QWidget *parent)
     : QFrame(parent)
-    , m_info(info)
-    , m_layout(new QHBoxLayout(this))
     , m_checkBox(new QCheckBox(this))
+    , m_icon(makeLabel(
+          u"fileIcon"_s,
+          u"background-color: %1; border-radius: 8px; font-size: 16px;"_s.arg(theme::button), this))
+    , m_name(new ElidedLabel({}, this))
+    , m_folder(makeLabel(u"fileFolder"_s, theme::label(theme::faint, 11), this))
+    , m_badge(makeLabel(u"sizeBadge"_s, badgeStyle(false), this))
 {
     setObjectName("fileCard"_L1);
     setFixedHeight(cardHeight);
     setContextMenuPolicy(Qt::CustomContextMenu);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(margin, 10, margin, 10);
+    layout->setSpacing(spacing);
+    layout->addWidget(m_checkBox);
+    m_icon->setFixedSize(iconSize, iconSize);
+    m_icon->setAlignment(Qt::AlignCenter);
+    layout->addWidget(m_icon);
+    auto *names = new QVBoxLayout;
+    names->setSpacing(2);
+    m_name->setObjectName("fileName"_L1);
+    m_name->setStyleSheet(theme::label(theme::text, 14, 600));
+    m_folder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    names->addWidget(m_name);
+    names->addWidget(m_folder);
+    layout->addLayout(names, 1);
+    layout->addWidget(m_badge, 0, Qt::AlignVCenter);
+}
+
+void FileCard::bind(const LargeFileInfo &info, bool ticked)
+{
+    m_info = info;
     for (QWidget *widget : {static_cast<QWidget *>(this), static_cast<QWidget *>(m_checkBox)}) {
         widget->setProperty("filePath", info.path);
         widget->setProperty("fileSize", info.size);
     }
+    const QSignalBlocker blocker(m_checkBox);
+    m_checkBox->setChecked(ticked);
     m_checkBox->setAccessibleName(
         tr("%1, %2").arg(singleLine(info.name).left(256), formatSize(info.size)));
     m_checkBox->setAccessibleDescription(singleLine(info.directory));
-    m_layout->setContentsMargins(margin, 10, margin, 10);
-    m_layout->setSpacing(spacing);
-    m_layout->addWidget(m_checkBox);
-}
 
-void FileCard::setBuilt(bool on)
-{
-    if (on == isBuilt())
-        return;
-    if (on) {
-        m_content = buildContent();
-        m_layout->addWidget(m_content, 1);
-        elideName();
-    } else {
-        delete m_content;
-        m_content = nullptr;
-    }
-}
-
-QWidget *FileCard::buildContent()
-{
-    auto *content = new QWidget(this);
-    auto *layout = new QHBoxLayout(content);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(spacing);
-
-    auto *icon = makeLabel(
-        u"fileIcon"_s, iconOf(m_info.type),
-        u"background-color: %1; border-radius: 8px; font-size: 16px;"_s.arg(theme::button),
-        content);
-    icon->setFixedSize(iconSize, iconSize);
-    icon->setAlignment(Qt::AlignCenter);
-    layout->addWidget(icon);
-
-    auto *names = new QVBoxLayout;
-    names->setSpacing(2);
-    m_name = new ElidedLabel(m_info.name, content);
-    m_name->setObjectName("fileName"_L1);
-    m_name->setStyleSheet(theme::label(theme::text, 14, 600));
-    auto *folder = makeLabel(u"fileFolder"_s, shortPath(singleLine(m_info.directory), 25, 22),
-                             theme::label(theme::faint, 11), content);
-    folder->setToolTip(plainToolTip(m_info.directory));
-    folder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    names->addWidget(m_name);
-    names->addWidget(folder);
-    layout->addLayout(names, 1);
-
-    const bool isHuge = m_info.size > gibibyte;
-    m_badge = makeLabel(u"sizeBadge"_s, formatSize(m_info.size),
-                        isHuge ? theme::sizeBadge(theme::dangerHover, theme::dangerTint)
-                               : theme::sizeBadge(theme::text, theme::button),
-                        content);
-    layout->addWidget(m_badge, 0, Qt::AlignVCenter);
-    return content;
+    m_icon->setText(iconOf(info.type));
+    m_name->setFullText(info.name);
+    m_folder->setText(shortPath(singleLine(info.directory), 25, 22));
+    m_folder->setToolTip(plainToolTip(info.directory));
+    m_badge->setText(formatSize(info.size));
+    const bool isHuge = info.size > gibibyte;
+    if (std::exchange(m_isHuge, isHuge) != isHuge)
+        m_badge->setStyleSheet(badgeStyle(isHuge));
+    elideName();
 }
 
 void FileCard::elideName()
 {
-    if (!isBuilt())
-        return;
     m_badge->ensurePolished();
     const int others = m_checkBox->sizeHint().width() + iconSize + m_badge->sizeHint().width();
     m_name->elideTo(width() - 2 * margin - 3 * spacing - others);

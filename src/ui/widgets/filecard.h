@@ -6,13 +6,10 @@
 
 class ElidedLabel;
 class QCheckBox;
-class QHBoxLayout;
 class QLabel;
 
-/// One large file in the list of results: a check box and, while it is built, icon, names and size.
-///
-/// A list may hold tens of thousands of cards of which a screen shows ten. So a card starts as its
-/// check box alone, and the list has the rest built when the card comes into view.
+/// One large file in the list of results: check box, icon, names and size. A handful of cards
+/// serves any number of files: each is bound to one file after the other.
 class FileCard final : public QFrame
 {
     Q_OBJECT
@@ -20,25 +17,24 @@ class FileCard final : public QFrame
 public:
     static constexpr int cardHeight = 70;
 
-    explicit FileCard(const LargeFileInfo &info, QWidget *parent = nullptr);
+    explicit FileCard(QWidget *parent = nullptr);
 
-    [[nodiscard]] QCheckBox *checkBox() const { return m_checkBox; }
+    /// Shows @p info from now on, ticked or not; the check box does not signal that.
+    void bind(const LargeFileInfo &info, bool ticked);
     [[nodiscard]] const LargeFileInfo &info() const { return m_info; }
-    /// Builds or drops everything but the check box.
-    void setBuilt(bool on);
-    [[nodiscard]] bool isBuilt() const { return m_content; }
+    [[nodiscard]] QCheckBox *checkBox() const { return m_checkBox; }
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    [[nodiscard]] QWidget *buildContent();
     void elideName();
 
-    const LargeFileInfo m_info;
-    QHBoxLayout *m_layout;
+    LargeFileInfo m_info;
+    bool m_isHuge = false;
     QCheckBox *m_checkBox;
-    QWidget *m_content = nullptr;
-    ElidedLabel *m_name = nullptr; ///< these two while it is built
-    QLabel *m_badge = nullptr;
+    QLabel *m_icon;
+    ElidedLabel *m_name;
+    QLabel *m_folder;
+    QLabel *m_badge;
 };

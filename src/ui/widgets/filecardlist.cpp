@@ -1,142 +1,278 @@
 #include "filecardlist.h"
 
 #include "filecard.h"
+#include "keys.h"
+#include "largefilemodel.h"
 #include "theme.h"
 
-#include <QElapsedTimer>
+#include <QCheckBox>
+#include <QKeyEvent>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rowHeight = FileCard::cardHeight + 8; // the room between two cards
+constexpr int roomBetween = 8;
+constexpr int rowHeight = FileCard::cardHeight + roomBetween;
 constexpr int roomForScrollBar = 8;
-constexpr qsizetype cardsAtOnce = 20;
-constexpr int cardsAround = 4; // the visible ones, for the tabulator key
-constexpr qsizetype mostBuilt = 200;
-constexpr qint64 longestWork = 6; // milliseconds between two looks at the window's events
 
 } // namespace
 
-FileCardList::FileCardList(QWidget *parent)
-    : QScrollArea(parent)
+FileCardList::FileCardList(LargeFileModel *model, QWidget *parent)
+    : QAbstractScrollArea(parent)
+    , m_model(model)
 {
     setObjectName("fileCardList"_L1);
-    setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus); // it follows the focus of the cards
+    setFocusPolicy(Qt::NoFocus); // its rows take it
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setStyleSheet(u"QScrollArea { background: transparent; }"_s);
+    setStyleSheet("QAbstractScrollArea { background: transparent; }"_L1
+                  + theme::card(u"fileCard"_s, 1, true));
     viewport()->setAutoFillBackground(false);
-    verticalScrollBar()->setSingleStep(rowHeight / 2);
-    auto *container = new QWidget;
-    container->setObjectName("fileCardContainer"_L1);
-    container->setStyleSheet("#fileCardContainer { background: transparent; }"_L1
-                             + theme::card(u"fileCard"_s, 1, true));
-    setWidget(container);
-    container->setAutoFillBackground(false);
-    connect(&m_timer, &QTimer::timeout, this, &FileCardList::work);
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &FileCardList::showNearest);
+    verticalScrollBar()->setSingleStep(1);
+    connect(model, &LargeFileModel::filesReplaced, this, &FileCardList::onFilesReplaced);
+    connect(model, &LargeFileModel::rowsRemoved, this, &FileCardList::onRowsRemoved);
 }
 
 FileCardList::~FileCardList() = default;
 
-void FileCardList::setFiles(const QList<LargeFileInfo> &files)
+void FileCardList::onFilesReplaced()
 {
-    for (FileCard *card : std::as_const(m_shown))
-        card->hide();
-    m_discarded += m_cards;
-    m_cards.clear();
-    m_shown.clear();
-    m_built.clear();
-    m_files = files;
-    m_next = 0;
-    verticalScrollBar()->setValue(0);
-    while (isFilling() && m_next < cardsAtOnce)
-        addCard();
-    updateHeight();
-    showNearest();
-    if (isFilling() || !m_discarded.isEmpty())
-        m_timer.start(0);
+    rebind(0, 0);
 }
 
-void FileCardList::addCard()
+// The rows behind those that are gone move up; the file at the top of the list stays there, and the
+// focus with its file, or goes to the next one.
+void FileCardList::onRowsRemoved(const QList<int> &rows)
 {
-    auto *card = new FileCard(m_files.at(m_next++), widget());
-    m_cards.append(card);
-    Q_EMIT cardAdded(card);
+    const auto moved = [&rows](int row) {
+        const auto removed = std::lower_bound(rows.cbegin(), rows.cend(), row) - rows.cbegin();
+        return row - static_cast<int>(removed);
+    };
+    rebind(moved(topRow()), std::min(moved(m_current), m_model->rowCount() - 1));
 }
 
-void FileCardList::discard(FileCard *card)
+// No card shows what it has shown: the rows mean other files now.
+void FileCardList::rebind(int top, int current)
 {
-    card->hide();
-    m_cards.removeOne(card);
-    m_shown.removeOne(card);
-    m_built.removeOne(card);
-    m_discarded.append(card);
-    m_timer.start(0); // which also closes the gap, once for all that go now
+    const bool hadFocus = std::any_of(m_cards.cbegin(), m_cards.cend(), [](const Bound &bound) {
+        return bound.card->checkBox()->hasFocus();
+    });
+    for (Bound &bound : m_cards)
+        bound.row = -1;
+    updateRange();
+    verticalScrollBar()->setValue(top);
+    arrange();
+    m_current = std::max(current, 0);
+    if (hadFocus && m_model->rowCount() > 0)
+        focusRow(m_current, Qt::OtherFocusReason);
+    else
+        updateTabStop();
 }
 
-// Of all files, whether they have a card already or not: the list does not grow under the mouse.
-void FileCardList::updateHeight()
+void FileCardList::updateRange()
 {
-    const auto rows = static_cast<int>(m_cards.size() + m_files.size() - m_next);
-    widget()->setMinimumHeight(rows * rowHeight);
+    verticalScrollBar()->setPageStep(fullRows());
+    verticalScrollBar()->setRange(0, std::max(m_model->rowCount() - fullRows(), 0));
 }
 
-void FileCardList::work()
+// At least one: a list that is lower than a row is scrolled by one row all the same.
+int FileCardList::fullRows() const
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < longestWork) {
-        if (isFilling()) {
-            addCard();
-        } else if (!m_discarded.isEmpty()) {
-            delete m_discarded.takeFirst(); // the oldest is found first by its parent
-        } else {
-            m_timer.stop();
-            break;
-        }
+    return std::max((viewport()->height() + roomBetween) / rowHeight, 1);
+}
+
+int FileCardList::rowsInView() const
+{
+    return (viewport()->height() + rowHeight - 1) / rowHeight;
+}
+
+int FileCardList::topRow() const
+{
+    return verticalScrollBar()->value();
+}
+
+bool FileCardList::isInView(int row) const
+{
+    return row >= topRow() && row < std::min(topRow() + rowsInView(), m_model->rowCount());
+}
+
+QList<FileCard *> FileCardList::cards() const
+{
+    QList<FileCard *> shown;
+    for (int row = topRow(); isInView(row); ++row) {
+        if (FileCard *card = cardOf(row))
+            shown.append(card);
     }
-    if (!isFilling()) {
-        m_files.clear();
-        m_next = 0;
-    }
-    updateHeight();
-    showNearest();
+    return shown;
 }
 
-void FileCardList::showNearest()
+FileCard *FileCardList::cardOf(int row) const
 {
-    const int top = verticalScrollBar()->value() / rowHeight;
-    const int count = viewport()->height() / rowHeight + 2;
-    const qsizetype first = std::max(0, top - cardsAround);
-    const qsizetype end = std::min<qsizetype>(m_cards.size(), qsizetype(top) + count + cardsAround);
-    const QList<FileCard *> nearest =
-        first < end ? m_cards.sliced(first, end - first) : QList<FileCard *>();
-    for (FileCard *card : std::as_const(m_shown)) {
-        if (!nearest.contains(card))
-            card->hide();
+    const auto bound = std::find_if(m_cards.cbegin(), m_cards.cend(),
+                                    [row](const Bound &other) { return other.row == row; });
+    return bound == m_cards.cend() ? nullptr : bound->card;
+}
+
+int FileCardList::rowOf(const QObject *cardOrCheckBox) const
+{
+    const auto bound =
+        std::find_if(m_cards.cbegin(), m_cards.cend(), [cardOrCheckBox](const Bound &other) {
+            return cardOrCheckBox == other.card || cardOrCheckBox == other.card->checkBox();
+        });
+    return bound == m_cards.cend() ? -1 : bound->row;
+}
+
+void FileCardList::arrange()
+{
+    m_isArranging = true;
+    for (Bound &bound : m_cards) {
+        const bool isKept =
+            bound.row >= 0 && (isInView(bound.row) || bound.card->checkBox()->hasFocus());
+        if (!isKept)
+            bound.row = -1;
     }
-    m_shown = nearest;
-    for (qsizetype i = 0; i < nearest.size(); ++i) {
-        FileCard *card = nearest.at(i);
-        m_built.removeOne(card);
-        m_built.append(card);
-        card->setBuilt(true);
-        card->setGeometry(0, static_cast<int>(first + i) * rowHeight,
-                          widget()->width() - roomForScrollBar, FileCard::cardHeight);
-        card->show();
+    for (int row = topRow(); isInView(row); ++row) {
+        if (cardOf(row))
+            continue;
+        Bound &bound = freeCard();
+        bound.row = row;
+        bound.card->bind(m_model->at(row), m_model->isTicked(row));
     }
-    while (m_built.size() > mostBuilt)
-        m_built.takeFirst()->setBuilt(false);
+    updateTabStop();
+    // What is hidden may have the focus, which then goes on to a card that is in its place.
+    for (const Bound &bound : std::as_const(m_cards))
+        place(bound);
+    for (const Bound &bound : std::as_const(m_cards)) {
+        if (bound.row < 0)
+            bound.card->hide();
+    }
+    m_isArranging = false;
+}
+
+void FileCardList::place(const Bound &bound)
+{
+    if (bound.row < 0)
+        return;
+    // A card that is kept for its focus alone waits outside; so far away that no coordinate could
+    // tell its place.
+    const int y = isInView(bound.row) ? (bound.row - topRow()) * rowHeight
+        : bound.row < topRow()        ? -2 * rowHeight
+                                      : viewport()->height() + rowHeight;
+    bound.card->setGeometry(0, y, viewport()->width() - roomForScrollBar, FileCard::cardHeight);
+    bound.card->show();
+}
+
+FileCardList::Bound &FileCardList::freeCard()
+{
+    const auto free = std::find_if(m_cards.begin(), m_cards.end(),
+                                   [](const Bound &bound) { return bound.row < 0; });
+    if (free != m_cards.end())
+        return *free;
+    auto *card = new FileCard(viewport());
+    card->hide(); // not to appear with the list before it has a place
+    card->checkBox()->installEventFilter(this);
+    // Made late, it would be the last one of the window that the tabulator key comes to; and only
+    // what takes the focus itself can be named as the one before.
+    setFocusPolicy(Qt::TabFocus);
+    setTabOrder(this, card->checkBox());
+    setFocusPolicy(Qt::NoFocus);
+    m_cards.append({card, -1});
+    Q_EMIT cardMade(card);
+    return m_cards.last();
+}
+
+QWidget *FileCardList::tabStop() const
+{
+    const FileCard *card = cardOf(m_current);
+    if (!card)
+        card = cardOf(topRow());
+    return card ? card->checkBox() : nullptr;
+}
+
+void FileCardList::updateTabStop() const
+{
+    const QWidget *stop = tabStop();
+    for (const Bound &bound : m_cards)
+        bound.card->checkBox()->setFocusPolicy(bound.card->checkBox() == stop ? Qt::StrongFocus
+                                                                              : Qt::ClickFocus);
+}
+
+void FileCardList::scrollToRow(int row)
+{
+    const int top = std::clamp(topRow(), row - fullRows() + 1, row);
+    verticalScrollBar()->setValue(top);
+}
+
+void FileCardList::focusRow(int row, Qt::FocusReason reason)
+{
+    scrollToRow(row);
+    m_current = row; // of a window that is not active nobody would hear
+    if (const FileCard *card = cardOf(row))
+        card->checkBox()->setFocus(reason);
+    arrange(); // the card that had it is free now
+}
+
+bool FileCardList::moveByKey(int row, const QKeyEvent &event)
+{
+    const int last = m_model->rowCount() - 1;
+    int target = row + arrowStep(event);
+    switch (event.key()) {
+    case Qt::Key_PageUp:
+        target = row - fullRows();
+        break;
+    case Qt::Key_PageDown:
+        target = row + fullRows();
+        break;
+    case Qt::Key_Home:
+        target = 0;
+        break;
+    case Qt::Key_End:
+        target = last;
+        break;
+    default:
+        if (target == row)
+            return false;
+    }
+    focusRow(std::clamp(target, 0, last), Qt::OtherFocusReason);
+    return true;
+}
+
+bool FileCardList::eventFilter(QObject *watched, QEvent *event)
+{
+    const int row = rowOf(watched);
+    if (row < 0)
+        return QAbstractScrollArea::eventFilter(watched, event);
+    // While the list is being disabled the focus flees from card to card.
+    if (event->type() == QEvent::FocusIn && isEnabled()) {
+        m_current = row;
+        updateTabStop();
+        // Only where the tabulator key led: a click, or the window's coming back, moves nothing.
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (!m_isArranging && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
+            scrollToRow(row);
+    } else if (event->type() == QEvent::KeyPress) {
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        if (moveByKey(row, key))
+            return true;
+        if (key.key() == Qt::Key_Space)
+            scrollToRow(row); // nobody ticks what cannot be seen
+    }
+    return QAbstractScrollArea::eventFilter(watched, event);
 }
 
 void FileCardList::resizeEvent(QResizeEvent *event)
 {
-    QScrollArea::resizeEvent(event);
-    showNearest();
+    QAbstractScrollArea::resizeEvent(event);
+    updateRange();
+    arrange();
+}
+
+void FileCardList::scrollContentsBy(int, int)
+{
+    arrange();
 }

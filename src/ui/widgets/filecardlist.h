@@ -1,55 +1,73 @@
 #pragma once
 
-#include "largefileinfo.h"
-
+#include <QAbstractScrollArea>
 #include <QList>
-#include <QScrollArea>
-#include <QTimer>
 
 class FileCard;
+class LargeFileModel;
+class QKeyEvent;
 
-/// A scrolling list of any number of file cards that never keeps the window waiting: cards are made
-/// and deleted a few at a time while nothing else is to be done, and only those near the visible
-/// part are built, placed and shown. A layout would measure all of them for each that comes.
-class FileCardList final : public QScrollArea
+/// Shows the rows of a model as cards, of which there are only as many as have room: they are bound
+/// to the rows in view, and bound anew as the list scrolls. It scrolls by rows, so that any number
+/// of them can be reached.
+///
+/// The list is one stop of the tabulator key; the arrow and page keys lead from row to row. The
+/// focus belongs to a row: its card keeps it, out of sight, while the list is scrolled elsewhere.
+class FileCardList final : public QAbstractScrollArea
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FileCardList)
 public:
-    explicit FileCardList(QWidget *parent = nullptr);
+    /// @p model must outlive the list.
+    explicit FileCardList(LargeFileModel *model, QWidget *parent = nullptr);
     ~FileCardList() override;
 
-    /// Replaces all cards by one for each of @p files, in this order. The first screen is there at
-    /// once.
-    void setFiles(const QList<LargeFileInfo> &files);
-    /// Takes a card out of the list; it is deleted later.
-    void discard(FileCard *card);
-
-    /// The cards made so far, from top to bottom.
-    [[nodiscard]] const QList<FileCard *> &cards() const { return m_cards; }
-    /// Whether there is neither a card nor a file that waits for one.
-    [[nodiscard]] bool isEmpty() const { return m_cards.isEmpty() && !isFilling(); }
-    [[nodiscard]] bool isFilling() const { return m_next < m_files.size(); }
-    /// Whether cards that are no longer in the list wait for their end.
-    [[nodiscard]] bool isDeleting() const { return !m_discarded.isEmpty(); }
+    /// Those with a row in view, from top to bottom; the last may be cut off.
+    [[nodiscard]] QList<FileCard *> cards() const;
+    /// The row that a card shows, or that has the card's check box; below 0 for none.
+    [[nodiscard]] int rowOf(const QObject *cardOrCheckBox) const;
+    /// What the tabulator key comes to: the check box of the row that had the focus last, or of the
+    /// first one if that is not in view. Null without rows.
+    [[nodiscard]] QWidget *tabStop() const;
+    /// Scrolls as far as it takes to show the whole row.
+    void scrollToRow(int row);
+    /// Scrolls to the row and gives it the focus.
+    void focusRow(int row, Qt::FocusReason reason);
 
 Q_SIGNALS:
-    void cardAdded(FileCard *card);
+    /// One more card; it serves the list from now on.
+    void cardMade(FileCard *card);
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
 
 private:
-    void work();
-    void addCard();
-    void updateHeight();
-    void showNearest();
+    struct Bound {
+        FileCard *card;
+        int row = -1; ///< -1 while it waits for one
+    };
 
-    QList<LargeFileInfo> m_files;
-    qsizetype m_next = 0; ///< of the files, the first without a card
-    QList<FileCard *> m_cards;
-    QList<FileCard *> m_shown;
-    QList<FileCard *> m_built; ///< shown or not; what was shown last comes last
-    QList<FileCard *> m_discarded; ///< still to be deleted
-    QTimer m_timer;
+    void onFilesReplaced();
+    void onRowsRemoved(const QList<int> &rows);
+    void rebind(int top, int current);
+    void updateRange();
+    [[nodiscard]] int fullRows() const;
+    [[nodiscard]] int rowsInView() const;
+    [[nodiscard]] int topRow() const;
+    [[nodiscard]] bool isInView(int row) const;
+    /// Binds the cards to the rows in view and puts them there.
+    void arrange();
+    void place(const Bound &bound);
+    [[nodiscard]] Bound &freeCard();
+    [[nodiscard]] FileCard *cardOf(int row) const;
+    void updateTabStop() const;
+    /// Whether the key leads from the row to another one.
+    bool moveByKey(int row, const QKeyEvent &event);
+
+    LargeFileModel *m_model;
+    QList<Bound> m_cards;
+    int m_current = 0; ///< the row that has the focus or had it last
+    bool m_isArranging = false;
 };

@@ -1,0 +1,72 @@
+#include "largefilemodel.h"
+
+#include <QThreadPool>
+
+#include <utility>
+
+namespace {
+
+// A million records take a noticeable time to free: not on this thread, if nobody else has them.
+void discard(QList<LargeFileInfo> files)
+{
+    if (!files.isEmpty())
+        QThreadPool::globalInstance()->start([old = std::move(files)]() mutable { old.clear(); });
+}
+
+} // namespace
+
+void LargeFileModel::setFiles(const QList<LargeFileInfo> &files)
+{
+    discard(std::exchange(m_files, files));
+    m_ticked.fill(false, m_files.size());
+    m_tickedCount = 0;
+    m_tickedSize = 0;
+    Q_EMIT filesReplaced();
+}
+
+void LargeFileModel::setTicked(int row, bool on)
+{
+    if (isTicked(row) == on)
+        return;
+    m_ticked.setBit(row, on);
+    m_tickedCount += on ? 1 : -1;
+    m_tickedSize += on ? at(row).size : -at(row).size;
+}
+
+QList<int> LargeFileModel::tickedRows() const
+{
+    QList<int> rows;
+    rows.reserve(m_tickedCount);
+    for (int row = 0; rows.size() < m_tickedCount; ++row) {
+        if (isTicked(row))
+            rows.append(row);
+    }
+    return rows;
+}
+
+void LargeFileModel::removeRows(const QList<int> &rows)
+{
+    if (rows.isEmpty())
+        return;
+    for (const int row : rows)
+        setTicked(row, false);
+    QBitArray ticked(m_files.size() - rows.size());
+    auto next = rows.cbegin();
+    int kept = rows.constFirst();
+    for (int row = 0; row < kept; ++row)
+        ticked.setBit(row, isTicked(row));
+    for (int row = kept; row < rowCount(); ++row) {
+        if (next != rows.cend() && *next == row) {
+            ++next;
+            continue;
+        }
+        ticked.setBit(kept, isTicked(row));
+        std::swap(m_files[kept], m_files[row]);
+        ++kept;
+    }
+    QList<LargeFileInfo> removed = m_files.sliced(kept);
+    m_files.resize(kept);
+    m_ticked = ticked;
+    discard(std::move(removed));
+    Q_EMIT rowsRemoved(rows);
+}

@@ -15,12 +15,28 @@ void logWalkFailures(const QString &root, const platform::WalkReport &report)
             u"Cannot read %1 more folders below %2"_s.arg(QString::number(unnamed), root));
 }
 
+void logSkipped(const QString &path, const platform::Entry &entry)
+{
+    switch (entry.kind) {
+    case platform::EntryKind::Link:
+        Logger::instance().warning(u"Skipped %1: a link leads elsewhere"_s.arg(path));
+        return;
+    case platform::EntryKind::Other:
+        Logger::instance().warning(u"Skipped %1: %2"_s.arg(
+            path, entry.error.isEmpty() ? u"neither a file nor a folder"_s : entry.error));
+        return;
+    case platform::EntryKind::Missing:
+    case platform::EntryKind::File:
+    case platform::EntryKind::Folder:
+        return;
+    }
+}
+
 bool isScannable(const QString &folder)
 {
     if (folder.isEmpty())
         return false;
-    const platform::EntryKind kind = platform::inspect(folder).kind;
-    if (kind == platform::EntryKind::Link)
-        Logger::instance().warning(u"Skipped %1: a link leads elsewhere"_s.arg(folder));
-    return kind == platform::EntryKind::Folder;
+    const platform::Entry entry = platform::inspect(folder);
+    logSkipped(folder, entry);
+    return entry.kind == platform::EntryKind::Folder;
 }

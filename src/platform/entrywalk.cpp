@@ -25,7 +25,7 @@ public:
     {
         if (inspect(root).kind != EntryKind::Folder)
             return std::move(m_report);
-        FolderListing listing = listFolder(root, m_stopRequested);
+        FolderListing listing = m_lister.list(root, m_stopRequested);
         noteFailure(root, listing);
         m_device = listing.device;
         m_open.push_back(
@@ -87,7 +87,7 @@ private:
     // Not for use with a reference into the open folders, which it may move.
     void enter(const QString &path, bool isShown)
     {
-        FolderListing listing = listFolder(path, m_stopRequested);
+        FolderListing listing = m_lister.list(path, m_stopRequested);
         noteFailure(path, listing);
         if (listing.isMissing || listing.device != m_device) {
             if (isShown)
@@ -109,6 +109,7 @@ private:
 
     EntryVisitor &m_visitor;
     const std::atomic_bool *m_stopRequested;
+    const FolderLister m_lister;
     std::vector<Folder> m_open; ///< the way down to the current folder
     quint64 m_device = 0;
     WalkReport m_report;

@@ -10,7 +10,7 @@ namespace platform {
 struct WalkedEntry {
     QString name; ///< without its folder
     QString path; ///< absolute, with forward slashes
-    qint64 size = 0; ///< bytes; for a link to a file the size of its target, for folders 0
+    qint64 size = 0; ///< bytes; for a link its own size, for folders 0
     bool isFolder = false; ///< a folder, or a link to one
 };
 

@@ -14,6 +14,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <time.h>
 
 using namespace Qt::StringLiterals;
 
@@ -36,14 +37,63 @@ bool isFolderAt(int folder, const char *name)
     return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode);
 }
 
+bool isSame(int one, int other)
+{
+    FileStatus first{};
+    FileStatus second{};
+    return ::fstat(one, &first) == 0 && ::fstat(other, &second) == 0
+        && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+/// Sees to it that entries are removed where they were listed: a folder stays open when somebody
+/// moves it away. Whether it is still at its path is looked up anew for every few entries, and
+/// after every short while.
+class PlaceGuard
+{
+public:
+    /// For each entry of the open @p folder before it is removed; @p path tells where that belongs.
+    template<class Path>
+    [[nodiscard]] bool isInPlace(int folder, const Path &path)
+    {
+        if (--m_left >= 0 && now() - m_checked < longestTrust)
+            return true;
+        confirm();
+        const UniqueFd there = openFolder(path(), Access::PassThrough);
+        return there.isValid() && isSame(folder, there.get());
+    }
+    /// The folder has been opened by its path just now.
+    void confirm()
+    {
+        m_left = entriesAtOnce - 1;
+        m_checked = now();
+    }
+
+private:
+    static constexpr int entriesAtOnce = 32;
+    static constexpr qint64 longestTrust = 5'000'000; // nanoseconds
+
+    static qint64 now()
+    {
+        timespec time{};
+        ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+        return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    }
+
+    int m_left = 0;
+    qint64 m_checked = 0;
+};
+
 /// Empties and removes one folder, level by level without recursion. Only the deepest levels are
 /// held open; a level further up is opened anew, link-free from the top of the folder, when the
 /// work comes back to it.
 class FolderRemoval
 {
 public:
-    FolderRemoval(int parent, const QByteArray &name, const std::atomic_bool *stopRequested)
+    /// The folder @p name of the open folder @p parent, which is at @p parentPath.
+    FolderRemoval(int parent, const QByteArray &parentPath, const QByteArray &name,
+                  const std::atomic_bool *stopRequested)
         : m_parent(parent)
+        , m_parentPath(parentPath)
         , m_name(name)
         , m_stopRequested(stopRequested)
     {
@@ -56,7 +106,7 @@ public:
             return failure(errno, true);
         if (!enter(openFolderBelow(m_top.get(), {}, Mounts::Stay), {}))
             return failure(m_error, true);
-        while (!m_levels.empty() && !isStopped())
+        while (!m_levels.empty() && !isStopped() && !m_wasMoved)
             step();
         if (isStopped())
             return failure(ECANCELED, true);
@@ -80,6 +130,28 @@ private:
     {
         if (m_error == 0)
             m_error = error;
+    }
+
+    // Before anything in the level is removed. Once the folder is not where it was, nothing more
+    // is.
+    bool isInPlace(const Level &level)
+    {
+        if (m_wasMoved || m_guard.isInPlace(level.fd.get(), [&] { return pathOf(level); }))
+            return !m_wasMoved;
+        m_wasMoved = true;
+        note(ENOENT);
+        return false;
+    }
+
+    // Of the deepest level, or of one that is about to become it.
+    QByteArray pathOf(const Level &level) const
+    {
+        QByteArray path = m_parentPath == "/" ? QByteArray() : m_parentPath;
+        path += '/' + m_name;
+        for (std::size_t i = 1; i < m_levels.size(); ++i)
+            path += '/' + m_levels[i].name;
+        const bool isOnStack = !m_levels.empty() && &m_levels.back() == &level;
+        return isOnStack || level.name.isEmpty() ? path : path + '/' + level.name;
     }
 
     // Removes everything in the folder but its subfolders, and puts it on the stack with those.
@@ -110,7 +182,7 @@ private:
                 return false;
             }
             for (ssize_t offset = 0; offset < length;) {
-                if (isStopped())
+                if (isStopped() || m_wasMoved)
                     return true;
                 const auto *entry = reinterpret_cast<const dirent64 *>(buffer + offset);
                 offset += entry->d_reclen;
@@ -127,7 +199,7 @@ private:
             entry.d_type == DT_DIR || (entry.d_type == DT_UNKNOWN && isFolderAt(fd, entry.d_name));
         if (isFolder) {
             level.subfolders.emplace_back(entry.d_name);
-        } else if (::unlinkat(fd, entry.d_name, 0) != 0 && errno != ENOENT) {
+        } else if (isInPlace(level) && ::unlinkat(fd, entry.d_name, 0) != 0 && errno != ENOENT) {
             // A folder that its owner made read-only does not protect what is in it from being
             // cleaned.
             const int error = errno;
@@ -161,7 +233,7 @@ private:
         if (!subfolder.isValid() && (errno == ELOOP || errno == ENOTDIR)) {
             // It was exchanged for something else since its parent was read: that goes as what it
             // is.
-            if (::unlinkat(fd, name.constData(), 0) != 0 && errno != ENOENT)
+            if (isInPlace(level) && ::unlinkat(fd, name.constData(), 0) != 0 && errno != ENOENT)
                 note(errno);
             return;
         }
@@ -178,7 +250,7 @@ private:
         if (m_levels.empty())
             return;
         Level &parent = m_levels.back();
-        if (!parent.fd.isValid() && !reopen())
+        if ((!parent.fd.isValid() && !reopen()) || !isInPlace(parent))
             return;
         const int fd = parent.fd.get();
         if (::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0 || errno == ENOENT)
@@ -210,10 +282,13 @@ private:
     }
 
     const int m_parent;
+    const QByteArray m_parentPath;
     const QByteArray m_name;
     const std::atomic_bool *const m_stopRequested;
     UniqueFd m_top;
     std::vector<Level> m_levels;
+    PlaceGuard m_guard;
+    bool m_wasMoved = false;
     int m_error = 0;
 };
 
@@ -222,18 +297,25 @@ private:
 class FileRemover::Private
 {
 public:
-    // Opens the folder of the next entry, unless it is the one that is open already.
+    // Opens the folder of the next entry, unless it is the one that is open already and still
+    // there.
     bool openParent(const QByteArray &path)
     {
-        if (fd.isValid() && folder == path)
+        if (isOpen(path) && guard.isInPlace(fd.get(), [&] { return path; }))
             return true;
-        fd = openFolder(path);
+        fd = openFolder(path, Access::PassThrough);
         folder = path;
+        guard.confirm();
         return fd.isValid();
+    }
+    [[nodiscard]] bool isOpen(const QByteArray &path) const
+    {
+        return fd.isValid() && folder == path;
     }
 
     QByteArray folder;
     UniqueFd fd;
+    PlaceGuard guard;
 };
 
 FileRemover::FileRemover()
@@ -250,7 +332,7 @@ FileRemover::Outcome FileRemover::removeFile(const QString &path)
         return failure(EINVAL);
 
     // An open folder may have been removed and made again under the same name: then one fresh look.
-    const bool wasOpen = d->fd.isValid() && d->folder == split.folder;
+    const bool wasOpen = d->isOpen(split.folder);
     int error = ENOENT;
     for (int attempts = wasOpen ? 2 : 1; attempts > 0 && error == ENOENT; --attempts) {
         if (!d->openParent(split.folder)) {
@@ -273,7 +355,8 @@ FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_
     const Outcome outcome = removeFile(path);
     if (!outcome.wasFolder)
         return outcome;
-    return FolderRemoval(d->fd.get(), splitPath(path).name, stopRequested).run();
+    const SplitPath split = splitPath(path);
+    return FolderRemoval(d->fd.get(), split.folder, split.name, stopRequested).run();
 }
 
 } // namespace platform

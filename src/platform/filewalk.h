@@ -22,6 +22,7 @@ enum class EntryKind {
 struct Entry {
     EntryKind kind = EntryKind::Missing;
     qint64 size = 0; ///< bytes, for files only
+    QString error; ///< for people; why it cannot be looked at, with EntryKind::Other
 };
 
 /// Looks at the entry at an absolute path without following a link anywhere on the way.
@@ -31,7 +32,7 @@ struct Entry {
 struct WalkedFile {
     QString name; ///< without its folder
     QString path; ///< absolute, with forward slashes
-    qint64 size = 0; ///< bytes; for a link to a file the size of its target
+    qint64 size = 0; ///< bytes; of a link its own, which is what its removal frees
 };
 
 /// How far a walk goes.
@@ -77,18 +78,19 @@ using FileVisitor = std::function<void(WalkedFile &&file)>;
 /// Lists the files of a folder, and of those below it unless told otherwise.
 ///
 /// @p root is absolute and leads through no link, see inspect(); the caller resolves what it
-/// trusts. What comes out equals QDirIterator's QDir::Files listing: neither hidden entries (on
-/// Windows: nor system ones) nor what lies in hidden folders, no pipes, sockets, devices or
-/// undecodable names, links to folders not entered, links to files listed. In addition a walk never
-/// leaves the device of its root, unless the options say otherwise. Files of one folder arrive
-/// together, before those of its subfolders; the order is otherwise the file system's.
+/// trusts. What comes out equals QDirIterator's QDir::Files listing but for the sizes of links:
+/// neither hidden entries (on Windows, and below a Wine prefix: nor system ones) nor what lies in
+/// hidden folders, no pipes, sockets, devices or undecodable names, links to folders not entered,
+/// links to files listed. In addition a walk never leaves the device of its root, unless the
+/// options say otherwise. Files of one folder arrive together, before those of its subfolders; the
+/// order is otherwise the file system's.
 WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit);
 
 /// A file as a walk meets it. No string is built for it: most are looked at and passed over.
 struct MetFile {
     QAnyStringView name; ///< without its folder; valid until the visitor returns
-    qint64 size = 0; ///< bytes; for a link to a file the size of its target
-    qint64 modified = 0; ///< milliseconds since 1970, UTC; of the target for a link
+    qint64 size = 0; ///< bytes; of a link its own, which is what its removal frees
+    qint64 modified = 0; ///< milliseconds since 1970, UTC; of a link its own
 };
 
 /// Receives what one walker meets, on the thread of that walker.

@@ -1,5 +1,6 @@
 #include "filewalk_p.h"
 
+#include "dosattributes_unix.h"
 #include "namefilter.h"
 #include "openfolder_unix.h"
 
@@ -148,6 +149,7 @@ struct Shared {
     OpenLevels levels;
     VisitedFolders visited;
     SharedReport report;
+    const DosAttributes attributes;
     dev_t device = 0; ///< of the root
     bool hasOneWalker = true;
 };
@@ -320,6 +322,7 @@ private:
                     const SharedFd &fd, dev_t device)
     {
         const bool isAsked = m_visitor.enterFolder(path) == TreeVisitor::Wanted::SizesAndTimes;
+        m_mayBeHidden = m_shared.attributes.mayBeIn(path);
         std::shared_ptr<Level> level;
         while (!m_shared.queue.isStopped()) {
             const ssize_t length = ::getdents64(fd->get(), m_buffer.get(), bufferSize);
@@ -363,15 +366,21 @@ private:
         if (type == DT_UNKNOWN)
             type = typeOf(folderFd, entry.d_name);
         if (type == DT_REG) {
-            if (name.isValidUtf8() && isMatch(name))
+            if (name.isValidUtf8() && isMatch(name) && isShown(folderFd, entry.d_name))
                 readFile(folderFd, entry.d_name, isAsked);
         } else if (type == DT_DIR) {
-            if (m_shared.options.recursive && name.isValidUtf8())
+            if (m_shared.options.recursive && name.isValidUtf8() && isShown(folderFd, entry.d_name))
                 m_subfolders.push_back({joinedPath(folder, name.toString()), nullptr});
         } else if (type == DT_LNK) {
-            if (name.isValidUtf8() && (isEverywhere() || isMatch(name)))
+            if (name.isValidUtf8() && (isEverywhere() || isMatch(name))
+                && isShown(folderFd, entry.d_name))
                 readLink(folderFd, folder, entry.d_name);
         }
+    }
+
+    bool isShown(int folderFd, const char *name) const
+    {
+        return !m_mayBeHidden || !DosAttributes::areHidden(folderFd, name);
     }
 
     bool isMatch(QUtf8StringView name) const
@@ -411,7 +420,10 @@ private:
         if (::statx(folderFd, name, AT_NO_AUTOMOUNT, fileMask | STATX_INO, &status) != 0)
             return;
         if (S_ISREG(status.stx_mode)) {
-            if (isMatch(name))
+            // What would go is the link.
+            if (isMatch(name)
+                && ::statx(folderFd, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, fileMask, &status)
+                    == 0)
                 meet(name, status);
         } else if (S_ISDIR(status.stx_mode) && isEverywhere() && m_shared.options.recursive) {
             const FolderId target{makedev(status.stx_dev_major, status.stx_dev_minor),
@@ -434,31 +446,34 @@ private:
     const std::unique_ptr<char[]> m_buffer;
     std::vector<Folder> m_subfolders; ///< of the folder that is being read
     std::size_t m_levelled = 0; ///< how many of them know their parent
+    bool m_mayBeHidden = false; ///< what is in it, though it has no dot in front
 };
 
 } // namespace
 
 Entry inspect(const QString &path)
 {
+    const auto failure = [](int error) {
+        if (error == ELOOP)
+            return Entry{EntryKind::Link, 0, {}};
+        return error == ENOENT || error == ENOTDIR ? Entry()
+                                                   : Entry{EntryKind::Other, 0, reasonOf(error)};
+    };
     const SplitPath split = splitPath(path);
     if (split.folder.isEmpty())
         return {};
     if (split.name.isEmpty())
-        return {path == u'/' ? EntryKind::Folder : EntryKind::Missing, 0};
-    const UniqueFd folder = openFolder(split.folder);
-    if (!folder.isValid()) {
-        if (errno == ELOOP)
-            return {EntryKind::Link, 0};
-        return {errno == ENOENT || errno == ENOTDIR ? EntryKind::Missing : EntryKind::Other, 0};
-    }
+        return {path == u'/' ? EntryKind::Folder : EntryKind::Missing, 0, {}};
+    const UniqueFd folder = openFolder(split.folder, Access::PassThrough);
     FileStatus status{};
-    if (::fstatat(folder.get(), split.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return {errno == ENOENT ? EntryKind::Missing : EntryKind::Other, 0};
+    if (!folder.isValid()
+        || ::fstatat(folder.get(), split.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return failure(errno);
     if (S_ISREG(status.st_mode))
-        return {EntryKind::File, static_cast<qint64>(status.st_size)};
+        return {EntryKind::File, static_cast<qint64>(status.st_size), {}};
     if (S_ISDIR(status.st_mode))
-        return {EntryKind::Folder, 0};
-    return {S_ISLNK(status.st_mode) ? EntryKind::Link : EntryKind::Other, 0};
+        return {EntryKind::Folder, 0, {}};
+    return {S_ISLNK(status.st_mode) ? EntryKind::Link : EntryKind::Other, 0, {}};
 }
 
 WalkReport walkTree(const QString &root, const WalkOptions &options,

@@ -257,14 +257,12 @@ private:
             return;
         case EntryNature::File:
             if (m_filter.matches(name))
-                m_visitor.meetFile(
-                    {name, sizeOf(entry.nFileSizeHigh, entry.nFileSizeLow),
-                     millisecondsSince1970(sizeOf(entry.ftLastWriteTime.dwHighDateTime,
-                                                  entry.ftLastWriteTime.dwLowDateTime))});
+                meet(name, entry);
             return;
         case EntryNature::FileLink:
-            if (m_filter.matches(name))
-                readFileLink(folder.path, name);
+            if (m_filter.matches(name)
+                && leadsToFile(extendedPath(joinedPath(folder.path, name.toString()))))
+                meet(name, entry);
             return;
         case EntryNature::FolderLink:
             if (isEverywhere() && m_shared.options.recursive)
@@ -275,19 +273,12 @@ private:
         }
     }
 
-    // Tells the visitor when the link leads to a file.
-    void readFileLink(const QString &folder, QStringView name)
+    // Of a link, too, these are its own size and time.
+    void meet(QStringView name, const WIN32_FIND_DATAW &entry)
     {
-        const UniqueHandle target = openEntry(extendedPath(joinedPath(folder, name.toString())),
-                                              FILE_READ_ATTRIBUTES, Links::Follow);
-        FILE_STANDARD_INFO info{};
-        FILE_BASIC_INFO times{};
-        if (target.isValid() && ::GetFileType(target.get()) == FILE_TYPE_DISK
-            && ::GetFileInformationByHandleEx(target.get(), FileStandardInfo, &info, sizeof info)
-            && !info.Directory
-            && ::GetFileInformationByHandleEx(target.get(), FileBasicInfo, &times, sizeof times))
-            m_visitor.meetFile({name, info.EndOfFile.QuadPart,
-                                millisecondsSince1970(times.LastWriteTime.QuadPart)});
+        m_visitor.meetFile({name, sizeOf(entry.nFileSizeHigh, entry.nFileSizeLow),
+                            millisecondsSince1970(sizeOf(entry.ftLastWriteTime.dwHighDateTime,
+                                                         entry.ftLastWriteTime.dwLowDateTime))});
     }
 
     static constexpr std::size_t subfoldersAtOnce = 64;
@@ -302,32 +293,37 @@ private:
 
 Entry inspect(const QString &path)
 {
+    const auto failure = [](DWORD error) {
+        return isMissing(error) ? Entry() : Entry{EntryKind::Other, 0, reasonOf(error)};
+    };
     const QString extended = extendedPath(path);
     if (extended.isEmpty())
         return {};
     const UniqueHandle entry = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Open);
     if (!entry.isValid())
-        return {isMissing(::GetLastError()) ? EntryKind::Missing : EntryKind::Other, 0};
+        return failure(::GetLastError());
     if (PlaceCheck().placeOf(entry, extended) == PlaceCheck::Place::Elsewhere)
-        return {EntryKind::Link, 0};
+        return {EntryKind::Link, 0, {}};
     const std::optional<EntryAttributes> attributes = attributesOf(entry);
+    if (!attributes)
+        return failure(::GetLastError());
+    if (::GetFileType(entry.get()) != FILE_TYPE_DISK)
+        return {EntryKind::Other, 0, {}};
     FILE_STANDARD_INFO standard{};
-    if (!attributes || ::GetFileType(entry.get()) != FILE_TYPE_DISK
-        || !::GetFileInformationByHandleEx(entry.get(), FileStandardInfo, &standard,
-                                           sizeof standard))
-        return {EntryKind::Other, 0};
+    if (!::GetFileInformationByHandleEx(entry.get(), FileStandardInfo, &standard, sizeof standard))
+        return failure(::GetLastError());
     switch (attributes->nature) {
     case EntryNature::File:
-        return {EntryKind::File, standard.EndOfFile.QuadPart};
+        return {EntryKind::File, standard.EndOfFile.QuadPart, {}};
     case EntryNature::Folder:
-        return {EntryKind::Folder, 0};
+        return {EntryKind::Folder, 0, {}};
     case EntryNature::FileLink:
     case EntryNature::FolderLink:
-        return {EntryKind::Link, 0};
+        return {EntryKind::Link, 0, {}};
     case EntryNature::Special:
         break;
     }
-    return {EntryKind::Other, 0};
+    return {EntryKind::Other, 0, {}};
 }
 
 WalkReport walkTree(const QString &root, const WalkOptions &options,

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <atomic>
+#include <memory>
 #include <vector>
 
 namespace platform {
@@ -13,8 +14,8 @@ enum class ListedKind { File, Folder, FileLink, FolderLink };
 struct ListedEntry {
     QString name;
     ListedKind kind = ListedKind::File;
-    bool isHidden = false; ///< on Windows also when it belongs to the system
-    qint64 size = 0; ///< bytes; for a link to a file the size of its target, for folders 0
+    bool isHidden = false; ///< or, to Windows programs, the system's
+    qint64 size = 0; ///< bytes; for a link its own size, for folders 0
 };
 
 struct FolderListing {
@@ -25,13 +26,26 @@ struct FolderListing {
     QString error; ///< why it could not be read; what was read before is kept
 };
 
-/// Reads the folder at an absolute path. On Linux it is opened without following a link anywhere;
-/// on Windows the caller has looked at the path before, see inspect().
-///
-/// Left out: pipes, sockets and devices, names that cannot be decoded, links that lead to neither a
-/// file nor a folder, and on Linux what is mounted there, folder or file; on Windows a mount point
-/// counts as a link. Ends early once @p stopRequested is set.
-[[nodiscard]] FolderListing listFolder(const QString &path,
-                                       const std::atomic_bool *stopRequested = nullptr);
+/// Reads folders. One object a walk.
+class FolderLister final
+{
+    Q_DISABLE_COPY_MOVE(FolderLister)
+public:
+    FolderLister();
+    ~FolderLister();
+
+    /// Reads the folder at an absolute path. On Linux it is opened without following a link
+    /// anywhere; on Windows the caller has looked at the path before, see inspect().
+    ///
+    /// Left out: pipes, sockets and devices, names that cannot be decoded, links that lead to
+    /// neither a file nor a folder, and on Linux what is mounted there, folder or file; on Windows
+    /// a mount point counts as a link. Ends early once @p stopRequested is set.
+    [[nodiscard]] FolderListing list(const QString &path,
+                                     const std::atomic_bool *stopRequested = nullptr) const;
+
+private:
+    class Private;
+    const std::unique_ptr<const Private> d;
+};
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "folderlist.h"
 
+#include "dosattributes_unix.h"
 #include "openfolder_unix.h"
 
 #include <QFile>
@@ -28,26 +29,26 @@ std::optional<struct statx> look(int folder, const char *name, int flags)
     return status;
 }
 
-std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry)
+std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry, bool mayBeHidden)
 {
     const QUtf8StringView name(entry.d_name);
     if (!name.isValidUtf8())
         return {};
-    std::optional<struct statx> status = look(folder, entry.d_name, AT_SYMLINK_NOFOLLOW);
-    if (!status || (status->stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
+    const std::optional<struct statx> own = look(folder, entry.d_name, AT_SYMLINK_NOFOLLOW);
+    if (!own || (own->stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
         return {};
-    const bool isLink = S_ISLNK(status->stx_mode);
-    if (isLink)
-        status = look(folder, entry.d_name, 0);
-    if (!status)
+    const bool isLink = S_ISLNK(own->stx_mode);
+    const std::optional<struct statx> target = isLink ? look(folder, entry.d_name, 0) : own;
+    if (!target)
         return {};
-    const bool isHidden = entry.d_name[0] == '.';
-    if (S_ISDIR(status->stx_mode))
+    const bool isHidden =
+        entry.d_name[0] == '.' || (mayBeHidden && DosAttributes::areHidden(folder, entry.d_name));
+    if (S_ISDIR(target->stx_mode))
         return ListedEntry{name.toString(), isLink ? ListedKind::FolderLink : ListedKind::Folder,
                            isHidden, 0};
-    if (S_ISREG(status->stx_mode))
+    if (S_ISREG(target->stx_mode))
         return ListedEntry{name.toString(), isLink ? ListedKind::FileLink : ListedKind::File,
-                           isHidden, static_cast<qint64>(status->stx_size)};
+                           isHidden, static_cast<qint64>(own->stx_size)};
     return {};
 }
 
@@ -58,7 +59,20 @@ bool isNone(const dirent64 &entry)
 
 } // namespace
 
-FolderListing listFolder(const QString &path, const std::atomic_bool *stopRequested)
+class FolderLister::Private
+{
+public:
+    DosAttributes attributes;
+};
+
+FolderLister::FolderLister()
+    : d(std::make_unique<const Private>())
+{
+}
+
+FolderLister::~FolderLister() = default;
+
+FolderListing FolderLister::list(const QString &path, const std::atomic_bool *stopRequested) const
 {
     FolderListing listing;
     const auto fail = [&listing](int error) {
@@ -72,6 +86,7 @@ FolderListing listFolder(const QString &path, const std::atomic_bool *stopReques
         return listing;
     }
     listing.device = status.st_dev;
+    const bool mayBeHidden = d->attributes.mayBeIn(path);
     const auto buffer = std::make_unique_for_overwrite<char[]>(bufferSize);
     for (;;) {
         const ssize_t length = ::getdents64(folder.get(), buffer.get(), bufferSize);
@@ -86,7 +101,7 @@ FolderListing listFolder(const QString &path, const std::atomic_bool *stopReques
             offset += entry->d_reclen;
             if (isNone(*entry))
                 continue;
-            if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry))
+            if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry, mayBeHidden))
                 listing.entries.push_back(std::move(*found));
         }
     }

@@ -31,15 +31,12 @@ std::optional<ListedEntry> inspectEntry(const QString &folder, const WIN32_FIND_
         listed.kind = ListedKind::File;
         listed.size = sizeOf(entry.nFileSizeHigh, entry.nFileSizeLow);
         return listed;
-    case EntryNature::FileLink: {
-        const std::optional<qint64> size =
-            linkedFileSize(extendedPath(folder + u'/' + listed.name));
-        if (!size)
+    case EntryNature::FileLink:
+        if (!leadsToFile(extendedPath(folder + u'/' + listed.name)))
             return {};
         listed.kind = ListedKind::FileLink;
-        listed.size = *size;
+        listed.size = sizeOf(entry.nFileSizeHigh, entry.nFileSizeLow);
         return listed;
-    }
     case EntryNature::Special:
         break;
     }
@@ -48,7 +45,14 @@ std::optional<ListedEntry> inspectEntry(const QString &folder, const WIN32_FIND_
 
 } // namespace
 
-FolderListing listFolder(const QString &path, const std::atomic_bool *stopRequested)
+class FolderLister::Private
+{
+};
+
+FolderLister::FolderLister() = default;
+FolderLister::~FolderLister() = default;
+
+FolderListing FolderLister::list(const QString &path, const std::atomic_bool *stopRequested) const
 {
     FolderListing listing;
     const QString folder = path.endsWith(u'/') ? path.chopped(1) : path;

@@ -173,15 +173,13 @@ UniqueHandle openEntry(const QString &extended, quint32 access, Links links)
     return handle == INVALID_HANDLE_VALUE ? UniqueHandle() : UniqueHandle(handle);
 }
 
-std::optional<qint64> linkedFileSize(const QString &extended)
+bool leadsToFile(const QString &extended)
 {
     const UniqueHandle target = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);
     FILE_STANDARD_INFO info{};
-    if (!target.isValid() || ::GetFileType(target.get()) != FILE_TYPE_DISK
-        || !::GetFileInformationByHandleEx(target.get(), FileStandardInfo, &info, sizeof info)
-        || info.Directory)
-        return {};
-    return info.EndOfFile.QuadPart;
+    return target.isValid() && ::GetFileType(target.get()) == FILE_TYPE_DISK
+        && ::GetFileInformationByHandleEx(target.get(), FileStandardInfo, &info, sizeof info)
+        && !info.Directory;
 }
 
 QString finalPath(const UniqueHandle &entry, PathForm form)

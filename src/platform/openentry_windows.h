@@ -74,8 +74,8 @@ enum class Links { Follow, Open };
 /// and the thread's last error tells why.
 [[nodiscard]] UniqueHandle openEntry(const QString &extended, quint32 access, Links links);
 
-/// The bytes of the file that a link at an extended path leads to; nothing when it leads to none.
-[[nodiscard]] std::optional<qint64> linkedFileSize(const QString &extended);
+/// Whether a link at an extended path leads to a file.
+[[nodiscard]] bool leadsToFile(const QString &extended);
 
 /// The path that the system gives an open entry, below the drive letters or below the devices
 /// themselves; empty on failure, as openEntry().

@@ -16,9 +16,6 @@ namespace {
 // Below PATH_MAX with room for the terminator: what one system call is given of a longer path.
 constexpr qsizetype longestStep = 4000;
 
-// What is opened on the way is only passed through, which needs no right to read it.
-enum class Access { Read, PassThrough };
-
 constexpr int flagsOf(Access access)
 {
     return O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC | (access == Access::Read ? O_RDONLY : O_PATH);
@@ -83,16 +80,16 @@ UniqueFd openStep(int base, const QByteArray &relative, Mounts mounts, Access ac
 
 } // namespace
 
-UniqueFd openFolderBelow(int base, const QByteArray &relative, Mounts mounts)
+UniqueFd openFolderBelow(int base, const QByteArray &relative, Mounts mounts, Access access)
 {
     if (relative.isEmpty())
-        return UniqueFd(::openat(base, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        return UniqueFd(::openat(base, ".", flagsOf(access)));
     UniqueFd current;
     qsizetype begin = 0;
     for (;;) {
         const int from = current.isValid() ? current.get() : base;
         if (relative.size() - begin <= longestStep)
-            return openStep(from, relative.mid(begin), mounts, Access::Read);
+            return openStep(from, relative.mid(begin), mounts, access);
         const qsizetype end = relative.lastIndexOf('/', begin + longestStep);
         if (end <= begin) {
             errno = ENAMETOOLONG;
@@ -105,7 +102,7 @@ UniqueFd openFolderBelow(int base, const QByteArray &relative, Mounts mounts)
     }
 }
 
-UniqueFd openFolder(const QByteArray &path)
+UniqueFd openFolder(const QByteArray &path, Access access)
 {
     if (!path.startsWith('/')) {
         errno = EINVAL;
@@ -115,9 +112,7 @@ UniqueFd openFolder(const QByteArray &path)
     qsizetype begin = 0;
     while (begin < path.size() && path.at(begin) == '/')
         ++begin;
-    if (begin == path.size())
-        return UniqueFd(::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return openFolderBelow(root.get(), path.mid(begin), Mounts::Cross);
+    return openFolderBelow(root.get(), path.mid(begin), Mounts::Cross, access);
 }
 
 SplitPath splitPath(const QString &path)

@@ -53,16 +53,20 @@ private:
 
 enum class Mounts { Cross, Stay };
 
-/// Opens the folder at @p relative below the open folder @p base for reading, never through a
-/// symbolic link.
+/// What an open folder is for. To look at what is in it by name, or to remove that, it needs only
+/// be passed through, for which nobody has to be allowed to list it.
+enum class Access { Read, PassThrough };
+
+/// Opens the folder at @p relative below the open folder @p base, never through a symbolic link.
 ///
 /// An empty path opens @p base anew. Paths may be longer than the system's limit for one call. On
 /// failure the result is invalid and errno tells why: ELOOP for a link on the way, ENOTDIR for
 /// something that is no folder, EXDEV for a mount point below @p base when told to stay.
-[[nodiscard]] UniqueFd openFolderBelow(int base, const QByteArray &relative, Mounts mounts);
+[[nodiscard]] UniqueFd openFolderBelow(int base, const QByteArray &relative, Mounts mounts,
+                                       Access access = Access::Read);
 
 /// The same for an absolute path, from the root of the file system down; mount points are crossed.
-[[nodiscard]] UniqueFd openFolder(const QByteArray &path);
+[[nodiscard]] UniqueFd openFolder(const QByteArray &path, Access access = Access::Read);
 
 /// An absolute path split into its folder and the name of its last entry.
 struct SplitPath {

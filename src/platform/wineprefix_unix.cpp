@@ -6,7 +6,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
+#include <cerrno>
+
+#include <fcntl.h>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -30,16 +34,88 @@ QString userName()
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString();
 }
 
-// A text value of the user's environment, from the registry file of the prefix.
+// A text value of the environment that the prefix's registry lays down: the user's, else the
+// machine's.
 QString environmentValue(const QString &name)
 {
-    QFile file(folder() + "/user.reg"_L1);
-    if (!file.open(QIODevice::ReadOnly))
+    for (const auto &[hive, path] :
+         {std::pair("/user.reg"_L1, u"Environment"_s),
+          std::pair("/system.reg"_L1,
+                    u"System\\CurrentControlSet\\Control\\Session Manager\\Environment"_s)}) {
+        QFile file(folder() + hive);
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        const std::optional<RegistryFile> registry = RegistryFile::parse(file.readAll());
+        const RegistryFile::Key key = registry ? registry->find(path) : RegistryFile::none;
+        const auto value = key == RegistryFile::none ? std::nullopt : registry->value(key, name);
+        if (value)
+            return registryText(*value);
+    }
+    return {};
+}
+
+// A folder below the C: drive as Windows programs name it; empty for others.
+QString windowsPath(const QString &folder)
+{
+    const QString drive = systemDrive();
+    if (drive.isEmpty() || !(folder + u'/').startsWith(drive + u'/'))
         return {};
-    const std::optional<RegistryFile> registry = RegistryFile::parse(file.readAll());
-    const RegistryFile::Key key = registry ? registry->find(u"Environment"_s) : RegistryFile::none;
-    const auto value = key == RegistryFile::none ? std::nullopt : registry->value(key, name);
-    return value ? registryText(*value) : QString();
+    return "C:"_L1 + folder.mid(drive.size()).replace(u'/', u'\\');
+}
+
+// What Wine sets for every program.
+std::optional<QString> fixedVariable(const QString &name)
+{
+    static const QHash<QString, QString> values{
+        {u"SYSTEMROOT"_s, u"C:\\windows"_s},
+        {u"WINDIR"_s, u"C:\\windows"_s},
+        {u"PROGRAMFILES"_s, u"C:\\Program Files"_s},
+        {u"PROGRAMFILES(X86)"_s, u"C:\\Program Files (x86)"_s},
+        {u"COMMONPROGRAMFILES"_s, u"C:\\Program Files\\Common Files"_s},
+        {u"COMMONPROGRAMFILES(X86)"_s, u"C:\\Program Files (x86)\\Common Files"_s},
+        {u"PROGRAMDATA"_s, u"C:\\ProgramData"_s},
+        {u"PUBLIC"_s, u"C:\\users\\Public"_s},
+        {u"SYSTEMDRIVE"_s, u"C:"_s},
+        {u"HOMEDRIVE"_s, u"C:"_s},
+    };
+    const auto value = values.constFind(name);
+    return value == values.cend() ? std::nullopt : std::optional(*value);
+}
+
+std::optional<QString> userVariable(const QString &name)
+{
+    const QString user = windowsPath(userFolder());
+    if (user.isEmpty())
+        return {};
+    if (name == "USERPROFILE"_L1)
+        return user;
+    if (name == "HOMEPATH"_L1)
+        return user.mid(2);
+    if (name == "LOCALAPPDATA"_L1)
+        return user + "\\AppData\\Local"_L1;
+    if (name == "APPDATA"_L1)
+        return user + "\\AppData\\Roaming"_L1;
+    return {};
+}
+
+// With the variables in it replaced; nothing when one of them is not known.
+std::optional<QString> expanded(const QString &text)
+{
+    QString result;
+    qsizetype at = 0;
+    for (;;) {
+        const qsizetype begin = text.indexOf(u'%', at);
+        const qsizetype end = begin < 0 ? -1 : text.indexOf(u'%', begin + 1);
+        if (end < 0)
+            return result + text.mid(at);
+        const QString name = text.mid(begin + 1, end - begin - 1).toUpper();
+        const std::optional<QString> fixed = fixedVariable(name);
+        const std::optional<QString> value = fixed ? fixed : userVariable(name);
+        if (!value)
+            return {};
+        result += text.mid(at, begin - at) + *value;
+        at = end + 1;
+    }
 }
 
 } // namespace
@@ -76,23 +152,37 @@ QString userFolder()
     return profiles.size() == 1 ? users + u'/' + profiles.constFirst() : QString();
 }
 
+std::optional<QString> variable(const QString &name)
+{
+    if (folder().isEmpty())
+        return {};
+    if (name == "TEMP"_L1 || name == "TMP"_L1) {
+        const QString laidDown = environmentValue(name);
+        return expanded(laidDown.isEmpty() ? u"%LOCALAPPDATA%\\Temp"_s : laidDown);
+    }
+    const std::optional<QString> fixed = fixedVariable(name);
+    return fixed ? fixed : userVariable(name);
+}
+
 QString temporaryFolder()
 {
-    const QString user = userFolder();
-    if (user.isEmpty())
-        return {};
-    const QString otherwise = matchCase(user, u"AppData/Local/Temp"_s);
-    QString path = environmentValue(u"TMP"_s);
-    if (path.isEmpty())
-        path = environmentValue(u"TEMP"_s);
-    path.replace("%USERPROFILE%"_L1, user, Qt::CaseInsensitive);
+    // In the order in which Windows asks them.
+    for (const QString &name : {u"TMP"_s, u"TEMP"_s}) {
+        const std::optional<QString> path = variable(name);
+        if (const QString local = path ? localPath(*path) : QString(); !local.isEmpty())
+            return local;
+    }
+    const std::optional<QString> otherwise = expanded(u"%LOCALAPPDATA%\\Temp"_s);
+    return otherwise ? localPath(*otherwise) : QString();
+}
+
+QString localPath(const QString &windowsPath)
+{
+    QString path = windowsPath;
     path.replace(u'\\', u'/');
-    if (path.startsWith(user))
-        return path;
-    if (path.size() < 3 || path.at(1) != u':' || path.contains(u'%'))
-        return otherwise;
-    const QString top = drive(path.at(0));
-    return top.isEmpty() ? otherwise : matchCase(top, path.mid(2));
+    const bool hasDrive = path.size() >= 3 && path.at(1) == u':' && path.at(2) == u'/';
+    const QString top = hasDrive ? drive(path.at(0)) : QString();
+    return top.isEmpty() ? QString() : matchCase(top, path.mid(2));
 }
 
 QString drive(QChar letter)
@@ -103,7 +193,17 @@ QString drive(QChar letter)
     return QFileInfo(prefix + "/dosdevices/"_L1 + letter.toLower() + u':').canonicalFilePath();
 }
 
-QString matchCase(const QString &base, const QString &relative)
+QStringList drives()
+{
+    QStringList folders;
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        if (const QString target = drive(QLatin1Char(letter)); !target.isEmpty())
+            folders.append(target);
+    }
+    return folders;
+}
+
+QString matchCase(const QString &base, const QString &relative, QString *problem)
 {
     QString path = base;
     const QStringList names = relative.split(u'/', Qt::SkipEmptyParts);
@@ -120,6 +220,11 @@ QString matchCase(const QString &base, const QString &relative)
                     break;
                 }
             }
+            if (problem && problem->isEmpty() && QFileInfo(path).isDir()
+                && ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), R_OK | X_OK,
+                               AT_EACCESS)
+                    != 0)
+                *problem = qt_error_string(errno);
         }
         path += u'/' + found;
     }

@@ -3,22 +3,42 @@
 #include "testtree.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QTest>
 #include <QThread>
 
+#include <functional>
 #include <memory>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 #endif
 
 using namespace Qt::StringLiterals;
 using platform::FileRemover;
 using Status = FileRemover::Status;
+
+#ifdef Q_OS_UNIX
+namespace {
+
+int removalsUntilThen = -1; ///< below 0 never
+std::function<void()> happensThen;
+
+} // namespace
+
+// Every removal comes by here, so that a test can have something happen between two of them.
+extern "C" int unlinkat(int folder, const char *name, int flags) noexcept
+{
+    if (removalsUntilThen >= 0 && --removalsUntilThen < 0)
+        happensThen();
+    return static_cast<int>(::syscall(SYS_unlinkat, folder, name, flags));
+}
+#endif
 
 class TestFileRemove : public QObject
 {
@@ -33,7 +53,13 @@ private Q_SLOTS:
         m_before = m_fence->snapshot();
     }
 
-    void cleanup() { QCOMPARE(m_fence->snapshot(), m_before); }
+    void cleanup()
+    {
+#ifdef Q_OS_UNIX
+        removalsUntilThen = -1;
+#endif
+        QCOMPARE(m_fence->snapshot(), m_before);
+    }
 
     void aFileGoes()
     {
@@ -214,6 +240,103 @@ private Q_SLOTS:
         QVERIFY(exchanges > 10);
         QVERIFY(removed > 0);
     }
+
+#ifdef Q_OS_UNIX
+    // The folder stays open between two of its files; somebody moves it away meanwhile.
+    void filesAreNotRemovedWhereTheirFolderWasMoved()
+    {
+        const TestTree tree;
+        QStringList paths;
+        for (int i = 0; i < 300; ++i)
+            paths.append(tree.file(u"listed/f%1"_s.arg(i)));
+        removalsUntilThen = 100;
+        happensThen = [&tree] { QDir().rename(tree.path(u"listed"_s), tree.path(u"kept"_s)); };
+        FileRemover remover;
+        int removed = 0;
+        int missed = 0;
+        for (const QString &path : paths) {
+            const FileRemover::Outcome outcome = remover.remove(path);
+            removed += outcome.status == Status::Removed ? 1 : 0;
+            missed += outcome.status == Status::NotFound ? 1 : 0;
+        }
+        QCOMPARE(removed + missed, 300);
+        const auto left = QDir(tree.path(u"kept"_s)).entryList(QDir::Files).size();
+        QCOMPARE(left, missed);
+        QVERIFY2(removed <= 100 + 32, qPrintable(QString::number(removed)));
+        QVERIFY(!tree.has(u"listed"_s));
+    }
+
+    // Another folder stands at the path by then: what is in that one is what the path names.
+    void filesAreRemovedFromTheFolderThatIsAtThePathNow()
+    {
+        const TestTree tree;
+        QStringList paths;
+        for (int i = 0; i < 200; ++i)
+            paths.append(tree.file(u"listed/f%1"_s.arg(i)));
+        removalsUntilThen = 10;
+        happensThen = [&tree] {
+            QDir().rename(tree.path(u"listed"_s), tree.path(u"kept"_s));
+            tree.file(u"listed/f199"_s);
+        };
+        FileRemover remover;
+        for (const QString &path : paths)
+            static_cast<void>(remover.remove(path));
+        QVERIFY(tree.has(u"kept/f199"_s));
+        QVERIFY(!tree.has(u"listed/f199"_s));
+    }
+
+    void aFolderIsNotEmptiedWhereItWasMoved_data()
+    {
+        QTest::addColumn<QString>("moved");
+        QTest::addColumn<int>("kept"); ///< how much of it at least
+        QTest::newRow("the folder itself") << u"around/listed"_s << 5;
+        QTest::newRow("a folder above it") << u"around"_s << 5;
+        QTest::newRow("a folder in it") << u"around/listed/sub"_s << 4;
+    }
+    void aFolderIsNotEmptiedWhereItWasMoved()
+    {
+        QFETCH(QString, moved);
+        QFETCH(int, kept);
+        const TestTree tree;
+        constexpr int filesInFolder = 100;
+        for (const QString &folder :
+             {u"around/listed"_s, u"around/listed/sub"_s, u"around/listed/sub/a"_s,
+              u"around/listed/sub/b"_s, u"around/listed/sub/a/deep"_s}) {
+            for (int i = 0; i < filesInFolder; ++i)
+                tree.file(u"%1/f%2"_s.arg(folder, QString::number(i)));
+        }
+        tree.file(u"around/precious"_s);
+        // The files of the folder itself come first; then those of its only subfolder.
+        const bool isInside = moved.endsWith("sub"_L1);
+        removalsUntilThen = isInside ? filesInFolder + 20 : 20;
+        happensThen = [&] { QDir().rename(tree.path(moved), tree.path(u"kept"_s)); };
+        const FileRemover::Outcome outcome = FileRemover().remove(tree.path(u"around/listed"_s));
+        QVERIFY(outcome.status == Status::Failed);
+        QVERIFY(outcome.wasFolder);
+        QVERIFY(!outcome.error.isEmpty());
+        int left = 0;
+        QDirIterator it(tree.path(u"kept"_s), QDir::Files, QDirIterator::Subdirectories);
+        for (; it.hasNext(); it.next())
+            ++left;
+        QVERIFY2(left >= kept * filesInFolder - 20 - 32, qPrintable(QString::number(left)));
+    }
+
+    void aFolderThatMayOnlyBePassedThroughIsEnough()
+    {
+        const TestTree tree;
+        const QString path = tree.file(u"closed/a"_s);
+        tree.file(u"closed/b"_s);
+        QCOMPARE(::chmod(QFile::encodeName(tree.path()).constData(), 0755), 0);
+        QCOMPARE(::chmod(QFile::encodeName(tree.path(u"closed"_s)).constData(), 0733), 0);
+        Status status = Status::Failed;
+        {
+            const OrdinaryUser user;
+            status = FileRemover().remove(path).status;
+        }
+        QCOMPARE(status, Status::Removed);
+        QVERIFY(tree.has(u"closed/b"_s));
+    }
+#endif
 
     void hardLinkedFilesKeepTheirModeAndContent()
     {

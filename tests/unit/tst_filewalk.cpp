@@ -1,5 +1,6 @@
 #include "filewalk.h"
 
+#include "entrywalk.h"
 #include "fileremove.h"
 #include "testtree.h"
 
@@ -20,6 +21,7 @@
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #endif
 
@@ -29,6 +31,25 @@ using platform::WalkOptions;
 using platform::WalkReport;
 
 namespace {
+
+/// Collects the files of a walk that lists folders too.
+class FilesOfEntries final : public platform::EntryVisitor
+{
+public:
+    explicit FilesOfEntries(QStringList &paths)
+        : m_paths(paths)
+    {
+    }
+    void found(platform::WalkedEntry &&entry) override
+    {
+        if (!entry.isFolder)
+            m_paths.append(entry.path);
+    }
+    void left(qint64, bool) override { }
+
+private:
+    QStringList &m_paths;
+};
 
 QStringList walk(const QString &root, const WalkOptions &options = {}, WalkReport *report = nullptr)
 {
@@ -54,7 +75,14 @@ QStringList iterate(const QString &root, const WalkOptions &options)
                                       : QDirIterator::NoIteratorFlags);
     while (it.hasNext()) {
         const QFileInfo info(it.next());
-        found.append(u"%1 %2"_s.arg(QString::number(info.size()), info.absoluteFilePath()));
+        qint64 size = info.size();
+#ifdef Q_OS_UNIX
+        struct stat own {
+        };
+        if (::lstat(QFile::encodeName(info.filePath()).constData(), &own) == 0)
+            size = own.st_size; // of a link its own
+#endif
+        found.append(u"%1 %2"_s.arg(QString::number(size), info.absoluteFilePath()));
     }
     found.sort();
     return found;
@@ -436,7 +464,122 @@ private Q_SLOTS:
         platform::walkTree(tree.path(), {{}, true, nullptr, platform::Reach::Everywhere},
                            {&record});
         QCOMPARE(record.paths, QStringList{tree.path(u"link"_s)});
-        QCOMPARE(record.sizes, QList<qint64>{9});
+        // What would go is the link, whose content is the path.
+        QCOMPARE(record.sizes, QList<qint64>{outside.path(u"target"_s).size()});
+    }
+
+    // Windows programs do not see these; the values are those that Wine understands and some that
+    // it does not.
+    void whatWineMarksAsHiddenIsNotListed()
+    {
+        const TestTree tree;
+        tree.folder(u"prefix/drive_c"_s);
+        tree.folder(u"prefix/dosdevices"_s);
+        tree.folder(u"disk"_s);
+        tree.link(tree.path(u"prefix/drive_c"_s), u"prefix/dosdevices/c:"_s);
+        tree.link(tree.path(u"disk"_s), u"prefix/dosdevices/d:"_s);
+        tree.link(u"/"_s, u"prefix/dosdevices/z:"_s);
+        struct Marked {
+            QString name;
+            QByteArray value;
+            bool isListed;
+        };
+        const QList<Marked> marked{
+            {u"none"_s, {}, true},
+            {u"hidden"_s, "0x2", false},
+            {u"system"_s, "0x4", false},
+            {u"both"_s, "0x06", false},
+            {u"others too"_s, "0x27", false},
+            {u"capital digit"_s, "0xA", false},
+            {u"long"_s, "0x00000000000000000002", false},
+            {u"with a NUL"_s, QByteArray("0x2\0more", 8), false},
+            {u"cleared"_s, "0x0", true},
+            {u"read-only"_s, "0x1", true},
+            {u"archive"_s, "0x20", true},
+            {u"empty"_s, "", true},
+            {u"decimal"_s, "2", true},
+            {u"capital x"_s, "0X2", true},
+            {u"no digits"_s, "0x", true},
+            {u"something behind"_s, "0x2zz", true},
+            {u"blank"_s, "0x 2", true},
+            {u"negative"_s, "0x-2", true},
+        };
+        QStringList expected;
+        for (const QString &folder : {u"prefix/drive_c/t"_s, u"disk/t"_s, u"elsewhere/t"_s}) {
+            for (const Marked &mark : marked) {
+                const QString path = tree.file(folder + u'/' + mark.name);
+                if (!mark.value.isNull()
+                    && ::setxattr(QFile::encodeName(path).constData(), "user.DOSATTRIB",
+                                  mark.value.constData(),
+                                  static_cast<std::size_t>(mark.value.size()), 0)
+                        != 0)
+                    QSKIP("this file system keeps no attributes of others");
+                if (mark.isListed || folder.startsWith("elsewhere"_L1))
+                    expected.append(path);
+            }
+            const QString inside = tree.file(folder + "/hidden folder/f"_L1);
+            ::setxattr(QFile::encodeName(tree.path(folder + "/hidden folder"_L1)).constData(),
+                       "user.DOSATTRIB", "0x2", 3, 0);
+            if (folder.startsWith("elsewhere"_L1))
+                expected.append(inside);
+            // A link is what it leads to.
+            const QString link = tree.link(tree.path(folder + "/hidden"_L1), folder + "/link"_L1);
+            if (folder.startsWith("elsewhere"_L1))
+                expected.append(link);
+            expected.append(tree.link(tree.path(folder + "/none"_L1), folder + "/link to none"_L1));
+        }
+        expected.sort();
+        const QByteArray before = qgetenv("WINEPREFIX");
+        qputenv("WINEPREFIX", QFile::encodeName(tree.path(u"prefix"_s)));
+        QStringList found;
+        QStringList foundOneByOne;
+        QStringList foundByEntries;
+        const auto add = [](QStringList &list) {
+            return [&list](platform::WalkedFile &&file) { list.append(file.path); };
+        };
+        static_cast<void>(platform::walkFiles(tree.path(), {}, add(found)));
+        for (const QString &folder : {u"prefix/drive_c"_s, u"disk"_s, u"elsewhere"_s})
+            static_cast<void>(platform::walkFiles(tree.path(folder), {}, add(foundOneByOne)));
+        FilesOfEntries entries(foundByEntries);
+        static_cast<void>(platform::walkEntries(tree.path(), entries));
+        qputenv("WINEPREFIX", before);
+        for (QStringList *list : {&found, &foundOneByOne, &foundByEntries}) {
+            list->removeIf([](const QString &path) { return path.contains("dosdevices"_L1); });
+            list->sort();
+            QCOMPARE(*list, expected);
+        }
+    }
+
+    void aFolderThatMayOnlyBePassedThroughIsNoObstacle()
+    {
+        const TestTree tree;
+        tree.file(u"closed/open/f"_s);
+        const auto mode = [&tree](const QString &path, mode_t bits) {
+            QCOMPARE(::chmod(QFile::encodeName(tree.path(path)).constData(), bits), 0);
+        };
+        QCOMPARE(::chmod(QFile::encodeName(tree.path()).constData(), 0755), 0);
+        mode(u"closed/open"_s, 0755);
+        mode(u"closed"_s, 0711);
+        platform::Entry folder;
+        platform::Entry file;
+        platform::Entry locked;
+        QStringList found;
+        {
+            const OrdinaryUser user;
+            folder = platform::inspect(tree.path(u"closed/open"_s));
+            file = platform::inspect(tree.path(u"closed/open/f"_s));
+            found = walk(tree.path(u"closed/open"_s));
+        }
+        mode(u"closed"_s, 0700);
+        {
+            const OrdinaryUser user;
+            locked = platform::inspect(tree.path(u"closed/open"_s));
+        }
+        QVERIFY(folder.kind == platform::EntryKind::Folder);
+        QVERIFY(file.kind == platform::EntryKind::File);
+        QCOMPARE(found.size(), 1);
+        QVERIFY(locked.kind == platform::EntryKind::Other);
+        QVERIFY(!locked.error.isEmpty());
     }
 
     void aRootBehindALinkIsTakenAsItComes()

@@ -5,6 +5,7 @@
 #include "inifile.h"
 #include "logger.h"
 #include "namefilter.h"
+#include "protectedplaces.h"
 #include "registry.h"
 #include "walklog.h"
 
@@ -210,7 +211,7 @@ QStringList firefoxProfiles(const DataFolders &folders)
             const QString path = profileFolder(group, root);
             if (!isScannable(path))
                 continue;
-            if (platform::isProtectedRoot(path)) {
+            if (platform::holdsProtectedPlace(path)) {
                 Logger::instance().warning(u"Skipped Firefox profile: %1 holds more"_s.arg(path));
                 continue;
             }

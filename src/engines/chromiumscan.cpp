@@ -3,6 +3,7 @@
 #include "entrywalk.h"
 #include "folders.h"
 #include "logger.h"
+#include "protectedplaces.h"
 #include "walklog.h"
 
 #include <algorithm>
@@ -92,7 +93,7 @@ ChromiumScan::RulesByFolder ChromiumScan::foldersOf(const QString &profile) cons
             rule.subPath.isEmpty() ? profile : platform::locate(profile, rule.subPath);
         if (!folders.contains(folder) && !isScannable(folder))
             continue;
-        if (rule.takesEverything() && platform::isProtectedRoot(folder)) {
+        if (rule.takesEverything() && platform::holdsProtectedPlace(folder)) {
             Logger::instance().warning(
                 u"Skipped %1: rule %2 would take everything in it"_s.arg(folder, rule.id));
             continue;

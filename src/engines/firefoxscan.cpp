@@ -3,6 +3,7 @@
 #include "entrywalk.h"
 #include "folders.h"
 #include "logger.h"
+#include "protectedplaces.h"
 #include "walklog.h"
 
 #include <QStringList>
@@ -153,7 +154,7 @@ void FirefoxScan::scanFolder(const QString &folder, bool isTree, const std::vect
 {
     if (!isScannable(folder))
         return;
-    if (isTree && platform::isProtectedRoot(folder)) {
+    if (isTree && platform::holdsProtectedPlace(folder)) {
         Logger::instance().warning(u"Skipped %1: a rule would take everything in it"_s.arg(folder));
         return;
     }

@@ -5,6 +5,7 @@
 #include "filewalk.h"
 #include "folders.h"
 #include "logger.h"
+#include "protectedplaces.h"
 #include "walklog.h"
 
 #include <QDebug>
@@ -159,7 +160,12 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
                                QList<CleanItem> &items)
 {
     const Location split = splitLocation(location);
-    const QString path = platform::locate(expandPath(split.base), expandPath(split.relative));
+    const QString base = expandPath(split.base);
+    const QString relative = expandPath(split.relative);
+    QString problem;
+    const QString path = platform::locate(base, relative, &problem);
+    if (!problem.isEmpty())
+        Logger::instance().warning(u"Skipped %1: %2"_s.arg(base + relative, problem));
     if (path.isEmpty())
         return;
     const platform::Entry entry = platform::inspect(path);
@@ -180,10 +186,9 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
         return;
     }
     case platform::EntryKind::Link:
-        Logger::instance().warning(u"Skipped %1: a link leads elsewhere"_s.arg(path));
-        return;
     case platform::EntryKind::Missing:
     case platform::EntryKind::Other:
+        logSkipped(path, entry);
         return;
     }
 }

@@ -28,12 +28,10 @@ namespace platform {
 /// resolved. @p relative is what the rule appends; it is not resolved, so that a link planted there
 /// leads nowhere. Below a Wine prefix names are found without regard to case, and "C:" leads
 /// through the prefix's drives. Returns an absolute path with forward slashes; empty when @p base
-/// does not exist or is not absolute, or when @p relative holds "..".
-[[nodiscard]] QString locate(const QString &base, const QString &relative);
-
-/// Whether everything in @p path (absolute, from locate()) must never be clutter: the root of a
-/// drive or of the file system, the home, Windows, system and program folders, and every folder
-/// that holds one of them.
-[[nodiscard]] bool isProtectedRoot(const QString &path);
+/// does not exist or is not absolute, or when @p relative holds "..". Where that may be for another
+/// reason than that nothing is there, such as a folder that must not be looked into, @p problem,
+/// for people, says which.
+[[nodiscard]] QString locate(const QString &base, const QString &relative,
+                             QString *problem = nullptr);
 
 } // namespace platform

@@ -5,8 +5,13 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+
+#include <cerrno>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -73,16 +78,20 @@ QString systemDrive()
     return firstSet("SYSTEMDRIVE", wineprefix::systemDrive(), u"C:"_s);
 }
 
-QString locate(const QString &base, const QString &relative)
+QString locate(const QString &base, const QString &relative, QString *problem)
 {
     QString folder = QDir::fromNativeSeparators(base).replace(u'\\', u'/');
     if (startsWithDrive(folder)) {
         const QString drive = wineprefix::drive(folder.at(0));
         folder = drive.isEmpty() ? QString() : wineprefix::matchCase(drive, folder.mid(2));
     }
+    const QString asked = folder;
     folder = canonicalPath(folder);
-    if (folder.isEmpty())
+    if (folder.isEmpty()) {
+        if (problem)
+            *problem = problemWith(asked);
         return {};
+    }
 
     QString rest = relative;
     rest.replace(u'\\', u'/');
@@ -95,47 +104,23 @@ QString locate(const QString &base, const QString &relative)
 
     const QString prefix = wineprefix::folder();
     if (!prefix.isEmpty() && (folder + u'/').startsWith(prefix + u'/'))
-        return wineprefix::matchCase(folder, rest);
+        return wineprefix::matchCase(folder, rest, problem);
     return (folder == u'/' ? folder : folder + u'/') + rest;
+}
+
+QString problemWith(const QString &path)
+{
+    struct stat data {
+    };
+    if (!QDir::isAbsolutePath(path) || ::stat(QFile::encodeName(path).constData(), &data) == 0
+        || errno == ENOENT || errno == ENOTDIR)
+        return {};
+    return qt_error_string(errno);
 }
 
 QString canonicalPath(const QString &path)
 {
     return QDir::isAbsolutePath(path) ? QFileInfo(path).canonicalFilePath() : QString();
-}
-
-QStringList protectedFolders()
-{
-    return {QDir::homePath(),
-            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
-            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
-            homeFolder(),
-            localDataFolder(),
-            roamingDataFolder(),
-            programDataFolder(),
-            locate(windowsFolder(), {}),
-            wineprefix::systemDrive(),
-            u"/var"_s,
-            u"/opt"_s,
-            u"/srv"_s};
-}
-
-QStringList protectedTrees()
-{
-    const QString drive = wineprefix::systemDrive();
-    return {locate(windowsFolder(), u"system32"_s),
-            below(drive, u"Program Files"_s),
-            below(drive, u"Program Files (x86)"_s),
-            u"/usr"_s,
-            u"/etc"_s,
-            u"/bin"_s,
-            u"/sbin"_s,
-            u"/lib"_s,
-            u"/lib64"_s,
-            u"/boot"_s,
-            u"/dev"_s,
-            u"/proc"_s,
-            u"/sys"_s};
 }
 
 QString settingsFolder()

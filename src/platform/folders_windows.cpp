@@ -101,11 +101,23 @@ QString settingsFolder()
     return roamingDataFolder();
 }
 
-QString locate(const QString &base, const QString &relative)
+QString problemWith(const QString &path)
+{
+    const QString extended = extendedPath(path);
+    if (extended.isEmpty() || openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow).isValid()
+        || isMissing(::GetLastError()))
+        return {};
+    return reasonOf(::GetLastError());
+}
+
+QString locate(const QString &base, const QString &relative, QString *problem)
 {
     QString path = canonicalPath(absolutePath(base));
-    if (path.isEmpty())
+    if (path.isEmpty()) {
+        if (problem)
+            *problem = problemWith(absolutePath(base));
         return {};
+    }
     QString rest = relative;
     rest.replace(u'\\', u'/');
     const QStringList names = rest.split(u'/', Qt::SkipEmptyParts);
@@ -136,25 +148,6 @@ QString canonicalPath(const QString &path)
     if (canonical.isEmpty() || !openEntry(canonical, FILE_READ_ATTRIBUTES, Links::Follow).isValid())
         return {};
     return plainPath(canonical);
-}
-
-QStringList protectedFolders()
-{
-    // What holds one of these is protected as well: the drive, and the folder of all profiles.
-    return {homeFolder(),
-            fromEnvironment("USERPROFILE"),
-            fromEnvironment("PUBLIC"),
-            localDataFolder(),
-            roamingDataFolder(),
-            programDataFolder(),
-            windowsFolder()};
-}
-
-QStringList protectedTrees()
-{
-    return {windowsFolder() + "/System32"_L1, windowsFolder() + "/SysWOW64"_L1,
-            fromEnvironment("ProgramFiles"), fromEnvironment("ProgramW6432"),
-            fromEnvironment("ProgramFiles(x86)")};
 }
 
 bool isTop(const QString &path)

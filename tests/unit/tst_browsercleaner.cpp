@@ -923,6 +923,33 @@ private Q_SLOTS:
         QVERIFY(browsers::firefoxProfiles(foldersOf(tree)).isEmpty());
     }
 
+    // A portable browser keeps its profile where programs lie.
+    void aProfileInsideTheProgramFolderIsCleaned()
+    {
+        const TestTree tree;
+        const QString drive = tree.folder(u"prefix/drive_c"_s);
+        tree.folder(u"prefix/dosdevices"_s);
+        tree.link(u"../drive_c"_s, u"prefix/dosdevices/c:"_s);
+        const QString profile = drive + "/Program Files/Portable/profile"_L1;
+        tree.file(u"prefix/drive_c/Program Files/Portable/profile/cache2/entries/E1"_s);
+        tree.file(u"prefix/drive_c/Program Files/Portable/profile/cookies.sqlite"_s);
+        tree.file(u"Roaming/Mozilla/Firefox/profiles.ini"_s,
+                  "[Profile0]\nPath=" + QFile::encodeName(profile)
+                      + "\nIsRelative=0\n[Profile1]\nPath="
+                      + QFile::encodeName(drive + "/Program Files"_L1) + "\nIsRelative=0\n");
+        const QByteArray before = qgetenv("WINEPREFIX");
+        qputenv("WINEPREFIX", QFile::encodeName(tree.path(u"prefix"_s)));
+        BrowserCleaner cleaner(foldersOf(tree));
+        load(cleaner, "{\"rules\": [{\"id\": \"cache\"}, {\"id\": \"cookies\"}]} ");
+        const LogCapture log;
+        scan(cleaner);
+        qputenv("WINEPREFIX", before);
+        QCOMPARE(cleaner.result().totalCount(), 2);
+        QVERIFY(log.contains("Found Firefox profile: "_L1 + profile));
+        QVERIFY(log.contains("[WARN] Skipped Firefox profile: "_L1 + drive
+                             + "/Program Files holds more"_L1));
+    }
+
     void aProfileThatIsTheHomeIsNotTakenWhole()
     {
         const TestTree tree;

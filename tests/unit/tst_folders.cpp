@@ -1,4 +1,5 @@
 #include "folders.h"
+#include "protectedplaces.h"
 
 #include "appinfo.h"
 #include "testhome.h"
@@ -64,6 +65,13 @@ private Q_SLOTS:
                                << u"DRIVE/users/jane/Temp"_s;
         QTest::newRow("with a variable") << QByteArray("str(2):\"%USERPROFILE%\\\\AppData\\\\Tmp\"")
                                          << u"DRIVE/users/jane/AppData/Tmp"_s;
+        QTest::newRow("with a variable, in other case")
+            << QByteArray("str(2):\"%UserProfile%\\\\appdata\\\\LOCAL\\\\temp\"")
+            << u"DRIVE/users/jane/AppData/Local/Temp"_s;
+        QTest::newRow("with another variable")
+            << QByteArray("str(2):\"%systemroot%\\\\TEMP\"") << u"DRIVE/windows/temp"_s;
+        QTest::newRow("with slashes")
+            << QByteArray("\"C:/Windows/Temp\"") << u"DRIVE/windows/temp"_s;
         QTest::newRow("unknown variable")
             << QByteArray("\"%FOO%\\\\x\"") << u"DRIVE/users/jane/AppData/Local/Temp"_s;
         QTest::newRow("missing drive")
@@ -201,6 +209,23 @@ private Q_SLOTS:
             << u"DRIVE/users/jane/AppData/Local/Temp"_s << false;
         QTest::newRow("program data") << u"DRIVE/ProgramData"_s << true;
         QTest::newRow("documents") << u"HOME/Documents"_s << true;
+        for (const char *place : {"/root", "/home", "/mnt", "/media", "/srv", "/opt", "/var/lib",
+                                  "/var/log", "/run", "/dev", "/proc", "/sys", "/boot"})
+            QTest::newRow(place) << QString::fromLatin1(place) << true;
+        QTest::newRow("below /var/lib") << u"/var/lib/dpkg"_s << true;
+        QTest::newRow("another drive of the prefix") << u"OTHER"_s << true;
+        QTest::newRow("below another drive") << u"OTHER/temp"_s << false;
+        QTest::newRow("above another drive") << u"OTHER/.."_s << true;
+        QTest::newRow("the prefix") << u"PREFIX"_s << true;
+        QTest::newRow("another user's profile") << u"DRIVE/users/Public"_s << true;
+        QTest::newRow("all local data") << u"DRIVE/users/jane/AppData"_s << true;
+        QTest::newRow("fonts") << u"DRIVE/windows/Fonts"_s << true;
+        QTest::newRow("what the system is repaired from") << u"DRIVE/windows/winsxs/x"_s << true;
+        for (const char *name :
+             {"Desktop", "Documents", "Downloads", "Pictures", "Music", "Videos"})
+            QTest::newRow(name) << "DRIVE/users/jane/"_L1 + QLatin1StringView(name) << true;
+        QTest::newRow("below the downloads") << u"DRIVE/users/jane/Downloads/tmp"_s << false;
+        QTest::newRow("where a link of the prefix leads") << u"HOME/linked music"_s << true;
     }
 
     void rootsThatHoldMoreThanClutterAreProtected()
@@ -212,8 +237,43 @@ private Q_SLOTS:
         m_home.folder(u"home/Documents"_s);
         m_home.folder(u"prefix/drive_c/Program Files/App"_s);
         m_home.folder(u"prefix/drive_c/windows/system32/config"_s);
+        m_home.folder(u"prefix/drive_c/windows/Fonts"_s);
+        m_home.folder(u"prefix/drive_c/windows/winsxs/x"_s);
+        for (const QString &name :
+             {u"Desktop"_s, u"Documents"_s, u"Downloads/tmp"_s, u"Pictures"_s, u"Videos"_s})
+            m_home.folder("prefix/drive_c/users/jane/"_L1 + name);
+        QFile::link(m_home.folder(u"home/linked music"_s), drive + "/users/jane/Music"_L1);
+        const QString other = m_home.folder(u"disks/other"_s);
+        m_home.folder(u"disks/other/temp"_s);
+        QFile::link(other, m_home.path() + "/prefix/dosdevices/d:"_L1);
         path.replace("HOME"_L1, QDir::homePath()).replace("DRIVE"_L1, drive);
+        path.replace("OTHER"_L1, other).replace("PREFIX"_L1, m_home.path() + "/prefix"_L1);
         QCOMPARE(platform::isProtectedRoot(path), expected);
+    }
+
+    // What its owner has put into a place that is kept may be taken; the place itself may not.
+    void whatLiesInAProtectedTreeHoldsNothingProtected()
+    {
+        const QString drive = makePrefix();
+        const QString inside = m_home.folder(u"prefix/drive_c/Program Files/Portable/Profile"_s);
+        QVERIFY(platform::isProtectedRoot(inside));
+        QVERIFY(!platform::holdsProtectedPlace(inside));
+        QVERIFY(platform::holdsProtectedPlace(drive + "/Program Files"_L1));
+        QVERIFY(platform::holdsProtectedPlace(drive + "/users/jane"_L1));
+        QVERIFY(platform::holdsProtectedPlace(drive));
+        QVERIFY(platform::holdsProtectedPlace(u"/"_s));
+        QVERIFY(platform::holdsProtectedPlace(u"/no/such/folder"_s));
+    }
+
+    // Outside of the table's reach nothing changes by what is set for the host alone.
+    void theHostsTemporaryVariablesMeanNothingToThePrefix()
+    {
+        const QString drive = makePrefix();
+        for (const char *variable : {"TMP", "TEMP"})
+            qputenv(variable, "/usr");
+        QCOMPARE(platform::temporaryFolder(), drive + "/users/jane/AppData/Local/Temp"_L1);
+        for (const char *variable : {"TMP", "TEMP"})
+            qunsetenv(variable);
     }
 
     void aLinkToAProtectedRootIsProtected()

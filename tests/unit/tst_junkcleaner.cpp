@@ -454,6 +454,82 @@ private Q_SLOTS:
         QVERIFY(log.contains(u"[WARN] Skipped "_s));
     }
 
+    // The prefix's environment says where its programs keep temporary files: here, on a whole
+    // drive.
+    void aDriveOfThePrefixIsNeverEmptied_data()
+    {
+        QTest::addColumn<QString>("temp");
+        QTest::addColumn<QStringList>("found");
+        QTest::newRow("a drive") << u"D:\\\\"_s << QStringList();
+        QTest::newRow("its folder") << u"d:\\\\temp"_s << QStringList{u"junk.tmp"_s};
+        QTest::newRow("the documents") << u"C:\\\\users\\\\jane\\\\Documents"_s << QStringList();
+        QTest::newRow("in other case")
+            << u"%UserProfile%\\\\LOCAL\\\\temp"_s << QStringList{u"deep.tmp"_s};
+    }
+    void aDriveOfThePrefixIsNeverEmptied()
+    {
+        QFETCH(QString, temp);
+        QFETCH(QStringList, found);
+        const TestTree tree;
+        tree.file(u"prefix/drive_c/users/jane/Documents/thesis.tex"_s);
+        tree.file(u"prefix/drive_c/users/jane/Local/Temp/deep.tmp"_s);
+        tree.folder(u"prefix/dosdevices"_s);
+        tree.link(u"../drive_c"_s, u"prefix/dosdevices/c:"_s);
+        tree.link(tree.folder(u"disk"_s), u"prefix/dosdevices/d:"_s);
+        tree.file(u"disk/photographs/one.jpg"_s);
+        tree.file(u"disk/Temp/junk.tmp"_s);
+        tree.file(u"prefix/user.reg"_s,
+                  "WINE REGISTRY Version 2\n\n[Environment] 1\n\"TMP\"=str(2):\"" + temp.toUtf8()
+                      + "\"\n");
+        const QByteArray prefix = qgetenv("WINEPREFIX");
+        const QByteArray user = qgetenv("USER");
+        qputenv("WINEPREFIX", QFile::encodeName(tree.path(u"prefix"_s)));
+        qputenv("USER", "jane");
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(u"%TEMP%"_s, R"("patterns": ["*"])") + "]}");
+        const LogCapture log;
+        scan(cleaner);
+        qputenv("WINEPREFIX", prefix);
+        qputenv("USER", user);
+        QCOMPARE(log.contains(u"[WARN] Skipped "_s), found.isEmpty());
+        const CleanCategory *category = find(cleaner.result(), u"r"_s);
+        QCOMPARE(category ? names(category) : QStringList(), found);
+    }
+
+    void whatLiesBehindAFolderThatMayOnlyBePassedThroughIsFound()
+    {
+        const TestTree tree;
+        tree.file(u"closed/junk/a"_s);
+        const QByteArray closed = QFile::encodeName(tree.path(u"closed"_s));
+        QCOMPARE(::chmod(QFile::encodeName(tree.path()).constData(), 0755), 0);
+        QCOMPARE(::chmod(QFile::encodeName(tree.path(u"closed/junk"_s)).constData(), 0755), 0);
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"closed/junk"_s)) + "]}");
+        for (const mode_t mode : {mode_t(0711), mode_t(0700)}) {
+            QCOMPARE(::chmod(closed.constData(), mode), 0);
+            const LogCapture log;
+            {
+                const OrdinaryUser user;
+                scan(cleaner);
+            }
+            const bool isOpen = mode == 0711;
+            QCOMPARE(cleaner.result().totalCount(), isOpen ? 1 : 0);
+            QCOMPARE(log.contains("[WARN] Skipped "_L1 + tree.path(u"closed/junk"_s)
+                                  + ": Permission denied"_L1),
+                     !isOpen);
+        }
+        // The folder that the environment names cannot be reached.
+        qputenv("TMPDIR", QFile::encodeName(tree.path(u"closed/junk"_s)));
+        load(cleaner, "{\"rules\": [" + rule(u"%TEMP%\\\\x"_s) + "]}");
+        const LogCapture log;
+        {
+            const OrdinaryUser user;
+            scan(cleaner);
+        }
+        qunsetenv("TMPDIR");
+        QVERIFY(log.contains(u"Permission denied"_s));
+    }
+
     void aFlatRuleOnAProtectedRootIsUntouched()
     {
         QFile dump(QDir::homePath() + "/crash.dmp"_L1);

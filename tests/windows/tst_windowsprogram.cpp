@@ -5,6 +5,7 @@
 #include "folders.h"
 #include "folders_p.h"
 #include "process.h"
+#include "protectedplaces.h"
 #include "testtree.h"
 
 #include <QApplication>

@@ -1,0 +1,21 @@
+#include "protectedplaces_p.h"
+
+#include <QDir>
+
+namespace platform {
+
+// Every drive is the top of a file system here.
+QList<ProtectedPlace> systemPlaces()
+{
+    using Extent = ProtectedPlace::Extent;
+    QList<ProtectedPlace> list;
+    for (const char *variable : {"USERPROFILE", "PUBLIC"})
+        list.append({qEnvironmentVariable(variable), Extent::Itself});
+    for (const char *variable : {"ProgramFiles", "ProgramW6432", "ProgramFiles(x86)"})
+        list.append({qEnvironmentVariable(variable), Extent::Tree});
+    for (ProtectedPlace &place : list)
+        place.path = QDir::fromNativeSeparators(place.path);
+    return list;
+}
+
+} // namespace platform

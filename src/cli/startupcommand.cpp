@@ -64,8 +64,9 @@ int runStartup(const QString &action, const QString &name, bool asJson)
     // An entry of that name may belong to another program.
     if (app.isStartup != enable && !manager.setStartup(app, enable))
         return refuse(u"'%1' was not changed: %2"_s.arg(app.name, manager.errorString()));
-    StartupApp changed = app;
-    changed.isStartup = enable;
+    const StartupApp changed = *std::find_if(apps.cbegin(), apps.cend(), hasName);
+    if (changed.isStartup != enable)
+        return refuse(u"'%1' was changed by another program meanwhile"_s.arg(app.name));
     const QString line = (enable ? u"%1 starts with the session now.\n"_s
                                  : u"%1 does not start with the session any more.\n"_s)
                              .arg(singleLine(app.name));

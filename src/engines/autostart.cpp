@@ -25,7 +25,7 @@ bool set(bool on)
         ? platform::registrysettings::setText(Hive::CurrentUser, key, appinfo::name,
                                               command(QCoreApplication::applicationFilePath()),
                                               error)
-        : platform::registrysettings::remove(Hive::CurrentUser, key, appinfo::name, error);
+        : platform::registrysettings::remove(Hive::CurrentUser, key, {appinfo::name}, error);
 }
 
 } // namespace autostart

@@ -203,53 +203,58 @@ QString StartupManager::findExecutable(const QString &folder, const QString &nam
 bool StartupManager::addToStartup(const QString &name, const QString &exePath)
 {
     const QString command = u'"' + exePath + u'"';
-    if (!platform::registrysettings::setText(Hive::CurrentUser, runKey, name, command, m_error)) {
+    keepCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
+    const bool isDone =
+        platform::registrysettings::setText(Hive::CurrentUser, runKey, name, command, m_error);
+    if (isDone)
+        Logger::instance().info(u"Added to startup: %1"_s.arg(name));
+    else
         Logger::instance().error(u"Failed to add startup: %1"_s.arg(name));
-        return false;
-    }
-    Logger::instance().info(u"Added to startup: %1"_s.arg(name));
-    forget(name); // it was overwritten
-    m_startup.insert(exePath.toLower(), {name, exePath, command});
-    setFlag(exePath, true);
-    return true;
+    readStates();
+    return isDone;
 }
 
 bool StartupManager::removeFromStartup(const QString &name)
 {
-    if (!platform::registrysettings::remove(Hive::CurrentUser, runKey, name, m_error)) {
-        Logger::instance().error(u"Failed to remove startup: %1"_s.arg(name));
-        return false;
-    }
-    Logger::instance().info(u"Removed from startup: %1"_s.arg(name));
-    forget(name);
-    return true;
-}
-
-void StartupManager::forget(const QString &valueName)
-{
-    QStringList paths;
-    m_startup.removeIf([&](const QHash<QString, Entry>::iterator entry) {
-        const bool isMeant = entry->valueName.compare(valueName, Qt::CaseInsensitive) == 0;
-        if (isMeant)
-            paths.append(entry->exePath);
-        return isMeant;
-    });
-    for (const QString &path : paths)
-        setFlag(path, false);
+    return removeEntries({name});
 }
 
 bool StartupManager::setStartup(const StartupApp &app, bool enable)
 {
     if (enable)
         return addToStartup(app.name, app.exePath);
-    const auto entry = m_startup.constFind(app.exePath.toLower());
-    return removeFromStartup(entry == m_startup.cend() ? app.name : entry->valueName);
+    QStringList names;
+    for (const Entry &entry : m_startup.values(app.exePath.toLower()))
+        names.append(entry.valueName);
+    return removeEntries(names.isEmpty() ? QStringList{app.name} : names);
 }
 
-void StartupManager::setFlag(const QString &exePath, bool isStartup)
+bool StartupManager::removeEntries(const QStringList &valueNames)
 {
-    for (StartupApp &app : m_apps) {
-        if (app.exePath.compare(exePath, Qt::CaseInsensitive) == 0)
-            app.isStartup = isStartup;
+    keepCommands(valueNames, u"Startup command of %1 before it was removed: %2"_s);
+    const bool isDone =
+        platform::registrysettings::remove(Hive::CurrentUser, runKey, valueNames, m_error);
+    for (const QString &name : valueNames) {
+        if (isDone)
+            Logger::instance().info(u"Removed from startup: %1"_s.arg(name));
+        else
+            Logger::instance().error(u"Failed to remove startup: %1"_s.arg(name));
     }
+    readStates();
+    return isDone;
+}
+
+void StartupManager::keepCommands(const QStringList &valueNames, const QString &line) const
+{
+    for (const Entry &entry : m_startup) {
+        if (valueNames.contains(entry.valueName, Qt::CaseInsensitive))
+            Logger::instance().info(line.arg(entry.valueName, entry.command));
+    }
+}
+
+void StartupManager::readStates()
+{
+    readStartupTable(Registry());
+    for (StartupApp &app : m_apps)
+        app.isStartup = m_startup.contains(app.exePath.toLower());
 }

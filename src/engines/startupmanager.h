@@ -34,13 +34,16 @@ public:
     /// Reads start-up list and programs anew.
     void loadInstalledApps();
 
+    // Each of these gives whether it was done; if not, the log has a line, errorString() says why,
+    // and the programs' flags are what the registry says all the same. A command that is
+    // overwritten or removed is kept in the log.
+
     /// Makes @p exePath start with the session, without arguments, under the value @p name; another
-    /// entry of that name is overwritten. False, with a line in the log, when it could not be
-    /// stored.
+    /// entry of that name is overwritten.
     bool addToStartup(const QString &name, const QString &exePath);
-    /// Removes the entry @p name. False, with a line in the log, when that could not be stored.
+    /// Removes the entry @p name, of which the empty one is the list's default value.
     bool removeFromStartup(const QString &name);
-    /// Switches @p app; to switch it off, the entry that starts its executable is removed, under
+    /// Switches @p app; to switch it off, every entry that starts its executable is removed, under
     /// whatever name it stands.
     bool setStartup(const StartupApp &app, bool enable);
 
@@ -65,12 +68,14 @@ private:
                            const QString &root);
     void readUninstallKey(const platform::Registry &registry, platform::Hive hive,
                           const QString &root, const QString &id);
-    /// Drops the entry of that name and unmarks its program.
-    void forget(const QString &valueName);
-    void setFlag(const QString &exePath, bool isStartup);
+    bool removeEntries(const QStringList &valueNames);
+    /// Writes the commands of these entries, which are about to go, to the log.
+    void keepCommands(const QStringList &valueNames, const QString &line) const;
+    /// Takes the table and the programs' flags from the registry as it is now.
+    void readStates();
 
     QList<StartupApp> m_apps;
     bool m_loaded = false;
-    QHash<QString, Entry> m_startup; ///< by executable path in lower case
+    QMultiHash<QString, Entry> m_startup; ///< by executable path in lower case
     QString m_error;
 };

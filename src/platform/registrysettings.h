@@ -19,8 +19,8 @@ namespace platform::registrysettings {
 [[nodiscard]] bool setText(Hive hive, const QString &key, const QString &name, const QString &text,
                            QString &error);
 
-/// Removes the value @p name of @p key and waits until that is stored. True also when there was no
-/// such value. An empty name is refused.
-[[nodiscard]] bool remove(Hive hive, const QString &key, const QString &name, QString &error);
+/// Removes the values @p names of @p key, of which the empty one is the default value, and waits
+/// until that is stored. True also where there was no such value. After a failure some may be gone.
+[[nodiscard]] bool remove(Hive hive, const QString &key, const QStringList &names, QString &error);
 
 } // namespace platform::registrysettings

@@ -15,18 +15,13 @@ bool fail(QString &error, const QString &reason)
     return false;
 }
 
-QString noName()
-{
-    return RegistryTexts::tr("A value without a name is not written");
-}
-
 } // namespace
 
 bool setText(Hive hive, const QString &key, const QString &name, const QString &text,
              QString &error)
 {
     if (name.isEmpty())
-        return fail(error, noName());
+        return fail(error, RegistryTexts::tr("A value without a name is not written"));
     const QString stored = text + QChar(u'\0');
     QByteArray data(stored.size() * 2, Qt::Uninitialized);
     qToLittleEndian<char16_t>(stored.utf16(), stored.size(), data.data());
@@ -36,15 +31,14 @@ bool setText(Hive hive, const QString &key, const QString &name, const QString &
         || fail(error, registry.errorString());
 }
 
-bool remove(Hive hive, const QString &key, const QString &name, QString &error)
+bool remove(Hive hive, const QString &key, const QStringList &names, QString &error)
 {
-    if (name.isEmpty())
-        return fail(error, noName());
     Registry registry;
-    if (!registry.value(hive, key, name))
-        return true;
-    return (registry.deleteValue(hive, key, name) && registry.save())
-        || fail(error, registry.errorString());
+    for (const QString &name : names) {
+        if (registry.value(hive, key, name) && !registry.deleteValue(hive, key, name))
+            return fail(error, registry.errorString());
+    }
+    return registry.save() || fail(error, registry.errorString());
 }
 
 } // namespace platform::registrysettings

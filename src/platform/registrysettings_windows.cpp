@@ -71,17 +71,17 @@ bool setText(Hive hive, const QString &key, const QString &name, const QString &
     return true;
 }
 
-bool remove(Hive hive, const QString &key, const QString &name, QString &error)
+// Not by the settings class: it would also remove a key of the same name with all below it.
+bool remove(Hive hive, const QString &key, const QStringList &names, QString &error)
 {
-    if (name.isEmpty())
-        return fail(error, RegistryTexts::tr("A value without a name is not written"));
     Registry registry;
-    if (!registry.value(hive, key, name))
-        return true;
-    // Not by the settings class: it would also remove a key of the same name with all below it.
-    registry.deleteValue(hive, key, name);
-    return !registry.value(hive, key, name)
-        || fail(error, RegistryTexts::tr("The registry did not let go of the value"));
+    for (const QString &name : names) {
+        if (registry.value(hive, key, name) && !registry.deleteValue(hive, key, name))
+            return fail(error, registry.errorString());
+        if (registry.value(hive, key, name))
+            return fail(error, RegistryTexts::tr("The registry did not let go of the value"));
+    }
+    return true;
 }
 
 } // namespace platform::registrysettings

@@ -269,8 +269,7 @@ private Q_SLOTS:
         m_fixture->write();
         StartupManager manager;
         const LogCapture log;
-        QVERIFY(!manager.removeFromStartup({}));
-        QVERIFY(log.contains(u"[ERROR] Failed to remove startup: "_s));
+        QVERIFY(manager.removeFromStartup({})); // there is no default value
         QVERIFY(!manager.addToStartup({}, u"C:\\x.exe"_s));
         QVERIFY(log.contains(u"[ERROR] Failed to add startup: "_s));
         QVERIFY(!manager.errorString().isEmpty());
@@ -280,6 +279,85 @@ private Q_SLOTS:
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise keep"_s));
         QVERIFY(m_fixture->hasValue(runKey + "\\Sweepwise Sub"_L1, u"keep"_s));
     }
+
+    // Else the program would go on to start.
+    void switchingOffTakesEveryEntryThatStartsTheProgram()
+    {
+        const QString path = existing(u"twice/app.exe"_s);
+        product(userList, u"app"_s, u"Sweepwise Twice"_s, path);
+        m_fixture->addText(runKey, u"Sweepwise one"_s, u'"' + path + "\" -x \"an argument\""_L1);
+        m_fixture->addText(runKey, u"Sweepwise two"_s, path.toUpper());
+        m_fixture->addText(runKey, {}, u'"' + path + u'"');
+        m_fixture->addText(runKey, u"Sweepwise other"_s, path + "x"_L1);
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(own(manager).constFirst().isStartup);
+        const LogCapture log;
+        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
+        QVERIFY(!own(manager).constFirst().isStartup);
+        for (const QString &name : {u"Sweepwise one"_s, u"Sweepwise two"_s, QString()})
+            QVERIFY2(!m_fixture->hasValue(runKey, name), qPrintable(name));
+        QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise other"_s));
+        QVERIFY(!own(manager).constFirst().isStartup);
+        // The arguments are not lost.
+        QVERIFY(log.contains("Startup command of Sweepwise one before it was removed: \""_L1 + path
+                             + "\" -x \"an argument\""_L1));
+        QVERIFY(log.contains("Startup command of Sweepwise two before it was removed: "_L1
+                             + path.toUpper()));
+        StartupManager again;
+        QVERIFY(!own(again).constFirst().isStartup);
+    }
+
+    void aCommandThatIsOverwrittenIsKeptInTheLog()
+    {
+        const QString path = existing(u"kept/app.exe"_s);
+        product(userList, u"app"_s, u"Sweepwise Kept"_s, path);
+        m_fixture->addText(runKey, u"sweepwise kept"_s, u"C:\\old.exe --with arguments"_s);
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(!own(manager).constFirst().isStartup);
+        const LogCapture log;
+        QVERIFY(manager.setStartup(own(manager).constFirst(), true));
+        QVERIFY(log.contains(u"Startup command of sweepwise kept before it was replaced: "
+                             "C:\\old.exe --with arguments"_s));
+        QVERIFY(own(manager).constFirst().isStartup);
+    }
+
+#ifndef Q_OS_WIN
+    // Somebody else has written the registry since it was read here.
+    void afterAFailureTheFlagsAreTheRegistrys()
+    {
+        const QString path = existing(u"flag/app.exe"_s);
+        product(userList, u"app"_s, u"Sweepwise Flag"_s, path);
+        m_fixture->addText(runKey, u"Sweepwise Flag"_s, u'"' + path + u'"');
+        m_fixture->write();
+        StartupManager manager;
+        const StartupApp app = own(manager).constFirst();
+        QVERIFY(app.isStartup);
+        struct stat data {
+        };
+        QCOMPARE(::stat(QFile::encodeName(m_home.folder(u"prefix"_s)).constData(), &data), 0);
+        QProcess server;
+        server.setWorkingDirectory(m_home.folder(u"run/server-%1-%2"_s.arg(
+            QString::number(data.st_dev, 16), QString::number(data.st_ino, 16))));
+        server.start(u"sleep"_s, {u"60"_s});
+        QVERIFY(server.waitForStarted());
+        const LogCapture log;
+        QVERIFY(!manager.setStartup(app, false));
+        QVERIFY(log.contains(u"[ERROR] Failed to remove startup: Sweepwise Flag"_s));
+        QVERIFY(manager.errorString().contains("end them and try again"_L1));
+        QVERIFY(own(manager).constFirst().isStartup);
+        // It is gone by other hands: the next failure finds that out.
+        QFile hive(m_fixture->file(u"HKEY_CURRENT_USER"_s));
+        QVERIFY(hive.open(QIODevice::WriteOnly));
+        hive.write("WINE REGISTRY Version 2\n\n#arch=win64\n");
+        hive.close();
+        QVERIFY(!manager.setStartup(app, true));
+        QVERIFY(!own(manager).constFirst().isStartup);
+        server.kill();
+        QVERIFY(server.waitForFinished());
+    }
+#endif
 
     void aKeyOfTheSameNameStays()
     {
@@ -316,7 +394,7 @@ private Q_SLOTS:
         const platform::Registry registry;
         QCOMPARE(registry.text(Hive::CurrentUser, key, name), u"text"_s);
         QCOMPARE(registry.text(Hive::CurrentUser, key, {}), u"default value"_s);
-        QVERIFY2(platform::registrysettings::remove(Hive::CurrentUser, key, name, error),
+        QVERIFY2(platform::registrysettings::remove(Hive::CurrentUser, key, {name}, error),
                  qPrintable(error));
         const platform::Registry after;
         QVERIFY(!after.value(Hive::CurrentUser, key, name));
@@ -359,8 +437,8 @@ private Q_SLOTS:
         StartupManager manager;
         manager.loadInstalledApps();
         QString error;
-        QVERIFY(platform::registrysettings::remove(Hive::CurrentUser,
-                                                   u"Software\\Sweepwise Unmade"_s, u"x"_s, error));
+        QVERIFY(platform::registrysettings::remove(
+            Hive::CurrentUser, u"Software\\Sweepwise Unmade"_s, {u"x"_s}, error));
         QVERIFY(!m_fixture->hasKey(u"HKEY_CURRENT_USER\\Software\\Sweepwise Unmade"_s));
     }
 

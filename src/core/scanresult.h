@@ -24,6 +24,8 @@ struct CleanItem {
     int riskLevel = LowRisk;
     QString description;
     bool isDirectory = false;
+    bool isUserClass =
+        false; ///< of HKEY_CLASSES_ROOT: read from the user's hive, not the machine's
     QString registryRoot; ///< such as "HKEY_CLASSES_ROOT"; empty for files
     QString registryKey; ///< below the root; empty for files
 };

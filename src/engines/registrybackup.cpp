@@ -1,9 +1,12 @@
 #include "registrybackup.h"
 
 #include "filesync.h"
+#include "filewalk.h"
+#include "folders.h"
 #include "text.h"
 
-#include <QFileDevice>
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QStringConverter>
 #include <QTextStream>
@@ -21,18 +24,31 @@ namespace {
 constexpr qsizetype longestListedValue = 65536; ///< bytes; a key's longer values are left out
 constexpr int longestLine = 70; ///< characters of a list of bytes before it is wrapped
 
-struct NamedHive {
-    Hive hive;
-    QString name;
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(RegistryBackup)
 };
 
-NamedHive hiveOf(const QString &root)
+// A hive as the file names it, and where its keys are read.
+struct NamedHive {
+    QString name;
+    Hive hive;
+    bool isClass = false;
+    bool isUserClass = false;
+
+    [[nodiscard]] QString stored(const QString &key) const
+    {
+        return isClass ? Registry::classPath(key) : key;
+    }
+};
+
+NamedHive hiveOf(const CleanItem &item)
 {
-    if (root == "HKCU"_L1 || root == "HKEY_CURRENT_USER"_L1)
-        return {Hive::CurrentUser, u"HKEY_CURRENT_USER"_s};
-    if (root == "HKCR"_L1 || root == "HKEY_CLASSES_ROOT"_L1)
-        return {Hive::ClassesRoot, u"HKEY_CLASSES_ROOT"_s};
-    return {Hive::LocalMachine, u"HKEY_LOCAL_MACHINE"_s};
+    if (item.registryRoot == "HKCU"_L1 || item.registryRoot == "HKEY_CURRENT_USER"_L1)
+        return {u"HKEY_CURRENT_USER"_s, Hive::CurrentUser};
+    if (item.registryRoot == "HKCR"_L1 || item.registryRoot == "HKEY_CLASSES_ROOT"_L1)
+        return {u"HKEY_CLASSES_ROOT"_s, item.isUserClass ? Hive::CurrentUser : Hive::LocalMachine,
+                true, item.isUserClass};
+    return {u"HKEY_LOCAL_MACHINE"_s, Hive::LocalMachine};
 }
 
 QString escaped(QString text)
@@ -72,7 +88,8 @@ QString storedText(const QByteArray &data)
 
 QString keyLine(const NamedHive &hive, const QString &key)
 {
-    return u'[' + hive.name + u'\\' + key + "]\r\n"_L1;
+    const QString mark = hive.isUserClass ? RegistryBackup::userClassMark + "\r\n"_L1 : QString();
+    return mark + u'[' + hive.name + u'\\' + key + "]\r\n"_L1;
 }
 
 bool breaksLine(const QString &text)
@@ -95,8 +112,9 @@ QString warning(const NamedHive &hive, const QString &path, QLatin1StringView wh
 // Empty when the key cannot be opened.
 QString exportKey(const Registry &registry, const NamedHive &hive, const QString &key)
 {
-    const auto values =
-        canBeWritten(key) ? registry.values(hive.hive, key, longestListedValue) : std::nullopt;
+    const auto values = canBeWritten(key)
+        ? registry.values(hive.hive, hive.stored(key), longestListedValue)
+        : std::nullopt;
     if (!values)
         return {};
     QString block = keyLine(hive, key);
@@ -111,7 +129,7 @@ QString exportValue(const Registry &registry, const NamedHive &hive, const QStri
                     const QString &name)
 {
     std::optional<RegistryValue> value = canBeWritten(key) && !breaksLine(name)
-        ? registry.value(hive.hive, key, name)
+        ? registry.value(hive.hive, hive.stored(key), name)
         : std::nullopt;
     if (!value)
         return {};
@@ -121,7 +139,7 @@ QString exportValue(const Registry &registry, const NamedHive &hive, const QStri
 
 QString exportItem(const Registry &registry, const CleanItem &item)
 {
-    const NamedHive hive = hiveOf(item.registryRoot);
+    const NamedHive hive = hiveOf(item);
     const QString &path = item.registryKey;
     const qsizetype separator = path.lastIndexOf(u'\\');
     QString block;
@@ -180,11 +198,35 @@ QString RegistryBackup::valueLine(const RegistryValue &value)
     return list(u"(%1)"_s.arg(value.type, 0, 16));
 }
 
+QString RegistryBackup::targetProblem(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString target = platform::locate(info.absolutePath(), info.fileName());
+    if (target.isEmpty() || info.fileName().isEmpty())
+        return Text::tr("There is no such folder");
+    if (platform::isRegistryFile(target))
+        return Text::tr("It is a file of the registry itself");
+    switch (platform::inspect(target).kind) {
+    case platform::EntryKind::Missing:
+    case platform::EntryKind::File:
+        return {};
+    case platform::EntryKind::Folder:
+        return Text::tr("A folder stands there");
+    case platform::EntryKind::Link:
+        return Text::tr("A link stands there, which leads elsewhere");
+    case platform::EntryKind::Other:
+        break;
+    }
+    return Text::tr("What stands there is not a file");
+}
+
 bool RegistryBackup::write(const QString &path, const QString &text, QString &error)
 {
+    error = targetProblem(path);
+    if (!error.isEmpty())
+        return false;
     // No text mode: the lines end in CR LF already, and it would double the CR.
     QSaveFile file(path);
-    file.setDirectWriteFallback(true);
     QByteArray bytes;
     QTextStream stream(&bytes);
     stream.setEncoding(QStringConverter::Utf16LE);
@@ -193,8 +235,11 @@ bool RegistryBackup::write(const QString &path, const QString &text, QString &er
     stream.flush();
     const bool isWritten =
         file.open(QIODevice::WriteOnly) && platform::writeToDisk(file, bytes, error);
-    if (isWritten && file.commit())
-        return true;
+    // It takes the place of what is there by now.
+    if (isWritten)
+        error = targetProblem(path);
+    if (isWritten && error.isEmpty() && file.commit())
+        return platform::syncFolder(QFileInfo(path).absolutePath(), error);
     if (error.isEmpty())
         error = file.errorString();
     file.cancelWriting();

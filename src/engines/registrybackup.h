@@ -4,6 +4,7 @@
 #include "scanresult.h"
 
 #include <QDateTime>
+#include <QLatin1StringView>
 #include <QString>
 
 /// The file from which removed registry entries can be restored: a registry export, format 5.00, of
@@ -20,11 +21,20 @@ public:
     [[nodiscard]] static QString text(const ScanResult &result, const platform::Registry &registry,
                                       const QDateTime &created);
 
+    /// Why @p path cannot name a backup, for people; empty when nothing is there or a file that may
+    /// be replaced. What stands there is looked at and not followed, while links on the way to its
+    /// folder are. A relative path is below the current folder.
+    [[nodiscard]] static QString targetProblem(const QString &path);
+
     /// Writes @p text to @p path as UTF-16 little-endian with a byte-order mark, without which the
-    /// registry editor imports nothing, and returns when it is on the disk. If that fails, @p error
-    /// says why and a file that was there before is still what it was, unless it had to be
-    /// written in place because its folder takes no new file.
+    /// registry editor imports nothing, and returns when it is on the disk, name and all. If that
+    /// fails, @p error says why and a file that was there before is still what it was.
     [[nodiscard]] static bool write(const QString &path, const QString &text, QString &error);
+
+    /// The comment before the key of a class that is the user's and not the machine's: a registry
+    /// editor knows but one place for both. No other comment begins so.
+    static constexpr QLatin1StringView userClassMark{
+        ";Stored in HKEY_CURRENT_USER\\Software\\Classes"};
 
     /// The value's line, or lines where a list of bytes is wrapped.
     [[nodiscard]] static QString valueLine(const platform::RegistryValue &value);

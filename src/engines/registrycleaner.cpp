@@ -1,15 +1,15 @@
 #include "registrycleaner.h"
 
-#include "filewalk.h"
 #include "logger.h"
+#include "pathcheck.h"
 #include "registrybackup.h"
 #include "windowspaths.h"
 
-#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -29,24 +29,6 @@ const QString muiCache =
     u"SOFTWARE\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"_s;
 
 constexpr int examinedClasses = 1000; ///< the key may hold many thousands
-
-// In this order; a placeholder is written exactly so.
-constexpr std::array placeholderVariables{
-    std::pair("%SystemRoot%"_L1, "SYSTEMROOT"_L1),
-    std::pair("%ProgramFiles%"_L1, "PROGRAMFILES"_L1),
-    std::pair("%ProgramFiles(x86)%"_L1, "PROGRAMFILES(X86)"_L1),
-    std::pair("%WinDir%"_L1, "WINDIR"_L1),
-    std::pair("%UserProfile%"_L1, "USERPROFILE"_L1),
-    std::pair("%LocalAppData%"_L1, "LOCALAPPDATA"_L1),
-    std::pair("%AppData%"_L1, "APPDATA"_L1),
-    std::pair("%CommonProgramFiles%"_L1, "COMMONPROGRAMFILES"_L1),
-    std::pair("%CommonProgramFiles(x86)%"_L1, "COMMONPROGRAMFILES(X86)"_L1),
-    std::pair("%SystemDrive%"_L1, "SYSTEMDRIVE"_L1),
-    std::pair("%HomeDrive%"_L1, "HOMEDRIVE"_L1),
-    std::pair("%HomePath%"_L1, "HOMEPATH"_L1),
-    std::pair("%Temp%"_L1, "TEMP"_L1),
-    std::pair("%Tmp%"_L1, "TMP"_L1),
-};
 
 // Types that Windows itself looks after, in lower case.
 bool isProtectedExtension(const QString &extension)
@@ -80,15 +62,6 @@ bool isProtectedClass(const QString &name)
     return classes.contains(name);
 }
 
-// What stands between a leading quote and the next one; everything when there are not two.
-QString quotedPart(const QString &text)
-{
-    if (!text.startsWith(u'"'))
-        return text;
-    const qsizetype end = text.indexOf(u'"', 1);
-    return end > 0 ? text.mid(1, end - 1) : text;
-}
-
 QString fileName(const QString &path)
 {
     return path.mid(std::max(path.lastIndexOf(u'\\'), path.lastIndexOf(u'/')) + 1);
@@ -108,13 +81,22 @@ const QString machineHive = u"HKEY_LOCAL_MACHINE"_s;
 const QString userHive = u"HKEY_CURRENT_USER"_s;
 const QString classesHive = u"HKEY_CLASSES_ROOT"_s;
 
-Hive hiveOf(const QString &root)
+/// The key or value that an item stands for, in the one hive that has it.
+struct Place {
+    Hive hive;
+    QString path; ///< empty for what is no class
+};
+
+Place placeOf(const CleanItem &item)
 {
-    if (root == machineHive || root == "HKLM"_L1)
-        return Hive::LocalMachine;
-    if (root == userHive || root == "HKCU"_L1)
-        return Hive::CurrentUser;
-    return Hive::ClassesRoot;
+    if (item.registryRoot == machineHive || item.registryRoot == "HKLM"_L1)
+        return {Hive::LocalMachine, item.registryKey};
+    if (item.registryRoot == userHive || item.registryRoot == "HKCU"_L1)
+        return {Hive::CurrentUser, item.registryKey};
+    // Without a name it would be the key that holds all classes.
+    return {item.isUserClass ? Hive::CurrentUser : Hive::LocalMachine,
+            Registry::isKeyPath(item.registryKey) ? Registry::classPath(item.registryKey)
+                                                  : QString()};
 }
 
 // Keys whose entries the scans list value by value. What a value's name makes of such a key's path
@@ -133,6 +115,19 @@ bool isValueList(const QString &key)
 }
 
 } // namespace
+
+/// What the checks of one scan share.
+struct RegistryCleaner::Scan {
+    const Registry registry;
+    PathCheck paths;
+    QList<CleanItem> items; ///< of the check that runs
+};
+
+/// An entry that was removed, until that is saved.
+struct RegistryCleaner::Removal {
+    Hive hive;
+    QString entry; ///< for people
+};
 
 RegistryCleaner::RegistryCleaner(QObject *parent)
     : CleanEngine(parent)
@@ -171,46 +166,7 @@ QStringList RegistryCleaner::categoryIds() const
 
 bool RegistryCleaner::pathExists(const QString &text)
 {
-    return pathExists(text, readPlaceholders());
-}
-
-QList<RegistryCleaner::Placeholder> RegistryCleaner::readPlaceholders()
-{
-    QList<Placeholder> list;
-    for (const auto &[placeholder, variable] : placeholderVariables)
-        list.emplaceBack(placeholder, platform::windowsVariable(variable));
-    return list;
-}
-
-bool RegistryCleaner::pathExists(const QString &text, const QList<Placeholder> &placeholders)
-{
-    if (text.isEmpty())
-        return false;
-    QString path = text;
-    if (path.startsWith(u'"') && path.endsWith(u'"')) {
-        path.remove(0, 1);
-        path.chop(1);
-    }
-    if (path.startsWith(u'%') && path.size() < 4)
-        return true; // too short to hold a placeholder
-    for (const auto &[placeholder, value] : placeholders)
-        path.replace(placeholder, value);
-    if (path.contains(u'%'))
-        return true;
-    const QString local = platform::localPath(path);
-    // Of a shortcut the file information would tell whether its target exists.
-    if (local.endsWith(".lnk"_L1, Qt::CaseInsensitive))
-        return platform::inspect(QFileInfo(local).absoluteFilePath()).kind
-            != platform::EntryKind::Missing;
-    return QFileInfo::exists(local);
-}
-
-QString RegistryCleaner::programPath(const QString &command)
-{
-    if (command.startsWith(u'"'))
-        return quotedPart(command);
-    const qsizetype end = command.indexOf(u' ');
-    return end > 0 ? command.first(end) : command;
+    return PathCheck().exists(text);
 }
 
 void RegistryCleaner::doScan()
@@ -226,13 +182,12 @@ void RegistryCleaner::doScan()
         std::pair(&RegistryCleaner::checkSharedDlls, tr("Scanning invalid shared DLLs...")),
         std::pair(&RegistryCleaner::checkMuiCache, tr("Scanning MUI cache...")),
     };
-    m_placeholders = readPlaceholders();
-    const Registry registry;
+    Scan scan;
     for (size_t i = 0; i < steps.size(); ++i) {
         Q_EMIT scanProgress(static_cast<int>(i) + 1, static_cast<int>(steps.size()),
                             steps[i].second);
         if (!isStopRequested())
-            runCheck(m_categories.at(static_cast<qsizetype>(i)), steps[i].first, registry);
+            runCheck(m_categories.at(static_cast<qsizetype>(i)), steps[i].first, scan);
     }
     if (isStopRequested()) {
         setState(State::Cancelled);
@@ -242,153 +197,162 @@ void RegistryCleaner::doScan()
     Logger::instance().info(u"Registry scan finished. Found %1 items"_s.arg(result().totalCount()));
 }
 
-void RegistryCleaner::runCheck(const Category &category, Check check, const Registry &registry)
+void RegistryCleaner::runCheck(const Category &category, Check check, Scan &scan)
 {
     CleanCategory found(category.id, category.name, category.description);
     found.checked = category.checked;
     found.riskLevel = category.level;
-    (this->*check)(registry, found.items);
+    (this->*check)(scan);
+    found.items = std::exchange(scan.items, {});
     if (!found.items.isEmpty() && !isStopRequested())
         result().categories.append(std::move(found));
 }
 
-void RegistryCleaner::checkSoftware(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkSoftware(Scan &scan)
 {
-    checkAppPaths(registry, items);
-    checkUninstall(registry, items);
+    checkAppPaths(scan);
+    checkUninstall(scan);
 }
 
-void RegistryCleaner::checkAppPaths(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkAppPaths(Scan &scan)
 {
-    for (const QString &name : registry.subkeys(Hive::LocalMachine, appPaths)) {
+    for (const QString &name : scan.registry.subkeys(Hive::LocalMachine, appPaths)) {
         if (isStopRequested())
             return;
         const QString key = appPaths + u'\\' + name;
-        const QString value = registry.text(Hive::LocalMachine, key, {});
-        if (!value.isEmpty() && !exists(value))
-            items.append(
+        const QString value = scan.registry.text(Hive::LocalMachine, key, {});
+        if (!value.isEmpty() && !scan.paths.exists(value))
+            scan.items.append(
                 makeItem(name, "HKLM\\"_L1 + key, tr("Path: %1").arg(value), machineHive, key));
     }
 }
 
-void RegistryCleaner::checkUninstall(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkUninstall(Scan &scan)
 {
-    for (const QString &name : registry.subkeys(Hive::LocalMachine, uninstall)) {
+    for (const QString &name : scan.registry.subkeys(Hive::LocalMachine, uninstall)) {
         if (isStopRequested())
             return;
         const QString key = uninstall + u'\\' + name;
         const auto text = [&](const QString &value) {
-            return registry.text(Hive::LocalMachine, key, value);
+            return scan.registry.text(Hive::LocalMachine, key, value);
         };
         const QString location = text(u"InstallLocation"_s);
         const QString command = text(u"UninstallString"_s);
-        const bool isInvalid = (!location.isEmpty() && !exists(location))
-            || (!command.isEmpty() && !exists(quotedPart(command)));
+        const bool isInvalid = (!location.isEmpty() && !scan.paths.exists(location))
+            || (!command.isEmpty() && !scan.paths.exists(PathCheck::quotedPart(command)));
         if (!isInvalid)
             continue;
         const QString displayName = text(u"DisplayName"_s);
-        items.append(makeItem(displayName.isEmpty() ? name : displayName, "HKLM\\"_L1 + key, {},
-                              machineHive, key));
+        scan.items.append(makeItem(displayName.isEmpty() ? name : displayName, "HKLM\\"_L1 + key,
+                                   {}, machineHive, key));
     }
 }
 
-void RegistryCleaner::checkFileAssociations(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkFileAssociations(Scan &scan)
 {
-    for (const QString &extension : registry.subkeys(Hive::ClassesRoot, {})) {
+    for (const QString &extension : scan.registry.subkeys(Hive::ClassesRoot, {})) {
         if (isStopRequested())
             return;
         if (!extension.startsWith(u'.') || isProtectedExtension(extension.toLower()))
             continue;
-        const QString type = registry.text(Hive::ClassesRoot, extension, {});
-        if (type.isEmpty() || isProtectedClass(type.toLower()))
+        const Registry::ClassText type = scan.registry.classText(extension, {});
+        if (type.text.isEmpty() || isProtectedClass(type.text.toLower()))
             continue;
         const QString command =
-            registry.text(Hive::ClassesRoot, type + "\\shell\\open\\command"_L1, {});
-        if (!command.isEmpty() && !exists(programPath(command)))
-            items.append(makeItem(extension + " -> "_L1 + type, "HKCR\\"_L1 + extension,
-                                  tr("Command: %1").arg(command), classesHive, extension));
+            scan.registry.classText(type.text + "\\shell\\open\\command"_L1, {}).text;
+        if (command.isEmpty() || scan.paths.exists(PathCheck::programPath(command)))
+            continue;
+        scan.items.append(makeItem(extension + " -> "_L1 + type.text, "HKCR\\"_L1 + extension,
+                                   tr("Command: %1").arg(command), classesHive, extension));
+        scan.items.last().isUserClass = type.hive == Hive::CurrentUser;
     }
 }
 
-void RegistryCleaner::checkCom(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkCom(Scan &scan)
 {
     int count = 0;
-    for (const QString &id : registry.subkeys(Hive::ClassesRoot, u"CLSID"_s)) {
+    for (const QString &id : scan.registry.subkeys(Hive::ClassesRoot, u"CLSID"_s)) {
         if (isStopRequested() || ++count > examinedClasses)
             return;
         const QString key = "CLSID\\"_L1 + id;
-        const auto add = [&](const QString &description) {
-            const QString name = registry.text(Hive::ClassesRoot, key, {});
-            items.append(makeItem(name.isEmpty() ? id : name, "HKCR\\"_L1 + key, description,
-                                  classesHive, key));
+        const auto add = [&](const QString &description, Hive hive) {
+            const QString name = scan.registry.classText(key, {}).text;
+            scan.items.append(makeItem(name.isEmpty() ? id : name, "HKCR\\"_L1 + key, description,
+                                       classesHive, key));
+            scan.items.last().isUserClass = hive == Hive::CurrentUser;
         };
-        const QString library = registry.text(Hive::ClassesRoot, key + "\\InprocServer32"_L1, {});
-        if (!library.isEmpty() && !exists(library))
-            add(tr("DLL: %1").arg(library));
-        const QString server = registry.text(Hive::ClassesRoot, key + "\\LocalServer32"_L1, {});
-        if (!server.isEmpty() && !exists(quotedPart(server)))
-            add(tr("EXE: %1").arg(server));
+        const auto [library, libraryHive] =
+            scan.registry.classText(key + "\\InprocServer32"_L1, {});
+        if (!library.isEmpty() && !scan.paths.exists(library))
+            add(tr("DLL: %1").arg(library), libraryHive);
+        const auto [server, serverHive] = scan.registry.classText(key + "\\LocalServer32"_L1, {});
+        if (!server.isEmpty() && !scan.paths.exists(PathCheck::quotedPart(server)))
+            add(tr("EXE: %1").arg(server), serverHive);
     }
 }
 
-void RegistryCleaner::checkFonts(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkFonts(Scan &scan)
 {
-    const QString folder = platform::windowsVariable(u"WINDIR"_s) + "\\Fonts"_L1;
-    for (const QString &name : registry.valueNames(Hive::LocalMachine, fonts)) {
+    const std::optional<QString> windows = platform::windowsVariable(u"WINDIR"_s);
+    for (const QString &name : scan.registry.valueNames(Hive::LocalMachine, fonts)) {
         if (isStopRequested())
             return;
-        QString file = registry.text(Hive::LocalMachine, fonts, name);
+        QString file = scan.registry.text(Hive::LocalMachine, fonts, name);
         if (file.isEmpty())
             continue;
-        if (!file.contains(u'\\') && !file.contains(u'/'))
-            file = folder + u'\\' + file;
-        if (!exists(file))
-            items.append(makeItem(name, "HKLM\\"_L1 + fonts, tr("Font file: %1").arg(file),
-                                  machineHive, fonts + u'\\' + name));
+        if (!file.contains(u'\\') && !file.contains(u'/')) {
+            if (!windows)
+                continue;
+            file = *windows + "\\Fonts\\"_L1 + file;
+        }
+        if (!scan.paths.exists(file))
+            scan.items.append(makeItem(name, "HKLM\\"_L1 + fonts, tr("Font file: %1").arg(file),
+                                       machineHive, fonts + u'\\' + name));
     }
 }
 
-void RegistryCleaner::checkStartup(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkStartup(Scan &scan)
 {
     for (const Hive hive : {Hive::LocalMachine, Hive::CurrentUser}) {
         const QString label = hive == Hive::LocalMachine ? u"HKLM"_s : u"HKCU"_s;
         for (const QString &key : {runKey, runOnceKey}) {
-            for (const QString &name : registry.valueNames(hive, key)) {
+            for (const QString &name : scan.registry.valueNames(hive, key)) {
                 if (isStopRequested())
                     return;
-                const QString command = registry.text(hive, key, name);
-                if (!command.isEmpty() && !exists(programPath(command)))
-                    items.append(makeItem(name, label + u'\\' + key, tr("Command: %1").arg(command),
-                                          label, key + u'\\' + name));
+                const QString command = scan.registry.text(hive, key, name);
+                if (!command.isEmpty() && !scan.paths.exists(PathCheck::programPath(command)))
+                    scan.items.append(makeItem(name, label + u'\\' + key,
+                                               tr("Command: %1").arg(command), label,
+                                               key + u'\\' + name));
             }
         }
     }
 }
 
-void RegistryCleaner::checkSharedDlls(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkSharedDlls(Scan &scan)
 {
-    for (const QString &name : registry.valueNames(Hive::LocalMachine, sharedDlls)) {
+    for (const QString &name : scan.registry.valueNames(Hive::LocalMachine, sharedDlls)) {
         if (isStopRequested())
             return;
-        if (!exists(name))
-            items.append(makeItem(fileName(name), "HKLM\\"_L1 + sharedDlls,
-                                  tr("DLL path: %1").arg(name), machineHive,
-                                  sharedDlls + u'\\' + name));
+        if (!scan.paths.exists(name))
+            scan.items.append(makeItem(fileName(name), "HKLM\\"_L1 + sharedDlls,
+                                       tr("DLL path: %1").arg(name), machineHive,
+                                       sharedDlls + u'\\' + name));
     }
 }
 
-void RegistryCleaner::checkMuiCache(const Registry &registry, QList<CleanItem> &items)
+void RegistryCleaner::checkMuiCache(Scan &scan)
 {
-    for (const QString &name : registry.valueNames(Hive::CurrentUser, muiCache)) {
+    for (const QString &name : scan.registry.valueNames(Hive::CurrentUser, muiCache)) {
         if (isStopRequested())
             return;
         const qsizetype dot = name.lastIndexOf(u'.');
         const bool hasSuffix =
             name.endsWith(".FriendlyAppName"_L1) || name.endsWith(".ApplicationCompany"_L1);
         const QString path = dot > 0 && hasSuffix ? name.first(dot) : name;
-        if (!exists(path))
-            items.append(makeItem(fileName(path), "HKCU\\"_L1 + muiCache, name, userHive,
-                                  muiCache + u'\\' + name));
+        if (!scan.paths.exists(path))
+            scan.items.append(makeItem(fileName(path), "HKCU\\"_L1 + muiCache, name, userHive,
+                                       muiCache + u'\\' + name));
     }
 }
 
@@ -400,25 +364,32 @@ void RegistryCleaner::doClean()
 
     const int total = selection().checkedCount();
     int index = 0;
-    QStringList removed;
+    QList<Removal> removals;
+    std::set<std::pair<Hive, QString>> gone;
     for (const CleanCategory &category : selection().categories) {
         for (const CleanItem &item : category.items) {
             if (isStopRequested()) {
-                const int count = saveChanges(registry, removed);
+                const int count = saveChanges(registry, removals);
                 endClean(State::Cancelled);
                 Q_EMIT cleanFinished(0, count);
                 return;
             }
             Q_EMIT cleanProgress(++index, total, 0);
+            const Place place = placeOf(item);
+            const std::pair id(place.hive, place.path.toCaseFolded());
+            if (gone.contains(id))
+                continue; // a class may stand in the list twice
             const QString entry = item.registryRoot + u'\\' + item.registryKey;
             QString reason;
-            if (removeEntry(registry, item, reason))
-                removed.append(entry);
-            else if (!removed.contains(entry)) // a class may stand in the list twice
+            if (removeEntry(registry, item, reason)) {
+                removals.append({place.hive, entry});
+                gone.insert(id);
+            } else {
                 addFailure({entry, reason});
+            }
         }
     }
-    const int count = saveChanges(registry, removed);
+    const int count = saveChanges(registry, removals);
     endClean(State::Finished);
     Q_EMIT cleanFinished(0, count);
     Logger::instance().info(u"Registry clean finished. Cleaned %1 items"_s.arg(count));
@@ -446,40 +417,45 @@ void RegistryCleaner::backUp(const Registry &registry)
 
 bool RegistryCleaner::removeEntry(Registry &registry, const CleanItem &item, QString &reason)
 {
-    const Hive hive = hiveOf(item.registryRoot);
-    const QString &key = item.registryKey;
-    const auto deleteKey = [&] {
-        const bool isDone = registry.deleteTree(hive, key) || registry.deleteKey(hive, key);
+    const auto [hive, path] = placeOf(item);
+    const auto deleteKey = [&registry, &reason, hive = hive, &path = path] {
+        const bool isDone = registry.deleteTree(hive, path) || registry.deleteKey(hive, path);
         if (!isDone)
             reason = registry.errorString();
         return isDone;
     };
-    const qsizetype separator = key.lastIndexOf(u'\\');
-    if (separator < 0) {
+    if (!item.registryKey.contains(u'\\')) {
         if (deleteKey())
             return true;
         Logger::instance().error(
-            u"Failed to delete registry key: %1\\%2"_s.arg(item.registryRoot, key));
+            u"Failed to delete registry key: %1\\%2"_s.arg(item.registryRoot, item.registryKey));
         return false;
     }
-    const QString parent = key.first(separator);
-    const bool isListed = isBelowValueList(key);
-    if (isListed && !isValueList(parent)) {
+    const qsizetype separator = path.lastIndexOf(u'\\');
+    const QString parent = path.left(separator);
+    const bool isListed = isBelowValueList(path);
+    if (path.isEmpty() || (isListed && !isValueList(parent))) {
         reason = tr("Its name cannot be told from a path");
         return false;
     }
-    if (registry.deleteValue(hive, parent, key.mid(separator + 1)))
+    if (registry.deleteValue(hive, parent, path.mid(separator + 1)))
         return true;
     reason = registry.errorString();
     return !isListed && deleteKey();
 }
 
-int RegistryCleaner::saveChanges(Registry &registry, const QStringList &removed)
+int RegistryCleaner::saveChanges(Registry &registry, const QList<Removal> &removals)
 {
-    if (removed.isEmpty() || registry.save())
-        return static_cast<int>(removed.size());
-    Logger::instance().error("Failed to save the registry: "_L1 + registry.errorString());
-    for (const QString &entry : removed)
-        addFailure({entry, registry.errorString()});
-    return 0;
+    if (removals.isEmpty())
+        return 0;
+    if (!registry.save())
+        Logger::instance().error("Failed to save the registry: "_L1 + registry.errorString());
+    int count = 0;
+    for (const Removal &removal : removals) {
+        if (registry.isSaved(removal.hive))
+            ++count;
+        else
+            addFailure({removal.entry, registry.errorString()});
+    }
+    return count;
 }

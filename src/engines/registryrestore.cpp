@@ -1,9 +1,13 @@
 #include "registryrestore.h"
 
+#include "registrybackup.h"
+
 #include <QCoreApplication>
 #include <QtEndian>
 
 #include <array>
+#include <tuple>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using platform::Hive;
@@ -87,7 +91,7 @@ private:
         if (takeLineEnd())
             return;
         if (current() == u';')
-            static_cast<void>(restOfLine());
+            m_isUserClass = restOfLine() == RegistryBackup::userClassMark;
         else if (current() == u'[')
             readKey();
         else
@@ -101,18 +105,20 @@ private:
         const QString line = restOfLine();
         if (!line.endsWith(u']'))
             return fail(Text::tr("the key has no end"));
-        const QString path = line.sliced(1, line.size() - 2);
-        static const std::array hives{
-            std::pair(u"HKEY_LOCAL_MACHINE"_s, Hive::LocalMachine),
-            std::pair(u"HKEY_CURRENT_USER"_s, Hive::CurrentUser),
-            std::pair(u"HKEY_CLASSES_ROOT"_s, Hive::ClassesRoot),
+        const QString name = line.sliced(1, line.size() - 2);
+        const Hive classes =
+            std::exchange(m_isUserClass, false) ? Hive::CurrentUser : Hive::LocalMachine;
+        const std::array hives{
+            std::tuple("HKEY_LOCAL_MACHINE\\"_L1, Hive::LocalMachine, false),
+            std::tuple("HKEY_CURRENT_USER\\"_L1, Hive::CurrentUser, false),
+            std::tuple("HKEY_CLASSES_ROOT\\"_L1, classes, true),
         };
-        for (const auto &[name, hive] : hives) {
-            if (path.startsWith(name + u'\\')) {
-                const QString key = path.mid(name.size() + 1);
+        for (const auto &[prefix, hive, isClass] : hives) {
+            if (name.startsWith(prefix)) {
+                const QString key = name.mid(prefix.size());
                 if (!Registry::isKeyPath(key))
                     return fail(Text::tr("the key's path is not complete"));
-                m_keys.append({hive, name, key, {}});
+                m_keys.append({hive, isClass ? Registry::classPath(key) : key, name, {}});
                 return;
             }
         }
@@ -235,6 +241,7 @@ private:
     const QString m_text;
     qsizetype m_at = 0;
     int m_line = 1;
+    bool m_isUserClass = false; ///< the next key, by the comment right before it
     QString m_error;
     QList<RestoredKey> m_keys;
 };
@@ -250,22 +257,23 @@ QList<RegistryRestore::Outcome> RegistryRestore::restore(Registry &registry,
                                                          const QList<RestoredKey> &keys)
 {
     QList<Outcome> outcomes;
-    const auto add = [&](const QString &entry, bool isRestored) {
+    QList<platform::Hive> hives; // of each outcome
+    const auto add = [&](const RestoredKey &key, const QString &entry, bool isRestored) {
         outcomes.append({entry, isRestored, isRestored ? QString() : registry.errorString()});
+        hives.append(key.hive);
         return isRestored;
     };
     for (const RestoredKey &key : keys) {
-        const QString path = key.hiveName + u'\\' + key.path;
-        const bool isThere = add(path, registry.createKey(key.hive, key.path));
+        const bool isThere = add(key, key.name, registry.createKey(key.hive, key.path));
         for (const RegistryValue &value : key.values)
-            add(path + u' ' + (value.name.isEmpty() ? u"@"_s : value.name),
+            add(key, key.name + u' ' + (value.name.isEmpty() ? u"@"_s : value.name),
                 isThere && registry.setValue(key.hive, key.path, value));
     }
-    if (!registry.save()) {
-        for (Outcome &outcome : outcomes) {
-            outcome.isRestored = false;
-            outcome.error = registry.errorString();
-        }
+    if (registry.save())
+        return outcomes;
+    for (qsizetype i = 0; i < outcomes.size(); ++i) {
+        if (outcomes.at(i).isRestored && !registry.isSaved(hives.at(i)))
+            outcomes[i] = {outcomes.at(i).entry, false, registry.errorString()};
     }
     return outcomes;
 }

@@ -7,13 +7,14 @@
 
 /// One key of a backup with the values that go into it.
 struct RestoredKey {
-    platform::Hive hive = platform::Hive::LocalMachine;
-    QString hiveName; ///< such as "HKEY_LOCAL_MACHINE"
+    platform::Hive hive = platform::Hive::LocalMachine; ///< that it goes into; never the merged one
     QString path; ///< below the hive
+    QString name; ///< as the backup has it, such as "HKEY_CLASSES_ROOT\\.txt"
     QList<platform::RegistryValue> values;
 };
 
-/// Reads a file that RegistryBackup wrote and puts its keys and values back.
+/// Reads a file that RegistryBackup wrote and puts its keys and values back, classes into the hive
+/// that they came from.
 class RegistryRestore final
 {
 public:

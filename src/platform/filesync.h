@@ -10,4 +10,8 @@ namespace platform {
 /// error says why.
 [[nodiscard]] bool writeToDisk(QFileDevice &file, const QByteArray &bytes, QString &error);
 
+/// Waits until the names in @p folder are on the disk, for instance after a file was renamed into
+/// it.
+[[nodiscard]] bool syncFolder(const QString &folder, QString &error);
+
 } // namespace platform

@@ -1,10 +1,13 @@
 #include "filesync.h"
 
+#include "openfolder_unix.h"
+
 #include <QByteArray>
-#include <QFileDevice>
+#include <QFile>
 
 #include <cerrno>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace platform {
@@ -19,6 +22,16 @@ bool writeToDisk(QFileDevice &file, const QByteArray &bytes, QString &error)
     // When a part got onto the disk before it was full, the file has no word for it.
     const int code = errno;
     error = code != 0 ? qt_error_string(code) : file.errorString();
+    return false;
+}
+
+bool syncFolder(const QString &folder, QString &error)
+{
+    const UniqueFd fd(
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (fd.isValid() && (::fsync(fd.get()) == 0 || errno == EINVAL || errno == ENOTSUP))
+        return true;
+    error = qt_error_string(errno);
     return false;
 }
 

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 bool Registry::isKeyPath(const QString &key)
@@ -11,6 +13,20 @@ bool Registry::isKeyPath(const QString &key)
     const QStringList names = key.split(u'\\');
     return std::none_of(names.begin(), names.end(),
                         [](const QString &name) { return name.isEmpty(); });
+}
+
+QString Registry::classPath(const QString &key)
+{
+    return key.isEmpty() ? u"Software\\Classes"_s : "Software\\Classes\\"_L1 + key;
+}
+
+Registry::ClassText Registry::classText(const QString &key, const QString &name) const
+{
+    for (const Hive hive : {Hive::CurrentUser, Hive::LocalMachine}) {
+        if (const std::optional<RegistryValue> found = value(hive, classPath(key), name))
+            return {registryText(*found), hive};
+    }
+    return {};
 }
 
 QString registryText(const RegistryValue &value)

@@ -10,6 +10,8 @@
 
 namespace platform {
 
+/// ClassesRoot is the view that merges the user's classes with the machine's: it can be read, but
+/// every change names the hive that it means.
 enum class Hive { LocalMachine, CurrentUser, ClassesRoot };
 
 /// The types of a value that this program tells apart; any other number may occur.
@@ -38,8 +40,7 @@ struct RegistryValue {
 ///
 /// Key paths use backslashes and are looked up, like value names, without regard to case. What does
 /// not exist or may not be read yields nothing. A key that is a symbolic link is not followed by
-/// the prefix reader. Of a class that both the user and the machine have, the user's key is
-/// changed; a new class is the machine's. Not for use by two threads at once.
+/// the prefix reader. Not for use by two threads at once.
 class Registry
 {
     Q_DISABLE_COPY(Registry)
@@ -51,6 +52,15 @@ public:
 
     /// Whether @p key names one key below a hive: neither empty nor with an empty name in it.
     [[nodiscard]] static bool isKeyPath(const QString &key);
+
+    /// Where the user's or the machine's hive keeps the class key that ClassesRoot knows as @p key.
+    [[nodiscard]] static QString classPath(const QString &key);
+    struct ClassText {
+        QString text;
+        Hive hive = Hive::LocalMachine; ///< which of the two it was read from
+    };
+    /// The value of a class as text, as ClassesRoot shows it: the user's, if there is one.
+    [[nodiscard]] ClassText classText(const QString &key, const QString &name) const;
 
     [[nodiscard]] bool hasKey(Hive hive, const QString &key) const;
     /// The names of the keys right below @p key, in the registry's order; "" is the hive itself.
@@ -69,7 +79,8 @@ public:
 
     // Changes. Each gives whether it was made; if not, errorString() says why. A key path that is
     // empty, holds an empty name or begins or ends with a backslash is refused before any call: to
-    // the system it would be another key, at worst a whole hive.
+    // the system it would be another key, at worst a whole hive. So is ClassesRoot, of which the
+    // system would choose the hive.
 
     /// Removes the key with everything below it.
     bool deleteTree(Hive hive, const QString &key);
@@ -84,8 +95,10 @@ public:
     /// Makes the changes permanent; on Windows they are already. Refused while the prefix is in
     /// use, or when its files are no longer those that were read: the changes are dropped then.
     /// Each file is written whole or not at all, and both are on the disk before the first is
-    /// replaced.
+    /// replaced. Should the second not take its place, only the first is saved: see isSaved().
     [[nodiscard]] bool save();
+    /// Whether the changes of @p hive lasted at the last save().
+    [[nodiscard]] bool isSaved(Hive hive) const;
 
     /// For people; why the last change or save() failed.
     [[nodiscard]] QString errorString() const;
@@ -94,5 +107,8 @@ private:
     class Private;
     std::unique_ptr<Private> d;
 };
+
+/// Whether @p path, absolute, is a file that the registry itself is kept in, under whatever name.
+[[nodiscard]] bool isRegistryFile(const QString &path);
 
 } // namespace platform

@@ -12,6 +12,12 @@ struct RegistryTexts {
     Q_DECLARE_TR_FUNCTIONS(RegistryTexts)
 };
 
+/// What is said to who asks to change the merged classes.
+[[nodiscard]] inline QString noChangeOfMergedClasses()
+{
+    return RegistryTexts::tr("A class is changed in the user's or in the machine's hive");
+}
+
 /// The value's data as text, as Registry::text() gives it.
 [[nodiscard]] QString registryText(const RegistryValue &value);
 

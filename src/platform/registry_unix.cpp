@@ -90,8 +90,6 @@ bool isPrefixInUse(const QString &prefix)
     });
 }
 
-const QString classes = u"Software\\Classes"_s;
-
 } // namespace
 
 class Registry::Private
@@ -112,8 +110,16 @@ public:
         error = message;
         return false;
     }
+    bool isAllowed(Hive hive, const QString &key)
+    {
+        if (hive == Hive::ClassesRoot)
+            return refuse(noChangeOfMergedClasses());
+        return Registry::isKeyPath(key)
+            || refuse(RegistryTexts::tr("'%1' is not the path of a key").arg(key));
+    }
 
     QString error;
+    QList<Hive> saved;
 
 private:
     std::optional<HiveFile> m_machine;
@@ -143,9 +149,8 @@ QList<Registry::Private::Place> Registry::Private::places(Hive hive, const QStri
             found.append({&*content.content, place});
     };
     if (hive == Hive::ClassesRoot) {
-        const QString path = key.isEmpty() ? classes : classes + u'\\' + key;
-        add(Hive::CurrentUser, path);
-        add(Hive::LocalMachine, path);
+        add(Hive::CurrentUser, classPath(key));
+        add(Hive::LocalMachine, classPath(key));
     } else {
         add(hive, key);
     }
@@ -154,10 +159,8 @@ QList<Registry::Private::Place> Registry::Private::places(Hive hive, const QStri
 
 Registry::Private::Place Registry::Private::placeToChange(Hive hive, const QString &key)
 {
-    if (!Registry::isKeyPath(key)) {
-        error = RegistryTexts::tr("'%1' is not the path of a key").arg(key);
+    if (!isAllowed(hive, key))
         return {};
-    }
     const QList<Place> found = places(hive, key);
     if (found.isEmpty()) {
         error = RegistryTexts::tr("There is no such key");
@@ -282,22 +285,20 @@ bool Registry::deleteValue(Hive hive, const QString &key, const QString &name)
 
 bool Registry::createKey(Hive hive, const QString &key)
 {
-    if (!Registry::isKeyPath(key))
-        return d->refuse(RegistryTexts::tr("'%1' is not the path of a key").arg(key));
+    if (!d->isAllowed(hive, key))
+        return false;
     if (hasKey(hive, key))
         return true;
-    const bool isClass = hive == Hive::ClassesRoot;
-    HiveFile &file = d->file(isClass ? Hive::LocalMachine : hive);
+    HiveFile &file = d->file(hive);
     if (!file.content)
         return d->refuse(file.error.isEmpty() ? RegistryTexts::tr("There is no registry")
                                               : file.error);
-    const QString path = isClass ? classes + u'\\' + key : key;
-    for (qsizetype end = path.indexOf(u'\\'); end >= 0; end = path.indexOf(u'\\', end + 1)) {
-        const RegistryFile::Key above = file.content->find(path.first(end));
+    for (qsizetype end = key.indexOf(u'\\'); end >= 0; end = key.indexOf(u'\\', end + 1)) {
+        const RegistryFile::Key above = file.content->find(key.first(end));
         if (above != RegistryFile::none && file.content->isLink(above))
             return d->refuse(RegistryTexts::tr("The key is a link to another one"));
     }
-    file.content->create(path);
+    file.content->create(key);
     return true;
 }
 
@@ -311,48 +312,89 @@ bool Registry::setValue(Hive hive, const QString &key, const RegistryValue &valu
 
 bool Registry::save()
 {
-    std::vector<std::pair<HiveFile *, std::unique_ptr<QSaveFile>>> changed;
+    struct Change {
+        Hive hive;
+        HiveFile *file;
+        std::unique_ptr<QSaveFile> saver;
+    };
+    std::vector<Change> changes;
+    QList<Hive> saved;
     for (const Hive hive : {Hive::LocalMachine, Hive::CurrentUser}) {
         HiveFile &file = d->file(hive);
         if (file.content && file.content->isChanged())
-            changed.emplace_back(&file, std::make_unique<QSaveFile>(file.path));
+            changes.push_back({hive, &file, std::make_unique<QSaveFile>(file.path)});
+        else
+            saved.append(hive);
     }
-    if (changed.empty())
-        return true;
-    const auto fail = [this](const QString &message) {
+    // What was read is not what the files are any more, or never became it.
+    const auto end = [this, &saved](const QString &error) {
         *d = Private();
-        return d->refuse(message);
+        d->saved = saved;
+        d->error = error;
+        return error.isEmpty();
     };
+    if (changes.empty()) {
+        d->saved = saved;
+        return true;
+    }
     // Each is on the disk under another name before the first takes the place of the old one.
-    for (auto &[file, saver] : changed) {
+    for (const Change &change : changes) {
         QString error;
-        if (!saver->open(QIODevice::WriteOnly))
-            error = saver->errorString();
-        if (!error.isEmpty() || !writeToDisk(*saver, file->content->text(), error))
-            return fail(RegistryTexts::tr("%1 cannot be written: %2").arg(file->path, error));
+        if (!change.saver->open(QIODevice::WriteOnly))
+            error = change.saver->errorString();
+        if (!error.isEmpty() || !writeToDisk(*change.saver, change.file->content->text(), error))
+            return end(RegistryTexts::tr("%1 cannot be written: %2").arg(change.file->path, error));
     }
-    if (isPrefixInUse(wineprefix::folder()))
-        return fail(
-            RegistryTexts::tr(
-                "Windows programs are running in the Wine prefix %1; end them and try again")
-                .arg(wineprefix::folder()));
-    for (const auto &[file, saver] : changed) {
-        if (!(stampOf(file->path) == file->stamp))
-            return fail(
-                RegistryTexts::tr("%1 was changed by another program; scan again").arg(file->path));
+    const QString prefix = wineprefix::folder();
+    if (isPrefixInUse(prefix))
+        return end(RegistryTexts::tr(
+                       "Windows programs are running in the Wine prefix %1; end them and try again")
+                       .arg(prefix));
+    for (const Change &change : changes) {
+        if (!(stampOf(change.file->path) == change.file->stamp))
+            return end(RegistryTexts::tr("%1 was changed by another program; scan again")
+                           .arg(change.file->path));
     }
-    for (auto &[file, saver] : changed) {
-        if (!saver->commit())
-            return fail(RegistryTexts::tr("%1 cannot be written: %2")
-                            .arg(file->path, saver->errorString()));
+    for (const Change &change : changes) {
+        if (!change.saver->commit())
+            return end(RegistryTexts::tr("%1 cannot be written: %2")
+                           .arg(change.file->path, change.saver->errorString()));
+        saved.append(change.hive);
     }
-    *d = Private();
-    return true;
+    QString error;
+    if (!syncFolder(prefix, error))
+        return end(RegistryTexts::tr("%1 cannot be written: %2").arg(prefix, error));
+    return end({});
+}
+
+bool Registry::isSaved(Hive hive) const
+{
+    return d->saved.contains(hive);
 }
 
 QString Registry::errorString() const
 {
     return d->error;
+}
+
+bool isRegistryFile(const QString &path)
+{
+    const QString prefix = wineprefix::folder();
+    if (prefix.isEmpty())
+        return false;
+    struct stat asked {
+    };
+    const bool exists = ::stat(QFile::encodeName(path).constData(), &asked) == 0;
+    for (const QLatin1StringView name : {"/system.reg"_L1, "/user.reg"_L1, "/userdef.reg"_L1}) {
+        const QString file = prefix + name;
+        struct stat data {
+        };
+        if (path == file
+            || (exists && ::stat(QFile::encodeName(file).constData(), &data) == 0
+                && data.st_dev == asked.st_dev && data.st_ino == asked.st_ino))
+            return true;
+    }
+    return false;
 }
 
 } // namespace platform

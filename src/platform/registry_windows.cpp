@@ -1,9 +1,12 @@
 #include "registry_p.h"
 
-#include <windows.h>
+#include <QSet>
 
 #include <array>
+#include <utility>
 #include <vector>
+
+#include <windows.h>
 
 namespace platform {
 
@@ -16,10 +19,10 @@ HKEY rootOf(Hive hive)
         return HKEY_LOCAL_MACHINE;
     case Hive::CurrentUser:
         return HKEY_CURRENT_USER;
-    case Hive::ClassesRoot:
+    case Hive::ClassesRoot: // is put together from the other two
         break;
     }
-    return HKEY_CLASSES_ROOT;
+    return nullptr;
 }
 
 const wchar_t *wide(const QString &text)
@@ -90,6 +93,19 @@ bool isLink(Hive hive, const QString &key)
         && type == REG_LINK;
 }
 
+// The names of both, those of the first in their order before what the second adds.
+QStringList merged(QStringList names, const QStringList &more)
+{
+    QSet<QString> seen;
+    for (const QString &name : std::as_const(names))
+        seen.insert(name.toCaseFolded());
+    for (const QString &name : more) {
+        if (!seen.contains(name.toCaseFolded()))
+            names.append(name);
+    }
+    return names;
+}
+
 } // namespace
 
 class Registry::Private
@@ -104,6 +120,10 @@ public:
     // What must never reach the system as the path of a key to change.
     bool isAllowed(Hive hive, const QString &key)
     {
+        if (hive == Hive::ClassesRoot) {
+            error = noChangeOfMergedClasses();
+            return false;
+        }
         if (!Registry::isKeyPath(key) || key.contains(QChar(u'\0')))
             return result(ERROR_INVALID_NAME);
         return !isLink(hive, key) || result(ERROR_ACCESS_DENIED);
@@ -123,11 +143,17 @@ Registry &Registry::operator=(Registry &&other) noexcept = default;
 
 bool Registry::hasKey(Hive hive, const QString &key) const
 {
+    if (hive == Hive::ClassesRoot)
+        return hasKey(Hive::CurrentUser, classPath(key))
+            || hasKey(Hive::LocalMachine, classPath(key));
     return bool(OpenKey(hive, key, KEY_READ));
 }
 
 QStringList Registry::subkeys(Hive hive, const QString &key) const
 {
+    if (hive == Hive::ClassesRoot)
+        return merged(subkeys(Hive::LocalMachine, classPath(key)),
+                      subkeys(Hive::CurrentUser, classPath(key)));
     QStringList names;
     const OpenKey open(hive, key, KEY_READ);
     if (!open)
@@ -145,6 +171,9 @@ QStringList Registry::subkeys(Hive hive, const QString &key) const
 
 QStringList Registry::valueNames(Hive hive, const QString &key) const
 {
+    if (hive == Hive::ClassesRoot)
+        return merged(valueNames(Hive::CurrentUser, classPath(key)),
+                      valueNames(Hive::LocalMachine, classPath(key)));
     QStringList names;
     const OpenKey open(hive, key, KEY_READ);
     if (!open)
@@ -169,6 +198,10 @@ QString Registry::text(Hive hive, const QString &key, const QString &name) const
 std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
                                              const QString &name) const
 {
+    if (hive == Hive::ClassesRoot) {
+        const std::optional<RegistryValue> own = value(Hive::CurrentUser, classPath(key), name);
+        return own ? own : value(Hive::LocalMachine, classPath(key), name);
+    }
     const OpenKey open(hive, key, KEY_READ);
     if (!open || name.contains(QChar(u'\0')))
         return std::nullopt;
@@ -191,6 +224,8 @@ std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
 std::optional<QList<RegistryValue>> Registry::values(Hive hive, const QString &key,
                                                      qsizetype maximumSize) const
 {
+    if (hive == Hive::ClassesRoot) // nobody asks for the values of both at once
+        return std::nullopt;
     const OpenKey open(hive, key, KEY_READ);
     if (!open)
         return std::nullopt;
@@ -258,9 +293,20 @@ bool Registry::save()
     return true;
 }
 
+bool Registry::isSaved(Hive) const
+{
+    return true;
+}
+
 QString Registry::errorString() const
 {
     return d->error;
+}
+
+// The system keeps its files open for itself.
+bool isRegistryFile(const QString &)
+{
+    return false;
 }
 
 } // namespace platform

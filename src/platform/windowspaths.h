@@ -2,6 +2,9 @@
 
 #include <QString>
 
+#include <memory>
+#include <optional>
+
 // What a path or variable of the Windows world means here. Elsewhere than on Windows it is the Wine
 // prefix that answers.
 namespace platform {
@@ -12,6 +15,31 @@ namespace platform {
 [[nodiscard]] QString localPath(const QString &path);
 
 /// The environment variable @p name, in capitals, as a Windows program sees it; empty when unset.
-[[nodiscard]] QString windowsVariable(const QString &name);
+/// With a Wine prefix only the prefix is asked, whatever is set here: nothing when it does not
+/// tell.
+[[nodiscard]] std::optional<QString> windowsVariable(const QString &name);
+
+enum class Presence {
+    Present,
+    Missing,
+    Unknown, ///< it cannot be told, for instance for want of rights
+};
+
+/// Tells whether Windows paths lead to a file or folder; links are followed. Remembers what it has
+/// seen of folders: make one for a run, not one for a question.
+class PathLookup final
+{
+    Q_DISABLE_COPY_MOVE(PathLookup)
+public:
+    PathLookup();
+    ~PathLookup();
+
+    /// @p path begins with a drive and a separator.
+    [[nodiscard]] Presence presenceOf(const QString &path);
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
 
 } // namespace platform

@@ -195,24 +195,50 @@ private Q_SLOTS:
 
     void classesOfTheUserComeFirst()
     {
-#ifdef Q_OS_WIN
-        QSKIP("Wine shows the machine's classes only");
-#else
-        m_fixture->addText(u"HKEY_LOCAL_MACHINE\\Software\\Classes\\.a"_s, {}, u"machine"_s);
-        m_fixture->addText(u"HKEY_LOCAL_MACHINE\\Software\\Classes\\.b"_s, {}, u"machine"_s);
-        m_fixture->addText(u"HKEY_LOCAL_MACHINE\\Software\\Classes\\.b"_s, u"m"_s, u"machine"_s);
-        m_fixture->addText(u"HKEY_CURRENT_USER\\Software\\Classes\\.B"_s, {}, u"user"_s);
-        m_fixture->addText(u"HKEY_CURRENT_USER\\Software\\Classes\\.c"_s, {}, u"user"_s);
+        const QString inMachine = u"HKEY_LOCAL_MACHINE\\Software\\Classes\\.sweepwise"_s;
+        const QString inUser = u"HKEY_CURRENT_USER\\Software\\Classes\\.sweepwise"_s;
+        m_fixture->addText(inMachine + u'a', {}, u"machine"_s);
+        m_fixture->addText(inMachine + u'b', {}, u"machine"_s);
+        m_fixture->addText(inMachine + u'b', u"m"_s, u"machine"_s);
+        m_fixture->addText(inUser + u'B', {}, u"user"_s);
+        m_fixture->addText(inUser + u'c', {}, u"user"_s);
+        m_fixture->write();
+        const Registry registry;
+        QStringList own = registry.subkeys(Hive::ClassesRoot, {});
+        own.removeIf([](const QString &key) { return !key.startsWith(".sweepwise"_L1); });
+        QCOMPARE(own, (QStringList{u".sweepwisea"_s, u".sweepwiseb"_s, u".sweepwisec"_s}));
+        QCOMPARE(registry.text(Hive::ClassesRoot, u".sweepwiseb"_s, {}), u"user"_s);
+        QCOMPARE(registry.text(Hive::ClassesRoot, u".sweepwiseb"_s, u"m"_s), u"machine"_s);
+        QCOMPARE(registry.valueNames(Hive::ClassesRoot, u".sweepwiseb"_s).size(), 2);
+        QVERIFY(registry.hasKey(Hive::ClassesRoot, u".sweepwisec"_s));
+        QVERIFY(!registry.hasKey(Hive::ClassesRoot, u".sweepwised"_s));
+
+        const auto text = [&registry](const QString &key, const QString &name) {
+            const Registry::ClassText found = registry.classText(key, name);
+            return std::pair(found.text, found.hive);
+        };
+        QCOMPARE(text(u".sweepwisea"_s, {}), std::pair(u"machine"_s, Hive::LocalMachine));
+        QCOMPARE(text(u".sweepwiseb"_s, {}), std::pair(u"user"_s, Hive::CurrentUser));
+        QCOMPARE(text(u".sweepwiseb"_s, u"m"_s), std::pair(u"machine"_s, Hive::LocalMachine));
+        QCOMPARE(text(u".sweepwisec"_s, {}), std::pair(u"user"_s, Hive::CurrentUser));
+        QCOMPARE(text(u".sweepwised"_s, {}).first, QString());
+    }
+
+    void theMergedClassesAreNotChanged()
+    {
+        m_fixture->addText(u"HKEY_CURRENT_USER\\Software\\Classes\\.sweepwise"_s, u"v"_s, u"x"_s);
         m_fixture->write();
         Registry registry;
-        QCOMPARE(registry.subkeys(Hive::ClassesRoot, {}), (QStringList{u".a"_s, u".b"_s, u".c"_s}));
-        QCOMPARE(registry.text(Hive::ClassesRoot, u".b"_s, {}), u"user"_s);
-        QCOMPARE(registry.text(Hive::ClassesRoot, u".b"_s, u"m"_s), u"machine"_s);
-        QCOMPARE(registry.valueNames(Hive::ClassesRoot, u".b"_s).size(), 2);
-        QVERIFY(registry.deleteTree(Hive::ClassesRoot, u".c"_s));
+        const QString key = u".sweepwise"_s;
+        QVERIFY(!registry.deleteTree(Hive::ClassesRoot, key));
+        QVERIFY(!registry.errorString().isEmpty());
+        QVERIFY(!registry.deleteKey(Hive::ClassesRoot, key));
+        QVERIFY(!registry.deleteValue(Hive::ClassesRoot, key, u"v"_s));
+        QVERIFY(!registry.createKey(Hive::ClassesRoot, key + "\\new"_L1));
+        QVERIFY(!registry.setValue(Hive::ClassesRoot, key, {u"n"_s, 4, {}}));
         QVERIFY(registry.save());
-        QVERIFY(!m_fixture->hasKey(u"HKEY_CURRENT_USER\\Software\\Classes\\.c"_s));
-#endif
+        QCOMPARE(m_fixture->exported(u"HKEY_CURRENT_USER\\Software\\Classes\\.sweepwise"_s).size(),
+                 2);
     }
 
 #ifndef Q_OS_WIN

@@ -7,7 +7,7 @@
 #include "registryrestore.h"
 #include "signalspy.h"
 #include "testhome.h"
-#include "windowspaths.h"
+#include "testtree.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,11 +15,17 @@
 #include <QTest>
 #include <QThread>
 
+#include <algorithm>
+
 #ifdef Q_OS_LINUX
 #include <sys/mount.h>
 #endif
 #ifndef Q_OS_WIN
+#include <cerrno>
+
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -83,7 +89,23 @@ CleanItem item(const QString &root, const QString &key)
     return made;
 }
 
+#ifndef Q_OS_WIN
+bool renamesOfUserHiveFail = false;
+#endif
+
 } // namespace
+
+#ifndef Q_OS_WIN
+// How a file of the registry takes the place of the old one.
+extern "C" int rename(const char *from, const char *to) noexcept
+{
+    if (renamesOfUserHiveFail && QByteArrayView(to).endsWith("/user.reg")) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(::syscall(SYS_rename, from, to));
+}
+#endif
 
 class TestRegistryCleaner : public QObject
 {
@@ -104,117 +126,6 @@ private Q_SLOTS:
     {
         m_cleaner.reset();
         m_fixture.reset();
-    }
-
-    // --- whether a path exists
-
-    void pathCheck_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("exists");
-        const QString file = existing(u"Program File.exe"_s);
-        const QString folder = file.first(file.lastIndexOf(u'\\'));
-        QTest::newRow("empty") << QString() << false;
-        QTest::newRow("file") << file << true;
-        QTest::newRow("file in other case") << file.toUpper() << true;
-        QTest::newRow("folder") << folder << true;
-        QTest::newRow("missing") << missing << false;
-        QTest::newRow("file in quotes") << u'"' + file + u'"' << true;
-        QTest::newRow("missing in quotes") << u'"' + missing + u'"' << false;
-        QTest::newRow("quotes alone") << u"\"\""_s << false;
-        QTest::newRow("one quote") << u"\""_s << false;
-        QTest::newRow("quote in front only") << u'"' + file << false;
-        QTest::newRow("%1 is too short") << u"%1"_s << true;
-        QTest::newRow("three characters are too short") << u"%ab"_s << true;
-        QTest::newRow("known placeholder") << u"%SystemRoot%"_s << true;
-        QTest::newRow("known placeholder, missing file")
-            << u"%SystemRoot%\\sweepwise missing.dll"_s << false;
-        QTest::newRow("placeholder in capitals")
-            << u"%SYSTEMROOT%\\sweepwise missing.dll"_s << true;
-        QTest::newRow("placeholder in small letters")
-            << u"%systemroot%\\sweepwise missing.dll"_s << true;
-        QTest::newRow("unknown placeholder") << u"%SweepwiseNone%\\x.dll"_s << true;
-        QTest::newRow("per cent sign in a name") << missing + u'%' << true;
-        QTest::newRow("relative") << u"sweepwise missing.exe"_s << false;
-    }
-    void pathCheck()
-    {
-        QFETCH(QString, text);
-        QFETCH(bool, exists);
-        QCOMPARE(RegistryCleaner::pathExists(text), exists);
-    }
-
-    void everyPlaceholderIsReplacedAndAnUnsetOneVanishes_data()
-    {
-        QTest::addColumn<QString>("placeholder");
-        QTest::addColumn<QByteArray>("variable");
-        const auto row = [](const char *placeholder, const char *variable) {
-            QTest::newRow(placeholder) << QString::fromLatin1(placeholder) << QByteArray(variable);
-        };
-        row("%SystemRoot%", "SYSTEMROOT");
-        row("%ProgramFiles%", "PROGRAMFILES");
-        row("%ProgramFiles(x86)%", "PROGRAMFILES(X86)");
-        row("%WinDir%", "WINDIR");
-        row("%UserProfile%", "USERPROFILE");
-        row("%LocalAppData%", "LOCALAPPDATA");
-        row("%AppData%", "APPDATA");
-        row("%CommonProgramFiles%", "COMMONPROGRAMFILES");
-        row("%CommonProgramFiles(x86)%", "COMMONPROGRAMFILES(X86)");
-        row("%SystemDrive%", "SYSTEMDRIVE");
-        row("%HomeDrive%", "HOMEDRIVE");
-        row("%HomePath%", "HOMEPATH");
-        row("%Temp%", "TEMP");
-        row("%Tmp%", "TMP");
-    }
-    void everyPlaceholderIsReplacedAndAnUnsetOneVanishes()
-    {
-        QFETCH(QString, placeholder);
-        QFETCH(QByteArray, variable);
-        const QString file = existing(u"in variable.exe"_s);
-        const qsizetype cut = file.lastIndexOf(u'\\');
-        const bool wasSet = qEnvironmentVariableIsSet(variable.constData());
-        const QString before = qEnvironmentVariable(variable.constData());
-        qputenv(variable.constData(), file.first(cut).toUtf8());
-        const bool isFound = RegistryCleaner::pathExists(placeholder + file.mid(cut));
-        const bool isMissed = RegistryCleaner::pathExists(placeholder + "\\sweepwise missing"_L1);
-#ifdef Q_OS_WIN
-        qunsetenv(variable.constData());
-        const bool isGone = RegistryCleaner::pathExists(placeholder + file);
-#else
-        // Unset, the variable of the prefix takes its place.
-        qunsetenv(variable.constData());
-        const bool isGone = !platform::windowsVariable(QString::fromLatin1(variable)).isEmpty()
-            || placeholder == "%Temp%"_L1 || placeholder == "%Tmp%"_L1
-            || RegistryCleaner::pathExists(placeholder + file);
-#endif
-        if (wasSet)
-            qputenv(variable.constData(), before.toUtf8());
-        else
-            qunsetenv(variable.constData());
-        QVERIFY(isFound);
-        QVERIFY(!isMissed);
-        QVERIFY(isGone);
-    }
-
-    void programOfACommandLine_data()
-    {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QString>("program");
-        QTest::newRow("quoted") << u"\"C:\\a b\\c.exe\" -x"_s << u"C:\\a b\\c.exe"_s;
-        QTest::newRow("plain") << u"C:\\c.exe -x"_s << u"C:\\c.exe"_s;
-        QTest::newRow("plain alone") << u"C:\\c.exe"_s << u"C:\\c.exe"_s;
-        QTest::newRow("unquoted with a blank is cut")
-            << u"C:\\Program Files\\App\\app.exe"_s << u"C:\\Program"_s;
-        QTest::newRow("open quote") << u"\"C:\\a b.exe -x"_s << u"\"C:\\a b.exe -x"_s;
-        QTest::newRow("blank in front") << u" C:\\a.exe"_s << u" C:\\a.exe"_s;
-        QTest::newRow("empty quotes") << u"\"\" x"_s << QString();
-        QTest::newRow("empty") << QString() << QString();
-    }
-    void programOfACommandLine()
-    {
-        QFETCH(QString, command);
-        QFETCH(QString, program);
-        QCOMPARE(RegistryCleaner::programPath(command), program);
     }
 
     // --- what is found
@@ -650,6 +561,82 @@ private Q_SLOTS:
         QCOMPARE(m_cleaner->backupPath(), path);
     }
 
+    // What stands at the path of the backup is never lost to it.
+    void nothingButAFileIsReplacedByTheBackup_data()
+    {
+        QTest::addColumn<QString>("what");
+        QTest::addColumn<bool>("isWritten");
+        QTest::newRow("nothing there") << u"missing"_s << true;
+        QTest::newRow("a file") << u"file"_s << true;
+        QTest::newRow("a folder") << u"folder"_s << false;
+#ifndef Q_OS_WIN
+        QTest::newRow("a link to a file") << u"link"_s << false;
+        QTest::newRow("a link that leads nowhere") << u"broken link"_s << false;
+        QTest::newRow("a pipe") << u"pipe"_s << false;
+        QTest::newRow("the user's registry") << u"user.reg"_s << false;
+        QTest::newRow("the machine's registry") << u"system.reg"_s << false;
+        QTest::newRow("another name of the registry") << u"hard link"_s << false;
+        QTest::newRow("a registry file that is not there yet") << u"userdef.reg"_s << false;
+        QTest::newRow("below a folder that is a link") << u"link to folder"_s << true;
+#endif
+    }
+    void nothingButAFileIsReplacedByTheBackup()
+    {
+        QFETCH(QString, what);
+        QFETCH(bool, isWritten);
+        const QString key = u"Software\\Sweepwise Test"_s;
+        m_fixture->addText(user + key, u"a"_s, u"x"_s);
+        m_fixture->write();
+        const TestTree tree;
+        const QString victim = tree.file(u"victim"_s, "precious");
+        QString path = tree.path(u"one.reg"_s);
+        const QString prefix = m_home.folder(u"prefix"_s);
+        if (what == "file"_L1)
+            tree.file(u"one.reg"_s, "old");
+        else if (what == "folder"_L1)
+            tree.file(u"one.reg/inside"_s);
+#ifndef Q_OS_WIN
+        else if (what == "link"_L1)
+            tree.link(victim, u"one.reg"_s);
+        else if (what == "broken link"_L1)
+            tree.link(tree.path(u"nowhere"_s), u"one.reg"_s);
+        else if (what == "pipe"_L1)
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        else if (what == "hard link"_L1)
+            QCOMPARE(::link(QFile::encodeName(prefix + "/user.reg"_L1).constData(),
+                            QFile::encodeName(path).constData()),
+                     0);
+        else if (what == "link to folder"_L1) {
+            tree.folder(u"real"_s);
+            path = tree.link(tree.path(u"real"_s), u"linked"_s) + "/one.reg"_L1;
+        } else if (what.endsWith(".reg"_L1)) {
+            path = prefix + u'/' + what;
+        }
+#endif
+        QByteArray hiveBefore;
+        QFile hive(m_fixture->file(u"HKEY_LOCAL_MACHINE"_s));
+        if (hive.open(QIODevice::ReadOnly))
+            hiveBefore = hive.readAll();
+        hive.close();
+        const auto before = tree.snapshot();
+        choose({item(u"HKCU"_s, key + "\\a"_L1)});
+        m_cleaner->setBackupPath(path);
+        const LogCapture log;
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1); // without a backup if need be
+        QCOMPARE(m_cleaner->hasBackupFailed(), !isWritten);
+        QCOMPARE(log.contains(u"[ERROR] Failed to create registry backup"_s), !isWritten);
+        QVERIFY(!m_fixture->hasValue(user + key, u"a"_s));
+        QFile kept(victim);
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), QByteArray("precious"));
+        if (hive.open(QIODevice::ReadOnly))
+            QCOMPARE(hive.readAll(), hiveBefore);
+        if (!isWritten)
+            QCOMPARE(tree.snapshot(), before);
+        else
+            QVERIFY(QFileInfo(path).size() > 100);
+    }
+
     void aFailedBackupIsLoggedAndDoesNotStopTheClean()
     {
         const QString key = u"Software\\Sweepwise Test"_s;
@@ -766,6 +753,113 @@ private Q_SLOTS:
         QVERIFY(m_fixture->hasValue(machine + key, {}));
     }
 
+    // The same class in both hives: what is listed of the user's goes from there and from nowhere
+    // else, twice listed or not, and comes back there.
+    void ofAClassInBothHivesTheListedOneGoesAndComesBack_data()
+    {
+        QTest::addColumn<QString>("brokenHive");
+        QTest::addColumn<bool>("isListedTwice");
+        QTest::newRow("the user's, listed once") << user << false;
+        QTest::newRow("the user's, listed twice") << user << true;
+        QTest::newRow("the machine's, listed once") << machine << false;
+    }
+    void ofAClassInBothHivesTheListedOneGoesAndComesBack()
+    {
+        QFETCH(QString, brokenHive);
+        QFETCH(bool, isListedTwice);
+        const QString key = u"Software\\Classes\\CLSID\\{!Sweepwise both}"_s;
+        const QString good = existing(u"both.dll"_s);
+        const bool isUsers = brokenHive == user;
+        const QString goodHive = isUsers ? machine : user;
+        // The user's class wins value by value: the machine's server shows where the user has none.
+        const QString server = isUsers ? u"\\InprocServer32"_s : u"\\LocalServer32"_s;
+        m_fixture->addText(brokenHive + key, {}, u"Broken"_s);
+        m_fixture->addText(brokenHive + key, u"Only here"_s, u"x"_s);
+        m_fixture->addText(brokenHive + key + server, {}, missing);
+        if (isListedTwice)
+            m_fixture->addText(brokenHive + key + "\\LocalServer32"_L1, {}, missing);
+        m_fixture->addText(goodHive + key, {}, u"Good"_s);
+        m_fixture->addText(goodHive + key, u"Only there"_s, u"y"_s);
+        m_fixture->addText(goodHive + key + "\\InprocServer32"_L1, {}, good);
+        m_fixture->write();
+        const QStringList goodBefore = m_fixture->exported(goodHive + key);
+        const Registry before;
+        const QString shown = u"CLSID\\{!Sweepwise both}"_s;
+
+        scan();
+        const QList<CleanItem> items = ownItems(m_cleaner->result(), u"invalid_com"_s);
+        QCOMPARE(items.size(), isListedTwice ? 2 : 1);
+        for (const CleanItem &entry : items) {
+            QCOMPARE(entry.registryRoot, u"HKEY_CLASSES_ROOT"_s);
+            QCOMPARE(entry.registryKey, shown);
+            QCOMPARE(entry.path, "HKCR\\"_L1 + shown);
+            QCOMPARE(entry.isUserClass, isUsers);
+        }
+        const QString path = m_home.folder(u"backup"_s) + "/both.reg"_L1;
+        QFile::remove(path);
+        choose(items);
+        m_cleaner->setBackupPath(path);
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1);
+        QVERIFY(m_cleaner->failures().isEmpty());
+        QVERIFY(!m_fixture->hasKey(brokenHive + key));
+        QCOMPARE(m_fixture->exported(goodHive + key), goodBefore);
+
+        restore(path);
+        QCOMPARE(m_fixture->exported(goodHive + key), goodBefore);
+        QVERIFY(m_fixture->hasValue(brokenHive + key, u"Only here"_s));
+        QVERIFY(!m_fixture->hasValue(brokenHive + key, u"Only there"_s));
+        const Registry after;
+        for (const QString &name : {QString(), u"Only here"_s, u"Only there"_s})
+            QCOMPARE(after.text(Hive::ClassesRoot, shown, name),
+                     before.text(Hive::ClassesRoot, shown, name));
+    }
+
+    void ofAFileTypeTheListedHiveLosesIt()
+    {
+        const QString type = u"Software\\Classes\\.sweepwiseboth"_s;
+        m_fixture->addText(user + type, {}, u"SweepwiseBroken"_s);
+        m_fixture->addText(machine + type, {}, u"SweepwiseGood"_s);
+        m_fixture->addText(machine + type, u"Content Type"_s, u"x/y"_s);
+        m_fixture->addText(classes + "SweepwiseBroken\\shell\\open\\command"_L1, {}, missing);
+        m_fixture->addText(classes + "SweepwiseGood\\shell\\open\\command"_L1, {},
+                           existing(u"good.exe"_s));
+        // Of this one the user's key has no word on what it is.
+        const QString other = u"Software\\Classes\\.sweepwiseother"_s;
+        m_fixture->addText(user + other, u"mine"_s, u"x"_s);
+        m_fixture->addText(machine + other, {}, u"SweepwiseBroken"_s);
+        m_fixture->write();
+        scan();
+        const QList<CleanItem> items = ownItems(m_cleaner->result(), u"invalid_file_assoc"_s);
+        QStringList found = names(items);
+        found.sort();
+        QCOMPARE(found,
+                 (QStringList{u".sweepwiseboth -> SweepwiseBroken"_s,
+                              u".sweepwiseother -> SweepwiseBroken"_s}));
+        choose(items);
+        QCOMPARE(clean().constFirst().at(1).toInt(), 2);
+        QVERIFY(!m_fixture->hasKey(user + type));
+        QVERIFY(m_fixture->hasValue(machine + type, u"Content Type"_s));
+        QVERIFY(m_fixture->hasValue(user + other, u"mine"_s));
+        QVERIFY(!m_fixture->hasKey(machine + other));
+    }
+
+    void theKeyOfAllClassesIsNeverRemoved()
+    {
+        m_fixture->addText(classes + ".sweepwise"_L1, {}, u"x"_s);
+        m_fixture->write();
+        QList<CleanItem> items{item(u"HKEY_CLASSES_ROOT"_s, {}),
+                               item(u"HKEY_CLASSES_ROOT"_s, u"\\"_s), item(u"HKCR"_s, {}),
+                               item(u"HKCR"_s, u".sweepwise\\"_s)};
+        for (qsizetype i = items.size(); i > 0; --i) {
+            items.append(items.at(i - 1));
+            items.last().isUserClass = true;
+        }
+        choose(items);
+        QCOMPARE(clean().constFirst().at(1).toInt(), 0);
+        QCOMPARE(m_cleaner->failures().size(), 8);
+        QVERIFY(m_fixture->hasValue(classes + ".sweepwise"_L1, {}));
+    }
+
     void aComponentThatIsListedTwiceIsNoFailure()
     {
         const QString key = u"CLSID\\{!Sweepwise twice}"_s;
@@ -818,6 +912,51 @@ private Q_SLOTS:
     }
 
 #ifndef Q_OS_WIN
+    // The machine's file is replaced, then the user's cannot be.
+    void ofTwoHivesOnlyWhatWasWrittenIsReported()
+    {
+        m_fixture->addText(machine + runKey, u"Sweepwise a"_s, missing);
+        m_fixture->addText(machine + runKey, u"Sweepwise b"_s, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise c"_s, missing);
+        m_fixture->write();
+        scan();
+        const QString path = m_home.folder(u"backup"_s) + "/two.reg"_L1;
+        QFile::remove(path);
+        m_cleaner->setBackupPath(path);
+        const LogCapture log;
+        renamesOfUserHiveFail = true;
+        const int count = clean().constFirst().at(1).toInt();
+        renamesOfUserHiveFail = false;
+        QCOMPARE(count, 2);
+        QCOMPARE(m_cleaner->failures().size(), 1);
+        QVERIFY(m_cleaner->failures().at(0).path.endsWith("Sweepwise c"_L1));
+        QVERIFY(log.contains(u"[ERROR] Failed to save the registry: "_s));
+        QVERIFY(log.contains(u"[INFO] Registry clean finished. Cleaned 2 items"_s));
+        QVERIFY(!m_fixture->hasValue(machine + runKey, u"Sweepwise a"_s));
+        QVERIFY(!m_fixture->hasValue(machine + runKey, u"Sweepwise b"_s));
+        QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise c"_s));
+
+        // The same when they are brought back.
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QString error;
+        const auto keys = RegistryRestore::parse(
+            RegistryBackup::decode(file.readAll()).value_or(QString()), error);
+        QVERIFY2(keys, qPrintable(error));
+        Registry registry;
+        // Something of the user's that has to be written.
+        QVERIFY(registry.deleteValue(Hive::CurrentUser, runKey, u"Sweepwise c"_s));
+        QVERIFY(registry.save());
+        renamesOfUserHiveFail = true;
+        const auto outcomes = RegistryRestore::restore(registry, *keys);
+        renamesOfUserHiveFail = false;
+        QCOMPARE(outcomes.size(), 6);
+        for (const RegistryRestore::Outcome &outcome : outcomes)
+            QCOMPARE(outcome.isRestored, outcome.entry.startsWith("HKEY_LOCAL_MACHINE"_L1));
+        QVERIFY(m_fixture->hasValue(machine + runKey, u"Sweepwise a"_s));
+        QVERIFY(!m_fixture->hasValue(user + runKey, u"Sweepwise c"_s));
+    }
+
     void aPrefixInUseIsNotCleanedAndSaysSo()
     {
         m_fixture->addText(user + runKey, u"Sweepwise"_s, missing);

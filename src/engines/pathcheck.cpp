@@ -1,0 +1,122 @@
+#include "pathcheck.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// In this order; a placeholder is written exactly so.
+constexpr std::array placeholderVariables{
+    std::pair("%SystemRoot%"_L1, "SYSTEMROOT"_L1),
+    std::pair("%ProgramFiles%"_L1, "PROGRAMFILES"_L1),
+    std::pair("%ProgramFiles(x86)%"_L1, "PROGRAMFILES(X86)"_L1),
+    std::pair("%WinDir%"_L1, "WINDIR"_L1),
+    std::pair("%UserProfile%"_L1, "USERPROFILE"_L1),
+    std::pair("%LocalAppData%"_L1, "LOCALAPPDATA"_L1),
+    std::pair("%AppData%"_L1, "APPDATA"_L1),
+    std::pair("%CommonProgramFiles%"_L1, "COMMONPROGRAMFILES"_L1),
+    std::pair("%CommonProgramFiles(x86)%"_L1, "COMMONPROGRAMFILES(X86)"_L1),
+    std::pair("%SystemDrive%"_L1, "SYSTEMDRIVE"_L1),
+    std::pair("%HomeDrive%"_L1, "HOMEDRIVE"_L1),
+    std::pair("%HomePath%"_L1, "HOMEPATH"_L1),
+    std::pair("%Temp%"_L1, "TEMP"_L1),
+    std::pair("%Tmp%"_L1, "TMP"_L1),
+};
+
+bool isSeparator(QChar c)
+{
+    return c == u'\\' || c == u'/';
+}
+
+// Below its drive; not what lies in the folder that is current on the drive.
+bool isOnDrive(const QString &path)
+{
+    return path.size() >= 3 && path.at(0).unicode() < 0x80 && path.at(0).isLetter()
+        && path.at(1) == u':' && isSeparator(path.at(2));
+}
+
+// The system knows many files by names that no listing has: the short form of a long name, and any
+// name with blanks and dots at its end. A slash may well begin the arguments of a program.
+bool hasOtherName(const QString &path)
+{
+    static const QRegularExpression shortName(
+        u"(^|[\\\\/])[^~. \\\\/]{1,6}~[0-9]{1,6}(\\.[^.\\\\/]{0,3})?($|[\\\\/])"_s);
+    const QStringList names = path.split(u'\\', Qt::SkipEmptyParts);
+    return shortName.match(path).hasMatch()
+        || std::any_of(names.begin(), names.end(), [](const QString &name) {
+               return (name.endsWith(u' ') || name.endsWith(u'.')) && name != "."_L1
+                   && name != ".."_L1;
+           });
+}
+
+} // namespace
+
+PathCheck::PathCheck()
+{
+    for (const auto &[placeholder, variable] : placeholderVariables)
+        m_placeholders.emplaceBack(placeholder, platform::windowsVariable(variable));
+    const QString windows = platform::windowsVariable(u"WINDIR"_s).value_or(QString());
+    if (isOnDrive(windows)) {
+        for (const QLatin1StringView folder : {"\\System32\\"_L1, "\\SysWOW64\\"_L1, "\\"_L1})
+            m_systemFolders.append(windows + folder);
+    }
+}
+
+bool PathCheck::exists(const QString &text)
+{
+    if (text.isEmpty())
+        return false;
+    QString path = text;
+    if (path.startsWith(u'"') && path.endsWith(u'"')) {
+        path.remove(0, 1);
+        path.chop(1);
+    }
+    if (path.startsWith(u'%') && path.size() < 4)
+        return true; // too short to hold a placeholder
+    for (const auto &[placeholder, value] : std::as_const(m_placeholders)) {
+        if (!value && path.contains(placeholder))
+            return true;
+        path.replace(placeholder, value.value_or(QString()));
+    }
+    if (path.contains(u'%'))
+        return true;
+    if (path.isEmpty())
+        return false;
+    if (path.startsWith("\\\\?\\"_L1) && isOnDrive(path.mid(4)))
+        path.remove(0, 4);
+    if (isOnDrive(path))
+        return existsOnDrive(path) || hasOtherName(path);
+    // Of the current drive, of another machine, or of the system's own names for things: nobody
+    // here can tell.
+    const bool isRooted = isSeparator(path.at(0));
+    const bool isBelowCurrent = path.size() >= 2 && path.at(1) == u':';
+    if (isRooted || isBelowCurrent || hasOtherName(path))
+        return true;
+    return std::any_of(m_systemFolders.cbegin(), m_systemFolders.cend(),
+                       [&](const QString &folder) { return existsOnDrive(folder + path); });
+}
+
+bool PathCheck::existsOnDrive(const QString &path)
+{
+    return m_lookup.presenceOf(path) != platform::Presence::Missing;
+}
+
+QString PathCheck::programPath(const QString &command)
+{
+    if (command.startsWith(u'"'))
+        return quotedPart(command);
+    const qsizetype end = command.indexOf(u' ');
+    return end > 0 ? command.first(end) : command;
+}
+
+QString PathCheck::quotedPart(const QString &text)
+{
+    if (!text.startsWith(u'"'))
+        return text;
+    const qsizetype end = text.indexOf(u'"', 1);
+    return end > 0 ? text.mid(1, end - 1) : text;
+}

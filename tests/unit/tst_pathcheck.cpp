@@ -1,0 +1,356 @@
+#include "pathcheck.h"
+
+#include "appinfo.h"
+#include "registrycleaner.h"
+#include "registryfixture.h"
+#include "testhome.h"
+#include "testtree.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString missing = u"C:\\Sweepwise Missing\\app.exe"_s;
+
+} // namespace
+
+/// Whether the file that a registry entry names is there: the live system's under Windows, a
+/// prefix's elsewhere.
+class TestPathCheck : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestPathCheck(const TestHome &home)
+        : m_home(home)
+        , m_fixture(home)
+    {
+#ifndef Q_OS_WIN
+        m_home.folder(u"prefix/drive_c/users/jane/AppData/Local/Temp"_s);
+        m_home.folder(u"prefix/drive_c/users/jane/AppData/Roaming"_s);
+        m_home.folder(u"prefix/drive_c/windows/system32"_s);
+        qputenv("USER", "jane");
+#endif
+    }
+
+private Q_SLOTS:
+    void whatExists_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("exists");
+        const QString file = existing(u"Program File.exe"_s);
+        const QString folder = file.first(file.lastIndexOf(u'\\'));
+        QTest::newRow("empty") << QString() << false;
+        QTest::newRow("file") << file << true;
+        QTest::newRow("file in other case") << file.toUpper() << true;
+        QTest::newRow("file with slashes") << QString(file).replace(u'\\', u'/') << true;
+        QTest::newRow("extended form") << "\\\\?\\"_L1 + file << true;
+        QTest::newRow("extended form of what is missing") << "\\\\?\\"_L1 + missing << false;
+        QTest::newRow("folder") << folder << true;
+        QTest::newRow("folder with a separator behind") << folder + u'\\' << true;
+        QTest::newRow("file taken for a folder") << file + "\\x"_L1 << false;
+        QTest::newRow("missing") << missing << false;
+        QTest::newRow("missing in a folder that is there") << folder + "\\none.exe"_L1 << false;
+        QTest::newRow("file in quotes") << u'"' + file + u'"' << true;
+        QTest::newRow("missing in quotes") << u'"' + missing + u'"' << false;
+        QTest::newRow("quotes alone") << u"\"\""_s << false;
+        QTest::newRow("one quote") << u"\""_s << false;
+        QTest::newRow("quote in front only") << u'"' + file << false;
+        QTest::newRow("%1 is too short") << u"%1"_s << true;
+        QTest::newRow("three characters are too short") << u"%ab"_s << true;
+        QTest::newRow("known placeholder") << u"%SystemRoot%"_s << true;
+        QTest::newRow("known placeholder, missing file")
+            << u"%SystemRoot%\\sweepwise missing.dll"_s << false;
+        QTest::newRow("placeholder in capitals")
+            << u"%SYSTEMROOT%\\sweepwise missing.dll"_s << true;
+        QTest::newRow("placeholder in small letters")
+            << u"%systemroot%\\sweepwise missing.dll"_s << true;
+        QTest::newRow("unknown placeholder") << u"%SweepwiseNone%\\x.dll"_s << true;
+        QTest::newRow("per cent sign in a name") << missing + u'%' << true;
+        QTest::newRow("relative") << u"sweepwise missing.exe"_s << false;
+        QTest::newRow("relative with arguments") << u"MsiExec.exe /X{0123}"_s << false;
+    }
+    void whatExists()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, exists);
+        QCOMPARE(PathCheck().exists(text), exists);
+        QCOMPARE(RegistryCleaner::pathExists(text), exists);
+    }
+
+    // Nobody but the system can tell: such an entry is not called broken.
+    void everyDoubtIsForTheEntry_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("short name of a folder") << u"C:\\PROGRA~1\\None\\app.exe"_s;
+        QTest::newRow("short name of a file") << u"C:\\Sweepwise Missing\\LONGNA~12.EXE"_s;
+        QTest::newRow("relative short name") << u"SWEEPW~1.EXE"_s;
+        QTest::newRow("path of the system's own form") << u"\\??\\C:\\none.exe"_s;
+        QTest::newRow("device") << u"\\\\.\\none"_s;
+        QTest::newRow("blank at the end") << missing + u' ';
+        QTest::newRow("dot at the end") << missing + u'.';
+        QTest::newRow("blank at the end of a folder") << u"C:\\Sweepwise Missing \\app.exe"_s;
+        QTest::newRow("another machine") << u"\\\\sweepwise-none\\share\\app.exe"_s;
+        QTest::newRow("another machine, with slashes") << u"//sweepwise-none/share/app.exe"_s;
+        QTest::newRow("below the current drive") << u"\\Sweepwise Missing\\app.exe"_s;
+        QTest::newRow("below the current drive, with a slash") << u"/sweepwise-none/app.exe"_s;
+        QTest::newRow("below the current folder of a drive") << u"C:sweepwise none.exe"_s;
+    }
+    void everyDoubtIsForTheEntry()
+    {
+        QFETCH(QString, text);
+        QVERIFY(PathCheck().exists(text));
+        QVERIFY(PathCheck().exists(u'"' + text + u'"'));
+    }
+
+    void noDoubtIsMadeOfOrdinaryNames_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"~1", "LONGNAME~1.EXE", "a~b.exe", "A~1.html", "a~1~2.exe", "..",
+                                 ".", ".hidden", "a .b", "a.b.c"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void noDoubtIsMadeOfOrdinaryNames()
+    {
+        QFETCH(QString, name);
+        QVERIFY(!PathCheck().exists(u"C:\\Sweepwise Missing\\sub\\"_s + name + u"\\none.exe"_s));
+    }
+
+    // A name alone is looked for where the system looks, never where this program happens to be.
+    void namesAreNotLookedUpInTheCurrentFolder()
+    {
+        const TestTree tree;
+        tree.file(u"sweepwise here.exe"_s);
+        tree.file(u"sub/sweepwise here.exe"_s);
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(tree.path()));
+        PathCheck paths;
+        const bool isFound = paths.exists(u"sweepwise here.exe"_s)
+            || paths.exists(u"sub\\sweepwise here.exe"_s)
+            || paths.exists(u"sub/sweepwise here.exe"_s);
+        QVERIFY(QDir::setCurrent(before));
+        QVERIFY(!isFound);
+    }
+
+    void namesAreLookedUpInTheSystemsFolders()
+    {
+#ifndef Q_OS_WIN
+        const QString library =
+            m_home.folder(u"prefix/drive_c/windows/system32"_s) + "/kernel32.dll"_L1;
+        QFile file(library);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+#endif
+        PathCheck paths;
+        QVERIFY(paths.exists(u"kernel32.dll"_s));
+        QVERIFY(paths.exists(u"KERNEL32.DLL"_s));
+        QVERIFY(paths.exists(u"system32\\kernel32.dll"_s));
+        QVERIFY(!paths.exists(u"sweepwise none.dll"_s));
+    }
+
+    void programOfACommandLine_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("program");
+        QTest::newRow("quoted") << u"\"C:\\a b\\c.exe\" -x"_s << u"C:\\a b\\c.exe"_s;
+        QTest::newRow("plain") << u"C:\\c.exe -x"_s << u"C:\\c.exe"_s;
+        QTest::newRow("plain alone") << u"C:\\c.exe"_s << u"C:\\c.exe"_s;
+        QTest::newRow("unquoted with a blank is cut")
+            << u"C:\\Program Files\\App\\app.exe"_s << u"C:\\Program"_s;
+        QTest::newRow("open quote") << u"\"C:\\a b.exe -x"_s << u"\"C:\\a b.exe -x"_s;
+        QTest::newRow("blank in front") << u" C:\\a.exe"_s << u" C:\\a.exe"_s;
+        QTest::newRow("empty quotes") << u"\"\" x"_s << QString();
+        QTest::newRow("empty") << QString() << QString();
+    }
+    void programOfACommandLine()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, program);
+        QCOMPARE(PathCheck::programPath(command), program);
+    }
+
+    void everyPlaceholderIsReplaced_data()
+    {
+        QTest::addColumn<QString>("placeholder");
+        QTest::addColumn<QByteArray>("variable");
+        QTest::addColumn<QString>("inPrefix");
+        const auto row = [](const char *placeholder, const char *variable, const char *inPrefix) {
+            QTest::newRow(placeholder) << QString::fromLatin1(placeholder) << QByteArray(variable)
+                                       << QString::fromLatin1(inPrefix);
+        };
+        row("%SystemRoot%", "SYSTEMROOT", "windows");
+        row("%ProgramFiles%", "PROGRAMFILES", "Program Files");
+        row("%ProgramFiles(x86)%", "PROGRAMFILES(X86)", "Program Files (x86)");
+        row("%WinDir%", "WINDIR", "windows");
+        row("%UserProfile%", "USERPROFILE", "users/jane");
+        row("%LocalAppData%", "LOCALAPPDATA", "users/jane/AppData/Local");
+        row("%AppData%", "APPDATA", "users/jane/AppData/Roaming");
+        row("%CommonProgramFiles%", "COMMONPROGRAMFILES", "Program Files/Common Files");
+        row("%CommonProgramFiles(x86)%", "COMMONPROGRAMFILES(X86)",
+            "Program Files (x86)/Common Files");
+        row("%SystemDrive%", "SYSTEMDRIVE", "");
+        row("%HomeDrive%", "HOMEDRIVE", "");
+        row("%Temp%", "TEMP", "users/jane/AppData/Local/Temp");
+        row("%Tmp%", "TMP", "users/jane/AppData/Local/Temp");
+    }
+    void everyPlaceholderIsReplaced()
+    {
+        QFETCH(QString, placeholder);
+        QFETCH(QByteArray, variable);
+        QFETCH(QString, inPrefix);
+        const bool wasSet = qEnvironmentVariableIsSet(variable.constData());
+        const QByteArray before = qgetenv(variable.constData());
+#ifdef Q_OS_WIN
+        const QString file = existing(u"in variable.exe"_s);
+        const qsizetype cut = file.lastIndexOf(u'\\');
+        qputenv(variable.constData(), file.first(cut).toUtf8());
+        const bool isFound = PathCheck().exists(placeholder + file.mid(cut));
+#else
+        QFile file(m_home.folder("prefix/drive_c/"_L1 + inPrefix) + "/in variable.exe"_L1);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        // What is set here means nothing to the prefix.
+        qputenv(variable.constData(), "C:\\Sweepwise Elsewhere");
+        const bool isFound = PathCheck().exists(placeholder + "\\in variable.exe"_L1);
+#endif
+        const bool isMissed = PathCheck().exists(placeholder + "\\sweepwise missing"_L1);
+#ifdef Q_OS_WIN
+        // Unset, it stands for nothing.
+        qunsetenv(variable.constData());
+        const bool isGone = PathCheck().exists(placeholder + file);
+#else
+        const bool isGone =
+            file.remove() && !PathCheck().exists(placeholder + "\\in variable.exe"_L1);
+#endif
+        if (wasSet)
+            qputenv(variable.constData(), before);
+        else
+            qunsetenv(variable.constData());
+        QVERIFY(isFound);
+        QVERIFY(!isMissed);
+        QVERIFY(isGone);
+    }
+
+    void homeDriveAndPathGoTogether()
+    {
+        const QString text = u"%HomeDrive%%HomePath%"_s;
+        QVERIFY(PathCheck().exists(text));
+        QVERIFY(!PathCheck().exists(text + "\\sweepwise missing"_L1));
+    }
+
+#ifndef Q_OS_WIN
+    void whatAPrefixDoesNotTellCountsAsPresent()
+    {
+        m_home.folder(u"prefix/drive_c/users/john"_s);
+        qputenv("USER", "somebody-else");
+        PathCheck paths;
+        for (const QString &placeholder : {u"%UserProfile%"_s, u"%LocalAppData%"_s, u"%AppData%"_s,
+                                           u"%HomeDrive%%HomePath%"_s, u"%Temp%"_s, u"%Tmp%"_s})
+            QVERIFY2(paths.exists(placeholder + "\\sweepwise missing"_L1), qPrintable(placeholder));
+        QVERIFY(!paths.exists(u"%SystemRoot%\\sweepwise missing"_s));
+        qputenv("USER", "jane");
+        QVERIFY(QDir(m_home.folder(u"prefix/drive_c/users/john"_s)).removeRecursively());
+    }
+
+    void thePrefixsOwnTemporaryFoldersCount()
+    {
+        QFile registry(m_fixture.file(u"HKEY_CURRENT_USER"_s));
+        QVERIFY(registry.open(QIODevice::ReadWrite));
+        const QByteArray before = registry.readAll();
+        registry.write("\n[Environment] 1\n\"TEMP\"=str(2):\"%UserProfile%\\\\One\"\n"
+                       "\"TMP\"=\"c:\\\\Two\"\n");
+        registry.close();
+        m_home.folder(u"prefix/drive_c/users/jane/one"_s);
+        m_home.folder(u"prefix/drive_c/two"_s);
+        qputenv("TMP", "/tmp");
+        PathCheck paths;
+        QVERIFY(paths.exists(u"%Temp%"_s));
+        QVERIFY(paths.exists(u"%Tmp%"_s));
+        QVERIFY(!paths.exists(u"%Temp%\\sweepwise missing"_s));
+        QVERIFY(!paths.exists(u"%Tmp%\\sweepwise missing"_s));
+        qunsetenv("TMP");
+        QVERIFY(registry.open(QIODevice::WriteOnly));
+        registry.write(before);
+    }
+
+    void whatCannotBeLookedAtCountsAsPresent()
+    {
+        // The listing is closed to others, so that the case of a name cannot be told.
+        const QString closed = m_home.folder(u"prefix/drive_c/Closed"_s);
+        m_home.folder(u"prefix/drive_c/Closed/Inside"_s);
+        const QString locked = m_home.folder(u"prefix/drive_c/Locked"_s);
+        m_home.folder(u"prefix/drive_c/Locked/Inside"_s);
+        openTheWay();
+        QVERIFY(QFile::setPermissions(closed,
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
+                                          | QFile::ExeGroup | QFile::ExeOther));
+        QVERIFY(
+            QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        bool exact = false;
+        bool otherCase = false;
+        bool behindALock = false;
+        bool missingElsewhere = true;
+        {
+            const OrdinaryUser ordinary;
+            PathCheck paths;
+            exact = paths.exists(u"C:\\Closed\\Inside"_s);
+            otherCase = paths.exists(u"C:\\Closed\\inside"_s);
+            behindALock = paths.exists(u"C:\\Locked\\Inside"_s);
+            missingElsewhere = paths.exists(missing);
+        }
+        QVERIFY(exact);
+        QVERIFY(otherCase);
+        QVERIFY(behindALock);
+        QVERIFY(!missingElsewhere);
+    }
+
+    void aLinkThatLeadsNowhereIsMissing()
+    {
+        const QString folder = m_home.folder(u"prefix/drive_c/Links"_s);
+        QVERIFY(QFile::link(u"/sweepwise/none"_s, folder + "/broken"_L1));
+        QVERIFY(QFile::link(folder, folder + "/good"_L1));
+        PathCheck paths;
+        QVERIFY(!paths.exists(u"C:\\Links\\broken"_s));
+        QVERIFY(!paths.exists(u"C:\\Links\\BROKEN"_s));
+        QVERIFY(paths.exists(u"C:\\Links\\GOOD"_s));
+    }
+#endif
+
+private:
+    // The Windows path of a file that is there, below a folder with a blank in its name.
+    [[nodiscard]] QString existing(const QString &name) const
+    {
+#ifdef Q_OS_WIN
+        const QString folder = m_home.folder(u"Sweepwise Files"_s);
+        const QString path = QDir::toNativeSeparators(folder) + u'\\' + name;
+#else
+        const QString folder = m_home.folder(u"prefix/drive_c/Sweepwise Files"_s);
+        const QString path = "C:\\Sweepwise Files\\"_L1 + name;
+#endif
+        QFile file(folder + u'/' + name);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot write a file of the test");
+        return path;
+    }
+
+#ifndef Q_OS_WIN
+    // Others may come as far as the prefix's drive.
+    void openTheWay() const
+    {
+        for (const QString &folder :
+             {m_home.path(), m_home.folder(u"prefix"_s), m_home.folder(u"prefix/drive_c"_s),
+              m_home.folder(u"prefix/dosdevices"_s)})
+            QFile::setPermissions(folder,
+                                  QFile::permissions(folder) | QFile::ReadOther | QFile::ExeOther
+                                      | QFile::ReadGroup | QFile::ExeGroup);
+    }
+#endif
+
+    const TestHome &m_home;
+    RegistryFixture m_fixture;
+};
+
+SWEEPWISE_TEST_MAIN(TestPathCheck, QCoreApplication)
+#include "tst_pathcheck.moc"

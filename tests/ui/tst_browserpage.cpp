@@ -507,6 +507,9 @@ private:
         page.resize(900, 700);
         page.show();
         scan(page);
+        // What comes into a layout is shown with the next turn of the event loop.
+        for (const BrowserGroupWidget *group : groups(page))
+            QTRY_VERIFY_WITH_TIMEOUT(group->isVisible(), patience);
     }
 
     static void scan(BrowserPage &page)

@@ -37,6 +37,16 @@ qint64 CleanCategory::totalSize() const
                            [](qint64 sum, const CleanItem &item) { return sum + item.size; });
 }
 
+Qt::CheckState CleanCategory::checkState() const
+{
+    if (!checked)
+        return Qt::Unchecked;
+    const qsizetype count = checkedCount();
+    if (count == items.size())
+        return Qt::Checked;
+    return count == 0 ? Qt::Unchecked : Qt::PartiallyChecked;
+}
+
 void CleanCategory::setChecked(bool on)
 {
     for (CleanItem &item : items)

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QMetaType>
 #include <QString>
+#include <Qt>
 
 /// Levels of CleanItem::riskLevel and CleanCategory::riskLevel.
 enum RiskLevel { LowRisk = 0, MediumRisk = 1, HighRisk = 2 };
@@ -43,6 +44,9 @@ struct CleanCategory {
     [[nodiscard]] int checkedCount() const;
     [[nodiscard]] qint64 checkedSize() const; ///< bytes
     [[nodiscard]] qint64 totalSize() const; ///< bytes, whether checked or not
+    /// What a check box in front of the category shows: how many of its items a clean would take.
+    /// Without items it is the category's own mark.
+    [[nodiscard]] Qt::CheckState checkState() const;
     /// Sets every item and then the category itself.
     void setChecked(bool on);
 

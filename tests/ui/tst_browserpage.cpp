@@ -15,6 +15,7 @@
 #include "uisupport.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -356,9 +357,76 @@ private Q_SLOTS:
         BrowserGroupWidget group(u"Opera"_s);
         group.addCategory(&record);
         QCOMPARE(header(group)->checkState(), Qt::Unchecked);
-        QVERIFY(!subItems(group).constFirst()->isChecked());
+        QCOMPARE(subItems(group).constFirst()->checkState(), Qt::Unchecked);
         QCOMPARE(record.checkedCount(), 0);
         QCOMPARE(text<QLabel>(group, u"subItemRisk"_s), u"High"_s);
+    }
+
+    void aPartlyTickedCategoryShowsSoAndAClickTicksAll()
+    {
+        Records records(2, 1);
+        BrowserGroupWidget &group = records.group;
+        const CleanCategory &record = records.categories.constFirst();
+        QCheckBox *checkBox = box(*subItems(group).constFirst());
+        // Bound, the record is as the engine made it.
+        QVERIFY(record.checked);
+        QCOMPARE(record.checkedCount(), 2);
+        QCOMPARE(checkBox->checkState(), Qt::PartiallyChecked);
+        QVERIFY(QAccessible::queryAccessibleInterface(checkBox)->state().checkStateMixed);
+        QCOMPARE(box(*subItems(group).at(1))->checkState(), Qt::Checked);
+        QCOMPARE(header(group)->checkState(), Qt::PartiallyChecked);
+        SignalSpy changed(&group, &ResultWidget::selectionChanged);
+        click(checkBox);
+        QCOMPARE(checkBox->checkState(), Qt::Checked);
+        QCOMPARE(record.checkedCount(), 3);
+        QCOMPARE(header(group)->checkState(), Qt::Checked);
+        click(checkBox);
+        QCOMPARE(checkBox->checkState(), Qt::Unchecked);
+        QVERIFY(!record.checked);
+        QCOMPARE(record.checkedCount(), 0);
+        // It is not chosen again.
+        click(checkBox);
+        QCOMPARE(checkBox->checkState(), Qt::Checked);
+        QCOMPARE(record.checkedCount(), 3);
+        QCOMPARE(changed.size(), 3);
+    }
+
+    void theHeaderTicksWhatIsPartlyTicked()
+    {
+        Records records(1, 1);
+        BrowserGroupWidget &group = records.group;
+        QCOMPARE(header(group)->checkState(), Qt::PartiallyChecked);
+        click(header(group));
+        QCOMPARE(header(group)->checkState(), Qt::Checked);
+        QCOMPARE(box(*subItems(group).constFirst())->checkState(), Qt::Checked);
+        QCOMPARE(records.categories.constFirst().checkedCount(), 3);
+    }
+
+    void aTickedCategoryOfUntickedItemsIsShownUnticked()
+    {
+        Records records(1, 3);
+        BrowserGroupWidget &group = records.group;
+        QVERIFY(records.categories.constFirst().checked);
+        QCOMPARE(box(*subItems(group).constFirst())->checkState(), Qt::Unchecked);
+        QCOMPARE(header(group)->checkState(), Qt::Unchecked);
+        click(box(*subItems(group).constFirst()));
+        QCOMPARE(records.categories.constFirst().checkedCount(), 3);
+        QCOMPARE(header(group)->checkState(), Qt::Checked);
+    }
+
+    void thePagesTotalsLeaveOutWhatIsNotTicked()
+    {
+        ScriptedEngine engine;
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 2),
+                        category(u"opera_logs"_s, u"Opera - Logs"_s, 3)};
+        engine.found[1].items[0].checked = false;
+        BrowserPage page;
+        show(page, engine);
+        const auto *selection = page.findChild<QLabel *>(u"selectionLabel"_s);
+        QCOMPARE(selection->text(), u"Selected: 4 items, 4.0 KB"_s);
+        groups(page).constFirst()->toggleExpanded();
+        click(box(*subItems(page).at(1)));
+        QCOMPARE(selection->text(), u"Selected: 5 items, 5.0 KB"_s);
     }
 
     void ticksChangeThePagesTotals()
@@ -478,13 +546,16 @@ private Q_SLOTS:
     }
 
 private:
-    /// A shown and open group with records of its own, three items each.
+    /// A shown and open group with records of its own, three items each, of which in the first
+    /// record @p unticked are not ticked.
     struct Records {
-        explicit Records(int count)
+        explicit Records(int count, int unticked = 0)
             : group(u"Opera"_s)
         {
             for (int i = 0; i < count; ++i)
                 categories.append(category(u"opera_%1"_s.arg(i), u"Opera - %1"_s.arg(i), 3));
+            for (int i = 0; i < unticked; ++i)
+                categories[0].items[i].checked = false;
             for (CleanCategory &record : categories)
                 group.addCategory(&record);
             group.resize(600, 300);

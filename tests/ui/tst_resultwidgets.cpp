@@ -160,6 +160,20 @@ private Q_SLOTS:
         QVERIFY(!category.checked);
     }
 
+    void aTickedCategoryOfUntickedItemsIsShownUnticked()
+    {
+        CleanCategory category = scriptedCategory(u"x"_s, 2);
+        category.items[0].checked = false;
+        category.items[1].checked = false;
+        CategoryWidget widget(&category);
+        show(widget);
+        QVERIFY(category.checked);
+        QCOMPARE(headerBox(widget)->checkState(), Qt::Unchecked);
+        QTest::mouseClick(headerBox(widget), Qt::LeftButton, {}, {8, 8});
+        QCOMPARE(headerBox(widget)->checkState(), Qt::Checked);
+        QCOMPARE(category.checkedCount(), 2);
+    }
+
     void showingOrHidingSizesKeepsThePartialTick()
     {
         CleanCategory category = scriptedCategory(u"x"_s, 3);

@@ -82,6 +82,25 @@ private Q_SLOTS:
         QCOMPARE(one.checkedCount(), 3);
     }
 
+    void aPartlyCheckedCategorySaysSo()
+    {
+        CleanCategory one = category(u"a"_s, {1, 2});
+        QCOMPARE(one.checkState(), Qt::Checked);
+        one.items[0].checked = false;
+        QCOMPARE(one.checkState(), Qt::PartiallyChecked);
+        // Nothing of it would be cleaned, whatever its own mark says.
+        one.items[1].checked = false;
+        QCOMPARE(one.checkState(), Qt::Unchecked);
+        QVERIFY(one.checked);
+        one.setChecked(true);
+        one.checked = false;
+        QCOMPARE(one.checkState(), Qt::Unchecked);
+        CleanCategory empty = category(u"b"_s, {});
+        QCOMPARE(empty.checkState(), Qt::Checked);
+        empty.checked = false;
+        QCOMPARE(empty.checkState(), Qt::Unchecked);
+    }
+
     void checkedOnlyHoldsWhatIsChecked()
     {
         ScanResult result;

@@ -140,15 +140,17 @@ void BrowserGroupWidget::onHeaderChanged(int state)
 
 void BrowserGroupWidget::showCheckState()
 {
-    const auto checked =
-        std::count_if(m_subItems.begin(), m_subItems.end(),
-                      [](const BrowserSubItem *subItem) { return subItem->isChecked(); });
-    const bool isPartial = checked > 0 && checked < m_subItems.size();
+    const auto all = [this](Qt::CheckState state) {
+        return std::all_of(
+            m_subItems.begin(), m_subItems.end(),
+            [state](const BrowserSubItem *subItem) { return subItem->checkState() == state; });
+    };
+    const Qt::CheckState state = all(Qt::Unchecked) ? Qt::Unchecked
+        : all(Qt::Checked)                          ? Qt::Checked
+                                                    : Qt::PartiallyChecked;
     const QSignalBlocker blocker(m_checkBox);
-    m_checkBox->setTristate(isPartial);
-    m_checkBox->setCheckState(isPartial         ? Qt::PartiallyChecked
-                                  : checked > 0 ? Qt::Checked
-                                                : Qt::Unchecked);
+    m_checkBox->setTristate(state == Qt::PartiallyChecked);
+    m_checkBox->setCheckState(state);
 }
 
 void BrowserGroupWidget::showCount()

@@ -51,8 +51,8 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
     m_checkBox->setAccessibleName(name);
     m_checkBox->setAccessibleDescription(risk::described(*category));
     m_checkBox->setWhatsThis(plainToolTip(m_checkBox->accessibleDescription()));
-    m_checkBox->setChecked(category->checked);
-    connect(m_checkBox, &QCheckBox::toggled, this, &BrowserSubItem::onToggled);
+    showCheckState();
+    connect(m_checkBox, &QCheckBox::stateChanged, this, &BrowserSubItem::onStateChanged);
     layout->addWidget(m_checkBox);
 
     auto *label = new QLabel(name, this);
@@ -98,16 +98,15 @@ BrowserSubItem::~BrowserSubItem()
     delete m_details;
 }
 
-bool BrowserSubItem::isChecked() const
+Qt::CheckState BrowserSubItem::checkState() const
 {
-    return m_checkBox->isChecked();
+    return m_checkBox->checkState();
 }
 
 void BrowserSubItem::setChecked(bool checked)
 {
-    const QSignalBlocker blocker(m_checkBox);
-    m_checkBox->setChecked(checked);
     m_category->setChecked(checked);
+    showCheckState();
 }
 
 void BrowserSubItem::setShowSizes(bool show)
@@ -128,8 +127,19 @@ void BrowserSubItem::showDetails()
     m_details->show();
 }
 
-void BrowserSubItem::onToggled(bool checked)
+// Partly ticked is shown, but nobody chooses it: a click ticks all.
+void BrowserSubItem::onStateChanged(int state)
 {
-    m_category->setChecked(checked);
+    if (state == Qt::PartiallyChecked)
+        return;
+    setChecked(state == Qt::Checked);
     Q_EMIT checkChanged();
+}
+
+void BrowserSubItem::showCheckState()
+{
+    const QSignalBlocker blocker(m_checkBox);
+    const Qt::CheckState state = m_category->checkState();
+    m_checkBox->setTristate(state == Qt::PartiallyChecked);
+    m_checkBox->setCheckState(state);
 }

@@ -20,7 +20,8 @@ public:
     ~BrowserSubItem() override;
 
     [[nodiscard]] const CleanCategory &category() const { return *m_category; }
-    [[nodiscard]] bool isChecked() const;
+    /// Partly checked when some of the items are ticked and some are not.
+    [[nodiscard]] Qt::CheckState checkState() const;
     /// Ticks or unticks the record with all its items, without a signal.
     void setChecked(bool checked);
     void setShowSizes(bool show);
@@ -34,7 +35,8 @@ Q_SIGNALS:
     void checkChanged();
 
 private:
-    void onToggled(bool checked);
+    void onStateChanged(int state);
+    void showCheckState();
 
     CleanCategory *m_category;
     QCheckBox *m_checkBox;

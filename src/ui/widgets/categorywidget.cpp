@@ -227,21 +227,11 @@ void CategoryWidget::refreshHeader()
     if (m_showSizes)
         m_size->setText(formatSize(m_category->checkedSize()));
     m_size->setVisible(m_showSizes);
+    // Partly ticked is shown, but a click never chooses it: it ticks all.
     const QSignalBlocker blocker(m_checkBox);
-    m_checkBox->setTristate(false);
-    m_checkBox->setChecked(m_category->checked);
-    showCheckState();
-}
-
-// Partly ticked is shown, but a click never chooses it: it ticks all.
-void CategoryWidget::showCheckState()
-{
-    const int checked = m_category->checked ? m_category->checkedCount() : 0;
-    if (checked == 0 || checked == m_category->items.size())
-        return;
-    const QSignalBlocker blocker(m_checkBox);
-    m_checkBox->setTristate(true);
-    m_checkBox->setCheckState(Qt::PartiallyChecked);
+    const Qt::CheckState state = m_category->checkState();
+    m_checkBox->setTristate(state == Qt::PartiallyChecked);
+    m_checkBox->setCheckState(state);
 }
 
 QList<QWidget *> CategoryWidget::focusChain() const

@@ -48,7 +48,6 @@ private:
     void showRemaining();
     void onItemCheckChanged();
     void refreshHeader();
-    void showCheckState();
     void orderFocus() const;
 
     CleanCategory *m_category;

@@ -12,3 +12,10 @@
     const QString line = singleLine(text);
     return Qt::mightBeRichText(line) ? line.toHtmlEscaped() : line;
 }
+
+/// The same for what an item is and, on a line below, what else is to be said of it, if anything.
+[[nodiscard]] inline QString plainToolTip(const QString &text, const QString &remark)
+{
+    return remark.isEmpty() ? plainToolTip(text)
+                            : plainToolTip(text) + u'\n' + plainToolTip(remark);
+}

@@ -341,6 +341,43 @@ private Q_SLOTS:
         QVERIFY(risk->styleSheet().startsWith(u"color: %1; background-color: "_s.arg(colour)));
     }
 
+    void whatIsToBeSaidOfAnItemIsSaidInItsRow()
+    {
+        CleanCategory category = scriptedCategory(u"x"_s, 2);
+        category.items[0].riskLevel = HighRisk;
+        category.items[0].description = u"Holds <b>more</b>\nthan it seems"_s;
+        const QString text = u"Holds <b>more</b>\uFFFDthan it seems"_s;
+        const QString shown = u"Holds &lt;b&gt;more&lt;/b&gt;\uFFFDthan it seems"_s;
+
+        const CleanItemWidget row(&category, 0);
+        QCOMPARE(row.toolTip(), shown);
+        QCOMPARE(row.findChild<QLabel *>(u"itemName"_s)->toolTip(), "item 0\n"_L1 + shown);
+        QCOMPARE(row.findChild<QLabel *>(u"itemPath"_s)->toolTip(),
+                 "/folder/of/x/item 0\n"_L1 + shown);
+        QCOMPARE(row.findChild<QCheckBox *>()->accessibleDescription(),
+                 "Risk: High, 1.0 KB, /folder/of/x/item 0, "_L1 + text);
+        QCOMPARE(row.findChild<QLabel *>(u"itemRisk"_s)->text(), u"High"_s);
+        const CleanItemWidget plain(&category, 1);
+        QVERIFY(plain.toolTip().isEmpty());
+        QCOMPARE(plain.findChild<QLabel *>(u"itemName"_s)->toolTip(), u"item 1"_s);
+        QCOMPARE(plain.findChild<QCheckBox *>()->accessibleDescription(),
+                 u"Risk: Low, 1.0 KB, /folder/of/x/item 1"_s);
+
+        const DetailItemWidget detail(category.items.at(0), false);
+        const auto *location = button(detail, u"openLocationBtn"_s);
+        QCOMPARE(detail.toolTip(), shown);
+        QCOMPARE(detail.findChild<QLabel *>(u"itemName"_s)->toolTip(),
+                 "/folder/of/x/item 0\n"_L1 + shown);
+        QCOMPARE(detail.accessibleDescription(), text);
+        QCOMPARE(location->accessibleDescription(), text);
+        QCOMPARE(location->whatsThis(), shown);
+        const DetailItemWidget plainDetail(category.items.at(1), false);
+        QVERIFY(plainDetail.toolTip().isEmpty());
+        QCOMPARE(plainDetail.findChild<QLabel *>(u"itemName"_s)->toolTip(),
+                 u"/folder/of/x/item 1"_s);
+        QVERIFY(button(plainDetail, u"openLocationBtn"_s)->accessibleDescription().isEmpty());
+    }
+
     void longTextsAreShortenedInTheMiddle()
     {
         CleanCategory category = scriptedCategory(u"x"_s, 1);

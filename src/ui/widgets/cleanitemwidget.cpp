@@ -5,6 +5,7 @@
 #include "scanresult.h"
 #include "text.h"
 #include "theme.h"
+#include "tooltip.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -26,6 +27,8 @@ constexpr int sizeWidth = 66;
 constexpr int reservedWidth = 186;
 static_assert(2 * margin + 3 * spacing + checkWidth + riskWidth + sizeWidth == reservedWidth);
 
+constexpr qsizetype longestRemark = 1024; ///< one on a registry entry may quote any value
+
 } // namespace
 
 CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidget *parent)
@@ -41,9 +44,13 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
     m_checkBox = new QCheckBox(this);
     m_checkBox->setChecked(item().checked);
     m_checkBox->setAccessibleName(singleLine(item().name));
-    m_checkBox->setAccessibleDescription(QStringList{
-        risk::spoken(item().riskLevel), formatSize(item().size), singleLine(item().path)}
-                                             .join(", "_L1));
+    QStringList said{risk::spoken(item().riskLevel), formatSize(item().size),
+                     singleLine(item().path)};
+    const QString remark = singleLine(item().description.left(longestRemark));
+    if (!remark.isEmpty())
+        said.append(remark);
+    m_checkBox->setAccessibleDescription(said.join(", "_L1));
+    setToolTip(plainToolTip(remark));
     connect(m_checkBox, &QCheckBox::toggled, this, &CleanItemWidget::checkChanged);
     m_checkBox->setFixedWidth(checkWidth);
     layout->addWidget(m_checkBox);
@@ -57,6 +64,8 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
     m_path = new ElidedLabel(item().path, this);
     m_path->setObjectName("itemPath"_L1);
     m_path->setStyleSheet(theme::label(theme::faint, 11));
+    for (ElidedLabel *label : {m_name, m_path})
+        label->setRemark(remark);
     texts->addWidget(m_name);
     texts->addWidget(m_path);
     layout->addLayout(texts, 1);

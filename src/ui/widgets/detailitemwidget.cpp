@@ -40,6 +40,9 @@ DetailItemWidget::DetailItemWidget(const CleanItem &item, bool striped, QWidget 
     layout->addWidget(m_name, 1);
 
     if (item.registryRoot.isEmpty()) {
+        m_name->setToolTip(plainToolTip(item.path.left(1024), item.description));
+        setToolTip(plainToolTip(item.description));
+        setAccessibleDescription(singleLine(item.description));
         addFileColumns(item);
         return;
     }
@@ -72,6 +75,8 @@ void DetailItemWidget::addFileColumns(const CleanItem &item)
     button->setMinimumHeight(30);
     button->setAutoDefault(false);
     button->setAccessibleName(tr("Open file location of %1").arg(singleLine(item.name)));
+    button->setAccessibleDescription(singleLine(item.description));
+    button->setWhatsThis(plainToolTip(item.description));
     connect(button, &QPushButton::clicked, this, [this] { Q_EMIT openLocationRequested(m_path); });
     layout()->addWidget(button);
 }

@@ -30,6 +30,11 @@ void ElidedLabel::setFullText(const QString &fullText)
     setText(m_fullText);
 }
 
+void ElidedLabel::setRemark(const QString &remark)
+{
+    setToolTip(plainToolTip(accessibleName().left(longestMeasured), remark));
+}
+
 void ElidedLabel::elideTo(int width)
 {
     ensurePolished();

@@ -12,6 +12,8 @@ public:
     explicit ElidedLabel(const QString &fullText, QWidget *parent = nullptr);
 
     void setFullText(const QString &fullText);
+    /// What else the tool tip says, on a line of its own.
+    void setRemark(const QString &remark);
     /// Shortens the text to @p width pixels.
     void elideTo(int width);
 

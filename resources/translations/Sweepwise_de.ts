@@ -132,6 +132,10 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
         <source>File not found</source>
         <translation>Datei nicht gefunden</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>Enthält einen Teil einer Datenbank: Beim Löschen gehen Daten verloren, die der Browser, Websites oder Erweiterungen gespeichert haben</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

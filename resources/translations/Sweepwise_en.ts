@@ -125,6 +125,10 @@ This action cannot be undone!</translation>
         <source>File not found</source>
         <translation>File not found</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>Holds part of a database: removing it loses data saved by the browser, websites or extensions</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

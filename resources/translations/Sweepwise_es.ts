@@ -130,6 +130,10 @@ Esta acción no se puede deshacer.</translation>
         <source>File not found</source>
         <translation>No se ha encontrado el archivo</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>Contiene parte de una base de datos: si se elimina, se pierden datos guardados por el navegador, los sitios web o las extensiones</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -132,6 +132,10 @@ Cette action est irréversible&#xa0;!</translation>
         <source>File not found</source>
         <translation>Fichier introuvable</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>Contient une partie d’une base de données&#xa0;: sa suppression entraîne la perte de données enregistrées par le navigateur, des sites web ou des extensions</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -131,6 +131,10 @@ L&apos;operazione non può essere annullata.</translation>
         <source>File not found</source>
         <translation>File non trovato</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>Contiene parte di un database: l&apos;eliminazione comporta la perdita di dati salvati dal browser, dai siti Web o dalle estensioni</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -132,6 +132,10 @@ This action cannot be undone!</source>
         <source>File not found</source>
         <translation>ファイルが見つかりません</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>データベースの一部が含まれています。削除すると、ブラウザー、Web サイト、拡張機能が保存したデータが失われます</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -131,6 +131,10 @@ This action cannot be undone!</source>
         <source>File not found</source>
         <translation>파일을 찾을 수 없습니다</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>데이터베이스의 일부가 들어 있습니다. 삭제하면 브라우저, 웹사이트 또는 확장 프로그램이 저장한 데이터가 손실됩니다</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -131,6 +131,10 @@ Dit kan niet ongedaan worden gemaakt!</translation>
         <source>File not found</source>
         <translation>Bestand niet gevonden</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>Bevat een deel van een database: bij verwijderen gaan gegevens verloren die de browser, websites of extensies hebben opgeslagen</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -131,6 +131,10 @@ Esta ação não pode ser anulada!</translation>
         <source>File not found</source>
         <translation>Ficheiro não encontrado</translation>
     </message>
+    <message>
+        <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
+        <translation>Contém parte de uma base de dados: a eliminação implica a perda de dados guardados pelo browser, por sites ou por extensões</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

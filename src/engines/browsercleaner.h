@@ -17,7 +17,8 @@ class FileRemover;
 /// looks for stands in a rule file, and for Firefox in FirefoxScan.
 ///
 /// One browser and rule become one category. A rule of a Chromium browser lists a folder and what
-/// is in it as items of their own. The browsers and their selection belong to the GUI thread. The
+/// is in it as items of their own. What a rule finds by name inside a database is listed unticked,
+/// with a high risk and the reason. The browsers and their selection belong to the GUI thread. The
 /// rules and the copy of the selected browsers that startScan() makes are written there while no
 /// worker runs, and only read by the workers. For everything else see CleanEngine.
 class BrowserCleaner final : public CleanEngine

@@ -1,18 +1,48 @@
 #include "browserscan.h"
 
 #include "entrywalk.h"
+#include "folderlist.h"
 #include "folders.h"
 #include "logger.h"
 #include "protectedplaces.h"
 #include "walklog.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Whether a folder with these entries is a database of the kind that browsers keep by the dozen
+/// in a profile. It consists of a file that names the current list of its parts, the lists and the
+/// parts. One of those, named like "000003.log", is no log but holds what was written last, which
+/// in a small database is all there is.
+bool isDatabase(const std::vector<platform::ListedEntry> &entries)
+{
+    const auto has = [&entries](auto matches) {
+        return std::any_of(
+            entries.begin(), entries.end(),
+            [&matches](const platform::ListedEntry &entry) { return matches(entry.name); });
+    };
+    return has([](const QString &name) {
+               return name.compare("CURRENT"_L1, Qt::CaseInsensitive) == 0;
+           })
+        && has([](const QString &name) {
+               return name.startsWith("MANIFEST-"_L1, Qt::CaseInsensitive);
+           });
+}
+
+} // namespace
+
 /// Hands each entry of a walk to the rules whose folder it is below. The folders of rules that the
 /// walk comes through are taken from the ones still to be walked.
+///
+/// What lies in a database, and a folder that holds one, is only offered by a rule that looks for
+/// names in the whole profile and knows nothing of the database: it starts unticked. A rule with a
+/// folder of its own means what is in there.
 class ChromiumScan::Visitor final : public platform::EntryVisitor
 {
 public:
@@ -25,9 +55,25 @@ public:
     {
     }
 
+    void read(const std::vector<platform::ListedEntry> &entries, bool isShown) override
+    {
+        if (!isDatabase(entries))
+            return;
+        for (const OpenFolder &folder : m_open) {
+            for (const auto &[rule, item] : folder.items)
+                guard(rule, m_found[rule][item]);
+        }
+        // In a hidden folder there is nothing to offer.
+        if (!isShown)
+            return;
+        ++m_openDatabases;
+        if (!m_open.empty())
+            m_open.back().isDatabase = true;
+    }
+
     void found(platform::WalkedEntry &&entry) override
     {
-        OpenFolder folder{entry.path, m_active.size(), {}};
+        OpenFolder folder{entry.path, m_active.size(), {}, false};
         for (const std::size_t rule : m_active) {
             if (!m_scan.m_filters[rule].matches(entry.name))
                 continue;
@@ -46,6 +92,8 @@ public:
         const OpenFolder folder = std::move(m_open.back());
         m_open.pop_back();
         m_active.resize(folder.activeOutside);
+        if (folder.isDatabase)
+            --m_openDatabases;
         for (const auto &[rule, item] : folder.items)
             m_found[rule][item].size = size;
         if (wasRead)
@@ -57,6 +105,7 @@ private:
         QString path;
         std::size_t activeOutside; ///< how many rules take from around the folder
         std::vector<std::pair<std::size_t, qsizetype>> items; ///< that the folder itself became
+        bool isDatabase;
     };
 
     void add(std::size_t index, const platform::WalkedEntry &entry)
@@ -66,6 +115,17 @@ private:
         item.checked = rule.defaultChecked;
         item.riskLevel = rule.riskLevel;
         item.isDirectory = entry.isFolder;
+        if (m_openDatabases > 0)
+            guard(index, item);
+    }
+
+    void guard(std::size_t index, CleanItem &item) const
+    {
+        if (!m_scan.m_rules.at(static_cast<qsizetype>(index)).subPath.isEmpty())
+            return;
+        item.checked = false;
+        item.riskLevel = HighRisk;
+        item.description = m_warning;
     }
 
     const ChromiumScan &m_scan;
@@ -73,6 +133,11 @@ private:
     RulesByFolder &m_remaining;
     ItemsByRule &m_found;
     std::vector<OpenFolder> m_open; ///< the way down to the current folder
+    int m_openDatabases = 0; ///< on that way, the root included
+    const QString m_warning = QCoreApplication::translate(
+        "BrowserCleaner",
+        "Holds part of a database: removing it loses data saved by the browser, websites or "
+        "extensions");
 };
 
 ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, const std::atomic_bool &stopRequested)

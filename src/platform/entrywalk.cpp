@@ -28,6 +28,7 @@ public:
         FolderListing listing = m_lister.list(root, m_stopRequested);
         noteFailure(root, listing);
         m_device = listing.device;
+        m_visitor.read(listing.entries, true);
         m_open.push_back(
             {root.endsWith(u'/') ? root.chopped(1) : root, std::move(listing.entries), 0, 0, true});
         while (!isStopped()) {
@@ -94,6 +95,7 @@ private:
                 m_visitor.left(0, false);
             return;
         }
+        m_visitor.read(listing.entries, isShown);
         m_open.push_back({path, std::move(listing.entries), 0, 0, isShown});
     }
 
@@ -116,6 +118,8 @@ private:
 };
 
 } // namespace
+
+void EntryVisitor::read(const std::vector<ListedEntry> &, bool) { }
 
 WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
                        const std::atomic_bool *stopRequested)

@@ -4,7 +4,11 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace platform {
+
+struct ListedEntry;
 
 /// One file or folder that a walk found.
 struct WalkedEntry {
@@ -22,6 +26,10 @@ public:
     EntryVisitor() = default;
     virtual ~EntryVisitor() = default;
 
+    /// A folder has been read, and none of its entries found yet: at first the root, then each one
+    /// right after it was found. Of the hidden folders that are read for their size this is all
+    /// that is told, with @p isShown false.
+    virtual void read(const std::vector<ListedEntry> &entries, bool isShown);
     /// An entry of the folder that was found last and not yet left; at first, of the root.
     virtual void found(WalkedEntry &&entry) = 0;
     /// The folder that was found last and not yet left is over. @p size is the bytes of all files

@@ -19,6 +19,33 @@ qint64 sizeBelow(const QString &folder)
     return size;
 }
 
+bool isDatabase(const QString &folder)
+{
+    const QDir dir(folder);
+    const auto filters = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    return !dir.entryList({u"CURRENT"_s}, filters).isEmpty()
+        && !dir.entryList({u"MANIFEST-*"_s}, filters).isEmpty();
+}
+
+/// Whether @p path lies in a database somewhere below @p profile, or is or holds one.
+bool touchesDatabase(const QString &path, const QString &profile)
+{
+    for (QString folder = QFileInfo(path).path(); folder.size() >= profile.size();
+         folder = QFileInfo(folder).path()) {
+        if (isDatabase(folder))
+            return true;
+    }
+    if (!QFileInfo(path).isDir())
+        return false;
+    QDirIterator it(path, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        if (isDatabase(it.next()))
+            return true;
+    }
+    return isDatabase(path);
+}
+
 void add(CleanCategory &category, const QFileInfo &info, const BrowserRule &rule)
 {
     const bool isFolder = info.isDir();
@@ -37,8 +64,19 @@ void scanChromiumProfile(const QString &profile, const BrowserRule &rule, CleanC
         return;
     QDirIterator it(folder, rule.patterns.isEmpty() ? QStringList{u"*"_s} : rule.patterns,
                     QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (it.hasNext())
+    while (it.hasNext()) {
         add(category, it.nextFileInfo(), rule);
+        if (!rule.subPath.isEmpty())
+            continue;
+        CleanItem &item = category.items.last();
+        if (!touchesDatabase(item.path, profile))
+            continue;
+        item.checked = false;
+        item.riskLevel = HighRisk;
+        item.description =
+            u"Holds part of a database: removing it loses data saved by the browser, "
+            "websites or extensions"_s;
+    }
 }
 
 void scanFirefoxFolder(const QString &folder, const QStringList &patterns,

@@ -76,11 +76,40 @@ QStringList described(const QList<CleanCategory> &categories)
         lines.append(u"[%1] %2 | %3 | %4"_s.arg(category.id, category.name, category.description,
                                                 category.checked ? u"on"_s : u"off"_s));
         for (const CleanItem &item : category.items)
-            lines.append(u"  %1 | %2 | %3 | %4 | %5 | %6"_s.arg(
+            lines.append(u"  %1 | %2 | %3 | %4 | %5 | %6 | %7"_s.arg(
                 item.name, item.path, QString::number(item.size), item.checked ? u"on"_s : u"off"_s,
-                QString::number(item.riskLevel), item.isDirectory ? u"folder"_s : u"file"_s));
+                QString::number(item.riskLevel), item.isDirectory ? u"folder"_s : u"file"_s,
+                item.description));
     }
     return lines;
+}
+
+/// The files of a small database, as browsers keep them.
+void makeDatabase(const TestTree &tree, const QString &folder)
+{
+    for (const QString &name :
+         {u"CURRENT"_s, u"LOCK"_s, u"LOG"_s, u"MANIFEST-000001"_s, u"000003.log"_s})
+        tree.file(folder + u'/' + name);
+}
+
+/// What of a category is not meant to be cleaned by default, below @p root and sorted. Checks that
+/// each of these says why, and that the others are what the rule makes them.
+QStringList held(const ScanResult &result, const QString &id, const QString &root)
+{
+    QStringList list;
+    const CleanCategory *category = find(result, id);
+    if (!category)
+        return {u"no such category"_s};
+    for (const CleanItem &item : category->items) {
+        const bool isHeld = !item.checked;
+        if (isHeld)
+            list.append(item.path.mid(root.size() + 1));
+        const bool isWarned = item.description.startsWith("Holds part of a database: "_L1);
+        if (isWarned != isHeld || (isHeld ? item.riskLevel != HighRisk : item.riskLevel != LowRisk))
+            list.append("wrongly described: "_L1 + item.path);
+    }
+    list.sort();
+    return list;
 }
 
 } // namespace
@@ -384,6 +413,150 @@ private Q_SLOTS:
         QCOMPARE(folder.name, u"Cache_Data"_s);
         QVERIFY(folder.isDirectory);
         QCOMPARE(folder.size, 5);
+    }
+
+    // --- databases
+
+    void whatANameHitsInADatabaseStartsUnticked()
+    {
+        const TestTree tree;
+        const QString profile = chromeProfile();
+        makeDatabase(tree, profile + "/Local Storage/leveldb"_L1);
+        tree.file(profile + "/Local Storage/beside.log"_L1);
+        tree.file(profile + "/chrome_debug.log"_L1);
+        // A folder of a database belongs to it, and may be another one.
+        makeDatabase(tree, profile + "/shared_proto_db/metadata"_L1);
+        makeDatabase(tree, profile + "/shared_proto_db"_L1);
+        tree.file(profile + "/shared_proto_db/lost/000002.log"_L1);
+        tree.file(profile + "/after.log"_L1);
+        // Half of the marks make no database.
+        tree.file(profile + "/No List/CURRENT"_L1);
+        tree.file(profile + "/No List/a.log"_L1);
+        tree.file(profile + "/No Name/MANIFEST-000001"_L1);
+        tree.file(profile + "/No Name/a.log"_L1);
+        tree.file(profile + "/Apart/CURRENT"_L1);
+        tree.file(profile + "/Apart/lists/MANIFEST-000001"_L1);
+        tree.file(profile + "/Apart/lists/a.log"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const QString root = tree.path(profile);
+        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, root),
+                 (QStringList{u"Local Storage/leveldb/000003.log"_s,
+                              u"shared_proto_db/000003.log"_s, u"shared_proto_db/lost/000002.log"_s,
+                              u"shared_proto_db/metadata/000003.log"_s}));
+        const CleanCategory &logs = *find(cleaner.result(), u"google_chrome_logs"_s);
+        QCOMPARE(logs.items.size(), 4 + 6);
+        QVERIFY(logs.checked);
+        QCOMPARE(logs.checkState(), Qt::PartiallyChecked);
+        QCOMPARE(logs.riskLevel, 0);
+        QCOMPARE(cleaner.result().checkedCount(), 6);
+        QCOMPARE(cleaner.result().checkedSize(), 6 * 7);
+    }
+
+    void aFolderThatHoldsADatabaseStartsUnticked()
+    {
+        const TestTree tree;
+        const QString profile = chromeProfile();
+        makeDatabase(tree, profile + "/itself.log"_L1);
+        makeDatabase(tree, profile + "/outer.log/inner/deep"_L1);
+        tree.file(profile + "/outer.log/beside.log"_L1);
+        tree.folder(profile + "/outer.log/inner/empty.log"_L1);
+        makeDatabase(tree, profile + "/Local Storage/leveldb"_L1);
+        tree.file(profile + "/Local Storage/leveldb/old.log/x"_L1);
+        tree.file(profile + "/harmless.log/x"_L1);
+        tree.file(profile + "/Favicons/db/CURRENT"_L1);
+        tree.file(profile + "/Favicons/db/MANIFEST-1"_L1);
+        QStringList expected{u"Local Storage/leveldb/000003.log"_s,
+                             u"Local Storage/leveldb/old.log"_s,
+                             u"itself.log"_s,
+                             u"itself.log/000003.log"_s,
+                             u"outer.log"_s,
+                             u"outer.log/inner/deep/000003.log"_s};
+#ifdef Q_OS_UNIX
+        tree.file(profile + "/hides.log/.sub/db/CURRENT"_L1);
+        tree.file(profile + "/hides.log/.sub/db/MANIFEST-1"_L1);
+        tree.file(profile + "/hides.log/beside.log"_L1);
+        expected.append(u"hides.log"_s);
+        expected.sort();
+#endif
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, tree.path(profile)), expected);
+        QVERIFY(paths(cleaner.result(), u"google_chrome_logs"_s, tree.path(profile))
+                    .contains(u"harmless.log"_s));
+        QCOMPARE(held(cleaner.result(), u"google_chrome_favicons"_s, tree.path(profile)),
+                 QStringList{u"Favicons"_s});
+        // Nothing of the category would be cleaned; its own mark is the rule's all the same.
+        const CleanCategory &favicons = *find(cleaner.result(), u"google_chrome_favicons"_s);
+        QVERIFY(favicons.checked);
+        QCOMPARE(favicons.checkState(), Qt::Unchecked);
+    }
+
+    void aProfileThatIsADatabaseKeepsWhatNamesHit()
+    {
+        const TestTree tree;
+        makeDatabase(tree, chromeProfile());
+        tree.file(chromeProfile() + "/sub/a.log"_L1);
+        tree.file(chromeProfile() + "/GPUCache/b"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, tree.path(chromeProfile())),
+                 (QStringList{u"000003.log"_s, u"sub/a.log"_s}));
+        QCOMPARE(cleaner.result().checkedCount(), 1);
+    }
+
+    void aRuleSpeaksOfTheDatabasesInItsOwnFolder()
+    {
+        const TestTree tree;
+        const QString profile = chromeProfile();
+        makeDatabase(tree, profile + "/Thumbnails"_L1);
+        makeDatabase(tree, profile + "/Local Storage/leveldb"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const QString root = tree.path(profile);
+        QCOMPARE(held(cleaner.result(), u"google_chrome_thumbnails"_s, root), QStringList());
+        QCOMPARE(find(cleaner.result(), u"google_chrome_thumbnails"_s)->checkedCount(), 5);
+        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, root),
+                 (QStringList{u"Local Storage/leveldb/000003.log"_s, u"Thumbnails/000003.log"_s}));
+        const CleanCategory &storage = *find(cleaner.result(), u"google_chrome_local_storage"_s);
+        QCOMPARE(storage.items.size(), 1 + 5);
+        for (const CleanItem &item : storage.items) {
+            QVERIFY(!item.checked);
+            QCOMPARE(item.riskLevel, 1);
+            QVERIFY(item.description.isEmpty());
+        }
+    }
+
+    void aDefaultCleanLeavesDatabasesWholeAndATickTakesThem()
+    {
+        const TestTree tree;
+        const QString profile = chromeProfile();
+        for (const QString &folder : {u"Local Storage/leveldb"_s, u"Session Storage"_s,
+                                      u"IndexedDB/https_www.example.com_0.indexeddb.leveldb"_s})
+            makeDatabase(tree, profile + u'/' + folder);
+        const QString log = tree.file(profile + "/debug.log"_L1, "12345");
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        QMap<QString, QString> expected = tree.snapshot();
+        QVERIFY(expected.remove(log) == 1);
+        scan(cleaner);
+        {
+            SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+            clean(cleaner, finished);
+            QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(5), 1}));
+        }
+        QCOMPARE(tree.snapshot(), expected);
+        scan(cleaner);
+        for (CleanCategory &category : cleaner.result().categories)
+            category.setChecked(category.id == "google_chrome_logs"_L1);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst().at(1).toInt(), 3);
+        QVERIFY(!tree.has(profile + "/Session Storage/000003.log"_L1));
     }
 
     void theDownloadRuleTakesTheHistoryToo()

@@ -1,5 +1,6 @@
 #include "entrywalk.h"
 
+#include "folderlist.h"
 #include "testtree.h"
 
 #include <QCoreApplication>
@@ -23,6 +24,18 @@ namespace {
 class Record final : public platform::EntryVisitor
 {
 public:
+    void read(const std::vector<platform::ListedEntry> &entries, bool isShown) override
+    {
+        QStringList names;
+        for (const platform::ListedEntry &entry : entries)
+            names.append(entry.name);
+        names.sort();
+        // What is shown is told right after it was found, before anything in it.
+        QVERIFY(!isShown || paths.isEmpty()
+                || (!m_open.isEmpty() && paths.constLast() == m_open.constLast()));
+        reads.append((isShown ? "shown: "_L1 : "hidden: "_L1) + names.join(u' '));
+    }
+
     void found(platform::WalkedEntry &&entry) override
     {
         QVERIFY(m_open.isEmpty() || entry.path.startsWith(m_open.constLast() + u'/'));
@@ -52,6 +65,7 @@ public:
     QStringList paths; ///< in the order in which they came
     QHash<QString, qint64> sizes;
     QStringList notRead;
+    QStringList reads; ///< the names in each folder that was read
     qsizetype stopAfter = 0;
     std::atomic_bool stop = false;
 
@@ -147,12 +161,26 @@ private Q_SLOTS:
         QCOMPARE(record.sizes.value(tree.path(u"a/empty"_s), -1), 0);
     }
 
+    void aFolderIsKnownBeforeWhatIsInIt()
+    {
+        const TestTree tree;
+        tree.file(u"a/1"_s);
+        tree.file(u"a/b/2"_s);
+        tree.folder(u"a/b/c"_s);
+        Record record;
+        (void)record.walk(tree.path());
+        record.reads.sort();
+        QCOMPARE(record.reads,
+                 (QStringList{u"shown: "_s, u"shown: 1 b"_s, u"shown: 2 c"_s, u"shown: a"_s}));
+    }
+
     void aMissingRootIsNoFailure()
     {
         const TestTree tree;
         Record record;
         QCOMPARE(record.walk(tree.path(u"no/such"_s)).failureCount, 0);
         QVERIFY(record.paths.isEmpty());
+        QVERIFY(record.reads.isEmpty());
     }
 
     void aStopEndsTheWalkAtOnce()
@@ -190,6 +218,9 @@ private Q_SLOTS:
         (void)record.walk(tree.path());
         QCOMPARE(record.paths, QStringList{tree.path(u"a"_s)});
         QCOMPARE(record.sizes.value(tree.path(u"a"_s)), 6);
+        QCOMPARE(record.reads,
+                 (QStringList{u"shown: a"_s, u"shown: .folder .secret"_s, u"hidden: sub x"_s,
+                              u"hidden: y"_s}));
     }
 
     void nothingBehindALinkIsListedOrCounted()
@@ -213,6 +244,7 @@ private Q_SLOTS:
         QCOMPARE(record.sizes.value(tree.path(u"in/a"_s)), 1);
         QCOMPARE(record.sizes.value(tree.path(u"in/a/folder"_s), -1), 0);
         QCOMPARE(record.notRead.size(), 2);
+        QCOMPARE(record.reads.size(), 2);
     }
 
     void aRootThatIsALinkHoldsNothing()

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Scans one Wine prefix with the native companion and with the Windows one, and requires the same items and sizes, and the same
-registry entries with the same descriptions.
+"""Scans one Wine prefix with the native companion and with the Windows one, and requires the same items, sizes and ticks, and the
+same registry entries with the same descriptions.
 
 Usage: same_prefix.py NATIVE_CLI WINDOWS_CLI, with WINEPREFIX set to a prefix that the test may fill.
 """
@@ -83,7 +83,11 @@ def fill_browsers():
             write(chrome / profile / "Code Cache" / "js" / "sub folder" / f"ümlaut {i}", 5)
         for name in ("Cookies", "Cookies-journal", "History", "Login Data", "Web Data", "Preferences"):
             write(chrome / profile / name, 30)
-        write(chrome / profile / "Local Storage" / "leveldb" / "000003.log", 7)
+        for name in ("CURRENT", "MANIFEST-000001", "000003.log"):
+            write(chrome / profile / "Local Storage" / "leveldb" / name, 7)
+        write(chrome / profile / "debug.log", 8)
+        write(chrome / profile / "old.log" / "kept" / "CURRENT", 9)
+        write(chrome / profile / "old.log" / "kept" / "MANIFEST-000001", 10)
     (chrome / "Default" / "Cache" / "link").symlink_to("/etc")
     roaming = user / "AppData" / "Roaming" / "Mozilla" / "Firefox"
     write(roaming / "Profiles" / "abc.default" / "cookies.sqlite", 11)
@@ -91,7 +95,7 @@ def fill_browsers():
     write(roaming / "Profiles" / "abc.default" / "places.sqlite", 13)
     (roaming / "profiles.ini").write_text("[Profile0]\nPath=Profiles/abc.default\nIsRelative=1\n")
     write(local / "Mozilla" / "Firefox" / "Profiles" / "abc.default" / "cache2" / "entries" / "E1", 9)
-    return {"google_chrome_cache": 12, "google_chrome_cookies": 3}
+    return {"google_chrome_cache": 12, "google_chrome_cookies": 3, "google_chrome_logs": 9}
 
 
 def fill_registry():
@@ -141,7 +145,8 @@ def scan(command, engine, environment):
 
 
 def items(result, translate):
-    return collections.Counter((category["id"], translate(item["path"]).lower(), item["size"])
+    return collections.Counter((category["id"], translate(item["path"]).lower(), item["size"], item["checked"], item["riskLevel"],
+                                item["description"])
                                for category in result["categories"] for item in category["items"])
 
 

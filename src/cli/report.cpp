@@ -54,9 +54,29 @@ QString timeStamp(const QDateTime &time)
     return time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
 }
 
+QString mark(Qt::CheckState state)
+{
+    return state == Qt::Checked ? u"[x] "_s : state == Qt::Unchecked ? u"[ ] "_s : u"[-] "_s;
+}
+
 QString riskWord(int level)
 {
     return level == HighRisk ? u"high risk"_s : level == MediumRisk ? u"medium risk"_s : QString();
+}
+
+void writeItem(QTextStream &stream, const CleanItem &item, const CleanCategory &category, Unit unit)
+{
+    if (unit == Unit::Entries) {
+        stream << singleLine(item.registryRoot + u'\\' + item.registryKey) << "  "
+               << singleLine(item.description) << '\n';
+        return;
+    }
+    stream << formatSize(item.size) << "  " << singleLine(item.path);
+    if (item.riskLevel > category.riskLevel)
+        stream << " (" << riskWord(item.riskLevel) << ')';
+    if (!item.description.isEmpty())
+        stream << " - " << singleLine(item.description);
+    stream << '\n';
 }
 
 } // namespace
@@ -84,7 +104,8 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
     QTextStream stream(&text);
     const bool hasSizes = subject.unit == Unit::Bytes;
     for (const CleanCategory &category : result.categories) {
-        stream << (category.checked ? "[x] " : "[ ] ");
+        const Qt::CheckState state = category.checkState();
+        stream << mark(state);
         stream << qSetFieldWidth(32) << Qt::left << singleLine(category.name);
         stream << qSetFieldWidth(9) << Qt::right << category.items.size() << qSetFieldWidth(0)
                << " items  ";
@@ -98,12 +119,11 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
         if (items == Items::Left)
             continue;
         for (const CleanItem &item : category.items) {
-            stream << "      ";
-            if (hasSizes)
-                stream << formatSize(item.size) << "  " << singleLine(item.path) << '\n';
-            else
-                stream << singleLine(item.registryRoot + u'\\' + item.registryKey) << "  "
-                       << singleLine(item.description) << '\n';
+            // Which ones are meant has to be said of each only where it is not the same for all.
+            const bool isPartial = state == Qt::PartiallyChecked;
+            stream << (isPartial ? "  " : "      ")
+                   << (isPartial ? mark(item.checked ? Qt::Checked : Qt::Unchecked) : QString());
+            writeItem(stream, item, category, subject.unit);
         }
     }
     const auto total = [&](int count, qint64 size) {

@@ -160,6 +160,60 @@ private Q_SLOTS:
         QVERIFY(!log.exists());
     }
 
+    void whatStartsUntickedInATickedCategoryIsTold()
+    {
+        m_home.point("LOCALAPPDATA", u"local"_s);
+        const auto unset = qScopeGuard([] { qunsetenv("LOCALAPPDATA"); });
+        const QString profile = m_home.folder(u"local/Google/Chrome/User Data/Default"_s);
+        const auto make = [&profile](const QString &name) {
+            QFile file(profile + u'/' + name);
+            if (!file.open(QIODevice::WriteOnly) || file.write("1234567") != 7)
+                qFatal("cannot write %s", qPrintable(file.fileName()));
+        };
+        const QString database =
+            m_home.folder(u"local/Google/Chrome/User Data/Default/Session Storage"_s);
+        for (const QString &name : {u"CURRENT"_s, u"MANIFEST-000001"_s, u"000003.log"_s})
+            make("Session Storage/"_L1 + name);
+        make(u"debug.log"_s);
+
+        const Run text = run({u"scan"_s, u"browser"_s, u"--items"_s});
+        QCOMPARE(text.exitCode, 0);
+        QVERIFY(text.output.contains("[-] Google Chrome - Browser Logs"));
+        QVERIFY(text.output.contains("\n  [x] 7 B  " + profile.toUtf8() + "/debug.log\n"));
+        QVERIFY(text.output.contains("\n  [ ] 7 B  " + database.toUtf8()
+                                     + "/000003.log (high risk) - Holds part of a database: "));
+        QVERIFY(text.output.contains("Found 2 items, 14 B; selected 1 items, 7 B."));
+        QFile::remove(profile + "/debug.log"_L1);
+        QVERIFY(run({u"scan"_s, u"browser"_s}).output.contains("[ ] Google Chrome - Browser Logs"));
+        make(u"debug.log"_s);
+
+        const QJsonObject scan =
+            QJsonDocument::fromJson(
+                run({u"scan"_s, u"browser"_s, u"--json"_s, u"--items"_s}).output)
+                .object();
+        QCOMPARE(scan["totalCount"_L1].toInt(), 2);
+        QCOMPARE(scan["checkedCount"_L1].toInt(), 1);
+        QCOMPARE(scan["checkedSize"_L1].toInt(), 7);
+        const QJsonObject logs = scan["categories"_L1][0].toObject();
+        QVERIFY(logs["checked"_L1].toBool());
+        QCOMPARE(logs["checkedCount"_L1].toInt(), 1);
+        QCOMPARE(logs["riskLevel"_L1].toInt(), 0);
+        const QJsonArray items = logs["items"_L1].toArray();
+        for (const auto &item : items) {
+            const bool isLog = item["name"_L1] == "debug.log"_L1;
+            QCOMPARE(item["checked"_L1].toBool(), isLog);
+            QCOMPARE(item["riskLevel"_L1].toInt(), isLog ? 0 : 2);
+            QCOMPARE(item["description"_L1].toString().isEmpty(), isLog);
+        }
+
+        const Run clean =
+            run({u"clean"_s, u"browser"_s, u"--yes"_s, u"--category"_s, u"google_chrome_logs"_s});
+        QCOMPARE(clean.exitCode, 0);
+        QVERIFY(clean.output.contains("Cleaned 1 items, freed 7 B; 0 failed."));
+        QVERIFY(QFile::exists(database + "/000003.log"_L1));
+        QVERIFY(!QFile::exists(profile + "/debug.log"_L1));
+    }
+
     void aLineBreakInANameForgesNoLine()
     {
         write(u"x\nFound 0 items"_s, 1);

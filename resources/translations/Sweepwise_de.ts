@@ -1123,6 +1123,29 @@ Kopieren Sie den Link und öffnen Sie ihn manuell:
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>Dieser Ordner ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>Das ist eine Datei der Registry selbst</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>Dort befindet sich ein Ordner</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>Dort befindet sich eine Verknüpfung, die woandershin führt</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>Was sich dort befindet, ist keine Datei</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1167,6 +1190,34 @@ Kopieren Sie den Link und öffnen Sie ihn manuell:
     <message>
         <source>Registry files (*.reg)</source>
         <translation>Registry-Dateien (*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>Die Sicherung kann hier nicht gespeichert werden:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>Es gibt bereits eine Datei mit diesem Namen:
+%1
+
+Soll sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>Der Ordner kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>Die Datei ist schreibgeschützt.</translation>
     </message>
 </context>
 <context>
@@ -1445,6 +1496,10 @@ Kopieren Sie den Link und öffnen Sie ihn manuell:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>Der Wert ließ sich nicht aus der Registry entfernen</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>Eine Klasse wird in der Struktur des Benutzers oder in der des Computers geändert</translation>
     </message>
 </context>
 <context>

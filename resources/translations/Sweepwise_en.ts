@@ -1101,6 +1101,29 @@ Please copy the link and open it yourself:
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>There is no such folder</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>It is a file of the registry itself</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>A folder stands there</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>A link stands there, which leads elsewhere</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>What stands there is not a file</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1145,6 +1168,34 @@ Please copy the link and open it yourself:
     <message>
         <source>Registry files (*.reg)</source>
         <translation>Registry files (*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>The backup cannot be written here:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>There is a file of this name already:
+%1
+
+Replace it?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>The folder cannot be made.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>The file is write-protected.</translation>
     </message>
 </context>
 <context>
@@ -1421,6 +1472,10 @@ Please copy the link and open it yourself:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>The registry did not let go of the value</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>A class is changed in the user&apos;s or in the machine&apos;s hive</translation>
     </message>
 </context>
 <context>

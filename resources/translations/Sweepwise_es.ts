@@ -1120,6 +1120,29 @@ Copie el enlace y ábralo manualmente:
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>Esa carpeta no existe</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>Es un archivo del propio Registro</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>Ahí ya hay una carpeta</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>Ahí hay un vínculo que lleva a otro lugar</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>Lo que hay ahí no es un archivo</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1164,6 +1187,34 @@ Copie el enlace y ábralo manualmente:
     <message>
         <source>Registry files (*.reg)</source>
         <translation>Archivos del Registro (*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>La copia de seguridad no se puede guardar aquí:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>Ya existe un archivo con este nombre:
+%1
+
+¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>No se puede crear la carpeta.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>El archivo está protegido contra escritura.</translation>
     </message>
 </context>
 <context>
@@ -1442,6 +1493,10 @@ Copie el enlace y ábralo manualmente:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>El Registro no ha permitido quitar el valor</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>Una clase se cambia en el subárbol del usuario o en el del equipo</translation>
     </message>
 </context>
 <context>

@@ -1116,6 +1116,29 @@ Copiez le lien et ouvrez-le manuellement&#xa0;:
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>Ce dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>Il s’agit d’un fichier du Registre lui-même</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>Un dossier se trouve à cet emplacement</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>Un lien menant ailleurs se trouve à cet emplacement</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>Ce qui se trouve à cet emplacement n’est pas un fichier</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1160,6 +1183,34 @@ Copiez le lien et ouvrez-le manuellement&#xa0;:
     <message>
         <source>Registry files (*.reg)</source>
         <translation>Fichiers de Registre (*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>Impossible d’enregistrer la sauvegarde à cet emplacement&#xa0;:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>Un fichier porte déjà ce nom&#xa0;:
+%1
+
+Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>Impossible de créer le dossier.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>Le fichier est protégé en écriture.</translation>
     </message>
 </context>
 <context>
@@ -1436,6 +1487,10 @@ Copiez le lien et ouvrez-le manuellement&#xa0;:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>Le Registre n’a pas supprimé la valeur</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>Une classe se modifie dans la ruche de l’utilisateur ou dans celle de l’ordinateur</translation>
     </message>
 </context>
 <context>

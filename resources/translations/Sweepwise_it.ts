@@ -1123,6 +1123,29 @@ Copiare il collegamento e aprirlo manualmente:
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>La cartella non esiste</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>È un file del registro stesso</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>In questa posizione c&apos;è una cartella</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>In questa posizione c&apos;è un collegamento che porta altrove</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>Ciò che si trova in questa posizione non è un file</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1167,6 +1190,34 @@ Copiare il collegamento e aprirlo manualmente:
     <message>
         <source>Registry files (*.reg)</source>
         <translation>File del registro (*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>Impossibile salvare il backup in questa posizione:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>Esiste già un file con questo nome:
+%1
+
+Sostituirlo?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>Impossibile creare la cartella.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>Il file è protetto da scrittura.</translation>
     </message>
 </context>
 <context>
@@ -1445,6 +1496,10 @@ Copiare il collegamento e aprirlo manualmente:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>Il registro non ha rimosso il valore</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>Una classe si modifica nell&apos;hive dell&apos;utente o in quello del computer</translation>
     </message>
 </context>
 <context>

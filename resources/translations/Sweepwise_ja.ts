@@ -1122,6 +1122,29 @@ This action cannot be undone!</source>
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>該当するフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>レジストリ自体のファイルです</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>同じ名前のフォルダーがあります</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>別の場所へのリンクがあります</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>ファイルではないものがあります</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1166,6 +1189,34 @@ This action cannot be undone!</source>
     <message>
         <source>Registry files (*.reg)</source>
         <translation>レジストリ ファイル (*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>次の場所にはバックアップを保存できません:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>同じ名前のファイルがあります:
+%1
+
+置き換えますか?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>フォルダーを作成できません。</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>ファイルは書き込み禁止になっています。</translation>
     </message>
 </context>
 <context>
@@ -1444,6 +1495,10 @@ This action cannot be undone!</source>
     <message>
         <source>The registry did not let go of the value</source>
         <translation>レジストリから値を削除できませんでした</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>クラスの変更は、ユーザーまたはコンピューターのハイブで行います</translation>
     </message>
 </context>
 <context>

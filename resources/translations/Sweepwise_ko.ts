@@ -1122,6 +1122,29 @@ This action cannot be undone!</source>
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>해당 폴더가 없습니다</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>레지스트리 자체의 파일입니다</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>같은 이름의 폴더가 있습니다</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>다른 위치로 연결되는 링크가 있습니다</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>파일이 아닌 항목이 있습니다</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1166,6 +1189,34 @@ This action cannot be undone!</source>
     <message>
         <source>Registry files (*.reg)</source>
         <translation>레지스트리 파일(*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>다음 위치에는 백업을 저장할 수 없습니다.
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>같은 이름의 파일이 있습니다.
+%1
+
+바꾸시겠습니까?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>폴더를 만들 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>파일이 쓰기 금지되어 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -1444,6 +1495,10 @@ This action cannot be undone!</source>
     <message>
         <source>The registry did not let go of the value</source>
         <translation>레지스트리에서 값이 삭제되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>클래스는 사용자 또는 컴퓨터의 하이브에서 변경합니다</translation>
     </message>
 </context>
 <context>

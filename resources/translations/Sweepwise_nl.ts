@@ -1124,6 +1124,29 @@ Kopieer de koppeling en open deze zelf in een browser:
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>Deze map bestaat niet</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>Dit is een bestand van het register zelf</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>Daar staat een map</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>Daar staat een koppeling die naar elders leidt</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>Wat daar staat, is geen bestand</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1168,6 +1191,34 @@ Kopieer de koppeling en open deze zelf in een browser:
     <message>
         <source>Registry files (*.reg)</source>
         <translation>Registerbestanden (*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>De back-up kan hier niet worden opgeslagen:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>Er bestaat al een bestand met deze naam:
+%1
+
+Vervangen?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>De map kan niet worden gemaakt.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>Het bestand is tegen schrijven beveiligd.</translation>
     </message>
 </context>
 <context>
@@ -1446,6 +1497,10 @@ Kopieer de koppeling en open deze zelf in een browser:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>De waarde is niet uit het register verwijderd</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>Een klasse wordt gewijzigd in de component van de gebruiker of in die van de computer</translation>
     </message>
 </context>
 <context>

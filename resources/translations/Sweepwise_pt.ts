@@ -1124,6 +1124,29 @@ Copie a ligação e abra-a manualmente:
     </message>
 </context>
 <context>
+    <name>RegistryBackup</name>
+    <message>
+        <source>There is no such folder</source>
+        <translation>A pasta não existe</translation>
+    </message>
+    <message>
+        <source>It is a file of the registry itself</source>
+        <translation>É um ficheiro do próprio registo</translation>
+    </message>
+    <message>
+        <source>A folder stands there</source>
+        <translation>Já existe uma pasta nesse local</translation>
+    </message>
+    <message>
+        <source>A link stands there, which leads elsewhere</source>
+        <translation>Nesse local há uma ligação que conduz a outro lugar</translation>
+    </message>
+    <message>
+        <source>What stands there is not a file</source>
+        <translation>O que existe nesse local não é um ficheiro</translation>
+    </message>
+</context>
+<context>
     <name>RegistryBackupDialog</name>
     <message>
         <source>Backup registry before cleaning (Recommended)</source>
@@ -1168,6 +1191,34 @@ Copie a ligação e abra-a manualmente:
     <message>
         <source>Registry files (*.reg)</source>
         <translation>Ficheiros do registo (*.reg)</translation>
+    </message>
+    <message>
+        <source>The backup cannot be written here:
+%1
+
+%2</source>
+        <translation>Não é possível guardar a cópia de segurança aqui:
+%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already:
+%1
+
+Replace it?</source>
+        <translation>Já existe um ficheiro com este nome:
+%1
+
+Pretende substituí-lo?</translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation>Não é possível criar a pasta.</translation>
+    </message>
+    <message>
+        <source>The file is write-protected.</source>
+        <translation>O ficheiro está protegido contra escrita.</translation>
     </message>
 </context>
 <context>
@@ -1446,6 +1497,10 @@ Copie a ligação e abra-a manualmente:
     <message>
         <source>The registry did not let go of the value</source>
         <translation>O registo não permitiu remover o valor</translation>
+    </message>
+    <message>
+        <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
+        <translation>Uma classe altera-se no ramo do utilizador ou no do computador</translation>
     </message>
 </context>
 <context>

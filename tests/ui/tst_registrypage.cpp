@@ -10,11 +10,13 @@
 #include "registryfixture.h"
 #include "signalspy.h"
 #include "testhome.h"
+#include "testtree.h"
 #include "uisupport.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QDate>
+#include <QDir>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,6 +24,12 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
+
+#include <memory>
+
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -278,6 +286,124 @@ private Q_SLOTS:
         QCOMPARE(caption, u"Select backup location"_s);
         QCOMPARE(filters, QStringList{u"Registry files (*.reg)"_s});
         QCOMPARE(edit(dialog)->text(), m_home.folder(u"chosen"_s) + "/other.reg"_L1);
+    }
+
+    // --- whether the place takes a backup, before anything is removed
+
+    void aMissingFolderIsMade()
+    {
+        const TestTree tree;
+        RegistryBackupDialog dialog(1);
+        dialog.show();
+        edit(dialog)->setText(tree.path(u"not/yet/there/one"_s));
+        button(dialog, u"startCleanBtn"_s)->click();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(QFileInfo(tree.path(u"not/yet/there"_s)).isDir());
+        QVERIFY(QDir(tree.path(u"not/yet/there"_s)).isEmpty());
+    }
+
+    void aFileIsReplacedOnlyAfterAQuestion_data()
+    {
+        QTest::addColumn<bool>("agrees");
+        QTest::newRow("yes") << true;
+        QTest::newRow("no") << false;
+    }
+    void aFileIsReplacedOnlyAfterAQuestion()
+    {
+        QFETCH(bool, agrees);
+        const TestTree tree;
+        const QString path = tree.file(u"one.reg"_s, "old");
+        RegistryBackupDialog dialog(1);
+        dialog.show();
+        edit(dialog)->setText(tree.path(u"one"_s));
+        const MessageBoxes boxes(agrees ? QMessageBox::Yes : QMessageBox::No);
+        button(dialog, u"startCleanBtn"_s)->click();
+        QCOMPARE(boxes.seen(),
+                 QStringList{u"Clean Registry|There is a file of this name already:\n%1\n\n"
+                             "Replace it?"_s.arg(QDir::toNativeSeparators(path))});
+        QCOMPARE(dialog.isVisible(), !agrees);
+        QCOMPARE(tree.snapshot().size(), 1); // nothing is written or left yet
+        dialog.reject();
+    }
+
+    void whatTheChooserHasAskedIsNotAskedAgain()
+    {
+        const TestTree tree;
+        const QString path = tree.file(u"one.reg"_s, "old");
+        RegistryBackupDialog dialog(1);
+        dialog.show();
+        edit(dialog)->setText(path);
+        QTimer::singleShot(100, &dialog, [&] {
+            auto *chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            chooser->setOption(QFileDialog::DontConfirmOverwrite);
+            chooser->findChild<QLineEdit *>()->setText(u"one.reg"_s);
+            QMetaObject::invokeMethod(chooser, "accept");
+        });
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        dialog.browse();
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+        const MessageBoxes boxes(QMessageBox::No);
+        button(dialog, u"startCleanBtn"_s)->click();
+        QVERIFY(boxes.seen().isEmpty());
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+
+    void aPlaceThatTakesNoBackupIsToldInWords_data()
+    {
+        QTest::addColumn<QString>("place");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("below a file") << u"file/one.reg"_s << u"The folder cannot be made."_s;
+        QTest::newRow("a folder") << u"folder.reg"_s << u"A folder stands there"_s;
+#ifndef Q_OS_WIN
+        QTest::newRow("a link") << u"link.reg"_s << u"A link stands there, which leads elsewhere"_s;
+        QTest::newRow("a pipe") << u"pipe.reg"_s << u"What stands there is not a file"_s;
+        QTest::newRow("the registry") << u"user.reg"_s << u"It is a file of the registry itself"_s;
+        QTest::newRow("a closed folder") << u"closed/one.reg"_s << u"Permission denied"_s;
+#else
+        QTest::newRow("a write-protected file")
+            << u"protected.reg"_s << u"The file is write-protected."_s;
+#endif
+    }
+    void aPlaceThatTakesNoBackupIsToldInWords()
+    {
+        QFETCH(QString, place);
+        QFETCH(QString, reason);
+        const TestTree tree;
+        tree.file(u"file"_s);
+        tree.folder(u"folder.reg"_s);
+        QString path = tree.path(place);
+#ifndef Q_OS_WIN
+        tree.link(tree.path(u"file"_s), u"link.reg"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(tree.path(u"pipe.reg"_s)).constData(), 0600), 0);
+        tree.folder(u"closed"_s);
+        QCOMPARE(::chmod(QFile::encodeName(tree.path(u"closed"_s)).constData(), 0555), 0);
+        QCOMPARE(::chmod(QFile::encodeName(tree.path()).constData(), 0777), 0);
+        if (place == "user.reg"_L1)
+            path = m_fixture->file(u"HKEY_CURRENT_USER"_s);
+#else
+        QVERIFY(QFile::setPermissions(tree.file(u"protected.reg"_s),
+                                      QFile::ReadOwner | QFile::ReadUser));
+#endif
+        const auto before = tree.snapshot();
+        RegistryBackupDialog dialog(1);
+        dialog.show();
+        edit(dialog)->setText(path);
+        const MessageBoxes boxes(QMessageBox::Ok);
+        {
+            const bool isBound = place.startsWith("closed"_L1);
+            const std::unique_ptr<OrdinaryUser> user(isBound ? new OrdinaryUser : nullptr);
+            button(dialog, u"startCleanBtn"_s)->click();
+        }
+        QCOMPARE(boxes.seen(),
+                 QStringList{u"Clean Registry|The backup cannot be written here:\n%1\n\n%2"_s.arg(
+                     QDir::toNativeSeparators(path), reason)});
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(tree.snapshot(), before);
+        // Without a backup the place does not matter.
+        check(dialog)->setChecked(false);
+        button(dialog, u"startCleanBtn"_s)->click();
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
     void theDialogIsDraggedWithTheMouse()

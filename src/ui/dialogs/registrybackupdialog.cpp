@@ -1,16 +1,22 @@
 #include "registrybackupdialog.h"
 
+#include "registrybackup.h"
+#include "text.h"
 #include "theme.h"
 
 #include <QCheckBox>
 #include <QDate>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +32,17 @@ QString defaultPath()
 QString withSuffix(const QString &path)
 {
     return path.endsWith(".reg"_L1, Qt::CaseInsensitive) ? path : path + ".reg"_L1;
+}
+
+int showBox(RegistryBackupDialog *dialog, QMessageBox::Icon icon, const QString &text)
+{
+    const bool isQuestion = icon == QMessageBox::Question;
+    QMessageBox box(icon, dialog->windowTitle(), text,
+                    isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, dialog);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
+    box.setStyleSheet(theme::messageBox());
+    return box.exec();
 }
 
 } // namespace
@@ -137,8 +154,45 @@ void RegistryBackupDialog::browse()
 {
     const QString path = QFileDialog::getSaveFileName(
         this, tr("Select backup location"), m_pathEdit->text(), tr("Registry files (*.reg)"));
-    if (!path.isEmpty())
-        m_pathEdit->setText(withSuffix(path));
+    if (path.isEmpty())
+        return;
+    m_pathEdit->setText(withSuffix(path));
+    m_replaceable = path; // the chooser has asked
+}
+
+void RegistryBackupDialog::accept()
+{
+    const QString path = backupPath();
+    if (path.isEmpty() || prepare(path))
+        FramelessDialog::accept();
+}
+
+bool RegistryBackupDialog::prepare(const QString &path)
+{
+    const QString shown = singleLine(QDir::toNativeSeparators(path)).left(1024);
+    if (const QString problem = problemWith(path); !problem.isEmpty()) {
+        showBox(this, QMessageBox::Warning,
+                tr("The backup cannot be written here:\n%1\n\n%2").arg(shown, problem));
+        return false;
+    }
+    return !QFileInfo::exists(path) || path == m_replaceable
+        || showBox(this, QMessageBox::Question,
+                   tr("There is a file of this name already:\n%1\n\nReplace it?").arg(shown))
+        == QMessageBox::Yes;
+}
+
+QString RegistryBackupDialog::problemWith(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!QDir().mkpath(file.absolutePath()))
+        return tr("The folder cannot be made.");
+    const QString problem = RegistryBackup::targetProblem(path);
+    if (!problem.isEmpty())
+        return problem;
+    if (file.exists() && !file.isWritable())
+        return tr("The file is write-protected.");
+    QTemporaryFile probe(file.absolutePath() + "/sweepwise-XXXXXX"_L1);
+    return probe.open() ? QString() : probe.errorString();
 }
 
 // Return in the path field neither starts to delete nor throws away what was typed.

@@ -6,7 +6,9 @@ class QCheckBox;
 class QLineEdit;
 class QPushButton;
 
-/// Asks before registry entries are cleaned whether to write a backup, and where.
+/// Asks before registry entries are cleaned whether to write a backup, and where. It is not
+/// accepted with a place that will not take one: a missing folder is made, a file is replaced only
+/// after a question, and everything else is told in words.
 class RegistryBackupDialog final : public FramelessDialog
 {
     Q_OBJECT
@@ -21,6 +23,7 @@ public:
 public Q_SLOTS:
     void onBackupCheckChanged(bool checked);
     void browse();
+    void accept() override;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -29,7 +32,12 @@ protected:
 private:
     QLayout *buildPathRow();
     QLayout *buildButtonRow();
+    /// Whether a backup can go to @p path, as far as can be told now and the user wants it to.
+    [[nodiscard]] bool prepare(const QString &path);
+    /// Why it cannot; empty when it can.
+    [[nodiscard]] static QString problemWith(const QString &path);
 
+    QString m_replaceable; ///< a file that the user has already agreed to lose
     QCheckBox *m_backupCheck;
     QLineEdit *m_pathEdit = nullptr;
     QPushButton *m_browseButton = nullptr;

@@ -20,6 +20,7 @@ public:
 
     QList<CleanCategory> found; ///< what a scan finds
     std::atomic_bool hold = false; ///< while set, a run goes on until it is cancelled
+    std::atomic_bool waitsForCancel = true; ///< else it goes on for as long as it is held
     std::atomic_int scans = 0;
     std::atomic_int cleans = 0;
 
@@ -61,7 +62,7 @@ protected:
 private:
     void wait() const
     {
-        while (hold && !isStopRequested())
+        while (hold && !(waitsForCancel && isStopRequested()))
             QThread::msleep(1);
     }
 };

@@ -14,9 +14,11 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSettings>
+#include <QStackedWidget>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -303,6 +305,97 @@ private Q_SLOTS:
         QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: --"_s);
         QTest::mouseClick(open->findChild<QPushButton *>(u"closeBtn"_s), Qt::LeftButton);
         QVERIFY(!dialog(page));
+    }
+
+    // What is removed was taken when the clean began: later ticks would only seem to count.
+    void whileACleanRunsTheListIsLocked()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3), scriptedCategory(u"b"_s, 2)};
+        BasePage page;
+        scanned(page, engine);
+        categories(page).at(0)->toggleExpanded();
+        QTest::qWait(0);
+        const auto boxes = page.findChildren<QCheckBox *>();
+        QCOMPARE(boxes.size(), 5);
+        const auto clickAll = [&] {
+            for (const QCheckBox *box : boxes)
+                QTest::mouseClick(page.windowHandle(), Qt::LeftButton, {},
+                                  box->mapTo(&page, QPoint(8, box->height() / 2)));
+        };
+        engine.hold = true;
+        const QString before = label(page, u"selectionLabel"_s);
+        click(page, u"cleanBtn"_s);
+        clickAll();
+        QCOMPARE(engine.result().checkedCount(), 5);
+        QCOMPARE(label(page, u"selectionLabel"_s), before);
+        // Cancelled, it still winds down for a while.
+        engine.waitsForCancel = false;
+        page.cancelOperation();
+        clickAll();
+        QCOMPARE(engine.result().checkedCount(), 5);
+        engine.hold = false;
+        QTRY_VERIFY_WITH_TIMEOUT(categories(page).isEmpty(), patience);
+        // The next list can be edited.
+        const SignalSpy finished(&page, &BasePage::scanFinished);
+        click(page, u"scanBtn"_s);
+        QVERIFY(finished.wait(patience));
+        QTest::qWait(0);
+        const auto *box = categories(page).at(0)->findChild<QCheckBox *>();
+        QTest::mouseClick(page.windowHandle(), Qt::LeftButton, {},
+                          box->mapTo(&page, QPoint(8, box->height() / 2)));
+        QCOMPARE(engine.result().checkedCount(), 2);
+    }
+
+    void afterAnErrorTheListCanBeEditedAgain()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        engine.hold = true;
+        click(page, u"cleanBtn"_s);
+        engine.fail(u"broken"_s);
+        QVERIFY(categories(page).at(0)->isEnabled());
+        engine.hold = false;
+        QTRY_VERIFY_WITH_TIMEOUT(categories(page).isEmpty(), patience);
+    }
+
+    void theDialogStaysWithItsPage()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        QStackedWidget pages;
+        auto *page = new BasePage;
+        pages.addWidget(page);
+        pages.addWidget(new QWidget);
+        pages.show();
+        page->setEngine(&engine);
+        const SignalSpy scanned(page, &BasePage::scanFinished);
+        page->startScan();
+        QVERIFY(scanned.wait(patience));
+        engine.hold = true;
+        page->startClean();
+        const QPointer<ProgressDialog> open = dialog(*page);
+        QVERIFY(open && open->isVisible());
+        pages.setCurrentIndex(1);
+        QVERIFY(!open->isVisible());
+        pages.setCurrentIndex(0);
+        QVERIFY(open->isVisible());
+        // Its outcome is shown when somebody looks at the page again.
+        pages.setCurrentIndex(1);
+        const SignalSpy cleaned(page, &BasePage::cleanFinished);
+        engine.hold = false;
+        QVERIFY(cleaned.wait(patience));
+        QVERIFY(!open->isVisible());
+        pages.setCurrentIndex(0);
+        QVERIFY(open->isVisible());
+        QVERIFY(open->isFinished());
+        // Once closed it does not come back.
+        QTest::mouseClick(open->findChild<QPushButton *>(u"closeBtn"_s), Qt::LeftButton);
+        pages.setCurrentIndex(1);
+        pages.setCurrentIndex(0);
+        QVERIFY(!open || !open->isVisible());
     }
 
     void cancelDuringACleanResetsTheList()

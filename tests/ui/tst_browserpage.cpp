@@ -22,6 +22,7 @@
 #include <QLayout>
 #include <QPointer>
 #include <QPushButton>
+#include <QSettings>
 #include <QTest>
 
 #include <algorithm>
@@ -175,6 +176,97 @@ private Q_SLOTS:
         QVERIFY(m_cleaner->isBrowserEnabled(Browser::Opera));
         scan(page);
         QCOMPARE(progress.size(), 5);
+    }
+
+    // Who leaves a browser out, and sees its box unticked, does not expect it to be cleaned.
+    void leavingABrowserOutTakesWhatIsListedOfItOutOfTheClean()
+    {
+        ScriptedEngine engine;
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3),
+                        category(u"opera_cookies"_s, u"Opera - Cookies"_s, 2),
+                        category(u"opera_logs"_s, u"Opera - Logs"_s, 4),
+                        category(u"brave_cache"_s, u"Brave - Cache"_s, 5)};
+        engine.found[1].checked = false;
+        engine.found[2].items[1].checked = false;
+        BrowserPage page;
+        show(page, engine);
+        const auto selected = [&page] { return text<QLabel>(page, u"selectionLabel"_s); };
+        const auto boxes = [&page] {
+            QList<Qt::CheckState> states{header(*groups(page).at(0))->checkState()};
+            for (const BrowserSubItem *subItem : subItems(*groups(page).at(0)))
+                states.append(subItem->checkState());
+            return states;
+        };
+        const QList<Qt::CheckState> before{Qt::PartiallyChecked, Qt::Checked, Qt::Unchecked,
+                                           Qt::PartiallyChecked};
+        QCOMPARE(boxes(), before);
+        QCOMPARE(selected(), u"Selected: 11 items, 11.0 KB"_s);
+
+        click(browserBox(page, u"Opera"_s));
+        QCOMPARE(selected(), u"Selected: 5 items, 5.0 KB"_s);
+        QCOMPARE(text<QLabel>(page, u"statisticValue"_s), u"5.0 KB"_s);
+        QCOMPARE(boxes(), QList<Qt::CheckState>(4, Qt::Unchecked));
+        groups(page).at(0)->toggleExpanded();
+        click(header(*groups(page).at(0)));
+        click(box(*subItems(*groups(page).at(0)).at(0)));
+        QCOMPARE(selected(), u"Selected: 5 items, 5.0 KB"_s);
+        QCOMPARE(engine.result().checkedOnly().categories.size(), 1);
+        QCOMPARE(engine.result().checkedOnly().categories.at(0).id, u"brave_cache"_s);
+
+        // Put back, everything is as it was.
+        click(browserBox(page, u"Opera"_s));
+        QCOMPARE(boxes(), before);
+        QCOMPARE(selected(), u"Selected: 11 items, 11.0 KB"_s);
+        QVERIFY(!engine.result().categories.at(2).items.at(1).checked);
+        click(header(*groups(page).at(0)));
+        QCOMPARE(selected(), u"Selected: 14 items, 14.0 KB"_s);
+
+        // With nothing left there is nothing to clean.
+        click(browserBox(page, u"Opera"_s));
+        click(browserBox(page, u"Brave"_s));
+        QVERIFY(!page.findChild<QPushButton *>(u"cleanBtn"_s)->isEnabled());
+        click(browserBox(page, u"Opera"_s));
+        click(browserBox(page, u"Brave"_s));
+        QCOMPARE(selected(), u"Selected: 14 items, 14.0 KB"_s);
+    }
+
+    void aBrowserThatIsLeftOutWhileTheScanRunsIsLeftOutOfTheList()
+    {
+        ScriptedEngine engine;
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3),
+                        category(u"brave_cache"_s, u"Brave - Cache"_s, 5)};
+        engine.hold = true;
+        BrowserPage page;
+        page.setEngine(&engine);
+        page.show();
+        const SignalSpy finished(&page, &BasePage::scanFinished);
+        page.startScan();
+        click(browserBox(page, u"Opera"_s));
+        engine.hold = false;
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(text<QLabel>(page, u"selectionLabel"_s), u"Selected: 5 items, 5.0 KB"_s);
+        click(browserBox(page, u"Opera"_s));
+        QCOMPARE(text<QLabel>(page, u"selectionLabel"_s), u"Selected: 8 items, 8.0 KB"_s);
+    }
+
+    void whileACleanRunsNoBrowserIsLeftOut()
+    {
+        ScriptedEngine engine;
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3)};
+        BrowserPage page;
+        show(page, engine);
+        Application::instance()->settings()->setValue(u"clean/confirmClean"_s, false);
+        engine.hold = true;
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        page.startClean();
+        click(browserBox(page, u"Opera"_s));
+        QVERIFY(browserBox(page, u"Opera"_s)->isChecked());
+        engine.hold = false;
+        QVERIFY(cleaned.wait(patience));
+        click(browserBox(page, u"Opera"_s));
+        QVERIFY(!browserBox(page, u"Opera"_s)->isChecked());
+        click(browserBox(page, u"Opera"_s));
+        Application::instance()->settings()->remove(u"clean/confirmClean"_s);
     }
 
     void aNarrowBarGoesOnInTheNextRow()

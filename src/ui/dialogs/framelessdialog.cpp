@@ -12,6 +12,24 @@ FramelessDialog::FramelessDialog(QWidget *parent)
 {
 }
 
+void FramelessDialog::stayWith(QWidget *page)
+{
+    m_page = page;
+    page->installEventFilter(this);
+}
+
+bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_page && event->type() == QEvent::Hide && isVisible()) {
+        hide();
+        m_comesBack = true;
+    } else if (watched == m_page && event->type() == QEvent::Show && m_comesBack) {
+        m_comesBack = false;
+        show();
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
 bool FramelessDialog::isDragArea(QPoint) const
 {
     return true;

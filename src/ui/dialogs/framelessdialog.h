@@ -3,6 +3,7 @@
 #include "windowdrag.h"
 
 #include <QDialog>
+#include <QPointer>
 
 /// A dialog that draws its own frame: opens over the middle of its parent's window and is moved
 /// with the mouse.
@@ -13,7 +14,12 @@ class FramelessDialog : public QDialog
 public:
     explicit FramelessDialog(QWidget *parent = nullptr);
 
+    /// From now on the dialog is hidden while @p page is, and comes back with it unless it has been
+    /// closed: it does not lie over other pages.
+    void stayWith(QWidget *page);
+
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     /// Where a press starts to move the dialog; everywhere unless a subclass says otherwise.
     [[nodiscard]] virtual bool isDragArea(QPoint position) const;
 
@@ -30,4 +36,6 @@ protected:
 
 private:
     WindowDrag m_drag{this};
+    QPointer<QWidget> m_page;
+    bool m_comesBack = false; ///< it is hidden for the page's sake alone
 };

@@ -286,12 +286,14 @@ void BasePage::deliverLateSignals()
 
 ProgressDialog *BasePage::openProgressDialog(int mode)
 {
-    m_focus.keep(this, [this] {
+    m_focus.keep(this, [this, mode] {
         m_scanButton->setEnabled(false);
         m_cleanButton->setEnabled(false);
+        setLocked(mode == ProgressDialog::Cleaning);
     });
     closeProgressDialog();
     m_progressDialog = new ProgressDialog(static_cast<ProgressDialog::Mode>(mode), this);
+    m_progressDialog->stayWith(this);
     connect(m_progressDialog, &ProgressDialog::cancelRequested, this, &BasePage::cancelOperation);
     m_progressDialog->show();
     return m_progressDialog;
@@ -371,6 +373,7 @@ QList<ResultWidget *> BasePage::makeResultWidgets(QList<CleanCategory> &categori
 
 void BasePage::insertBar(QWidget *bar)
 {
+    m_bar = bar;
     m_layout->insertWidget(1, bar);
     const auto controls = bar->findChildren<QWidget *>();
     for (QWidget *control : controls) {
@@ -447,14 +450,23 @@ void BasePage::onEngineError(QString error)
 {
     if (m_progressDialog)
         m_progressDialog->showResult(false, error);
+    setLocked(false);
     m_scanButton->setEnabled(true);
     m_cleanButton->setEnabled(isResultShown());
     m_focus.giveBack(m_scanButton);
 }
 
+void BasePage::setLocked(bool locked)
+{
+    m_scrollArea->widget()->setEnabled(!locked);
+    if (m_bar)
+        m_bar->setEnabled(!locked);
+}
+
 void BasePage::letGoOfResult()
 {
     clearResults();
+    setLocked(false);
     m_emptyState->show();
     m_cleanButton->setEnabled(false);
     m_statisticValue->setText(u"--"_s);

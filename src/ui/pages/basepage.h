@@ -19,7 +19,7 @@ class QVBoxLayout;
 ///
 /// GUI thread. The result widgets are bound to the records inside the engine's result: they are
 /// made when a scan has finished and deleted when a scan starts, whoever starts it, since the
-/// engine then drops the records.
+/// engine then drops the records. From the start of a clean to its end they are locked.
 class BasePage : public QWidget
 {
     Q_OBJECT
@@ -88,6 +88,8 @@ protected:
 
 private:
     void letGoOfResult();
+    /// While a clean runs, the ticks on the screen mean nothing any more.
+    void setLocked(bool locked);
     void deliverLateSignals();
     void closeProgressDialog();
     void orderFocus() const;
@@ -110,6 +112,7 @@ private:
     QPushButton *m_cleanButton = nullptr;
     QList<ResultWidget *> m_resultWidgets;
     FocusKeeper m_focus;
-    QWidget *m_lastOfBar = nullptr; ///< to take the focus above the list
+    QWidget *m_bar = nullptr; ///< above the list, if a subclass has one
+    QWidget *m_lastOfBar = nullptr; ///< of it to take the focus
     QPointer<ProgressDialog> m_progressDialog;
 };

@@ -80,7 +80,18 @@ void BrowserPage::buildSelectionBar()
 
 void BrowserPage::onBrowserToggled(bool checked)
 {
-    m_cleaner->setBrowserEnabled(sender()->property("browserType").toInt(), checked);
+    const int type = sender()->property("browserType").toInt();
+    m_cleaner->setBrowserEnabled(type, checked);
+    // Who leaves a browser out means what is listed of it as well.
+    includeBrowser(type, checked);
+}
+
+void BrowserPage::includeBrowser(int type, bool included)
+{
+    for (const Browser &browser : m_cleaner->browsers()) {
+        if (browser.type == type && m_groups.value(browser.id))
+            m_groups.value(browser.id)->setIncluded(included);
+    }
 }
 
 void BrowserPage::retranslateUi()
@@ -97,6 +108,7 @@ void BrowserPage::retranslateUi()
 QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categories,
                                                      QWidget *parent)
 {
+    m_groups.clear();
     std::array<BrowserGroupWidget *, browserIds.size() + 1> groups{};
     for (CleanCategory &category : categories) {
         const std::size_t browser = browserOf(category);
@@ -105,8 +117,15 @@ QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categ
             const QString name =
                 browser < browserIds.size() ? displayName(browserIds.at(browser)) : tr("Other");
             group = new BrowserGroupWidget(name, parent);
+            if (browser < browserIds.size())
+                m_groups.insert(browserIds.at(browser), group);
         }
         group->addCategory(&category);
+    }
+    // One may have been left out while the scan ran.
+    for (const QCheckBox *box : std::as_const(m_browserBoxes)) {
+        if (!box->isChecked())
+            includeBrowser(box->property("browserType").toInt(), false);
     }
     QList<ResultWidget *> widgets;
     std::copy_if(groups.begin(), groups.end(), std::back_inserter(widgets),

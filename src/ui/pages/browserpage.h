@@ -2,14 +2,17 @@
 
 #include "basepage.h"
 
+#include <QHash>
 #include <QList>
+#include <QPointer>
 
 class BrowserCleaner;
+class BrowserGroupWidget;
 class QCheckBox;
 class QLabel;
 
-/// The page of the browser cleaner: a bar that chooses the browsers to scan, and the results by
-/// browser.
+/// The page of the browser cleaner: a bar that chooses the browsers to scan and to clean, and the
+/// results by browser.
 class BrowserPage final : public BasePage
 {
     Q_OBJECT
@@ -26,8 +29,10 @@ protected:
 private:
     void buildSelectionBar();
     void onBrowserToggled(bool checked);
+    void includeBrowser(int type, bool included);
 
     BrowserCleaner *m_cleaner;
     QLabel *m_selectLabel = nullptr;
     QList<QCheckBox *> m_browserBoxes;
+    QHash<QString, QPointer<BrowserGroupWidget>> m_groups; ///< by the browser's id
 };

@@ -144,6 +144,7 @@ void LargeFilePage::onScanStarted()
     m_model.setFiles({});
     updateSelectedInfo();
     m_dialog = new ScanProgressDialog(this);
+    m_dialog->stayWith(this);
     connect(m_dialog, &ScanProgressDialog::cancelRequested, this, &LargeFilePage::onCancelScan);
     m_dialog->show();
 }
@@ -283,6 +284,7 @@ void LargeFilePage::startDeletion(Deletion kind, const QList<int> &rows)
 void LargeFilePage::showDeletion()
 {
     m_deletionDialog = new ProgressDialog(ProgressDialog::Cleaning, this);
+    m_deletionDialog->stayWith(this);
     connect(m_deletionDialog, &ProgressDialog::cancelRequested, &m_scanner,
             &LargeFileScanner::cancelDelete);
     m_deletionDialog->show();

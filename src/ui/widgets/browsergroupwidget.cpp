@@ -112,6 +112,15 @@ void BrowserGroupWidget::addCategory(CleanCategory *category)
     showCount();
 }
 
+void BrowserGroupWidget::setIncluded(bool included)
+{
+    for (BrowserSubItem *subItem : std::as_const(m_subItems))
+        subItem->setIncluded(included);
+    m_checkBox->setEnabled(included);
+    showCheckState();
+    Q_EMIT selectionChanged();
+}
+
 void BrowserGroupWidget::setShowSizes(bool show)
 {
     m_showSizes = show;

@@ -24,6 +24,8 @@ public:
 
     /// Appends a row for @p category, a record of the engine's result.
     void addCategory(CleanCategory *category);
+    /// Takes all that is shown out of every clean, or puts it back as it was.
+    void setIncluded(bool included);
     [[nodiscard]] qsizetype subItemCount() const { return m_subItems.size(); }
 
     [[nodiscard]] QList<QWidget *> focusChain() const override;

@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -106,6 +108,18 @@ Qt::CheckState BrowserSubItem::checkState() const
 void BrowserSubItem::setChecked(bool checked)
 {
     m_category->setChecked(checked);
+    showCheckState();
+}
+
+void BrowserSubItem::setIncluded(bool included)
+{
+    if (std::exchange(m_isIncluded, included) == included)
+        return;
+    // The items keep their own ticks: without the category's they count for nothing.
+    if (!included)
+        m_wasChecked = m_category->checked;
+    m_category->checked = included && m_wasChecked;
+    m_checkBox->setEnabled(included);
     showCheckState();
 }
 

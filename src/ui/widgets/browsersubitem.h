@@ -24,6 +24,9 @@ public:
     [[nodiscard]] Qt::CheckState checkState() const;
     /// Ticks or unticks the record with all its items, without a signal.
     void setChecked(bool checked);
+    /// Takes the category out of every clean, or puts it back with the ticks that it had. Taken
+    /// out, it cannot be ticked.
+    void setIncluded(bool included);
     void setShowSizes(bool show);
     [[nodiscard]] QList<QWidget *> focusChain() const;
 
@@ -39,6 +42,8 @@ private:
     void showCheckState();
 
     CleanCategory *m_category;
+    bool m_isIncluded = true;
+    bool m_wasChecked = false; ///< before it was taken out
     QCheckBox *m_checkBox;
     QLabel *m_size;
     QPushButton *m_detailsButton;

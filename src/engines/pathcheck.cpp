@@ -32,13 +32,6 @@ bool isSeparator(QChar c)
     return c == u'\\' || c == u'/';
 }
 
-// Below its drive; not what lies in the folder that is current on the drive.
-bool isOnDrive(const QString &path)
-{
-    return path.size() >= 3 && path.at(0).unicode() < 0x80 && path.at(0).isLetter()
-        && path.at(1) == u':' && isSeparator(path.at(2));
-}
-
 // The system knows many files by names that no listing has: the short form of a long name, and any
 // name with blanks and dots at its end. A slash may well begin the arguments of a program.
 bool hasOtherName(const QString &path)
@@ -60,7 +53,7 @@ PathCheck::PathCheck()
     for (const auto &[placeholder, variable] : placeholderVariables)
         m_placeholders.emplaceBack(placeholder, platform::windowsVariable(variable));
     const QString windows = platform::windowsVariable(u"WINDIR"_s).value_or(QString());
-    if (isOnDrive(windows)) {
+    if (platform::isOnDrive(windows)) {
         for (const QLatin1StringView folder : {"\\System32\\"_L1, "\\SysWOW64\\"_L1, "\\"_L1})
             m_systemFolders.append(windows + folder);
     }
@@ -86,9 +79,9 @@ bool PathCheck::exists(const QString &text)
         return true;
     if (path.isEmpty())
         return false;
-    if (path.startsWith("\\\\?\\"_L1) && isOnDrive(path.mid(4)))
+    if (path.startsWith("\\\\?\\"_L1) && platform::isOnDrive(path.mid(4)))
         path.remove(0, 4);
-    if (isOnDrive(path))
+    if (platform::isOnDrive(path))
         return existsOnDrive(path) || hasOtherName(path);
     // Of the current drive, of another machine, or of the system's own names for things: nobody
     // here can tell.

@@ -19,9 +19,15 @@ namespace {
 
 const QString runKey = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
 
+// A name alone is none that we could find: it would be looked for in our own current folder.
+bool isWhole(const QString &windowsPath)
+{
+    return platform::isOnDrive(windowsPath) || windowsPath.startsWith("\\\\"_L1);
+}
+
 bool fileExists(const QString &windowsPath)
 {
-    return QFileInfo(platform::localPath(windowsPath)).isFile();
+    return isWhole(windowsPath) && QFileInfo(platform::localPath(windowsPath)).isFile();
 }
 
 // Parts of the system that nobody starts.
@@ -168,7 +174,7 @@ void StartupManager::readUninstallKey(const Registry &registry, Hive hive, const
 
 QString StartupManager::findExecutable(const QString &folder, const QString &name)
 {
-    if (folder.isEmpty())
+    if (!isWhole(folder))
         return {};
     const QString local = QFileInfo(platform::localPath(folder)).canonicalFilePath();
     if (local.isEmpty() || !QFileInfo(local).isDir())

@@ -14,6 +14,13 @@ namespace platform {
 /// does not exist keeps its name.
 [[nodiscard]] QString localPath(const QString &path);
 
+/// Whether @p path begins with a drive and a separator. All others depend on what is current.
+[[nodiscard]] inline bool isOnDrive(const QString &path)
+{
+    return path.size() >= 3 && path.at(0).unicode() < 0x80 && path.at(0).isLetter()
+        && path.at(1) == u':' && (path.at(2) == u'\\' || path.at(2) == u'/');
+}
+
 /// The environment variable @p name, in capitals, as a Windows program sees it; empty when unset.
 /// With a Wine prefix only the prefix is asked, whatever is set here: nothing when it does not
 /// tell.

@@ -5,6 +5,7 @@
 #include "registryfixture.h"
 #include "registrysettings.h"
 #include "testhome.h"
+#include "testtree.h"
 
 #include <QDir>
 #include <QFile>
@@ -181,6 +182,32 @@ private Q_SLOTS:
         QVERIFY(StartupManager::findExecutable({}, u"x"_s).isEmpty());
         QVERIFY(StartupManager::findExecutable(u"C:\\Sweepwise Missing"_s, u"x"_s).isEmpty());
         QVERIFY(StartupManager::findExecutable(existing(u"file.exe"_s), u"x"_s).isEmpty());
+    }
+
+    // What is no whole path would be looked for wherever this program was started.
+    void namesAreNotLookedUpInTheCurrentFolder()
+    {
+        const TestTree tree;
+        tree.file(u"here.exe --x"_s);
+        tree.file(u"here.exe"_s);
+        tree.file(u"folder/here.exe"_s);
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(tree.path()));
+        product(userList, u"icon"_s, u"Icon"_s, u"here.exe"_s);
+        const QString key = userList + "Sweepwise folder"_L1;
+        m_fixture->addText(key, u"DisplayName"_s, u"Folder"_s);
+        m_fixture->addText(key, u"InstallLocation"_s, u"folder"_s);
+        m_fixture->write();
+        StartupManager manager;
+        const auto found = own(manager).size();
+        const QString program = StartupManager::commandPath(u"here.exe --x"_s);
+        const QString inFolder = StartupManager::findExecutable(u"folder"_s, u"here"_s);
+        const QString inThis = StartupManager::findExecutable(u"."_s, u"here"_s);
+        QVERIFY(QDir::setCurrent(before));
+        QCOMPARE(found, 0);
+        QCOMPARE(program, u"here.exe"_s);
+        QVERIFY(inFolder.isEmpty());
+        QVERIFY(inThis.isEmpty());
     }
 
     void theProgramOfACommand_data()

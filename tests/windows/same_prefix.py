@@ -54,8 +54,16 @@ def fill():
     (temp / "empty").mkdir(parents=True)
     (temp / "link").symlink_to("/etc")
     write(temp / ".hidden.tmp", 9)
+    # Hidden and system files and folders, which the server keeps in an attribute; one was shown again.
+    for name, value in (("hidden.tmp", b"0x2"), ("system.tmp", b"0x4"), ("shown again.tmp", b"0x0")):
+        write(temp / "marked" / name, 50)
+        os.setxattr(temp / "marked" / name, "user.DOSATTRIB", value)
+    write(temp / "marked" / "hidden folder" / "inside.tmp", 60)
+    os.setxattr(temp / "marked" / "hidden folder", "user.DOSATTRIB", b"0x2")
     for i in range(7):
         write(windows / "Prefetch" / f"APP{i}.PF", 10 + i)
+    write(windows / "Prefetch" / "HIDDEN.PF", 1)
+    os.setxattr(windows / "Prefetch" / "HIDDEN.PF", "user.DOSATTRIB", b"0x26")
     write(windows / "Prefetch" / "sub" / "not.pf", 1)
     for i in range(5):
         write(windows / "Logs" / "CBS" / f"cbs{i}.LOG", 20 + i)
@@ -66,7 +74,7 @@ def fill():
     write(user / "AppData" / "Roaming" / "Norvak" / "Tencent" / "Logs" / "t.txt", 3)
     write(drive / "ProgramData" / "Microsoft" / "Windows" / "WER" / "r" / "Report.wer", 8)
     write(drive / "Windows.old" / "x.dll", 6)
-    return {"temp_files": len(names) + 1, "prefetch": 7, "log_files": 10, "memory_dumps": 2, "directx_cache": 6,
+    return {"temp_files": len(names) + 2, "prefetch": 7, "log_files": 10, "memory_dumps": 2, "directx_cache": 6,
             "tencent_logs": 1, "windows_old": 1, "error_reports": 1}
 
 
@@ -133,11 +141,29 @@ def fill_registry():
         file.flush()
         subprocess.run(["wine", "reg", "import", "Z:" + file.name.replace("/", "\\")], check=True, stdin=subprocess.DEVNULL,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    # What the native build reads is the files, which the server writes when it ends.
-    subprocess.run(["wineserver", "-k"], check=False)
-    subprocess.run(["wineserver", "-w"], check=True)
+    stop_server()
     return {"invalid_software": 4, "invalid_file_assoc": 2, "invalid_com": 4, "invalid_fonts": 5, "invalid_startup": 4,
             "invalid_shared_dll": 2, "mui_cache": 2}
+
+
+def set_temporary_folder(path):
+    """For the programs of the prefix, in its registry, which is on the disk then."""
+    for name in ("TMP", "TEMP"):
+        subprocess.run(["wine", "reg", "add", "HKCU\\Environment", "/v", name, "/t", "REG_EXPAND_SZ", "/d", path, "/f"],
+                       check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    stop_server()
+
+
+def stop_server():
+    """What the native build reads is the files, which the server writes when it ends."""
+    subprocess.run(["wineserver", "-k"], check=False)
+    subprocess.run(["wineserver", "-w"], check=True)
+
+
+def start_server():
+    """The first Windows program of a server starts services that keep its output open."""
+    subprocess.run(["wine", "cmd", "/c", "exit"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                   stderr=subprocess.DEVNULL, check=False)
 
 
 def scan(command, engine, environment):
@@ -180,9 +206,8 @@ def main():
     native = items(scan([native_cli], "junk", plain), lambda path: path)
     native_browsers = items(scan([native_cli], "browser", plain), lambda path: path)
     native_entries = entries(scan([native_cli], "registry", plain))
-    # The first Windows program of a server starts services that keep its output open.
-    subprocess.run(["wine", "cmd", "/c", "exit"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                   stderr=subprocess.DEVNULL, check=False)
+    start_server()
+
     def local_path(path):
         return str(drive) + path[2:] if path[1] == ":" else path
 
@@ -191,7 +216,37 @@ def main():
     foreign_entries = entries(scan(["wine", windows_cli], "registry", plain))
     same = compare("junk", native, foreign, expected)
     same = compare("browser", native_browsers, foreign_browsers, expected_browsers) and same
-    return 0 if compare("registry", native_entries, foreign_entries, expected_entries) and same else 1
+    same = compare("registry", native_entries, foreign_entries, expected_entries) and same
+
+    def compare_junk(what, expected):
+        native = items(scan([native_cli], "junk", plain), lambda path: path)
+        start_server()
+        foreign = items(scan(["wine", windows_cli], "junk", plain), local_path)
+        return compare(what, native, foreign, expected), native
+
+    # The temporary folder named in other case than the disk has it.
+    set_temporary_folder("%USERPROFILE%\\appdata\\LOCAL\\temp")
+    answer, again = compare_junk("junk, temporary folder in other case", expected)
+    if again != native:
+        print("the case of the temporary folder's name makes a difference")
+    same = answer and again == native and same
+
+    # The temporary folder is a whole drive: nothing of it is listed, by either.
+    with tempfile.TemporaryDirectory() as disk:
+        letter = drive.parent / "dosdevices" / "d:"
+        letter.symlink_to(disk)
+        photographs = pathlib.Path(disk).resolve() / "photographs"
+        photographs.mkdir()
+        (photographs / "one.jpg").write_bytes(b"x")
+        set_temporary_folder("D:\\")
+        answer, on_drive = compare_junk("junk, temporary folder is a drive", {"prefetch": 7})
+        lost = [path for _, path, _ in on_drive if "photographs" in path]
+        if lost:
+            print(f"would be deleted: {lost}")
+        same = answer and not lost and same
+        set_temporary_folder("%USERPROFILE%\\AppData\\Local\\Temp")
+        letter.unlink()
+    return 0 if same else 1
 
 
 sys.exit(main())

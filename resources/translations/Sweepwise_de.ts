@@ -136,6 +136,10 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>Enthält einen Teil einer Datenbank: Beim Löschen gehen Daten verloren, die der Browser, Websites oder Erweiterungen gespeichert haben</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>Gehört zu einer Erweiterung, die ohne alle ihre Dateien nicht funktioniert</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

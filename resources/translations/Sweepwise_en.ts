@@ -129,6 +129,10 @@ This action cannot be undone!</translation>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>Holds part of a database: removing it loses data saved by the browser, websites or extensions</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>Belongs to an extension, which does not work without all its files</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

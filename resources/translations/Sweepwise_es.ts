@@ -134,6 +134,10 @@ Esta acción no se puede deshacer.</translation>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>Contiene parte de una base de datos: si se elimina, se pierden datos guardados por el navegador, los sitios web o las extensiones</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>Pertenece a una extensión, que no funciona si le falta algún archivo</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

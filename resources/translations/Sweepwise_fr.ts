@@ -136,6 +136,10 @@ Cette action est irréversible&#xa0;!</translation>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>Contient une partie d’une base de données&#xa0;: sa suppression entraîne la perte de données enregistrées par le navigateur, des sites web ou des extensions</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>Fait partie d’une extension, qui ne fonctionne pas s’il lui manque un fichier</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

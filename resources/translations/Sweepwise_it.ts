@@ -135,6 +135,10 @@ L&apos;operazione non può essere annullata.</translation>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>Contiene parte di un database: l&apos;eliminazione comporta la perdita di dati salvati dal browser, dai siti Web o dalle estensioni</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>Fa parte di un&apos;estensione, che non funziona senza tutti i suoi file</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

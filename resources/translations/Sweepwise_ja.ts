@@ -136,6 +136,10 @@ This action cannot be undone!</source>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>データベースの一部が含まれています。削除すると、ブラウザー、Web サイト、拡張機能が保存したデータが失われます</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>拡張機能の一部です。すべてのファイルが揃っていないと拡張機能は動作しません</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -135,6 +135,10 @@ This action cannot be undone!</source>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>데이터베이스의 일부가 들어 있습니다. 삭제하면 브라우저, 웹사이트 또는 확장 프로그램이 저장한 데이터가 손실됩니다</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>확장 프로그램의 일부입니다. 파일이 모두 있어야 확장 프로그램이 작동합니다</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -135,6 +135,10 @@ Dit kan niet ongedaan worden gemaakt!</translation>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>Bevat een deel van een database: bij verwijderen gaan gegevens verloren die de browser, websites of extensies hebben opgeslagen</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>Hoort bij een extensie, die zonder al haar bestanden niet werkt</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

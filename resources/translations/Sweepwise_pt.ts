@@ -135,6 +135,10 @@ Esta ação não pode ser anulada!</translation>
         <source>Holds part of a database: removing it loses data saved by the browser, websites or extensions</source>
         <translation>Contém parte de uma base de dados: a eliminação implica a perda de dados guardados pelo browser, por sites ou por extensões</translation>
     </message>
+    <message>
+        <source>Belongs to an extension, which does not work without all its files</source>
+        <translation>Pertence a uma extensão, que não funciona sem todos os seus ficheiros</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>

@@ -16,23 +16,47 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whether a folder with these entries is a database of the kind that browsers keep by the dozen
-/// in a profile. It consists of a file that names the current list of its parts, the lists and the
-/// parts. One of those, named like "000003.log", is no log but holds what was written last, which
-/// in a small database is all there is.
-bool isDatabase(const std::vector<platform::ListedEntry> &entries)
+/// What makes the entries of a folder one thing, of which a part cannot be removed without harm to
+/// the rest.
+enum class Unit {
+    None,
+    /// Browsers keep dozens of this kind in a profile. It consists of a file that names the current
+    /// list of its parts, the lists and the parts. One of those, named like "000003.log", is no log
+    /// but holds what was written last, which in a small database is all there is.
+    Database,
+    /// The files of an extension, as they were installed.
+    Extension,
+};
+
+Unit unitOf(const std::vector<platform::ListedEntry> &entries)
 {
     const auto has = [&entries](auto matches) {
         return std::any_of(
             entries.begin(), entries.end(),
             [&matches](const platform::ListedEntry &entry) { return matches(entry.name); });
     };
-    return has([](const QString &name) {
-               return name.compare("CURRENT"_L1, Qt::CaseInsensitive) == 0;
-           })
-        && has([](const QString &name) {
-               return name.startsWith("MANIFEST-"_L1, Qt::CaseInsensitive);
-           });
+    const auto isCalled = [](QLatin1StringView wanted) {
+        return [wanted](const QString &name) {
+            return name.compare(wanted, Qt::CaseInsensitive) == 0;
+        };
+    };
+    const auto isList = [](const QString &name) {
+        return name.startsWith("MANIFEST-"_L1, Qt::CaseInsensitive);
+    };
+    if (has(isCalled("CURRENT"_L1)) && has(isList))
+        return Unit::Database;
+    return has(isCalled("manifest.json"_L1)) ? Unit::Extension : Unit::None;
+}
+
+QString warningOf(Unit unit)
+{
+    return unit == Unit::Extension
+        ? QCoreApplication::translate(
+            "BrowserCleaner", "Belongs to an extension, which does not work without all its files")
+        : QCoreApplication::translate(
+            "BrowserCleaner",
+            "Holds part of a database: removing it loses data saved by the browser, websites or "
+            "extensions");
 }
 
 } // namespace
@@ -40,9 +64,9 @@ bool isDatabase(const std::vector<platform::ListedEntry> &entries)
 /// Hands each entry of a walk to the rules whose folder it is below. The folders of rules that the
 /// walk comes through are taken from the ones still to be walked.
 ///
-/// What lies in a database, and a folder that holds one, is only offered by a rule that looks for
-/// names in the whole profile and knows nothing of the database: it starts unticked. A rule with a
-/// folder of its own means what is in there.
+/// What lies in a database or an extension, and a folder that holds one, is only offered by a rule
+/// that looks for names in the whole profile and knows nothing of them: it starts unticked. A rule
+/// with a folder of its own means what is in there.
 class ChromiumScan::Visitor final : public platform::EntryVisitor
 {
 public:
@@ -57,18 +81,19 @@ public:
 
     void read(const std::vector<platform::ListedEntry> &entries, bool isShown) override
     {
-        if (!isDatabase(entries))
+        const Unit unit = unitOf(entries);
+        if (unit == Unit::None)
             return;
         for (const OpenFolder &folder : m_open) {
             for (const auto &[rule, item] : folder.items)
-                guard(rule, m_found[rule][item]);
+                guard(rule, m_found[rule][item], unit);
         }
         // In a hidden folder there is nothing to offer.
         if (!isShown)
             return;
-        ++m_openDatabases;
+        m_units.push_back(unit);
         if (!m_open.empty())
-            m_open.back().isDatabase = true;
+            m_open.back().isUnit = true;
     }
 
     void found(platform::WalkedEntry &&entry) override
@@ -92,8 +117,8 @@ public:
         const OpenFolder folder = std::move(m_open.back());
         m_open.pop_back();
         m_active.resize(folder.activeOutside);
-        if (folder.isDatabase)
-            --m_openDatabases;
+        if (folder.isUnit)
+            m_units.pop_back();
         for (const auto &[rule, item] : folder.items)
             m_found[rule][item].size = size;
         if (wasRead)
@@ -105,7 +130,7 @@ private:
         QString path;
         std::size_t activeOutside; ///< how many rules take from around the folder
         std::vector<std::pair<std::size_t, qsizetype>> items; ///< that the folder itself became
-        bool isDatabase;
+        bool isUnit;
     };
 
     void add(std::size_t index, const platform::WalkedEntry &entry)
@@ -115,17 +140,19 @@ private:
         item.checked = rule.defaultChecked;
         item.riskLevel = rule.riskLevel;
         item.isDirectory = entry.isFolder;
-        if (m_openDatabases > 0)
-            guard(index, item);
+        for (const Unit unit : m_units)
+            guard(index, item, unit);
     }
 
-    void guard(std::size_t index, CleanItem &item) const
+    void guard(std::size_t index, CleanItem &item, Unit unit) const
     {
         if (!m_scan.m_rules.at(static_cast<qsizetype>(index)).subPath.isEmpty())
             return;
         item.checked = false;
         item.riskLevel = HighRisk;
-        item.description = m_warning;
+        // Lost data are the worse of the two.
+        if (item.description.isEmpty() || unit == Unit::Database)
+            item.description = warningOf(unit);
     }
 
     const ChromiumScan &m_scan;
@@ -133,11 +160,7 @@ private:
     RulesByFolder &m_remaining;
     ItemsByRule &m_found;
     std::vector<OpenFolder> m_open; ///< the way down to the current folder
-    int m_openDatabases = 0; ///< on that way, the root included
-    const QString m_warning = QCoreApplication::translate(
-        "BrowserCleaner",
-        "Holds part of a database: removing it loses data saved by the browser, websites or "
-        "extensions");
+    std::vector<Unit> m_units; ///< on that way, the root included
 };
 
 ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, const std::atomic_bool &stopRequested)

@@ -27,12 +27,18 @@ bool isDatabase(const QString &folder)
         && !dir.entryList({u"MANIFEST-*"_s}, filters).isEmpty();
 }
 
-/// Whether @p path lies in a database somewhere below @p profile, or is or holds one.
-bool touchesDatabase(const QString &path, const QString &profile)
+bool isExtension(const QString &folder)
+{
+    const auto filters = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    return !QDir(folder).entryList({u"manifest.json"_s}, filters).isEmpty();
+}
+
+/// Whether @p path lies in such a folder somewhere below @p profile, or is or holds one.
+bool touches(bool (*isMeant)(const QString &), const QString &path, const QString &profile)
 {
     for (QString folder = QFileInfo(path).path(); folder.size() >= profile.size();
          folder = QFileInfo(folder).path()) {
-        if (isDatabase(folder))
+        if (isMeant(folder))
             return true;
     }
     if (!QFileInfo(path).isDir())
@@ -40,10 +46,10 @@ bool touchesDatabase(const QString &path, const QString &profile)
     QDirIterator it(path, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
                     QDirIterator::Subdirectories);
     while (it.hasNext()) {
-        if (isDatabase(it.next()))
+        if (isMeant(it.next()))
             return true;
     }
-    return isDatabase(path);
+    return isMeant(path);
 }
 
 void add(CleanCategory &category, const QFileInfo &info, const BrowserRule &rule)
@@ -69,13 +75,15 @@ void scanChromiumProfile(const QString &profile, const BrowserRule &rule, CleanC
         if (!rule.subPath.isEmpty())
             continue;
         CleanItem &item = category.items.last();
-        if (!touchesDatabase(item.path, profile))
+        const bool isOfDatabase = touches(isDatabase, item.path, profile);
+        if (!isOfDatabase && !touches(isExtension, item.path, profile))
             continue;
         item.checked = false;
         item.riskLevel = HighRisk;
-        item.description =
-            u"Holds part of a database: removing it loses data saved by the browser, "
-            "websites or extensions"_s;
+        item.description = isOfDatabase
+            ? u"Holds part of a database: removing it loses data saved by the browser, "
+              "websites or extensions"_s
+            : u"Belongs to an extension, which does not work without all its files"_s;
     }
 }
 

@@ -104,7 +104,8 @@ QStringList held(const ScanResult &result, const QString &id, const QString &roo
         const bool isHeld = !item.checked;
         if (isHeld)
             list.append(item.path.mid(root.size() + 1));
-        const bool isWarned = item.description.startsWith("Holds part of a database: "_L1);
+        const bool isWarned = item.description.startsWith("Holds part of a database: "_L1)
+            || item.description.startsWith("Belongs to an extension, "_L1);
         if (isWarned != isHeld || (isHeld ? item.riskLevel != HighRisk : item.riskLevel != LowRisk))
             list.append("wrongly described: "_L1 + item.path);
     }
@@ -492,6 +493,36 @@ private Q_SLOTS:
         const CleanCategory &favicons = *find(cleaner.result(), u"google_chrome_favicons"_s);
         QVERIFY(favicons.checked);
         QCOMPARE(favicons.checkState(), Qt::Unchecked);
+    }
+
+    // The files of an extension are what was installed, whatever their names.
+    void whatANameHitsInAnExtensionStartsUnticked()
+    {
+        const TestTree tree;
+        const QString profile = chromeProfile();
+        const QString package = profile + "/Extensions/abcdef/1.0_0"_L1;
+        tree.file(package + "/manifest.json"_L1);
+        tree.file(package + "/update.log"_L1);
+        tree.file(package + "/icons/Favicons/16.png"_L1);
+        makeDatabase(tree, package + "/db"_L1);
+        tree.file(profile + "/whole.log/2.0_0/MANIFEST.JSON"_L1);
+        tree.file(profile + "/Extensions/left.log"_L1);
+        // A list of parts is no manifest.
+        tree.file(profile + "/Other/manifest-json"_L1);
+        tree.file(profile + "/Other/a.log"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const QString root = tree.path(profile);
+        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, root),
+                 (QStringList{u"Extensions/abcdef/1.0_0/db/000003.log"_s,
+                              u"Extensions/abcdef/1.0_0/update.log"_s, u"whole.log"_s}));
+        QCOMPARE(held(cleaner.result(), u"google_chrome_favicons"_s, root),
+                 QStringList{u"Extensions/abcdef/1.0_0/icons/Favicons"_s});
+        QCOMPARE(find(cleaner.result(), u"google_chrome_logs"_s)->items.size(), 5);
+        for (const CleanItem &item : find(cleaner.result(), u"google_chrome_logs"_s)->items)
+            QCOMPARE(item.description.startsWith("Holds part of a database: "_L1),
+                     item.path.contains("/db/"_L1));
     }
 
     void aProfileThatIsADatabaseKeepsWhatNamesHit()

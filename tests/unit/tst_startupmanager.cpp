@@ -322,8 +322,9 @@ private Q_SLOTS:
         const LogCapture log;
         QVERIFY(manager.setStartup(own(manager).constFirst(), false));
         QVERIFY(!own(manager).constFirst().isStartup);
-        for (const QString &name : {u"Sweepwise one"_s, u"Sweepwise two"_s, QString()})
+        for (const QString &name : {u"Sweepwise one"_s, u"Sweepwise two"_s})
             QVERIFY2(!m_fixture->hasValue(runKey, name), qPrintable(name));
+        QVERIFY(!platform::Registry().value(Hive::CurrentUser, runPath, {}));
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise other"_s));
         QVERIFY(!own(manager).constFirst().isStartup);
         // The arguments are not lost.

@@ -28,7 +28,9 @@ public:
     /// is not shown any more.
     void giveBack(QWidget *otherwise)
     {
-        QWidget *target = m_control && !m_control->isEnabled() ? otherwise : m_control.data();
+        QWidget *target = m_control;
+        if (target && !target->isEnabled())
+            target = otherwise;
         if (target && target->isVisible() && target->window()->focusWidget() == m_stray)
             target->setFocus();
         m_control.clear();

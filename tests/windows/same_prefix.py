@@ -25,16 +25,19 @@ def output_of(command, environment=None):
         return output.read().decode()
 
 
-def folder(variable):
-    """Where the prefix's own programs have it."""
-    answer = output_of(["wine", "cmd", "/c", f"echo %{variable}%"]).strip()
-    return drive / answer[3:].replace("\\", "/")
+def variable(name):
+    """As the prefix's own programs have it."""
+    return output_of(["wine", "cmd", "/c", f"echo %{name}%"]).strip()
+
+
+def folder(name):
+    return drive / variable(name)[3:].replace("\\", "/")
 
 
 user = folder("USERPROFILE")
 local = user / "AppData" / "Local"
 windows = drive / "windows"
-
+temporary = variable("TEMP")
 
 
 def fill():
@@ -225,7 +228,7 @@ def main():
         return compare(what, native, foreign, expected), native
 
     # The temporary folder named in other case than the disk has it.
-    set_temporary_folder("%USERPROFILE%\\appdata\\LOCAL\\temp")
+    set_temporary_folder(temporary[:3] + temporary[3:].swapcase())
     answer, again = compare_junk("junk, temporary folder in other case", expected)
     if again != native:
         print("the case of the temporary folder's name makes a difference")
@@ -240,11 +243,11 @@ def main():
         (photographs / "one.jpg").write_bytes(b"x")
         set_temporary_folder("D:\\")
         answer, on_drive = compare_junk("junk, temporary folder is a drive", {"prefetch": 7})
-        lost = [path for _, path, _ in on_drive if "photographs" in path]
+        lost = [item[1] for item in on_drive if "photographs" in item[1]]
         if lost:
             print(f"would be deleted: {lost}")
         same = answer and not lost and same
-        set_temporary_folder("%USERPROFILE%\\AppData\\Local\\Temp")
+        set_temporary_folder(temporary)
         letter.unlink()
     return 0 if same else 1
 

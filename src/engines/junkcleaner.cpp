@@ -111,14 +111,19 @@ void JunkCleaner::loadRules(const QString &path)
 QString JunkCleaner::expandPath(const QString &text)
 {
     QString path = text;
-    path.replace("%TEMP%"_L1, platform::temporaryFolder());
-    path.replace("%LOCALAPPDATA%"_L1, platform::localDataFolder());
-    path.replace("%APPDATA%"_L1, organisationDataFolder());
-    path.replace("%USERPROFILE%"_L1, platform::homeFolder());
-    path.replace("%PROGRAMDATA%"_L1, platform::programDataFolder());
-    path.replace("%WINDIR%"_L1, platform::windowsFolder());
-    path.replace("%SYSTEMROOT%"_L1, platform::windowsFolder());
-    path.replace("%SYSTEMDRIVE%"_L1, platform::systemDrive());
+    // To find some of the folders takes a look into the registry: only for a path that names one.
+    const auto replace = [&path](QLatin1StringView placeholder, QString (*folder)()) {
+        if (path.contains(placeholder))
+            path.replace(placeholder, folder());
+    };
+    replace("%TEMP%"_L1, platform::temporaryFolder);
+    replace("%LOCALAPPDATA%"_L1, platform::localDataFolder);
+    replace("%APPDATA%"_L1, organisationDataFolder);
+    replace("%USERPROFILE%"_L1, platform::homeFolder);
+    replace("%PROGRAMDATA%"_L1, platform::programDataFolder);
+    replace("%WINDIR%"_L1, platform::windowsFolder);
+    replace("%SYSTEMROOT%"_L1, platform::windowsFolder);
+    replace("%SYSTEMDRIVE%"_L1, platform::systemDrive);
     return QDir::toNativeSeparators(path.replace(u'\\', u'/'));
 }
 

@@ -8,6 +8,7 @@
 #include "testtree.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -253,6 +254,29 @@ private Q_SLOTS:
         QCOMPARE(JunkCleaner::expandPath(u"%temp%"_s), u"%temp%"_s);
         QCOMPARE(JunkCleaner::expandPath(u"%FOO%"_s), u"%FOO%"_s);
     }
+
+#ifdef Q_OS_UNIX
+    void aPathThatNamesNoFolderOfTheUserReadsNoRegistry()
+    {
+        QDir prefix(m_home.folder(u"prefix"_s));
+        QVERIFY(prefix.mkpath(u"drive_c"_s));
+        QFile hive(prefix.filePath(u"user.reg"_s));
+        QVERIFY(hive.open(QIODevice::WriteOnly));
+        hive.write(
+            "WINE REGISTRY Version 2\n;; All keys relative to REGISTRY\\\\User\\\\S-1-5-21\n");
+        for (int i = 0; i < 20'000; ++i)
+            hive.write("\n[Software\\\\Key " + QByteArray::number(i) + "] 1\n\"a\"=\"b\"\n");
+        hive.close();
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < 500; ++i)
+            QVERIFY(JunkCleaner::expandPath(u"%WINDIR%\\Logs"_s).endsWith("Logs"_L1));
+        const qint64 elapsed = timer.elapsed();
+        QVERIFY(prefix.removeRecursively());
+        m_home.folder(u"prefix"_s);
+        QVERIFY2(elapsed < 2'000, qPrintable(QString::number(elapsed))); // once takes 20 or more
+    }
+#endif
 
     void programDataIsEmptyWhenUnset()
     {

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScrollArea>
 
 /// What keys do on controls that do not know it themselves.
 
@@ -45,5 +46,17 @@ inline bool enterPressesButton(QWidget *window, const QKeyEvent &event)
     if (!button || !button->isEnabled())
         return false;
     button->click();
+    return true;
+}
+
+/// Scrolls the control of @p window that the focus has just gone to into sight: a scroll area does
+/// that itself only when the focus was in it before. True, for the end of focusNextPrevChild().
+inline bool showFocus(const QWidget *window)
+{
+    QWidget *focus = window->focusWidget();
+    for (QWidget *around = focus; around; around = around->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(around))
+            area->ensureWidgetVisible(focus);
+    }
     return true;
 }

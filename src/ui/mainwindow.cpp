@@ -393,6 +393,11 @@ bool MainWindow::isInside(const QWidget *part, QPoint position) const
     return QRect(part->mapTo(this, QPoint(0, 0)), part->size()).contains(position);
 }
 
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    return QWidget::focusNextPrevChild(next) && showFocus(this);
+}
+
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
     if (!enterPressesButton(this, *event))

@@ -28,6 +28,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTest>
@@ -318,6 +320,54 @@ private Q_SLOTS:
             : meanwhile == "disabled"_L1                    ? &otherwise
                                                             : before;
         QCOMPARE(window.focusWidget(), expected);
+    }
+
+    void theTabulatorKeyShowsWhereItLeads()
+    {
+        for (int i = 0; i < 30; ++i)
+            write(u"%1/file %2.tmp"_s.arg(m_temp, QString::number(i)), 1);
+        auto *page = m_window->findChild<JunkPage *>();
+        m_window->onDashboardNavigate(1);
+        const SignalSpy scanned(page, &BasePage::scanFinished);
+        page->startScan();
+        QVERIFY(scanned.size() == 1 || scanned.wait(patience));
+        activate();
+        page->findChild<CategoryWidget *>()->toggleExpanded();
+        auto *area = page->findChild<QScrollArea *>(u"contentScrollArea"_s);
+        const auto isInSight = [area] {
+            const QWidget *focus = QApplication::focusWidget();
+            return area->widget()->isAncestorOf(focus)
+                && area->viewport()->rect().contains(
+                    focus->mapTo(area->viewport(), focus->rect().center()));
+        };
+        QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+
+        // From above into a list that is scrolled down, and from below into one that is not.
+        area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
+        nav(6)->setFocus();
+        for (int stop = 0; stop < mostStops && !area->isAncestorOf(QApplication::focusWidget());
+             ++stop)
+            QVERIFY(press(Qt::Key_Tab));
+        QVERIFY(isInSight());
+        area->verticalScrollBar()->setValue(0);
+        page->findChild<QPushButton *>(u"scanBtn"_s)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(isInSight());
+    }
+
+    void theTabulatorKeyShowsTheLastRowOfTheDetails()
+    {
+        CleanCategory category(u"temp_files"_s, u"Temporary"_s, {});
+        for (int i = 0; i < 40; ++i)
+            category.items.append(CleanItem(u"a"_s, u"/a%1"_s.arg(i), 1));
+        ItemDetailDialog dialog(&category);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        dialog.findChild<QPushButton *>(u"backBtn"_s)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        const QWidget *focus = QApplication::focusWidget();
+        QCOMPARE(focus->objectName(), u"openLocationBtn"_s);
+        QVERIFY(!focus->visibleRegion().isEmpty());
     }
 
     void arrowsLeadAlongTheNavigation()

@@ -69,6 +69,11 @@ void FramelessDialog::showEvent(QShowEvent *event)
     move(place.topLeft());
 }
 
+bool FramelessDialog::focusNextPrevChild(bool next)
+{
+    return QDialog::focusNextPrevChild(next) && showFocus(this);
+}
+
 void FramelessDialog::keyPressEvent(QKeyEvent *event)
 {
     if (!enterPressesButton(this, *event))

@@ -29,6 +29,7 @@ protected:
     void paintShadowedGround(int radius);
 
     void showEvent(QShowEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

@@ -249,6 +249,10 @@ void MainWindow::switchToPage(int index)
         m_navButtons.at(i)->setChecked(i == index);
     m_currentPage = index;
     m_pageStack->setCurrentIndex(index);
+    // The page may have turned to another view while it was hidden: the control that had its focus
+    // is out of sight then, and the next key would press it.
+    if (const QWidget *focus = focusWidget(); focus && !focus->isVisibleTo(this))
+        m_pageStack->setFocus();
 }
 
 void MainWindow::onNavButtonClicked(int index)

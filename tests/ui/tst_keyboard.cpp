@@ -11,6 +11,7 @@
 #include "junkcleaner.h"
 #include "junkpage.h"
 #include "largefileinfo.h"
+#include "largefilepage.h"
 #include "mainwindow.h"
 #include "navbutton.h"
 #include "progressdialog.h"
@@ -23,6 +24,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QMenu>
@@ -368,6 +370,32 @@ private Q_SLOTS:
         const QWidget *focus = QApplication::focusWidget();
         QCOMPARE(focus->objectName(), u"openLocationBtn"_s);
         QVERIFY(!focus->visibleRegion().isEmpty());
+    }
+
+    void noFocusStaysInAViewThatIsGone()
+    {
+        const QString folder = m_home.folder(u"Big"_s);
+        write(folder + "/large.bin"_L1, 60 * 1'048'576);
+        auto *page = new LargeFilePage({{folder, u"Data"_s, false, 1, 1}}, stack());
+        m_window->onDashboardNavigate(5);
+        auto *old = stack()->widget(5);
+        stack()->insertWidget(5, page);
+        delete old;
+        stack()->setCurrentIndex(5);
+        page->findChild<QCheckBox *>()->setChecked(true);
+        auto *start = page->findChild<QPushButton *>(u"startScanBtn"_s);
+        start->setFocus();
+        page->findChild<QComboBox *>()->setCurrentIndex(0); // 50 MB
+        const SignalSpy scanned(page->scanner(), &LargeFileScanner::scanFinished);
+        page->onStartScan();
+        m_window->onDashboardNavigate(0);
+        QVERIFY(scanned.size() == 1 || scanned.wait(patience));
+        QTRY_VERIFY(!start->isVisibleTo(page));
+        activate();
+
+        m_window->onDashboardNavigate(5);
+        QVERIFY(QApplication::focusWidget());
+        QVERIFY(QApplication::focusWidget()->isVisible());
     }
 
     void arrowsLeadAlongTheNavigation()

@@ -44,6 +44,12 @@ QString nameInFile(const QString &name)
 {
     return name.isEmpty() ? u"@"_s : textInFile(name);
 }
+
+// A quote ends no key.
+QString keyInFile(const QString &key)
+{
+    return textInFile(key).sliced(1).chopped(1).replace("\\\""_L1, "\""_L1);
+}
 #endif
 
 } // namespace
@@ -222,7 +228,7 @@ void RegistryFixture::write()
             path.prepend("Software\\Classes\\"_L1);
         }
         // One section an entry: where a key has several, they add up.
-        QString text = u"\n["_s + escaped(path).replace("\\\""_L1, "\""_L1) + "] 1700000000\n"_L1;
+        QString text = u"\n["_s + keyInFile(path) + "] 1700000000\n"_L1;
         if (!entry.isKeyOnly)
             text += nameInFile(entry.name) + u'=' + entry.fileData + u'\n';
         QFile hiveFile(file(hive));
@@ -243,7 +249,7 @@ QStringList RegistryFixture::exported(const QString &key) const
     QFile hiveFile(file(key.first(separator)));
     if (!hiveFile.open(QIODevice::ReadOnly))
         return {};
-    path = escaped(path).toLower();
+    path = keyInFile(path).toLower();
     QString text = QString::fromUtf8(hiveFile.readAll());
     text.remove("\\\n  "_L1); // a list of bytes on one line
     QStringList lines;

@@ -432,6 +432,26 @@ private Q_SLOTS:
 
     // --- the cards
 
+    void theNextScanLeavesNoFocusOnACardWithoutARow()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 5; ++i)
+            tree.file(u"f%1"_s.arg(i), QByteArray(100 - i, 'x'));
+        LargeFilePage page({drive(tree.path())});
+        show(page);
+        scan(page);
+        page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        find<FileCardList>(page, u"fileCardList"_s)->focusRow(4, Qt::OtherFocusReason);
+        QCOMPARE(QApplication::focusWidget(), cards(page).at(4)->checkBox());
+        click(page, u"backBtn"_s);
+        for (int i = 1; i < 5; ++i)
+            QVERIFY(page.scanner()->deleteFile(tree.path(u"f%1"_s.arg(i))));
+        page.onScanFinished(1, 100); // so soon that its dialog has not taken the focus
+        QCOMPARE(cards(page).size(), 1);
+        QCOMPARE(QApplication::focusWidget(), cards(page).at(0)->checkBox());
+    }
+
     void theBadgeTurnsRedAboveOneGibibyte_data()
     {
         QTest::addColumn<qint64>("size");

@@ -182,6 +182,9 @@ void LargeFilePage::onScanFinished(int totalFound, qint64 totalSize)
     m_model.setFiles(m_scanner.results());
     updateSelectedInfo();
     m_views->setCurrentIndex(1);
+    // The view remembers the card that had its focus before, which may have no row in this list.
+    if (const QWidget *focus = focusWidget(); focus && focus->hasFocus() && !focus->isVisible())
+        m_results->list()->tabStop()->setFocus();
 }
 
 void LargeFilePage::serveCard(FileCard *card)

@@ -1,7 +1,7 @@
 # Sourced by the other scripts: what they need from the distribution, and how it gets there.
 # shellcheck shell=bash disable=SC2034
 
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-private-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev
   qt6-l10n-tools qt6-translations-l10n python3)
 font_packages=(fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji)
 browser_packages=(chromium chromium-driver firefox-esr)

@@ -1,0 +1,133 @@
+#include "diary.h"
+
+#include "text.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What the offscreen platform says of itself, and what follows from there being no file manager.
+bool isHarmless(const QString &message)
+{
+    static const QStringList harmless{
+        u"QObject::connect: No such signal QPlatformNativeInterface::systemTrayWindowChanged(QScreen*)"_s,
+        u"This plugin does not support propagateSizeHints()"_s,
+        u"This plugin does not support raise()"_s,
+        u"This plugin does not support grabbing the keyboard"_s,
+        u"[LargeFilePage] The file manager could not be started"_s,
+    };
+    return harmless.contains(message);
+}
+
+} // namespace
+
+Diary &Diary::instance()
+{
+    // Never destroyed: the toolkit may still have something to say at the very end.
+    static auto *const diary = new Diary;
+    return *diary;
+}
+
+void Diary::open(quint64 seed, const QString &page, int patience)
+{
+    m_seed = seed;
+    m_patience = patience;
+    const QByteArray name = page.toUtf8();
+    std::snprintf(m_page.data(), m_page.size(), "%s", name.constData());
+    qInstallMessageHandler(&Diary::onMessage);
+    for (const int signal : {SIGSEGV, SIGABRT, SIGFPE, SIGILL})
+        std::signal(signal, &Diary::onCrash);
+    m_watch = std::thread([this] { watch(); });
+}
+
+void Diary::close()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isClosed = true;
+    }
+    m_closing.notify_all();
+    m_watch.join();
+    qInstallMessageHandler(nullptr);
+}
+
+void Diary::begin(int action)
+{
+    m_action = action;
+    m_beats.fetch_add(1, std::memory_order_relaxed);
+    describe(u"is about to be chosen"_s);
+}
+
+void Diary::describe(const QString &text)
+{
+    auto &line = m_lines.at(static_cast<std::size_t>(m_action % kept));
+    const QByteArray plain = singleLine(text).toUtf8();
+    std::snprintf(line.data(), line.size(), "%7d  %s", m_action, plain.constData());
+}
+
+void Diary::trace() const
+{
+    if (m_isTracing)
+        std::printf("%s\n", m_lines.at(static_cast<std::size_t>(m_action % kept)).data());
+}
+
+void Diary::print(const char *message) const
+{
+    std::fprintf(stderr, "The last actions:\n");
+    for (int i = 1; i <= kept; ++i) {
+        const auto &line = m_lines.at(static_cast<std::size_t>((m_action + i) % kept));
+        if (line.front() != '\0')
+            std::fprintf(stderr, "%s\n", line.data());
+    }
+    std::fprintf(stderr, "FAILED: seed %llu, page %s, action %d: %s\n",
+                 static_cast<unsigned long long>(m_seed), m_page.data(), m_action, message);
+    std::fflush(stderr);
+}
+
+void Diary::fail(const QString &message)
+{
+    print(singleLine(message).toUtf8().constData());
+    if (m_cleanUp)
+        m_cleanUp();
+    std::_Exit(1);
+}
+
+void Diary::onMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtDebugMsg || type == QtInfoMsg || isHarmless(message))
+        return;
+    instance().fail(u"a message: "_s + message);
+}
+
+void Diary::onCrash(int signal)
+{
+    std::signal(signal, SIG_DFL);
+    instance().print("the program crashed");
+    std::raise(signal);
+}
+
+void Diary::watch()
+{
+    quint64 seen = m_beats;
+    auto since = std::chrono::steady_clock::now();
+    std::unique_lock lock(m_mutex);
+    while (!m_closing.wait_for(lock, std::chrono::seconds(1), [this] { return m_isClosed; })) {
+        const auto now = std::chrono::steady_clock::now();
+        if (const quint64 beats = m_beats; beats != seen) {
+            seen = beats;
+            since = now;
+        } else if (now - since > std::chrono::seconds(m_patience)) {
+            print("the action does not end");
+            std::_Exit(1);
+        }
+    }
+}

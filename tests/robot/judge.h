@@ -1,0 +1,61 @@
+#pragma once
+
+#include "deed.h"
+
+#include <QList>
+
+class QMessageBox;
+class RegistryWorld;
+class World;
+
+/// Says whether what came of an action was right: ticks, deletions, focus, scrolling and what is
+/// shown. Fails when it was not.
+class Judge final
+{
+    Q_DISABLE_COPY_MOVE(Judge)
+public:
+    Judge(const QList<PageProbe *> &probes, World *world, RegistryWorld *registry);
+
+    /// Takes notice of a deed that is under way but has had no effect yet.
+    void expectFrom(const Deed &deed);
+    /// Compares what it has led to. @p isIdle tells that everything it began is over; otherwise
+    /// only what must always hold is looked at.
+    void judge(const Deed &deed, bool isIdle);
+    /// Notes that what was confirmed may not be done to its end.
+    void interrupt() { m_isInterrupted = true; }
+    /// Looks at everything, into every file too.
+    void compareFully();
+
+    // How much there was to judge.
+    [[nodiscard]] int tickCount() const { return m_tickCount; }
+    [[nodiscard]] int deletionCount() const { return m_deletionCount; }
+    [[nodiscard]] int deletedCount() const { return m_deletedCount; }
+
+private:
+    void judgeBeginning(bool isIdle);
+    void judgeTicks(const Deed &deed, const PageProbe *probe, const Ticks &was, const Ticks &is);
+    void judgeFocus(const Deed &deed) const;
+    void judgeScrolling(const Deed &deed) const;
+    void judgeFiles();
+    void judgeRegistry();
+    void judgeStartList(const QStringList &lost, const QStringList &added) const;
+    void judgeMessage(const QMessageBox *box) const;
+
+    QList<PageProbe *> m_probes;
+    World *m_world;
+    RegistryWorld *m_registry;
+    QList<Ticks> m_ticks; ///< after the last deed, by probe
+    int m_judged = 0;
+    // Since nothing was at work for the last time:
+    bool m_isConfirmed = false;
+    bool m_isInterrupted = false;
+    bool m_isStartListTouched = false;
+    bool m_isSure = true; ///< it still holds
+    QStringList m_files; ///< whose deletion was confirmed
+    QStringList m_entries; ///< the same of the registry
+    qsizetype m_lastGone = 0; ///< files of the last deletion
+    int m_tickCount = 0;
+    int m_deletionCount = 0;
+    int m_settledCount = 0; ///< the same when nothing was at work for the last time
+    int m_deletedCount = 0;
+};

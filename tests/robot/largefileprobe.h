@@ -1,0 +1,47 @@
+#pragma once
+
+#include "pageprobe.h"
+
+#include <QObject>
+
+class LargeFilePage;
+class QComboBox;
+class World;
+
+/// The page of the large files.
+class LargeFileProbe final : public QObject, public PageProbe
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(LargeFileProbe)
+public:
+    LargeFileProbe(LargeFilePage *page, const World *world);
+
+    [[nodiscard]] QString name() const override;
+    [[nodiscard]] QWidget *page() const override;
+    [[nodiscard]] QStringList controls() const override;
+    [[nodiscard]] QStringList beginning() const override;
+    [[nodiscard]] bool isBusy() const override;
+    [[nodiscard]] QAbstractScrollArea *list() const override;
+    [[nodiscard]] Ticks ticks() const override;
+    [[nodiscard]] QList<Row> look() const override;
+    [[nodiscard]] std::optional<Row> rowWith(const QWidget *box) const override;
+    void check() override;
+    [[nodiscard]] int deletions() const override { return m_deletions; }
+    [[nodiscard]] QStringList chosen() const override;
+
+private:
+    void rememberChoice();
+    void checkListing();
+    void checkNothingIsMissing(const QStringList &listed) const;
+
+    LargeFilePage *m_page;
+    const World *m_world;
+    QAbstractScrollArea *m_area;
+    QWidget *m_results;
+    QComboBox *m_sizes;
+    qint64 m_minimum = 0; ///< bytes; what the last scan was asked for
+    QStringList m_drives; ///< the same
+    int m_listing = 0;
+    int m_deletions = 0;
+    bool m_isFresh = false; ///< listed since the last check
+};

@@ -1,0 +1,28 @@
+#include "painting.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QWidget>
+
+Painting::Painting()
+{
+    qApp->installEventFilter(this);
+}
+
+bool Painting::eventFilter(QObject *watched, QEvent *event)
+{
+    Q_UNUSED(watched)
+    return event->type() == QEvent::UpdateRequest && !m_isPainting;
+}
+
+void Painting::paint()
+{
+    m_isPainting = true;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        QEvent request(QEvent::UpdateRequest);
+        if (window->isVisible())
+            QCoreApplication::sendEvent(window, &request);
+    }
+    m_isPainting = false;
+}

@@ -1,0 +1,143 @@
+#include "robot.h"
+
+#include "diary.h"
+#include "dice.h"
+#include "mainwindow.h"
+#include "registryworld.h"
+#include "world.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How many passes of the event loop the effects of an action may take when nothing is at work.
+constexpr int enoughPasses = 4;
+constexpr int betweenPaintings = 20; ///< actions
+constexpr int warm = 1000; ///< actions after which the memory must not grow much any more
+constexpr int betweenLooksAtMemory = 1000;
+constexpr int mostGrowth = 100; ///< mebibytes
+constexpr int enoughLeft = 60; ///< per cent of the files
+
+/// How much memory the process takes; 0 where that is not told.
+int mebibytes()
+{
+    QFile status(u"/proc/self/statm"_s);
+    constexpr int pagesPerMebibyte = 256;
+    return status.open(QIODevice::ReadOnly)
+        ? status.readAll().split(' ').at(1).toInt() / pagesPerMebibyte
+        : 0;
+}
+
+} // namespace
+
+Robot::Robot(const Options &options, MainWindow *window, const QList<PageProbe *> &probes,
+             World *world, RegistryWorld *registry)
+    : m_options(options)
+    , m_probes(probes)
+    , m_world(world)
+    , m_registry(registry)
+    , m_player(window, probes, options.page)
+    , m_judge(probes, world, registry)
+    , m_seed(options.seed << 4)
+{
+    for (const PageProbe *probe : probes) { // each page has a play of its own
+        if (probe->name() < options.page)
+            ++m_seed;
+    }
+    connect(&m_timer, &QTimer::timeout, this, &Robot::step);
+}
+
+bool Robot::isIdle() const
+{
+    return std::none_of(m_probes.begin(), m_probes.end(),
+                        [](const PageProbe *probe) { return probe->isBusy(); });
+}
+
+void Robot::step()
+{
+    const bool idle = isIdle() && !Hands::isWaiting();
+    m_idlePasses = idle ? m_idlePasses + 1 : 0;
+    const bool isImpatient = !idle && m_impatience > 0 && ++m_busyPasses > m_impatience;
+    if (m_idlePasses < enoughPasses && !isImpatient)
+        return;
+    if (Hands::activateSomeWindow()) {
+        m_idlePasses = 0;
+        return;
+    }
+    if (m_number > 0) {
+        m_judge.judge(m_deed, idle);
+        for (PageProbe *probe : std::as_const(m_probes))
+            probe->check();
+    }
+    if (!idle)
+        m_judge.interrupt();
+    if (m_number % betweenPaintings == 0)
+        m_painting.paint();
+    const QWidget *dialog = QApplication::activeModalWidget();
+    if (idle && dialog && dialog->objectName() == "itemDetailDialog"_L1)
+        m_player.current()->checkDetails(dialog);
+    m_rows = idle ? m_player.current()->look() : QList<Row>();
+    if (m_number < m_options.actions)
+        act();
+    else
+        end();
+}
+
+void Robot::act()
+{
+    ++m_number;
+    // Each action has dice of its own: what one of them uses does not change the next one.
+    Dice dice(m_seed << 32 | static_cast<quint64>(m_number));
+    Diary &diary = Diary::instance();
+    diary.begin(m_number);
+    if (m_number == warm)
+        m_memory = mebibytes();
+    else if (m_number > warm && m_number % betweenLooksAtMemory == 0)
+        expect(mebibytes() <= m_memory + mostGrowth, [this] {
+            return u"the memory has grown from %1 to %2 MiB"_s.arg(QString::number(m_memory),
+                                                                   QString::number(mebibytes()));
+        });
+    const bool isRefilled = isIdle() && !Hands::isWaiting() && dice.chance(5);
+    if (isRefilled)
+        refill();
+    m_deed = m_player.act(dice, m_rows);
+    diary.describe(isRefilled ? m_deed.text + u" (all is made anew)"_s : m_deed.text);
+    diary.trace();
+    m_judge.expectFrom(m_deed);
+    m_idlePasses = 0;
+    m_busyPasses = 0;
+    m_impatience = dice.chance(8) ? dice.between(1, 6) : 0;
+}
+
+// Used up, there would be nothing to look at; for a while that is looked at, too.
+void Robot::refill()
+{
+    constexpr std::array owners{World::Owner::Junk, World::Owner::Browser, World::Owner::Large};
+    const bool isUsedUp = std::any_of(owners.begin(), owners.end(), [this](World::Owner owner) {
+        return m_world->percentLeft(owner) < enoughLeft;
+    });
+    if (isUsedUp)
+        m_world->refill();
+    m_registry->refill();
+    m_registry->accept();
+}
+
+void Robot::end()
+{
+    m_idlePasses = 0;
+    m_impatience = 0;
+    m_deed = {};
+    m_deed.effect = Deed::Effect::Unknown;
+    Diary::instance().describe(u"closing what is open"_s);
+    if (m_player.closeSomething() || !isIdle())
+        return;
+    m_timer.stop();
+    m_judge.compareFully();
+    Q_EMIT finished();
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "judge.h"
+#include "painting.h"
+#include "player.h"
+
+#include <QObject>
+#include <QTimer>
+
+class RegistryWorld;
+class World;
+
+/// Plays a number of actions, one after the other, from the event loop: also from those that
+/// dialogs run.
+class Robot final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(Robot)
+public:
+    struct Options {
+        quint64 seed = 1;
+        int actions = 2000;
+        QString page; ///< empty for all of them
+        bool isTraced = false;
+    };
+
+    Robot(const Options &options, MainWindow *window, const QList<PageProbe *> &probes,
+          World *world, RegistryWorld *registry);
+
+    void start() { m_timer.start(0); }
+    [[nodiscard]] const Judge &judge() const { return m_judge; }
+
+Q_SIGNALS:
+    void finished();
+
+private:
+    void step();
+    void act();
+    void end();
+    [[nodiscard]] bool isIdle() const;
+    void refill();
+
+    Options m_options;
+    QList<PageProbe *> m_probes;
+    World *m_world;
+    RegistryWorld *m_registry;
+    Painting m_painting;
+    Player m_player;
+    Judge m_judge;
+    quint64 m_seed;
+    QTimer m_timer;
+    Deed m_deed;
+    QList<Row> m_rows;
+    int m_number = 0;
+    int m_memory = 0; ///< mebibytes after the first actions
+    // Passes of the event loop since the last action:
+    int m_idlePasses = 0; ///< the last ones, without anything at work
+    int m_busyPasses = 0;
+    int m_impatience = 0; ///< how many busy ones are waited for; 0: any number
+};

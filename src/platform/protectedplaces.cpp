@@ -19,7 +19,7 @@ using Extent = ProtectedPlace::Extent;
 
 struct RelativePlace {
     QLatin1StringView path;
-    Extent extent;
+    Extent extent = Extent::Itself;
 };
 
 constexpr std::array belowWindows{

@@ -196,10 +196,10 @@ QWidget *FileCardList::tabStop() const
 
 void FileCardList::updateTabStop() const
 {
-    const QWidget *stop = tabStop();
     for (const Bound &bound : m_cards)
-        bound.card->checkBox()->setFocusPolicy(bound.card->checkBox() == stop ? Qt::StrongFocus
-                                                                              : Qt::ClickFocus);
+        bound.card->checkBox()->setFocusPolicy(Qt::ClickFocus);
+    if (QWidget *stop = tabStop())
+        stop->setFocusPolicy(Qt::StrongFocus);
 }
 
 void FileCardList::scrollToRow(int row)

@@ -45,7 +45,7 @@ protected:
 
 private:
     struct Bound {
-        FileCard *card;
+        FileCard *card = nullptr;
         int row = -1; ///< -1 while it waits for one
     };
 

@@ -1,6 +1,6 @@
 #include "eyes.h"
 
-#include "diary.h"
+#include "actionlog.h"
 #include "text.h"
 
 #include <QAbstractButton>

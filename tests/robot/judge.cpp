@@ -1,6 +1,6 @@
 #include "judge.h"
 
-#include "diary.h"
+#include "actionlog.h"
 #include "look.h"
 #include "registryworld.h"
 #include "world.h"
@@ -17,7 +17,7 @@ using eyes::describe;
 
 namespace {
 
-constexpr int betweenLooks = 25; ///< deeds; nobody has confirmed a deletion meanwhile
+constexpr int betweenLooks = 25; ///< actions; nobody has confirmed a deletion meanwhile
 
 const QString runKey = u"hkcu\\software\\microsoft\\windows\\currentversion\\run\\"_s;
 
@@ -46,36 +46,37 @@ Judge::Judge(const QList<PageProbe *> &probes, World *world, RegistryWorld *regi
         m_ticks.append(probe->ticks());
 }
 
-void Judge::expectFrom(const Deed &deed)
+void Judge::expectFrom(const Action &action)
 {
-    if (deed.probe && deed.probe->name() == "startup"_L1 && deed.effect != Deed::Effect::None)
+    if (action.probe && action.probe->name() == "startup"_L1
+        && action.effect != Action::Effect::None)
         m_isStartListTouched = true;
-    if (!deed.isConfirmation)
+    if (!action.isConfirmation)
         return;
     m_isConfirmed = true;
-    if (deed.chosen.isEmpty())
+    if (action.chosen.isEmpty())
         return;
-    if (deed.chosen.constFirst().startsWith("HK"_L1))
-        m_entries += deed.chosen;
+    if (action.chosen.constFirst().startsWith("HK"_L1))
+        m_entries += action.chosen;
     else
-        m_files += m_world->entriesAt(deed.chosen);
+        m_files += m_world->entriesAt(action.chosen);
 }
 
-void Judge::judge(const Deed &deed, bool isIdle)
+void Judge::judge(const Action &action, bool isIdle)
 {
-    judgeFocus(deed);
+    judgeFocus(action);
     QList<Ticks> now;
     for (const PageProbe *probe : std::as_const(m_probes))
         now.append(probe->ticks());
     judgeBeginning(isIdle);
     if (isIdle) {
-        judgeScrolling(deed);
+        judgeScrolling(action);
         if (m_isConfirmed || m_judged % betweenLooks == 0)
             judgeFiles();
         judgeRegistry();
-        const bool isForeseen = m_isSure && deed.effect != Deed::Effect::Unknown;
+        const bool isForeseen = m_isSure && action.effect != Action::Effect::Unknown;
         for (qsizetype i = 0; i < now.size() && isForeseen; ++i)
-            judgeTicks(deed, m_probes.at(i), m_ticks.at(i), now.at(i));
+            judgeTicks(action, m_probes.at(i), m_ticks.at(i), now.at(i));
         if (const auto *box = qobject_cast<const QMessageBox *>(QApplication::activeModalWidget()))
             judgeMessage(box);
         m_isConfirmed = false;
@@ -110,13 +111,14 @@ void Judge::judgeBeginning(bool isIdle)
     m_settledCount = begun;
 }
 
-void Judge::judgeTicks(const Deed &deed, const PageProbe *probe, const Ticks &was, const Ticks &is)
+void Judge::judgeTicks(const Action &action, const PageProbe *probe, const Ticks &was,
+                       const Ticks &is)
 {
     if (was.listing != is.listing || was.keys.isEmpty())
         return;
-    const bool isMeant = deed.probe == probe && deed.effect != Deed::Effect::None;
-    const int first = deed.row.first;
-    const int end = isMeant ? first + deed.row.count : first;
+    const bool isMeant = action.probe == probe && action.effect != Action::Effect::None;
+    const int first = action.row.first;
+    const int end = isMeant ? first + action.row.count : first;
     const bool wereAll = isMeant
         && std::all_of(was.values.cbegin() + first, was.values.cbegin() + end,
                        [](bool value) { return value; });
@@ -139,43 +141,45 @@ void Judge::judgeTicks(const Deed &deed, const PageProbe *probe, const Ticks &wa
             const bool isTied = isMeant && probe->isTied(first, i);
             expect(!hasChanged || isTied,
                    [&] { return tell(u"was ticked or unticked by a click on something else"_s); });
-        } else if (deed.effect == Deed::Effect::Exact) {
-            const bool isExpected =
-                deed.row.meaning == Row::Meaning::All ? is.values.at(place) != wereAll : hasChanged;
+        } else if (action.effect == Action::Effect::Exact) {
+            const bool isExpected = action.row.meaning == Row::Meaning::All
+                ? is.values.at(place) != wereAll
+                : hasChanged;
             expect(isExpected, [&] { return tell(u"did not take the click on its box"_s); });
         }
     }
 }
 
-void Judge::judgeFocus(const Deed &deed) const
+void Judge::judgeFocus(const Action &action) const
 {
     const QWidget *focus = QApplication::focusWidget();
     if (focus) {
         expect(focus->isVisible() && focus->isEnabled(),
                [&] { return u"the focus is on %1, hidden or disabled"_s.arg(describe(focus)); });
-        expect(!deed.isTab || focus == deed.focusBefore || !eyes::visibleRect(focus).isEmpty(),
+        expect(!action.isTab || focus == action.focusBefore || !eyes::visibleRect(focus).isEmpty(),
                [&] { return u"the focus went to %1, out of sight"_s.arg(describe(focus)); });
     }
-    if (!deed.keepsFocus || !deed.focusBefore || !m_isSure)
+    if (!action.keepsFocus || !action.focusBefore || !m_isSure)
         return;
-    expect(focus == deed.focusBefore && focus->property("filePath").toString() == deed.focusPath,
+    expect(focus == action.focusBefore
+               && focus->property("filePath").toString() == action.focusPath,
            [&] {
-               return u"the focus was moved from %1 to %2"_s.arg(describe(deed.focusBefore),
+               return u"the focus was moved from %1 to %2"_s.arg(describe(action.focusBefore),
                                                                  describe(focus));
            });
 }
 
-void Judge::judgeScrolling(const Deed &deed) const
+void Judge::judgeScrolling(const Action &action) const
 {
-    if (!deed.bar || !m_isSure)
+    if (!action.bar || !m_isSure)
         return;
-    const int moved = (deed.bar->value() - deed.valueBefore) * deed.direction;
-    const bool isAtEnd =
-        deed.bar->value() == (deed.direction > 0 ? deed.bar->maximum() : deed.bar->minimum());
+    const int moved = (action.bar->value() - action.valueBefore) * action.direction;
+    const bool isAtEnd = action.bar->value()
+        == (action.direction > 0 ? action.bar->maximum() : action.bar->minimum());
     expect(moved > 0 || (moved == 0 && isAtEnd), [&] {
         return u"the wheel moved the list from %1 to %2 of %3"_s.arg(
-            QString::number(deed.valueBefore), QString::number(deed.bar->value()),
-            QString::number(deed.bar->maximum()));
+            QString::number(action.valueBefore), QString::number(action.bar->value()),
+            QString::number(action.bar->maximum()));
     });
 }
 

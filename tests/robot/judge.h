@@ -1,6 +1,6 @@
 #pragma once
 
-#include "deed.h"
+#include "action.h"
 
 #include <QList>
 
@@ -16,11 +16,11 @@ class Judge final
 public:
     Judge(const QList<PageProbe *> &probes, World *world, RegistryWorld *registry);
 
-    /// Takes notice of a deed that is under way but has had no effect yet.
-    void expectFrom(const Deed &deed);
+    /// Takes notice of a action that is under way but has had no effect yet.
+    void expectFrom(const Action &action);
     /// Compares what it has led to. @p isIdle tells that everything it began is over; otherwise
     /// only what must always hold is looked at.
-    void judge(const Deed &deed, bool isIdle);
+    void judge(const Action &action, bool isIdle);
     /// Notes that what was confirmed may not be done to its end.
     void interrupt() { m_isInterrupted = true; }
     /// Looks at everything, into every file too.
@@ -33,9 +33,10 @@ public:
 
 private:
     void judgeBeginning(bool isIdle);
-    void judgeTicks(const Deed &deed, const PageProbe *probe, const Ticks &was, const Ticks &is);
-    void judgeFocus(const Deed &deed) const;
-    void judgeScrolling(const Deed &deed) const;
+    void judgeTicks(const Action &action, const PageProbe *probe, const Ticks &was,
+                    const Ticks &is);
+    void judgeFocus(const Action &action) const;
+    void judgeScrolling(const Action &action) const;
     void judgeFiles();
     void judgeRegistry();
     void judgeStartList(const QStringList &lost, const QStringList &added) const;
@@ -44,7 +45,7 @@ private:
     QList<PageProbe *> m_probes;
     World *m_world;
     RegistryWorld *m_registry;
-    QList<Ticks> m_ticks; ///< after the last deed, by probe
+    QList<Ticks> m_ticks; ///< after the last action, by probe
     int m_judged = 0;
     // Since nothing was at work for the last time:
     bool m_isConfirmed = false;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diary.h"
+#include "actionlog.h"
 #include "eyes.h"
 
 #include <QString>

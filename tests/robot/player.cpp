@@ -90,9 +90,9 @@ PageProbe *Player::current() const
     return m_probes.at(m_window->currentPage());
 }
 
-Deed Player::act(Dice &dice, const QList<Row> &rows)
+Action Player::act(Dice &dice, const QList<Row> &rows)
 {
-    m_deed = {};
+    m_action = {};
     m_rows = rows;
     noteFocus();
     QWidget *modal = QApplication::activeModalWidget();
@@ -110,7 +110,7 @@ Deed Player::act(Dice &dice, const QList<Row> &rows)
         else
             actOnWindow(dice);
     }
-    return std::exchange(m_deed, {});
+    return std::exchange(m_action, {});
 }
 
 bool Player::closeSomething()
@@ -127,13 +127,13 @@ bool Player::closeSomething()
     return true;
 }
 
-// --- what comes of a deed
+// --- what comes of a action
 
 void Player::noteFocus()
 {
     QWidget *focus = QApplication::focusWidget();
-    m_deed.focusBefore = focus;
-    m_deed.focusPath = focus ? focus->property("filePath").toString() : QString();
+    m_action.focusBefore = focus;
+    m_action.focusPath = focus ? focus->property("filePath").toString() : QString();
 }
 
 const Row *Player::rowAt(QPoint position) const
@@ -148,28 +148,28 @@ const Row *Player::rowAt(QPoint position) const
 void Player::foresee(QPoint position, Qt::MouseButton button, int times)
 {
     const QWidget *top = eyes::topmostAt(m_window, position);
-    m_deed.text += u" on "_s + describe(top);
+    m_action.text += u" on "_s + describe(top);
     const Row *row = rowAt(position);
     if (!row) {
         if (const std::optional<Row> meant = current()->rowWith(top)) {
-            m_deed.probe = current();
-            m_deed.row = *meant;
-            m_deed.effect = Deed::Effect::Possible;
+            m_action.probe = current();
+            m_action.row = *meant;
+            m_action.effect = Action::Effect::Possible;
         }
         if (button == Qt::LeftButton)
             foreseePress(top);
         return;
     }
-    m_deed.probe = current();
-    m_deed.row = *row;
-    m_deed.text += u" in row %1"_s.arg(row->first);
+    m_action.probe = current();
+    m_action.row = *row;
+    m_action.text += u" in row %1"_s.arg(row->first);
     if (button == Qt::RightButton)
         m_menuPath = row->widget->property("filePath").toString();
     const bool isOnBox = row->box && row->box == top;
     // The first click may open something or close it, and the second one meets what stands there
     // then.
     if (times > 1 && !isOnBox && row->meaning != Row::Meaning::Anywhere) {
-        m_deed.effect = Deed::Effect::Unknown;
+        m_action.effect = Action::Effect::Unknown;
         return;
     }
     const bool isMeant = row->meaning == Row::Meaning::Anywhere
@@ -178,7 +178,7 @@ void Player::foresee(QPoint position, Qt::MouseButton button, int times)
         return;
     const QPoint middle = isOnBox ? row->box->mapTo(m_window, row->box->rect().center()) : position;
     const bool isHit = (position - middle).manhattanLength() <= hit;
-    m_deed.effect = times == 1 && isHit ? Deed::Effect::Exact : Deed::Effect::Possible;
+    m_action.effect = times == 1 && isHit ? Action::Effect::Exact : Action::Effect::Possible;
 }
 
 // A button that begins a deletion.
@@ -191,15 +191,15 @@ void Player::foreseePress(const QWidget *widget)
     if (const auto *box = qobject_cast<const QMessageBox *>(window)) {
         if (box->button(QMessageBox::Yes) != button)
             return;
-        m_deed.isConfirmation = true;
-        m_deed.chosen = box->text().startsWith("Are you sure you want to delete this file?"_L1)
+        m_action.isConfirmation = true;
+        m_action.chosen = box->text().startsWith("Are you sure you want to delete this file?"_L1)
             ? QStringList{m_menuPath}
             : current()->chosen();
     } else if (button->objectName() == "startCleanBtn"_L1
                || (button->objectName() == "cleanBtn"_L1 && current()->name() != "registry"_L1
                    && !Application::instance()->option("clean/confirmClean"_L1, true))) {
-        m_deed.isConfirmation = true;
-        m_deed.chosen = current()->chosen();
+        m_action.isConfirmation = true;
+        m_action.chosen = current()->chosen();
     }
 }
 
@@ -208,24 +208,24 @@ void Player::foreseePress(const QWidget *widget)
 void Player::click(QPoint global, Qt::MouseButton button, int times)
 {
     QWidget *window = Hands::windowAt(global);
-    m_deed.text += u"%1 (%2, %3)"_s.arg(button == Qt::RightButton ? u"right click"_s
-                                            : times > 1           ? u"double click"_s
-                                                                  : u"click"_s,
-                                        QString::number(global.x()), QString::number(global.y()));
+    m_action.text += u"%1 (%2, %3)"_s.arg(button == Qt::RightButton ? u"right click"_s
+                                              : times > 1           ? u"double click"_s
+                                                                    : u"click"_s,
+                                          QString::number(global.x()), QString::number(global.y()));
     if (!window || Hands::isBlocked(window)) {
-        m_deed.text += u", which a dialog blocks"_s;
+        m_action.text += u", which a dialog blocks"_s;
     } else if (window == m_window && !QApplication::activePopupWidget()) {
         const QPoint position = global - window->geometry().topLeft();
         const auto *bar = m_window->findChild<TitleBar *>();
         const QWidget *top = eyes::topmostAt(window, position);
         if (bar == top || bar->isAncestorOf(top)) {
-            m_deed.text += u" not done: it would close the window"_s;
+            m_action.text += u" not done: it would close the window"_s;
             return;
         }
         foresee(position, button, times);
     } else {
         const QWidget *top = eyes::topmostAt(window, global - window->geometry().topLeft());
-        m_deed.text += u" on "_s + describe(top);
+        m_action.text += u" on "_s + describe(top);
         if (button == Qt::LeftButton)
             foreseePress(top);
     }
@@ -236,7 +236,7 @@ void Player::clickSomewhere(Dice &dice, const QWidget *area)
 {
     const QRect rect = eyes::visibleRect(area);
     if (rect.isEmpty()) {
-        m_deed.text += u"nothing to click"_s;
+        m_action.text += u"nothing to click"_s;
         return;
     }
     click(toScreen(area->window(), pixelIn(dice, rect)));
@@ -269,18 +269,18 @@ void Player::press(int key, Qt::KeyboardModifiers modifiers)
         && (qobject_cast<const TitleBar *>(focus->parentWidget())
             || focus->objectName() == "autoStartCheck"_L1))
         key = Qt::Key_Tab;
-    m_deed.text += u"key %1 at %2"_s.arg(QString::number(key, 16), describe(focus));
-    m_deed.isTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    m_action.text += u"key %1 at %2"_s.arg(QString::number(key, 16), describe(focus));
+    m_action.isTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
     if (key == Qt::Key_Menu && focus)
         m_menuPath = focus->property("filePath").toString();
     const bool isInPage = focus && focus->window() == m_window;
     if (key == Qt::Key_Space && isInPage && qobject_cast<QCheckBox *>(focus)) {
         if (const std::optional<Row> row = current()->rowWith(focus)) {
-            m_deed.probe = current();
-            m_deed.row = *row;
+            m_action.probe = current();
+            m_action.row = *row;
             // A box that stands in no row may bring back what was ticked before.
-            m_deed.effect = focus->property("browserType").isValid() ? Deed::Effect::Possible
-                                                                     : Deed::Effect::Exact;
+            m_action.effect = focus->property("browserType").isValid() ? Action::Effect::Possible
+                                                                       : Action::Effect::Exact;
         }
     } else if (isPress && !QApplication::activePopupWidget()) {
         const QWidget *button = qobject_cast<QPushButton *>(focus);
@@ -295,7 +295,7 @@ void Player::press(int key, Qt::KeyboardModifiers modifiers)
 
 void Player::type(const QString &text)
 {
-    m_deed.text += u"type \"%1\" at %2"_s.arg(text, describe(QApplication::focusWidget()));
+    m_action.text += u"type \"%1\" at %2"_s.arg(text, describe(QApplication::focusWidget()));
     m_hands.type(text);
 }
 
@@ -304,7 +304,7 @@ void Player::type(const QString &text)
 void Player::actOnPopup(Dice &dice)
 {
     const QWidget *popup = QApplication::activePopupWidget();
-    m_deed.text = u"menu: "_s;
+    m_action.text = u"menu: "_s;
     switch (weighed(dice, std::array{50, 15, 15, 10, 10})) {
     case 0:
         clickSomewhere(dice, popup);
@@ -326,7 +326,7 @@ void Player::actOnPopup(Dice &dice)
 
 void Player::actOnMessage(Dice &dice, const QMessageBox *box)
 {
-    m_deed.text = u"box \"%1\": "_s.arg(box->windowTitle());
+    m_action.text = u"box \"%1\": "_s.arg(box->windowTitle());
     switch (weighed(dice, std::array{70, 8, 8, 5, 5, 4})) {
     case 0: {
         const QAbstractButton *yes = box->button(QMessageBox::Yes);
@@ -353,10 +353,10 @@ void Player::actOnMessage(Dice &dice, const QMessageBox *box)
 
 void Player::actOnDialog(Dice &dice, QWidget *dialog)
 {
-    m_deed.text = u"dialog %1: "_s.arg(describe(dialog));
+    m_action.text = u"dialog %1: "_s.arg(describe(dialog));
     if (!dialog->isModal() && dice.chance(50)) {
         dialog->windowHandle()->requestActivate();
-        m_deed.focusBefore.clear(); // which it takes from the window
+        m_action.focusBefore.clear(); // which it takes from the window
     }
     if (dialog->inherits("QFileDialog")) {
         // It could rename and delete what is not the program's affair.
@@ -427,7 +427,7 @@ void Player::actOnWindow(Dice &dice)
     }
     PageProbe *probe = current();
     if (!probe->list() && dice.chance(60)) {
-        m_deed.text = u"begin: "_s;
+        m_action.text = u"begin: "_s;
         clickControl(dice, probe->page(), dice.pick(probe->beginning()));
         return;
     }
@@ -454,8 +454,8 @@ void Player::actOnWindow(Dice &dice)
         resizeWindow(dice);
         break;
     default:
-        m_deed.text = u"hover"_s;
-        m_deed.keepsFocus = true;
+        m_action.text = u"hover"_s;
+        m_action.keepsFocus = true;
         m_hands.move(toScreen(m_window, pixelIn(dice, m_window->rect())));
         break;
     }
@@ -504,7 +504,7 @@ void Player::navigate(Dice &dice)
             entries.append(button);
     }
     const bool isAway = m_home >= 0 && m_window->currentPage() != m_home;
-    m_deed.text = u"go to a page: "_s;
+    m_action.text = u"go to a page: "_s;
     clickSomewhere(dice, isAway ? entries.at(m_home) : dice.pick(entries));
 }
 
@@ -556,7 +556,7 @@ void Player::useWheel(Dice &dice, QWidget *window)
     const int notches = dice.between(1, 5) * (dice.chance(40) ? 1 : -1);
     QWidget *top = eyes::topmostAt(window->window(), position);
     const QPoint global = toScreen(window->window(), position);
-    m_deed.text +=
+    m_action.text +=
         u"wheel %1 at (%2, %3) on %4"_s.arg(QString::number(notches), QString::number(global.x()),
                                             QString::number(global.y()), describe(top));
     // Another window may stand in front, and some controls have a use for the wheel themselves.
@@ -565,11 +565,11 @@ void Player::useWheel(Dice &dice, QWidget *window)
         && !top->inherits("QScrollBar");
     QAbstractScrollArea *area = isListed ? eyes::scrollAreaAround(top) : nullptr;
     if (isListed)
-        m_deed.keepsFocus = true;
+        m_action.keepsFocus = true;
     if (area) {
-        m_deed.bar = area->verticalScrollBar();
-        m_deed.valueBefore = area->verticalScrollBar()->value();
-        m_deed.direction = notches > 0 ? -1 : 1;
+        m_action.bar = area->verticalScrollBar();
+        m_action.valueBefore = area->verticalScrollBar()->value();
+        m_action.direction = notches > 0 ? -1 : 1;
     }
     m_hands.wheel(global, notches);
 }
@@ -589,22 +589,22 @@ void Player::dragSomething(Dice &dice, QWidget *window)
     const QPoint end = pixelIn(dice, to);
     const QPoint global = toScreen(window->window(), start);
     if (Hands::windowAt(global) != window->window()) {
-        m_deed.text += u"drag not done: another window is in front"_s;
+        m_action.text += u"drag not done: another window is in front"_s;
         return;
     }
     QWidget *top = eyes::topmostAt(window->window(), start);
     if (qobject_cast<QLineEdit *>(top)) {
-        m_deed.text += u"drag not done: it would move text about"_s;
+        m_action.text += u"drag not done: it would move text about"_s;
         return;
     }
-    m_deed.text += u"drag (%1, %2) to (%3, %4) from %5"_s.arg(
+    m_action.text += u"drag (%1, %2) to (%3, %4) from %5"_s.arg(
         QString::number(start.x()), QString::number(start.y()), QString::number(end.x()),
         QString::number(end.y()), describe(top));
     // Let go in the row where it was pressed, it is a click.
     if (const Row *row = rowAt(start); row && window->window() == m_window) {
-        m_deed.probe = current();
-        m_deed.row = *row;
-        m_deed.effect = Deed::Effect::Possible;
+        m_action.probe = current();
+        m_action.row = *row;
+        m_action.effect = Action::Effect::Possible;
     }
     if (eyes::topmostAt(window->window(), end) == top)
         foreseePress(top);
@@ -614,7 +614,7 @@ void Player::dragSomething(Dice &dice, QWidget *window)
 void Player::resizeWindow(Dice &dice)
 {
     const QSize size(dice.between(970, 1500), dice.between(670, 1100));
-    m_deed.text = u"resize to %1 x %2"_s.arg(size.width()).arg(size.height());
-    m_deed.keepsFocus = true;
+    m_action.text = u"resize to %1 x %2"_s.arg(size.width()).arg(size.height());
+    m_action.keepsFocus = true;
     m_window->resize(size);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "deed.h"
+#include "action.h"
 #include "hands.h"
 
 #include <QList>
@@ -20,7 +20,7 @@ public:
     Player(MainWindow *window, const QList<PageProbe *> &probes, const QString &home);
 
     /// Does something. @p rows are those of the shown list.
-    [[nodiscard]] Deed act(Dice &dice, const QList<Row> &rows);
+    [[nodiscard]] Action act(Dice &dice, const QList<Row> &rows);
     /// Closes the uppermost of what stands open above the window; false when nothing does.
     [[nodiscard]] bool closeSomething();
     [[nodiscard]] PageProbe *current() const;
@@ -53,7 +53,7 @@ private:
     QList<PageProbe *> m_probes;
     int m_home;
     Hands m_hands;
-    Deed m_deed;
+    Action m_action;
     QList<Row> m_rows;
     QString m_menuPath; ///< of the file that the last context menu was opened for
 };

@@ -1,6 +1,6 @@
 #include "registrystore.h"
 
-#include "diary.h"
+#include "actionlog.h"
 #include "registryfixture.h"
 
 #include <QFile>

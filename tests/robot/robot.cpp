@@ -1,6 +1,6 @@
 #include "robot.h"
 
-#include "diary.h"
+#include "actionlog.h"
 #include "dice.h"
 #include "mainwindow.h"
 #include "registryworld.h"
@@ -71,7 +71,7 @@ void Robot::step()
         return;
     }
     if (m_number > 0) {
-        m_judge.judge(m_deed, idle);
+        m_judge.judge(m_action, idle);
         for (PageProbe *probe : std::as_const(m_probes))
             probe->check();
     }
@@ -94,8 +94,8 @@ void Robot::act()
     ++m_number;
     // Each action has dice of its own: what one of them uses does not change the next one.
     Dice dice(m_seed << 32 | static_cast<quint64>(m_number));
-    Diary &diary = Diary::instance();
-    diary.begin(m_number);
+    ActionLog &log = ActionLog::instance();
+    log.begin(m_number);
     if (m_number == warm)
         m_memory = mebibytes();
     else if (m_number > warm && m_number % betweenLooksAtMemory == 0)
@@ -106,10 +106,10 @@ void Robot::act()
     const bool isRefilled = isIdle() && !Hands::isWaiting() && dice.chance(5);
     if (isRefilled)
         refill();
-    m_deed = m_player.act(dice, m_rows);
-    diary.describe(isRefilled ? m_deed.text + u" (all is made anew)"_s : m_deed.text);
-    diary.trace();
-    m_judge.expectFrom(m_deed);
+    m_action = m_player.act(dice, m_rows);
+    log.describe(isRefilled ? m_action.text + u" (all is made anew)"_s : m_action.text);
+    log.trace();
+    m_judge.expectFrom(m_action);
     m_idlePasses = 0;
     m_busyPasses = 0;
     m_impatience = dice.chance(8) ? dice.between(1, 6) : 0;
@@ -132,9 +132,9 @@ void Robot::end()
 {
     m_idlePasses = 0;
     m_impatience = 0;
-    m_deed = {};
-    m_deed.effect = Deed::Effect::Unknown;
-    Diary::instance().describe(u"closing what is open"_s);
+    m_action = {};
+    m_action.effect = Action::Effect::Unknown;
+    ActionLog::instance().describe(u"closing what is open"_s);
     if (m_player.closeSomething() || !isIdle())
         return;
     m_timer.stop();

@@ -49,7 +49,7 @@ private:
     Judge m_judge;
     quint64 m_seed;
     QTimer m_timer;
-    Deed m_deed;
+    Action m_action;
     QList<Row> m_rows;
     int m_number = 0;
     int m_memory = 0; ///< mebibytes after the first actions

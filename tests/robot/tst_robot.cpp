@@ -1,10 +1,10 @@
+#include "actionlog.h"
 #include "appinfo.h"
 #include "application.h"
 #include "basepage.h"
 #include "browserpage.h"
 #include "dashboardpage.h"
 #include "dashboardprobe.h"
-#include "diary.h"
 #ifdef Q_OS_WIN
 #include "fakestart.h"
 #endif
@@ -135,10 +135,10 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName(appinfo::organisation);
     QApplication::setQuitOnLastWindowClosed(false);
     const Robot::Options options = readOptions();
-    Diary &diary = Diary::instance();
-    diary.setTracing(options.isTraced);
-    diary.setCleanUp([&home] { QDir(home.path()).removeRecursively(); });
-    diary.open(options.seed, options.page.isEmpty() ? u"all"_s : options.page, patience);
+    ActionLog &log = ActionLog::instance();
+    log.setTracing(options.isTraced);
+    log.setCleanUp([&home] { QDir(home.path()).removeRecursively(); });
+    log.open(options.seed, options.page.isEmpty() ? u"all"_s : options.page, patience);
 
     World world(home);
     RegistryWorld registry(home);
@@ -173,7 +173,7 @@ int main(int argc, char *argv[])
     std::printf("%d actions in %.1f s: %d ticks, %d deletions of %d entries\n", options.actions,
                 double(timer.elapsed()) / 1000, robot.judge().tickCount(),
                 robot.judge().deletionCount(), robot.judge().deletedCount());
-    diary.close();
+    log.close();
     QDir::setCurrent(QDir::rootPath()); // a folder that is current is not removed everywhere
     return 0;
 }

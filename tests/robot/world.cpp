@@ -1,6 +1,6 @@
 #include "world.h"
 
-#include "diary.h"
+#include "actionlog.h"
 #include "folders.h"
 #include "testhome.h"
 
@@ -364,7 +364,7 @@ QStringList World::lookForGone()
             before = now;
             continue;
         }
-        Diary::instance().fail(u"%1 is not as it was"_s.arg(path));
+        ActionLog::instance().fail(u"%1 is not as it was"_s.arg(path));
     }
     return gone;
 }

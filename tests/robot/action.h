@@ -10,7 +10,7 @@
 #include <optional>
 
 /// One action of the robot, with what may come of it.
-struct Deed {
+struct Action {
     enum class Effect {
         None, ///< no tick may change
         Exact, ///< the ticks of the row must change as its meaning says

@@ -14,11 +14,11 @@
 /// The first failure ends the program: a check's, a warning of the toolkit, a crash, or an action
 /// that is not over after a while. A thread of its own watches for the last. Everything else is
 /// called on the GUI thread, but for messages, which come from anywhere.
-class Diary final
+class ActionLog final
 {
-    Q_DISABLE_COPY_MOVE(Diary)
+    Q_DISABLE_COPY_MOVE(ActionLog)
 public:
-    static Diary &instance();
+    static ActionLog &instance();
 
     /// Starts to listen to messages and crashes and to watch the clock. @p patience is how many
     /// seconds an action may take.
@@ -38,8 +38,8 @@ public:
     [[noreturn]] void fail(const QString &message);
 
 private:
-    Diary() = default;
-    ~Diary() = default;
+    ActionLog() = default;
+    ~ActionLog() = default;
 
     static void onMessage(QtMsgType type, const QMessageLogContext &context,
                           const QString &message);
@@ -54,7 +54,7 @@ private:
     std::array<char, 32> m_page{};
     int m_patience = 0;
     bool m_isTracing = false;
-    int m_action = 0;
+    int m_number = 0;
     // Plain text, so that a crash or another thread can print it.
     std::array<std::array<char, longest>, kept> m_lines{};
     std::function<void()> m_cleanUp;
@@ -70,5 +70,5 @@ template<class Message>
 void expect(bool holds, Message message)
 {
     if (!holds)
-        Diary::instance().fail(message());
+        ActionLog::instance().fail(message());
 }

@@ -1,4 +1,4 @@
-#include "diary.h"
+#include "actionlog.h"
 
 #include "text.h"
 
@@ -30,26 +30,26 @@ bool isHarmless(const QString &message)
 
 } // namespace
 
-Diary &Diary::instance()
+ActionLog &ActionLog::instance()
 {
     // Never destroyed: the toolkit may still have something to say at the very end.
-    static auto *const diary = new Diary;
-    return *diary;
+    static auto *const log = new ActionLog;
+    return *log;
 }
 
-void Diary::open(quint64 seed, const QString &page, int patience)
+void ActionLog::open(quint64 seed, const QString &page, int patience)
 {
     m_seed = seed;
     m_patience = patience;
     const QByteArray name = page.toUtf8();
     std::snprintf(m_page.data(), m_page.size(), "%s", name.constData());
-    qInstallMessageHandler(&Diary::onMessage);
+    qInstallMessageHandler(&ActionLog::onMessage);
     for (const int signal : {SIGSEGV, SIGABRT, SIGFPE, SIGILL})
-        std::signal(signal, &Diary::onCrash);
+        std::signal(signal, &ActionLog::onCrash);
     m_watch = std::thread([this] { watch(); });
 }
 
-void Diary::close()
+void ActionLog::close()
 {
     {
         const std::lock_guard lock(m_mutex);
@@ -60,40 +60,40 @@ void Diary::close()
     qInstallMessageHandler(nullptr);
 }
 
-void Diary::begin(int action)
+void ActionLog::begin(int action)
 {
-    m_action = action;
+    m_number = action;
     m_beats.fetch_add(1, std::memory_order_relaxed);
     describe(u"is about to be chosen"_s);
 }
 
-void Diary::describe(const QString &text)
+void ActionLog::describe(const QString &text)
 {
-    auto &line = m_lines.at(static_cast<std::size_t>(m_action % kept));
+    auto &line = m_lines.at(static_cast<std::size_t>(m_number % kept));
     const QByteArray plain = singleLine(text).toUtf8();
-    std::snprintf(line.data(), line.size(), "%7d  %s", m_action, plain.constData());
+    std::snprintf(line.data(), line.size(), "%7d  %s", m_number, plain.constData());
 }
 
-void Diary::trace() const
+void ActionLog::trace() const
 {
     if (m_isTracing)
-        std::printf("%s\n", m_lines.at(static_cast<std::size_t>(m_action % kept)).data());
+        std::printf("%s\n", m_lines.at(static_cast<std::size_t>(m_number % kept)).data());
 }
 
-void Diary::print(const char *message) const
+void ActionLog::print(const char *message) const
 {
     std::fprintf(stderr, "The last actions:\n");
     for (int i = 1; i <= kept; ++i) {
-        const auto &line = m_lines.at(static_cast<std::size_t>((m_action + i) % kept));
+        const auto &line = m_lines.at(static_cast<std::size_t>((m_number + i) % kept));
         if (line.front() != '\0')
             std::fprintf(stderr, "%s\n", line.data());
     }
     std::fprintf(stderr, "FAILED: seed %llu, page %s, action %d: %s\n",
-                 static_cast<unsigned long long>(m_seed), m_page.data(), m_action, message);
+                 static_cast<unsigned long long>(m_seed), m_page.data(), m_number, message);
     std::fflush(stderr);
 }
 
-void Diary::fail(const QString &message)
+void ActionLog::fail(const QString &message)
 {
     print(singleLine(message).toUtf8().constData());
     if (m_cleanUp)
@@ -101,21 +101,21 @@ void Diary::fail(const QString &message)
     std::_Exit(1);
 }
 
-void Diary::onMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
+void ActionLog::onMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtDebugMsg || type == QtInfoMsg || isHarmless(message))
         return;
     instance().fail(u"a message: "_s + message);
 }
 
-void Diary::onCrash(int signal)
+void ActionLog::onCrash(int signal)
 {
     std::signal(signal, SIG_DFL);
     instance().print("the program crashed");
     std::raise(signal);
 }
 
-void Diary::watch()
+void ActionLog::watch()
 {
     quint64 seen = m_beats;
     auto since = std::chrono::steady_clock::now();

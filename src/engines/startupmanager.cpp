@@ -209,6 +209,7 @@ QString StartupManager::findExecutable(const QString &folder, const QString &nam
 bool StartupManager::addToStartup(const QString &name, const QString &exePath)
 {
     const QString command = u'"' + exePath + u'"';
+    readStartupTable(Registry()); // others write there too
     keepCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
     const bool isDone =
         platform::registrysettings::setText(Hive::CurrentUser, runKey, name, command, m_error);
@@ -222,6 +223,7 @@ bool StartupManager::addToStartup(const QString &name, const QString &exePath)
 
 bool StartupManager::removeFromStartup(const QString &name)
 {
+    readStartupTable(Registry());
     return removeEntries({name});
 }
 
@@ -229,6 +231,7 @@ bool StartupManager::setStartup(const StartupApp &app, bool enable)
 {
     if (enable)
         return addToStartup(app.name, app.exePath);
+    readStartupTable(Registry());
     QStringList names;
     for (const Entry &entry : m_startup.values(app.exePath.toLower()))
         names.append(entry.valueName);

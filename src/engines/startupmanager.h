@@ -34,7 +34,8 @@ public:
     /// Reads start-up list and programs anew.
     void loadInstalledApps();
 
-    // Each of these gives whether it was done; if not, the log has a line, errorString() says why,
+    // Each of these goes by the start-up list as it is when it is called, whatever was loaded, and
+    // gives whether it was done; if not, the log has a line, errorString() says why,
     // and the programs' flags are what the registry says all the same. A command that is
     // overwritten or removed is kept in the log.
 

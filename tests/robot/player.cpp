@@ -61,6 +61,13 @@ QWidget *uppermostDialog()
     return dialog == shown.end() ? nullptr : *dialog;
 }
 
+/// The box whose entry in the registry would be that of the test. Even a tick that is cancelled
+/// stays for the next time that the settings are saved.
+bool startsWithSession(const QWidget *widget)
+{
+    return widget->objectName() == "autoStartCheck"_L1;
+}
+
 QPushButton *defaultButton(const QWidget *window)
 {
     const auto buttons = window->findChildren<QPushButton *>();
@@ -226,6 +233,10 @@ void Player::click(QPoint global, Qt::MouseButton button, int times)
     } else {
         const QWidget *top = eyes::topmostAt(window, global - window->geometry().topLeft());
         m_action.text += u" on "_s + describe(top);
+        if (startsWithSession(top)) {
+            m_action.text += u" not done: it would start the test with the session"_s;
+            return;
+        }
         if (button == Qt::LeftButton)
             foreseePress(top);
     }
@@ -263,11 +274,9 @@ void Player::press(int key, Qt::KeyboardModifiers modifiers)
     // A blank within the path of a backup would lead out of the test's home.
     if (key == Qt::Key_Space && qobject_cast<QLineEdit *>(focus))
         key = Qt::Key_Tab;
-    // The buttons that close or hide the window are not for a robot that is to go on, and the
-    // program must not be started with the session.
+    // The buttons that close or hide the window are not for a robot that is to go on.
     if (focus && isPress
-        && (qobject_cast<const TitleBar *>(focus->parentWidget())
-            || focus->objectName() == "autoStartCheck"_L1))
+        && (qobject_cast<const TitleBar *>(focus->parentWidget()) || startsWithSession(focus)))
         key = Qt::Key_Tab;
     m_action.text += u"key %1 at %2"_s.arg(QString::number(key, 16), describe(focus));
     m_action.isTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
@@ -372,9 +381,7 @@ void Player::actOnDialog(Dice &dice, QWidget *dialog)
     for (QWidget *control : dialog->findChildren<QWidget *>()) {
         const bool isControl = qobject_cast<QAbstractButton *>(control)
             || qobject_cast<QLineEdit *>(control) || qobject_cast<QComboBox *>(control);
-        // The entry that starts the program with the session would be that of the test.
-        if (isControl && control->objectName() != "autoStartCheck"_L1
-            && !eyes::visibleRect(control).isEmpty())
+        if (isControl && !eyes::visibleRect(control).isEmpty())
             controls.append(control);
     }
     switch (weighed(dice, std::array{45, 10, 12, 5, 4, 5, 9, 6, 4})) {
@@ -593,8 +600,8 @@ void Player::dragSomething(Dice &dice, QWidget *window)
         return;
     }
     QWidget *top = eyes::topmostAt(window->window(), start);
-    if (qobject_cast<QLineEdit *>(top)) {
-        m_action.text += u"drag not done: it would move text about"_s;
+    if (qobject_cast<QLineEdit *>(top) || startsWithSession(top)) {
+        m_action.text += u"drag not done: it would move text about, or start with the session"_s;
         return;
     }
     m_action.text += u"drag (%1, %2) to (%3, %4) from %5"_s.arg(

@@ -336,6 +336,33 @@ private Q_SLOTS:
         QVERIFY(!own(again).constFirst().isStartup);
     }
 
+    // Programs write there themselves, also while the list is shown.
+    void whatHasChangedSinceItWasLoadedIsNotLost()
+    {
+        const QString path = existing(u"changed/app.exe"_s);
+        product(userList, u"app"_s, u"Sweepwise Changed"_s, path);
+        m_fixture->addText(runKey, u"Sweepwise one"_s, u'"' + path + "\" --old"_L1);
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(own(manager).constFirst().isStartup);
+        m_fixture->addText(runKey, u"Sweepwise one"_s, u'"' + path + "\" --new"_L1);
+        m_fixture->addText(runKey, u"Sweepwise two"_s, u'"' + path + "\" --second"_L1);
+        m_fixture->write();
+        const LogCapture log;
+        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
+        QVERIFY(!own(manager).constFirst().isStartup);
+        QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise two"_s));
+        const QString line = u"Startup command of Sweepwise %1 before it was removed: %2"_s;
+        QVERIFY(log.contains(line.arg(u"one"_s, u'"' + path + "\" --new"_L1)));
+        QVERIFY(log.contains(line.arg(u"two"_s, u'"' + path + "\" --second"_L1)));
+
+        m_fixture->addText(runKey, u"Sweepwise Changed"_s, u'"' + path + "\" --own"_L1);
+        m_fixture->write();
+        QVERIFY(manager.setStartup(own(manager).constFirst(), true));
+        QVERIFY(log.contains("Startup command of Sweepwise Changed before it was replaced: \""_L1
+                             + path + "\" --own"_L1));
+    }
+
     void aCommandThatIsOverwrittenIsKeptInTheLog()
     {
         const QString path = existing(u"kept/app.exe"_s);

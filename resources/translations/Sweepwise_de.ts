@@ -1340,6 +1340,10 @@ Soll sie ersetzt werden?</translation>
         <source>Its name cannot be told from a path</source>
         <translation>Der Name lässt sich nicht von einem Pfad unterscheiden</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>Der Eintrag hat sich seit dem Scan geändert</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

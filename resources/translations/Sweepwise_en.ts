@@ -1316,6 +1316,10 @@ Replace it?</translation>
         <source>Its name cannot be told from a path</source>
         <translation>Its name cannot be told from a path</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>It has changed since the scan</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

@@ -1337,6 +1337,10 @@ Replace it?</source>
         <source>Its name cannot be told from a path</source>
         <translation>No se puede distinguir su nombre de una ruta</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>La entrada ha cambiado desde el análisis</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

@@ -1331,6 +1331,10 @@ Voulez-vous le remplacer&#xa0;?</translation>
         <source>Its name cannot be told from a path</source>
         <translation>Impossible de distinguer son nom d’un chemin</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>L’entrée a changé depuis l’analyse</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

@@ -1340,6 +1340,10 @@ Sostituirlo?</translation>
         <source>Its name cannot be told from a path</source>
         <translation>Il nome non è distinguibile da un percorso</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>La voce è cambiata dopo la scansione</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

@@ -1339,6 +1339,10 @@ Replace it?</source>
         <source>Its name cannot be told from a path</source>
         <translation>値の名前とパスを区別できません</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>スキャン後に変更されています</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

@@ -1339,6 +1339,10 @@ Replace it?</source>
         <source>Its name cannot be told from a path</source>
         <translation>이름을 경로와 구분할 수 없습니다</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>검사 후 변경되었습니다</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

@@ -1341,6 +1341,10 @@ Vervangen?</translation>
         <source>Its name cannot be told from a path</source>
         <translation>De naam ervan is niet van een pad te onderscheiden</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>Het item is sinds de scan gewijzigd</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

@@ -1341,6 +1341,10 @@ Pretende substituí-lo?</translation>
         <source>Its name cannot be told from a path</source>
         <translation>Não é possível distinguir o nome de um caminho</translation>
     </message>
+    <message>
+        <source>It has changed since the scan</source>
+        <translation>A entrada mudou desde a análise</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>

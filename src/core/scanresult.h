@@ -9,6 +9,9 @@
 /// Levels of CleanItem::riskLevel and CleanCategory::riskLevel.
 enum RiskLevel { LowRisk = 0, MediumRisk = 1, HighRisk = 2 };
 
+/// Which of the two a registry entry is: a key and a value of the key above it may share a name.
+enum class RegistryEntry : quint8 { Unknown, Key, Value };
+
 /// One removable thing: a file, a folder that a walk found, a registry entry.
 struct CleanItem {
     CleanItem(const QString &itemName, const QString &itemPath, qint64 itemSize)
@@ -27,6 +30,7 @@ struct CleanItem {
     bool isDirectory = false;
     bool isUserClass =
         false; ///< of HKEY_CLASSES_ROOT: read from the user's hive, not the machine's
+    RegistryEntry registryEntry = RegistryEntry::Unknown;
     QString registryRoot; ///< such as "HKEY_CLASSES_ROOT"; empty for files
     QString registryKey; ///< below the root; empty for files
 };

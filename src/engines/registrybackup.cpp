@@ -143,9 +143,9 @@ QString exportItem(const Registry &registry, const CleanItem &item)
     const QString &path = item.registryKey;
     const qsizetype separator = path.lastIndexOf(u'\\');
     QString block;
-    if (separator >= 0)
+    if (separator >= 0 && item.registryEntry != RegistryEntry::Key)
         block = exportValue(registry, hive, path.first(separator), path.mid(separator + 1));
-    if (block.isEmpty())
+    if (block.isEmpty() && item.registryEntry != RegistryEntry::Value)
         block = exportKey(registry, hive, path);
     if (!block.isEmpty())
         return block;

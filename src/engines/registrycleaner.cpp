@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <tuple>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -67,10 +68,11 @@ QString fileName(const QString &path)
     return path.mid(std::max(path.lastIndexOf(u'\\'), path.lastIndexOf(u'/')) + 1);
 }
 
-CleanItem makeItem(const QString &name, const QString &path, const QString &description,
-                   const QString &root, const QString &key)
+CleanItem makeItem(RegistryEntry entry, const QString &name, const QString &path,
+                   const QString &description, const QString &root, const QString &key)
 {
     CleanItem item(name, path, 0);
+    item.registryEntry = entry;
     item.description = description;
     item.registryRoot = root;
     item.registryKey = key;
@@ -80,24 +82,6 @@ CleanItem makeItem(const QString &name, const QString &path, const QString &desc
 const QString machineHive = u"HKEY_LOCAL_MACHINE"_s;
 const QString userHive = u"HKEY_CURRENT_USER"_s;
 const QString classesHive = u"HKEY_CLASSES_ROOT"_s;
-
-/// The key or value that an item stands for, in the one hive that has it.
-struct Place {
-    Hive hive;
-    QString path; ///< empty for what is no class
-};
-
-Place placeOf(const CleanItem &item)
-{
-    if (item.registryRoot == machineHive || item.registryRoot == "HKLM"_L1)
-        return {Hive::LocalMachine, item.registryKey};
-    if (item.registryRoot == userHive || item.registryRoot == "HKCU"_L1)
-        return {Hive::CurrentUser, item.registryKey};
-    // Without a name it would be the key that holds all classes.
-    return {item.isUserClass ? Hive::CurrentUser : Hive::LocalMachine,
-            Registry::isKeyPath(item.registryKey) ? Registry::classPath(item.registryKey)
-                                                  : QString()};
-}
 
 // Keys whose entries the scans list value by value. What a value's name makes of such a key's path
 // may be the path of a key below it, or, without a name, of the key itself: neither was shown.
@@ -118,9 +102,32 @@ bool isValueList(const QString &key)
 
 /// What the checks of one scan share.
 struct RegistryCleaner::Scan {
-    const Registry registry;
-    PathCheck paths;
-    QList<CleanItem> items; ///< of the check that runs
+    const Registry &registry;
+    PathCheck paths{};
+    QList<CleanItem> items{}; ///< of the check that runs
+};
+
+/// The key or value that an item stands for, in the one hive that has it.
+struct RegistryCleaner::Place {
+    Hive hive;
+    QString path; ///< empty for what is no class
+
+    [[nodiscard]] bool operator<(const Place &other) const
+    {
+        return std::tie(hive, path) < std::tie(other.hive, other.path);
+    }
+
+    [[nodiscard]] static Place of(const CleanItem &item)
+    {
+        if (item.registryRoot == machineHive || item.registryRoot == "HKLM"_L1)
+            return {Hive::LocalMachine, item.registryKey};
+        if (item.registryRoot == userHive || item.registryRoot == "HKCU"_L1)
+            return {Hive::CurrentUser, item.registryKey};
+        // Without a name it would be the key that holds all classes.
+        return {item.isUserClass ? Hive::CurrentUser : Hive::LocalMachine,
+                Registry::isKeyPath(item.registryKey) ? Registry::classPath(item.registryKey)
+                                                      : QString()};
+    }
 };
 
 /// An entry that was removed, until that is saved.
@@ -132,23 +139,25 @@ struct RegistryCleaner::Removal {
 RegistryCleaner::RegistryCleaner(QObject *parent)
     : CleanEngine(parent)
 {
-    const auto add = [this](const QString &id, const QString &name, const QString &description,
-                            int level, bool checked = true) {
-        m_categories.append({id, name, description, {}, {}, level, checked});
+    const auto add = [this](Check check, const QString &id, const QString &name,
+                            const QString &description, int level, bool checked = true) {
+        m_categories.append({check, id, name, description, {}, {}, level, checked});
     };
-    add(u"invalid_software"_s, tr("Invalid Software Paths"),
+    add(&RegistryCleaner::checkSoftware, u"invalid_software"_s, tr("Invalid Software Paths"),
         tr("Registry entries pointing to non-existent locations"), LowRisk);
-    add(u"invalid_file_assoc"_s, tr("Invalid File Associations"),
-        tr("File associations pointing to missing programs"), LowRisk);
-    add(u"invalid_com"_s, tr("Invalid COM/ActiveX"),
+    add(&RegistryCleaner::checkFileAssociations, u"invalid_file_assoc"_s,
+        tr("Invalid File Associations"), tr("File associations pointing to missing programs"),
+        LowRisk);
+    add(&RegistryCleaner::checkCom, u"invalid_com"_s, tr("Invalid COM/ActiveX"),
         tr("Invalid COM components and ActiveX controls"), MediumRisk);
-    add(u"invalid_fonts"_s, tr("Invalid Font References"),
+    add(&RegistryCleaner::checkFonts, u"invalid_fonts"_s, tr("Invalid Font References"),
         tr("Registry entries pointing to non-existent font files"), LowRisk);
-    add(u"invalid_startup"_s, tr("Invalid Startup Items"),
+    add(&RegistryCleaner::checkStartup, u"invalid_startup"_s, tr("Invalid Startup Items"),
         tr("Startup items pointing to non-existent programs"), MediumRisk);
-    add(u"invalid_shared_dll"_s, tr("Invalid Shared DLLs"),
+    add(&RegistryCleaner::checkSharedDlls, u"invalid_shared_dll"_s, tr("Invalid Shared DLLs"),
         tr("References to non-existent shared DLL files"), MediumRisk, false);
-    add(u"mui_cache"_s, tr("MUI Cache"), tr("Application MUI cache data"), LowRisk);
+    add(&RegistryCleaner::checkMuiCache, u"mui_cache"_s, tr("MUI Cache"),
+        tr("Application MUI cache data"), LowRisk);
 }
 
 RegistryCleaner::~RegistryCleaner()
@@ -172,22 +181,22 @@ bool RegistryCleaner::pathExists(const QString &text)
 void RegistryCleaner::doScan()
 {
     Logger::instance().info(u"Starting registry scan..."_s);
-    const std::array steps{
-        std::pair(&RegistryCleaner::checkSoftware, tr("Scanning invalid software paths...")),
-        std::pair(&RegistryCleaner::checkFileAssociations,
-                  tr("Scanning invalid file associations...")),
-        std::pair(&RegistryCleaner::checkCom, tr("Scanning invalid COM components...")),
-        std::pair(&RegistryCleaner::checkFonts, tr("Scanning invalid font references...")),
-        std::pair(&RegistryCleaner::checkStartup, tr("Scanning invalid startup items...")),
-        std::pair(&RegistryCleaner::checkSharedDlls, tr("Scanning invalid shared DLLs...")),
-        std::pair(&RegistryCleaner::checkMuiCache, tr("Scanning MUI cache...")),
+    const QStringList texts{
+        tr("Scanning invalid software paths..."),
+        tr("Scanning invalid file associations..."),
+        tr("Scanning invalid COM components..."),
+        tr("Scanning invalid font references..."),
+        tr("Scanning invalid startup items..."),
+        tr("Scanning invalid shared DLLs..."),
+        tr("Scanning MUI cache..."),
     };
-    Scan scan;
-    for (size_t i = 0; i < steps.size(); ++i) {
-        Q_EMIT scanProgress(static_cast<int>(i) + 1, static_cast<int>(steps.size()),
-                            steps[i].second);
+    const Registry registry;
+    Scan scan{registry};
+    const int count = static_cast<int>(m_categories.size());
+    for (int i = 0; i < count; ++i) {
+        Q_EMIT scanProgress(i + 1, count, texts.at(i));
         if (!isStopRequested())
-            runCheck(m_categories.at(static_cast<qsizetype>(i)), steps[i].first, scan);
+            runCheck(m_categories.at(i), scan);
     }
     if (isStopRequested()) {
         setState(State::Cancelled);
@@ -197,12 +206,12 @@ void RegistryCleaner::doScan()
     Logger::instance().info(u"Registry scan finished. Found %1 items"_s.arg(result().totalCount()));
 }
 
-void RegistryCleaner::runCheck(const Category &category, Check check, Scan &scan)
+void RegistryCleaner::runCheck(const Category &category, Scan &scan)
 {
     CleanCategory found(category.id, category.name, category.description);
     found.checked = category.checked;
     found.riskLevel = category.level;
-    (this->*check)(scan);
+    (this->*category.check)(scan);
     found.items = std::exchange(scan.items, {});
     if (!found.items.isEmpty() && !isStopRequested())
         result().categories.append(std::move(found));
@@ -222,8 +231,8 @@ void RegistryCleaner::checkAppPaths(Scan &scan)
         const QString key = appPaths + u'\\' + name;
         const QString value = scan.registry.text(Hive::LocalMachine, key, {});
         if (!value.isEmpty() && !scan.paths.exists(value))
-            scan.items.append(
-                makeItem(name, "HKLM\\"_L1 + key, tr("Path: %1").arg(value), machineHive, key));
+            scan.items.append(makeItem(RegistryEntry::Key, name, "HKLM\\"_L1 + key,
+                                       tr("Path: %1").arg(value), machineHive, key));
     }
 }
 
@@ -243,8 +252,8 @@ void RegistryCleaner::checkUninstall(Scan &scan)
         if (!isInvalid)
             continue;
         const QString displayName = text(u"DisplayName"_s);
-        scan.items.append(makeItem(displayName.isEmpty() ? name : displayName, "HKLM\\"_L1 + key,
-                                   {}, machineHive, key));
+        scan.items.append(makeItem(RegistryEntry::Key, displayName.isEmpty() ? name : displayName,
+                                   "HKLM\\"_L1 + key, {}, machineHive, key));
     }
 }
 
@@ -262,8 +271,9 @@ void RegistryCleaner::checkFileAssociations(Scan &scan)
             scan.registry.classText(type.text + "\\shell\\open\\command"_L1, {}).text;
         if (command.isEmpty() || scan.paths.exists(PathCheck::programPath(command)))
             continue;
-        scan.items.append(makeItem(extension + " -> "_L1 + type.text, "HKCR\\"_L1 + extension,
-                                   tr("Command: %1").arg(command), classesHive, extension));
+        scan.items.append(makeItem(RegistryEntry::Key, extension + " -> "_L1 + type.text,
+                                   "HKCR\\"_L1 + extension, tr("Command: %1").arg(command),
+                                   classesHive, extension));
         scan.items.last().isUserClass = type.hive == Hive::CurrentUser;
     }
 }
@@ -277,8 +287,8 @@ void RegistryCleaner::checkCom(Scan &scan)
         const QString key = "CLSID\\"_L1 + id;
         const auto add = [&](const QString &description, Hive hive) {
             const QString name = scan.registry.classText(key, {}).text;
-            scan.items.append(makeItem(name.isEmpty() ? id : name, "HKCR\\"_L1 + key, description,
-                                       classesHive, key));
+            scan.items.append(makeItem(RegistryEntry::Key, name.isEmpty() ? id : name,
+                                       "HKCR\\"_L1 + key, description, classesHive, key));
             scan.items.last().isUserClass = hive == Hive::CurrentUser;
         };
         const auto [library, libraryHive] =
@@ -306,8 +316,9 @@ void RegistryCleaner::checkFonts(Scan &scan)
             file = *windows + "\\Fonts\\"_L1 + file;
         }
         if (!scan.paths.exists(file))
-            scan.items.append(makeItem(name, "HKLM\\"_L1 + fonts, tr("Font file: %1").arg(file),
-                                       machineHive, fonts + u'\\' + name));
+            scan.items.append(makeItem(RegistryEntry::Value, name, "HKLM\\"_L1 + fonts,
+                                       tr("Font file: %1").arg(file), machineHive,
+                                       fonts + u'\\' + name));
     }
 }
 
@@ -321,7 +332,7 @@ void RegistryCleaner::checkStartup(Scan &scan)
                     return;
                 const QString command = scan.registry.text(hive, key, name);
                 if (!command.isEmpty() && !scan.paths.exists(PathCheck::programPath(command)))
-                    scan.items.append(makeItem(name, label + u'\\' + key,
+                    scan.items.append(makeItem(RegistryEntry::Value, name, label + u'\\' + key,
                                                tr("Command: %1").arg(command), label,
                                                key + u'\\' + name));
             }
@@ -335,9 +346,9 @@ void RegistryCleaner::checkSharedDlls(Scan &scan)
         if (isStopRequested())
             return;
         if (!scan.paths.exists(name))
-            scan.items.append(makeItem(fileName(name), "HKLM\\"_L1 + sharedDlls,
-                                       tr("DLL path: %1").arg(name), machineHive,
-                                       sharedDlls + u'\\' + name));
+            scan.items.append(makeItem(RegistryEntry::Value, fileName(name),
+                                       "HKLM\\"_L1 + sharedDlls, tr("DLL path: %1").arg(name),
+                                       machineHive, sharedDlls + u'\\' + name));
     }
 }
 
@@ -351,8 +362,8 @@ void RegistryCleaner::checkMuiCache(Scan &scan)
             name.endsWith(".FriendlyAppName"_L1) || name.endsWith(".ApplicationCompany"_L1);
         const QString path = dot > 0 && hasSuffix ? name.first(dot) : name;
         if (!scan.paths.exists(path))
-            scan.items.append(makeItem(fileName(path), "HKCU\\"_L1 + muiCache, name, userHive,
-                                       muiCache + u'\\' + name));
+            scan.items.append(makeItem(RegistryEntry::Value, fileName(path), "HKCU\\"_L1 + muiCache,
+                                       name, userHive, muiCache + u'\\' + name));
     }
 }
 
@@ -360,12 +371,19 @@ void RegistryCleaner::doClean()
 {
     Logger::instance().info(u"Starting registry clean..."_s);
     Registry registry;
-    backUp(registry);
+    const std::set<Place> listed = findAgain(registry);
+    const auto hasChanged = [&listed](const CleanItem &item) {
+        return item.registryEntry != RegistryEntry::Unknown && !listed.contains(Place::of(item));
+    };
+    ScanResult due = selection();
+    for (CleanCategory &category : due.categories)
+        category.items.removeIf(hasChanged);
+    backUp(due, registry);
 
     const int total = selection().checkedCount();
     int index = 0;
     QList<Removal> removals;
-    std::set<std::pair<Hive, QString>> gone;
+    std::set<Place> gone;
     for (const CleanCategory &category : selection().categories) {
         for (const CleanItem &item : category.items) {
             if (isStopRequested()) {
@@ -375,15 +393,14 @@ void RegistryCleaner::doClean()
                 return;
             }
             Q_EMIT cleanProgress(++index, total, 0);
-            const Place place = placeOf(item);
-            const std::pair id(place.hive, place.path.toCaseFolded());
-            if (gone.contains(id))
+            const Place place = Place::of(item);
+            if (gone.contains(place))
                 continue; // a class may stand in the list twice
             const QString entry = item.registryRoot + u'\\' + item.registryKey;
-            QString reason;
-            if (removeEntry(registry, item, reason)) {
+            QString reason = tr("It has changed since the scan");
+            if (!hasChanged(item) && removeEntry(registry, item, reason)) {
                 removals.append({place.hive, entry});
-                gone.insert(id);
+                gone.insert(place);
             } else {
                 addFailure({entry, reason});
             }
@@ -395,7 +412,25 @@ void RegistryCleaner::doClean()
     Logger::instance().info(u"Registry clean finished. Cleaned %1 items"_s.arg(count));
 }
 
-void RegistryCleaner::backUp(const Registry &registry)
+// What is not what it was would be another entry than the one that was shown.
+std::set<RegistryCleaner::Place> RegistryCleaner::findAgain(const Registry &registry)
+{
+    std::set<Place> found;
+    Scan scan{registry};
+    const QList<CleanCategory> &chosen = selection().categories;
+    for (const Category &category : std::as_const(m_categories)) {
+        const auto isSame = [&category](const CleanCategory &other) {
+            return other.id == category.id;
+        };
+        if (std::any_of(chosen.begin(), chosen.end(), isSame))
+            (this->*category.check)(scan);
+    }
+    for (const CleanItem &item : std::as_const(scan.items))
+        found.insert(Place::of(item));
+    return found;
+}
+
+void RegistryCleaner::backUp(const ScanResult &due, const Registry &registry)
 {
     m_backupFailed = false;
     if (m_backupPath.isEmpty()) {
@@ -403,7 +438,7 @@ void RegistryCleaner::backUp(const Registry &registry)
         return;
     }
     Logger::instance().info("Creating registry backup to: "_L1 + m_backupPath);
-    const QString text = RegistryBackup::text(selection(), registry, QDateTime::currentDateTime());
+    const QString text = RegistryBackup::text(due, registry, QDateTime::currentDateTime());
     QString error;
     if (RegistryBackup::write(m_backupPath, text, error)) {
         Logger::instance().info("Registry backup created: "_L1 + m_backupPath);
@@ -417,7 +452,7 @@ void RegistryCleaner::backUp(const Registry &registry)
 
 bool RegistryCleaner::removeEntry(Registry &registry, const CleanItem &item, QString &reason)
 {
-    const auto [hive, path] = placeOf(item);
+    const auto [hive, path] = Place::of(item);
     const auto deleteKey = [&registry, &reason, hive = hive, &path = path] {
         const bool isDone = registry.deleteTree(hive, path) || registry.deleteKey(hive, path);
         if (!isDone)
@@ -438,10 +473,12 @@ bool RegistryCleaner::removeEntry(Registry &registry, const CleanItem &item, QSt
         reason = tr("Its name cannot be told from a path");
         return false;
     }
-    if (registry.deleteValue(hive, parent, path.mid(separator + 1)))
-        return true;
-    reason = registry.errorString();
-    return !isListed && deleteKey();
+    if (item.registryEntry != RegistryEntry::Key) {
+        if (registry.deleteValue(hive, parent, path.mid(separator + 1)))
+            return true;
+        reason = registry.errorString();
+    }
+    return !isListed && item.registryEntry != RegistryEntry::Value && deleteKey();
 }
 
 int RegistryCleaner::saveChanges(Registry &registry, const QList<Removal> &removals)

@@ -5,6 +5,8 @@
 
 #include <QList>
 
+#include <set>
+
 /// Finds registry entries that name files or programs which are no longer there, and removes them
 /// after a backup was written.
 ///
@@ -36,7 +38,10 @@ protected:
     void doClean() override;
 
 private:
+    struct Scan;
+    using Check = void (RegistryCleaner::*)(Scan &);
     struct Category {
+        Check check;
         QString id;
         QString name;
         QString description;
@@ -45,11 +50,10 @@ private:
         int level = LowRisk;
         bool checked = true;
     };
-    struct Scan;
-    using Check = void (RegistryCleaner::*)(Scan &);
+    struct Place;
     struct Removal;
 
-    void runCheck(const Category &category, Check check, Scan &scan);
+    void runCheck(const Category &category, Scan &scan);
     void checkSoftware(Scan &scan);
     void checkAppPaths(Scan &scan);
     void checkUninstall(Scan &scan);
@@ -60,7 +64,9 @@ private:
     void checkSharedDlls(Scan &scan);
     void checkMuiCache(Scan &scan);
 
-    void backUp(const platform::Registry &registry);
+    /// What a scan would list now, in the categories that are to be cleaned.
+    [[nodiscard]] std::set<Place> findAgain(const platform::Registry &registry);
+    void backUp(const ScanResult &due, const platform::Registry &registry);
     /// True when the entry is gone now; otherwise @p reason says why not.
     static bool removeEntry(platform::Registry &registry, const CleanItem &item, QString &reason);
     /// Makes the removals last and returns how many of them did.

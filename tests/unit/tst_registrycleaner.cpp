@@ -8,6 +8,7 @@
 #include "signalspy.h"
 #include "testhome.h"
 #include "testtree.h"
+#include "windowspaths.h"
 
 #include <QDir>
 #include <QFile>
@@ -510,6 +511,73 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->hasKey(user + key + "\\Same"_L1));
     }
 
+    // The list shows the key; what bears its name beside it was never looked at.
+    void aListedKeyIsNotTakenForAValueOfItsName()
+    {
+        const QString good = existing(u"good.exe"_s);
+        m_fixture->addText(machine + appPaths, u"Sweepwise a"_s, good);
+        m_fixture->addText(machine + appPaths + "\\Sweepwise a"_L1, {}, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise b"_s, missing);
+        m_fixture->addText(user + runKey + "\\Sweepwise b"_L1, u"v"_s, good);
+        m_fixture->write();
+        scan();
+        keepOwnOnly();
+        m_cleaner->setBackupPath(m_home.folder(u"backup"_s) + "/key.reg"_L1);
+        QCOMPARE(clean().constFirst().at(1).toInt(), 2);
+        QVERIFY(!m_fixture->hasKey(machine + appPaths + "\\Sweepwise a"_L1));
+        QVERIFY(m_fixture->hasValue(machine + appPaths, u"Sweepwise a"_s));
+        QVERIFY(!m_fixture->hasValue(user + runKey, u"Sweepwise b"_s));
+        QVERIFY(m_fixture->hasValue(user + runKey + "\\Sweepwise b"_L1, u"v"_s));
+        restore(m_cleaner->backupPath());
+        QVERIFY(m_fixture->hasKey(machine + appPaths + "\\Sweepwise a"_L1));
+        QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise b"_s));
+    }
+
+    void whatLeadsSomewhereByNowStays()
+    {
+        const QString good = existing(u"good.exe"_s);
+        const QString toCome = existing(u"to come"_s);
+        QVERIFY(QFile::remove(platform::localPath(toCome)));
+        m_fixture->addText(user + runKey, u"Sweepwise repaired"_s, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise broken"_s, missing);
+        m_fixture->addText(machine + uninstall + "\\Sweepwise"_L1, u"InstallLocation"_s, toCome);
+        m_fixture->write();
+        scan();
+        keepOwnOnly();
+        QCOMPARE(m_cleaner->result().checkedCount(), 3);
+        m_fixture->addText(user + runKey, u"Sweepwise repaired"_s, u'"' + good + u'"');
+        m_fixture->write();
+        existing(u"to come"_s);
+        const QString path = m_home.folder(u"backup"_s) + "/changed.reg"_L1;
+        m_cleaner->setBackupPath(path);
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1);
+        QCOMPARE(m_cleaner->failures().size(), 2);
+        for (const CleanFailure &failure : m_cleaner->failures())
+            QCOMPARE(failure.reason, u"It has changed since the scan"_s);
+        QVERIFY(!m_fixture->hasValue(user + runKey, u"Sweepwise broken"_s));
+        QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise repaired"_s));
+        QVERIFY(m_fixture->hasKey(machine + uninstall + "\\Sweepwise"_L1));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString backup = RegistryBackup::decode(file.readAll()).value_or(QString());
+        QVERIFY(backup.contains("Sweepwise broken"_L1));
+        QVERIFY(!backup.contains("Sweepwise repaired"_L1));
+        QVERIFY(!backup.contains("Uninstall\\Sweepwise"_L1));
+    }
+
+    // To the registry they are two, whatever a comparison of texts makes of them.
+    void namesThatOnlyLookAlikeBothGo()
+    {
+        m_fixture->addText(user + runKey, u"Sweepwise K"_s, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise \u212a"_s, missing); // the Kelvin sign
+        m_fixture->write();
+        scan();
+        keepOwnOnly();
+        QCOMPARE(clean().constFirst().at(1).toInt(), 2);
+        QVERIFY(m_cleaner->failures().isEmpty());
+        QVERIFY(!m_fixture->hasValue(user + runKey, u"Sweepwise \u212a"_s));
+    }
+
     void aCancelledCleanTellsHowFarItCame()
     {
         const QString key = u"Software\\Sweepwise Test"_s;
@@ -797,7 +865,7 @@ private Q_SLOTS:
         }
         const QString path = m_home.folder(u"backup"_s) + "/both.reg"_L1;
         QFile::remove(path);
-        choose(items);
+        choose(items, u"invalid_com"_s);
         m_cleaner->setBackupPath(path);
         QCOMPARE(clean().constFirst().at(1).toInt(), 1);
         QVERIFY(m_cleaner->failures().isEmpty());
@@ -835,7 +903,7 @@ private Q_SLOTS:
         QCOMPARE(found,
                  (QStringList{u".sweepwiseboth -> SweepwiseBroken"_s,
                               u".sweepwiseother -> SweepwiseBroken"_s}));
-        choose(items);
+        choose(items, u"invalid_file_assoc"_s);
         QCOMPARE(clean().constFirst().at(1).toInt(), 2);
         QVERIFY(!m_fixture->hasKey(user + type));
         QVERIFY(m_fixture->hasValue(machine + type, u"Content Type"_s));
@@ -982,6 +1050,15 @@ private Q_SLOTS:
 #endif
 
 private:
+    // Unticks what the live registry holds besides.
+    void keepOwnOnly()
+    {
+        for (CleanCategory &category : m_cleaner->result().categories) {
+            for (CleanItem &entry : category.items)
+                entry.checked = entry.registryKey.contains("Sweepwise"_L1);
+        }
+    }
+
     // The Windows path of a file that is there, below a folder with a blank in its name.
     QString existing(const QString &name)
     {
@@ -998,9 +1075,9 @@ private:
         return path;
     }
 
-    void choose(const QList<CleanItem> &items)
+    void choose(const QList<CleanItem> &items, const QString &id = u"id"_s)
     {
-        CleanCategory category(u"id"_s, u"Kind"_s, {});
+        CleanCategory category(id, u"Kind"_s, {});
         category.items = items;
         m_cleaner->stopAndWait();
         m_cleaner->result().categories = {category};

@@ -1082,6 +1082,14 @@ Kopieren Sie den Link und öffnen Sie ihn manuell:
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>Das Programm wurde in den Infobereich minimiert. Doppelklicken Sie auf das Symbol, um das Fenster wiederherzustellen.</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>Eine Bereinigung läuft noch. Starten Sie den Scan, wenn sie beendet ist.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

@@ -1060,6 +1060,14 @@ Please copy the link and open it yourself:
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>Program minimized to system tray. Double-click the icon to restore.</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>A clean is still running. Start the scan when it is over.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

@@ -1079,6 +1079,14 @@ Copie el enlace y ábralo manualmente:
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>El programa se ha minimizado en el área de notificación. Haga doble clic en el icono para restaurarlo.</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>Aún hay una limpieza en curso. Inicie el análisis cuando haya terminado.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

@@ -1075,6 +1075,14 @@ Copiez le lien et ouvrez-le manuellement&#xa0;:
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>L’application a été réduite dans la zone de notification. Double-cliquez sur l’icône pour la restaurer.</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>Un nettoyage est encore en cours. Lancez l’analyse lorsqu’il sera terminé.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

@@ -1081,6 +1081,14 @@ Copiare il collegamento e aprirlo manualmente:
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>Il programma è stato ridotto a icona nell&apos;area di notifica. Fare doppio clic sull&apos;icona per ripristinarlo.</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>È ancora in corso una pulizia. Avviare la scansione al termine.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

@@ -1080,6 +1080,14 @@ This action cannot be undone!</source>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>プログラムを通知領域に最小化しました。アイコンをダブルクリックすると元に戻ります。</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>クリーンアップを実行中です。完了してからスキャンを開始してください。</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

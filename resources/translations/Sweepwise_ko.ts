@@ -1080,6 +1080,14 @@ This action cannot be undone!</source>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>프로그램이 시스템 트레이로 최소화되었습니다. 다시 열려면 아이콘을 두 번 클릭하세요.</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>알림</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>정리가 아직 진행 중입니다. 완료된 후 검사를 시작하세요.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

@@ -1082,6 +1082,14 @@ Kopieer de koppeling en open deze zelf in een browser:
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>Het programma is geminimaliseerd naar het systeemvak. Dubbelklik op het pictogram om het venster weer te openen.</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>Melding</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>Er wordt nog opgeschoond. Start de scan wanneer dat klaar is.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

@@ -1082,6 +1082,14 @@ Copie a ligação e abra-a manualmente:
         <source>Program minimized to system tray. Double-click the icon to restore.</source>
         <translation>O programa foi minimizado para a área de notificação. Faça duplo clique no ícone para o restaurar.</translation>
     </message>
+    <message>
+        <source>Notice</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>A clean is still running. Start the scan when it is over.</source>
+        <translation>Ainda está em curso uma limpeza. Inicie a análise quando terminar.</translation>
+    </message>
 </context>
 <context>
     <name>ProgressDialog</name>

@@ -35,6 +35,8 @@
 #include <QTranslator>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -321,9 +323,22 @@ void MainWindow::onAboutClicked()
 void MainWindow::onDashboardScanRequested()
 {
     const auto *application = Application::instance();
+    const FullScan::Engines engines{application->junkCleaner(), application->browserCleaner(),
+                                    application->registryCleaner()};
+    // A scan would cut it off, and nobody could tell how far it had come.
+    const bool isCleaning = std::any_of(engines.begin(), engines.end(), [](CleanEngine *engine) {
+        return engine && engine->state() == CleanEngine::State::Cleaning;
+    });
+    if (isCleaning) {
+        QMessageBox box(QMessageBox::Information, tr("Notice"),
+                        tr("A clean is still running. Start the scan when it is over."),
+                        QMessageBox::Ok, this);
+        box.setStyleSheet(theme::messageBox());
+        box.exec();
+        return;
+    }
     m_dashboardPage->setScanning(true);
-    m_fullScan->start({application->junkCleaner(), application->browserCleaner(),
-                       application->registryCleaner()});
+    m_fullScan->start(engines);
 }
 
 void MainWindow::onDashboardCleanRequested() { }

@@ -270,6 +270,26 @@ private Q_SLOTS:
         QCOMPARE(faultOf(shown), QString());
     }
 
+    // A list can be scrolled while another window has the keyboard.
+    void theFocusStaysWithItsRowWhileTheWindowIsInactive()
+    {
+        Shown shown(500);
+        shown.click(boxInRow + QPoint(0, 2 * rowHeight));
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QTRY_VERIFY(other.isActiveWindow());
+        shown.wheel(50);
+        Shown::settle();
+        QVERIFY(shown.bar()->value() > 100);
+        shown.views.activateWindow();
+        QTRY_VERIFY(shown.views.isActiveWindow());
+        QCOMPARE(Shown::focusedFile(), fileOf(2).path);
+        QCOMPARE(faultOf(shown), QString());
+        shown.press(Qt::Key_Space);
+        QCOMPARE(shown.model.tickedRows(), QList<int>{});
+    }
+
     void keysLeadFromRowToRow()
     {
         Shown shown(100);

@@ -22,6 +22,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSemaphore>
 #include <QSpinBox>
@@ -728,6 +729,10 @@ private Q_SLOTS:
         const auto hold = connect(
             page.scanner(), &LargeFileScanner::deleteProgress, page.scanner(),
             [&tried] { tried.acquire(); }, Qt::DirectConnection);
+        const auto letGo = qScopeGuard([&] {
+            disconnect(hold);
+            tried.release(1000);
+        });
         page.onDeleteSelected();
         QVERIFY(page.scanner()->isDeleting());
         QVERIFY(!view->isEnabled());
@@ -749,6 +754,52 @@ private Q_SLOTS:
             QCOMPARE(tree.has(u"f%1"_s.arg(i)), i % 2 == 1);
     }
 
+    void neitherDialogLiesOverAnotherPage()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 300; ++i)
+            tree.file(u"f%1"_s.arg(i), QByteArray(1000 - i, 'x'));
+        QStackedWidget pages;
+        auto *page = new LargeFilePage({drive(tree.path())});
+        pages.addWidget(page);
+        pages.addWidget(new QWidget);
+        pages.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&pages));
+
+        const auto look = connect(
+            page->scanner(), &LargeFileScanner::scanStarted, page,
+            [&] {
+                QVERIFY(dialog(*page));
+                pages.setCurrentIndex(1);
+                QVERIFY(!dialog(*page));
+                pages.setCurrentIndex(0);
+                QVERIFY(dialog(*page));
+            },
+            Qt::QueuedConnection); // after the page, which has the same
+        scan(*page);
+        disconnect(look);
+
+        page->model()->setTicked(0, true);
+        const MessageBoxes boxes(QMessageBox::Yes);
+        QSemaphore held;
+        const auto hold = connect(
+            page->scanner(), &LargeFileScanner::deleteProgress, page->scanner(),
+            [&held] { held.acquire(); }, Qt::DirectConnection);
+        const auto letGo = qScopeGuard([&] {
+            disconnect(hold);
+            held.release(1000);
+        });
+        page->onDeleteSelected();
+        pages.setCurrentIndex(1); // before the deletion takes so long that it shows its dialog
+        const ProgressDialog *progress = nullptr;
+        QTRY_VERIFY_WITH_TIMEOUT((progress = page->findChild<ProgressDialog *>()), patience);
+        QVERIFY(!progress->isVisible());
+        pages.setCurrentIndex(0);
+        QVERIFY(progress->isVisible());
+        pages.setCurrentIndex(1);
+        QVERIFY(!progress->isVisible());
+    }
+
     void aLongDeletionShowsHowFarItIsAndCanBeCancelled()
     {
         const TestTree tree;
@@ -767,6 +818,10 @@ private Q_SLOTS:
         const auto hold = connect(
             page.scanner(), &LargeFileScanner::deleteProgress, page.scanner(),
             [&seen] { seen.acquire(); }, Qt::DirectConnection);
+        const auto letGo = qScopeGuard([&] {
+            disconnect(hold);
+            seen.release(1000);
+        });
         page.onDeleteSelected();
         auto *progress = static_cast<ProgressDialog *>(nullptr);
         QTRY_VERIFY_WITH_TIMEOUT((progress = page.findChild<ProgressDialog *>()), patience);

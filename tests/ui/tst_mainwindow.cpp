@@ -26,8 +26,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QSemaphore>
 #include <QSettings>
-
 #include <QStackedWidget>
 #include <QTest>
 #include <QTimer>
@@ -498,6 +498,44 @@ private Q_SLOTS:
         QVERIFY(content.contains("[INFO] Junk scan finished. Found 25 items, 50.0 KB"));
         QVERIFY(content.contains(
             "[INFO] Junk clean finished. Cleaned 24 items, 48.0 KB. Failed: 0 items"));
+    }
+
+    void aFullScanDoesNotCutOffAClean()
+    {
+        const QString temp = m_home.point("TMPDIR", u"temp"_s);
+        qputenv("TMP", temp.toUtf8());
+        qputenv("TEMP", temp.toUtf8());
+        for (int i = 0; i < 25; ++i) {
+            QFile file(temp + u"/junk %1.tmp"_s.arg(i));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        MainWindow window;
+        show(window);
+        auto *engine = Application::instance()->junkCleaner();
+        SignalSpy scanned(engine, &CleanEngine::scanFinished);
+        engine->startScan();
+        QVERIFY(scanned.wait(30'000));
+        QSemaphore held;
+        const auto hold = connect(
+            engine, &CleanEngine::cleanProgress, engine, [&held] { held.acquire(); },
+            Qt::DirectConnection);
+        SignalSpy cleaned(engine, &CleanEngine::cleanFinished);
+        engine->startClean();
+        {
+            const MessageBoxes boxes(QMessageBox::Ok);
+            window.onDashboardScanRequested();
+            QCOMPARE(
+                boxes.seen(),
+                QStringList{u"Notice|A clean is still running. Start the scan when it is over."_s});
+        }
+        QCOMPARE(engine->state(), CleanEngine::State::Cleaning);
+        disconnect(hold);
+        held.release(1000);
+        QVERIFY(cleaned.size() == 1 || cleaned.wait(30'000));
+        QVERIFY(QDir(temp).entryList(QDir::Files).isEmpty());
+        window.onDashboardScanRequested();
+        QCOMPARE(engine->state(), CleanEngine::State::Scanning);
+        engine->stopAndWait();
     }
 
 public Q_SLOTS:

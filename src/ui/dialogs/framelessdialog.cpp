@@ -12,10 +12,13 @@ FramelessDialog::FramelessDialog(QWidget *parent)
 {
 }
 
-void FramelessDialog::stayWith(QWidget *page)
+void FramelessDialog::showWith(QWidget *page)
 {
     m_page = page;
     page->installEventFilter(this);
+    m_comesBack = !page->isVisible();
+    if (!m_comesBack)
+        show();
 }
 
 bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)

@@ -14,9 +14,10 @@ class FramelessDialog : public QDialog
 public:
     explicit FramelessDialog(QWidget *parent = nullptr);
 
-    /// From now on the dialog is hidden while @p page is, and comes back with it unless it has been
-    /// closed: it does not lie over other pages.
-    void stayWith(QWidget *page);
+    /// Shows the dialog as soon as @p page is shown, which may be now. From then on it is hidden
+    /// while the page is, and comes back with it unless it has been closed: it does not lie over
+    /// other pages.
+    void showWith(QWidget *page);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -293,9 +293,8 @@ ProgressDialog *BasePage::openProgressDialog(int mode)
     });
     closeProgressDialog();
     m_progressDialog = new ProgressDialog(static_cast<ProgressDialog::Mode>(mode), this);
-    m_progressDialog->stayWith(this);
     connect(m_progressDialog, &ProgressDialog::cancelRequested, this, &BasePage::cancelOperation);
-    m_progressDialog->show();
+    m_progressDialog->showWith(this);
     return m_progressDialog;
 }
 

@@ -144,9 +144,8 @@ void LargeFilePage::onScanStarted()
     m_model.setFiles({});
     updateSelectedInfo();
     m_dialog = new ScanProgressDialog(this);
-    m_dialog->stayWith(this);
     connect(m_dialog, &ScanProgressDialog::cancelRequested, this, &LargeFilePage::onCancelScan);
-    m_dialog->show();
+    m_dialog->showWith(this);
 }
 
 void LargeFilePage::onScanProgress(int, QString currentPath, int foundCount, qint64 totalSize)
@@ -287,10 +286,9 @@ void LargeFilePage::startDeletion(Deletion kind, const QList<int> &rows)
 void LargeFilePage::showDeletion()
 {
     m_deletionDialog = new ProgressDialog(ProgressDialog::Cleaning, this);
-    m_deletionDialog->stayWith(this);
     connect(m_deletionDialog, &ProgressDialog::cancelRequested, &m_scanner,
             &LargeFileScanner::cancelDelete);
-    m_deletionDialog->show();
+    m_deletionDialog->showWith(this);
 }
 
 void LargeFilePage::onDeleteProgress(int done, int total, qint64 size)

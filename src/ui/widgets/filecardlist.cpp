@@ -20,6 +20,12 @@ constexpr int roomBetween = 8;
 constexpr int rowHeight = FileCard::cardHeight + roomBetween;
 constexpr int roomForScrollBar = 8;
 
+// Whether it has the focus, or will have it when its window is active again.
+bool holdsFocus(const QWidget *widget)
+{
+    return widget->window()->focusWidget() == widget;
+}
+
 } // namespace
 
 FileCardList::FileCardList(LargeFileModel *model, QWidget *parent)
@@ -60,7 +66,7 @@ void FileCardList::onRowsRemoved(const QList<int> &rows)
 void FileCardList::rebind(int top, int current)
 {
     const bool hadFocus = std::any_of(m_cards.cbegin(), m_cards.cend(), [](const Bound &bound) {
-        return bound.card->checkBox()->hasFocus();
+        return holdsFocus(bound.card->checkBox());
     });
     for (Bound &bound : m_cards)
         bound.row = -1;
@@ -132,7 +138,7 @@ void FileCardList::arrange()
     m_isArranging = true;
     for (Bound &bound : m_cards) {
         const bool isKept =
-            bound.row >= 0 && (isInView(bound.row) || bound.card->checkBox()->hasFocus());
+            bound.row >= 0 && (isInView(bound.row) || holdsFocus(bound.card->checkBox()));
         if (!isKept)
             bound.row = -1;
     }

@@ -6,6 +6,8 @@
 #include <array>
 
 using namespace Qt::StringLiterals;
+using platform::Hive;
+using platform::Registry;
 
 namespace {
 
@@ -27,9 +29,29 @@ constexpr std::array placeholderVariables{
     std::pair("%Tmp%"_L1, "TMP"_L1),
 };
 
+const QString currentVersion = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\"_s;
+
 bool isSeparator(QChar c)
 {
     return c == u'\\' || c == u'/';
+}
+
+// What a program's file may end in when its command does not say so.
+constexpr std::array programSuffixes{".exe"_L1, ".com"_L1, ".bat"_L1, ".cmd"_L1};
+
+// Something that a program is asked for, such as "https://..." or "shell:...", is no path. A single
+// letter is a drive.
+bool hasScheme(const QString &path)
+{
+    static const QRegularExpression scheme(u"^[A-Za-z][A-Za-z0-9+.-]+:"_s);
+    return scheme.match(path).hasMatch();
+}
+
+// How the system takes blanks in front and characters that no name has is its own affair.
+bool isOddlyWritten(const QString &text)
+{
+    return text.startsWith(u' ')
+        || std::any_of(text.begin(), text.end(), [](QChar c) { return c < u' '; });
 }
 
 // The system knows many files by names that no listing has: the short form of a long name, and any
@@ -48,15 +70,42 @@ bool hasOtherName(const QString &path)
 
 } // namespace
 
-PathCheck::PathCheck()
+PathCheck::PathCheck(const Registry &registry)
 {
     for (const auto &[placeholder, variable] : placeholderVariables)
         m_placeholders.emplaceBack(placeholder, platform::windowsVariable(variable));
     const QString windows = platform::windowsVariable(u"WINDIR"_s).value_or(QString());
     if (platform::isOnDrive(windows)) {
         for (const QLatin1StringView folder : {"\\System32\\"_L1, "\\SysWOW64\\"_L1, "\\"_L1})
-            m_systemFolders.append(windows + folder);
+            m_searchFolders.append(windows + folder);
     }
+    readSearchPath(registry);
+    const QString appPaths = currentVersion + "App Paths"_L1;
+    for (const Hive hive : {Hive::CurrentUser, Hive::LocalMachine}) {
+        for (const QString &name : registry.subkeys(hive, appPaths))
+            m_appPaths.insert(name.toCaseFolded(),
+                              registry.text(hive, appPaths + u'\\' + name, {}));
+    }
+}
+
+// What every program finds in its environment, from where the system itself takes it.
+void PathCheck::readSearchPath(const Registry &registry)
+{
+    const QString environment = u"\\Control\\Session Manager\\Environment"_s;
+    QStringList texts{registry.text(Hive::CurrentUser, u"Environment"_s, u"PATH"_s)};
+    for (const QLatin1StringView set : {"CurrentControlSet"_L1, "ControlSet001"_L1})
+        texts.append(
+            registry.text(Hive::LocalMachine, "SYSTEM\\"_L1 + set + environment, u"PATH"_s));
+    const QStringList folders = texts.join(u';').split(u';', Qt::SkipEmptyParts);
+    for (QString folder : folders) {
+        for (const auto &[placeholder, value] : std::as_const(m_placeholders)) {
+            if (value)
+                folder.replace(placeholder, *value, Qt::CaseInsensitive);
+        }
+        if (platform::isOnDrive(folder))
+            m_searchFolders.append(folder + u'\\');
+    }
+    m_searchFolders.removeDuplicates();
 }
 
 bool PathCheck::exists(const QString &text)
@@ -70,6 +119,8 @@ bool PathCheck::exists(const QString &text)
     }
     if (path.startsWith(u'%') && path.size() < 4)
         return true; // too short to hold a placeholder
+    if (isOddlyWritten(path))
+        return true;
     for (const auto &[placeholder, value] : std::as_const(m_placeholders)) {
         if (!value && path.contains(placeholder))
             return true;
@@ -87,15 +138,37 @@ bool PathCheck::exists(const QString &text)
     // here can tell.
     const bool isRooted = isSeparator(path.at(0));
     const bool isBelowCurrent = path.size() >= 2 && path.at(1) == u':';
-    if (isRooted || isBelowCurrent || hasOtherName(path))
+    if (isRooted || isBelowCurrent || hasOtherName(path) || hasScheme(path))
         return true;
-    return std::any_of(m_systemFolders.cbegin(), m_systemFolders.cend(),
-                       [&](const QString &folder) { return existsOnDrive(folder + path); });
+    const bool isFound =
+        std::any_of(m_searchFolders.cbegin(), m_searchFolders.cend(),
+                    [&](const QString &folder) { return existsOnDrive(folder + path); });
+    return isFound || existsAsAppPath(path);
 }
 
 bool PathCheck::existsOnDrive(const QString &path)
 {
-    return m_lookup.presenceOf(path) != platform::Presence::Missing;
+    const auto isThere = [this](const QString &file) {
+        return m_lookup.presenceOf(file) != platform::Presence::Missing;
+    };
+    if (isThere(path))
+        return true;
+    const auto name = std::find_if(path.rbegin(), path.rend(), isSeparator).base();
+    return std::find(name, path.end(), u'.') == path.end()
+        && std::any_of(programSuffixes.begin(), programSuffixes.end(),
+                       [&](QLatin1StringView suffix) { return isThere(path + suffix); });
+}
+
+bool PathCheck::existsAsAppPath(const QString &name)
+{
+    for (const QString &known : {name.toCaseFolded(), name.toCaseFolded() + ".exe"_L1}) {
+        QString path = m_appPaths.value(known);
+        if (path.startsWith(u'"'))
+            path = quotedPart(path);
+        if (platform::isOnDrive(path) && existsOnDrive(path))
+            return true;
+    }
+    return false;
 }
 
 QString PathCheck::programPath(const QString &command)

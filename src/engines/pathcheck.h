@@ -1,7 +1,9 @@
 #pragma once
 
+#include "registry.h"
 #include "windowspaths.h"
 
+#include <QHash>
 #include <QLatin1StringView>
 #include <QList>
 #include <QString>
@@ -13,17 +15,17 @@
 /// Tells whether the file that a registry entry names is still there. An entry gets the benefit of
 /// every doubt: what cannot be resolved or looked at counts as being there.
 ///
-/// Takes the placeholders of the environment as they are when it is made, and remembers what it has
-/// seen of folders: make one for a scan.
+/// Takes the environment, and what the registry says of where programs are found, as they are when
+/// it is made, and remembers what it has seen of folders: make one for a scan.
 class PathCheck final
 {
     Q_DISABLE_COPY_MOVE(PathCheck)
 public:
-    PathCheck();
+    explicit PathCheck(const platform::Registry &registry);
 
     /// Whether the file or folder that @p text names exists. Placeholders are replaced; a text with
     /// one that is not known counts as existing. A name without a drive is looked for where the
-    /// system keeps its own programs and libraries, never in a current folder.
+    /// system would look, never in a current folder; that of a program may lack its ".exe".
     [[nodiscard]] bool exists(const QString &text);
 
     /// The program of a command line: what stands in leading quotes, else all before the first
@@ -36,9 +38,13 @@ private:
     /// A placeholder and what it stands for; nothing when that cannot be told.
     using Placeholder = std::pair<QLatin1StringView, std::optional<QString>>;
 
+    void readSearchPath(const platform::Registry &registry);
+    /// Also for a program that is named without what its file ends in.
     [[nodiscard]] bool existsOnDrive(const QString &path);
+    [[nodiscard]] bool existsAsAppPath(const QString &name);
 
     QList<Placeholder> m_placeholders;
-    QStringList m_systemFolders; ///< in the order in which the system looks into them
+    QStringList m_searchFolders; ///< with a separator behind
+    QHash<QString, QString> m_appPaths; ///< the programs' paths, by name in one case
     platform::PathLookup m_lookup;
 };

@@ -102,8 +102,14 @@ bool isValueList(const QString &key)
 
 /// What the checks of one scan share.
 struct RegistryCleaner::Scan {
+    explicit Scan(const Registry &opened)
+        : registry(opened)
+        , paths(opened)
+    {
+    }
+
     const Registry &registry;
-    PathCheck paths{};
+    PathCheck paths;
     QList<CleanItem> items{}; ///< of the check that runs
 };
 
@@ -175,7 +181,7 @@ QStringList RegistryCleaner::categoryIds() const
 
 bool RegistryCleaner::pathExists(const QString &text)
 {
-    return PathCheck().exists(text);
+    return PathCheck(Registry()).exists(text);
 }
 
 void RegistryCleaner::doScan()
@@ -191,7 +197,7 @@ void RegistryCleaner::doScan()
         tr("Scanning MUI cache..."),
     };
     const Registry registry;
-    Scan scan{registry};
+    Scan scan(registry);
     const int count = static_cast<int>(m_categories.size());
     for (int i = 0; i < count; ++i) {
         Q_EMIT scanProgress(i + 1, count, texts.at(i));
@@ -416,7 +422,7 @@ void RegistryCleaner::doClean()
 std::set<RegistryCleaner::Place> RegistryCleaner::findAgain(const Registry &registry)
 {
     std::set<Place> found;
-    Scan scan{registry};
+    Scan scan(registry);
     const QList<CleanCategory> &chosen = selection().categories;
     for (const Category &category : std::as_const(m_categories)) {
         const auto isSame = [&category](const CleanCategory &other) {

@@ -77,7 +77,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(bool, exists);
-        QCOMPARE(PathCheck().exists(text), exists);
+        QCOMPARE(PathCheck(platform::Registry()).exists(text), exists);
         QCOMPARE(RegistryCleaner::pathExists(text), exists);
     }
 
@@ -97,13 +97,17 @@ private Q_SLOTS:
         QTest::newRow("another machine, with slashes") << u"//sweepwise-none/share/app.exe"_s;
         QTest::newRow("below the current drive") << u"\\Sweepwise Missing\\app.exe"_s;
         QTest::newRow("below the current drive, with a slash") << u"/sweepwise-none/app.exe"_s;
+        QTest::newRow("address") << u"https://www.example.com/none"_s;
+        QTest::newRow("place of the shell") << u"shell:AppsFolder\\none"_s;
+        QTest::newRow("blank in front") << u' ' + missing;
+        QTest::newRow("tabulator behind") << missing + "\t-x"_L1;
         QTest::newRow("below the current folder of a drive") << u"C:sweepwise none.exe"_s;
     }
     void everyDoubtIsForTheEntry()
     {
         QFETCH(QString, text);
-        QVERIFY(PathCheck().exists(text));
-        QVERIFY(PathCheck().exists(u'"' + text + u'"'));
+        QVERIFY(PathCheck(platform::Registry()).exists(text));
+        QVERIFY(PathCheck(platform::Registry()).exists(u'"' + text + u'"'));
     }
 
     void noDoubtIsMadeOfOrdinaryNames_data()
@@ -116,7 +120,8 @@ private Q_SLOTS:
     void noDoubtIsMadeOfOrdinaryNames()
     {
         QFETCH(QString, name);
-        QVERIFY(!PathCheck().exists(u"C:\\Sweepwise Missing\\sub\\"_s + name + u"\\none.exe"_s));
+        QVERIFY(!PathCheck(platform::Registry())
+                     .exists(u"C:\\Sweepwise Missing\\sub\\"_s + name + u"\\none.exe"_s));
     }
 
     // A name alone is looked for where the system looks, never where this program happens to be.
@@ -127,7 +132,7 @@ private Q_SLOTS:
         tree.file(u"sub/sweepwise here.exe"_s);
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(tree.path()));
-        PathCheck paths;
+        PathCheck paths{platform::Registry()};
         const bool isFound = paths.exists(u"sweepwise here.exe"_s)
             || paths.exists(u"sub\\sweepwise here.exe"_s)
             || paths.exists(u"sub/sweepwise here.exe"_s);
@@ -143,12 +148,61 @@ private Q_SLOTS:
         QFile file(library);
         QVERIFY(file.open(QIODevice::WriteOnly));
 #endif
-        PathCheck paths;
+        PathCheck paths{platform::Registry()};
         QVERIFY(paths.exists(u"kernel32.dll"_s));
         QVERIFY(paths.exists(u"KERNEL32.DLL"_s));
         QVERIFY(paths.exists(u"system32\\kernel32.dll"_s));
         QVERIFY(!paths.exists(u"sweepwise none.dll"_s));
     }
+
+    // As the system finds a program that is named alone, or without what its file ends in.
+    void programsAreLookedUpWhereTheSystemDoes()
+    {
+        const QString there = existing(u"Sweepwise Tool.exe"_s);
+        const QString folder = there.first(there.lastIndexOf(u'\\'));
+        RegistryFixture fixture(m_home);
+        const QString appPaths = u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\"
+                                 "CurrentVersion\\App Paths\\"_s;
+        fixture.addText(appPaths + "Sweepwise Alias.exe"_L1, {}, u'"' + there + u'"');
+        fixture.addText(appPaths + "Sweepwise Gone.exe"_L1, {}, missing);
+        fixture.write();
+        PathCheck paths{platform::Registry()};
+        QVERIFY(paths.exists(folder + "\\Sweepwise Tool"_L1));
+        QVERIFY(paths.exists(u"sweepwise alias"_s));
+        QVERIFY(paths.exists(u"Sweepwise Alias.exe"_s));
+        QVERIFY(!paths.exists(u"Sweepwise Gone.exe"_s));
+        QVERIFY(!paths.exists(u"sweepwise none"_s));
+        QVERIFY(!paths.exists(folder + "\\Sweepwise"_L1));
+        QVERIFY(!paths.exists(folder + "\\Sweepwise Tool.dll"_L1));
+    }
+
+#ifndef Q_OS_WIN
+    // Of the prefix, and of the machine's part as well as of the user's.
+    void theSearchPathCounts()
+    {
+        for (const char *folder : {"Sweepwise One", "Sweepwise Two", "windows/Sweepwise Three"}) {
+            const QString path = m_home.folder("prefix/drive_c/"_L1 + QLatin1StringView(folder));
+            QFile file(path + "/sweepwise "_L1 + QString::fromLatin1(folder).last(3).toLower()
+                       + ".exe"_L1);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        const QString elsewhere = m_home.folder(u"prefix/drive_c/Sweepwise Elsewhere"_s);
+        QFile outside(elsewhere + "/sweepwise out.exe"_L1);
+        QVERIFY(outside.open(QIODevice::WriteOnly));
+        qputenv("PATH", (qEnvironmentVariable("PATH") + ":C:\\Sweepwise Elsewhere;"_L1).toUtf8());
+        RegistryFixture fixture(m_home);
+        fixture.addText(u"HKEY_CURRENT_USER\\Environment"_s, u"PATH"_s, u"C:\\Sweepwise One"_s);
+        fixture.addText(u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\"
+                        "Session Manager\\Environment"_s,
+                        u"PATH"_s,
+                        u"c:\\none;C:\\sweepwise two;%systemroot%\\Sweepwise Three;;rel"_s);
+        fixture.write();
+        PathCheck paths{platform::Registry()};
+        for (const QString &name : {u"sweepwise one"_s, u"sweepwise two.exe"_s, u"Sweepwise ree"_s})
+            QVERIFY2(paths.exists(name), qPrintable(name));
+        QVERIFY(!paths.exists(u"sweepwise out"_s));
+    }
+#endif
 
     void programOfACommandLine_data()
     {
@@ -206,23 +260,25 @@ private Q_SLOTS:
         const QString file = existing(u"in variable.exe"_s);
         const qsizetype cut = file.lastIndexOf(u'\\');
         qputenv(variable.constData(), file.first(cut).toUtf8());
-        const bool isFound = PathCheck().exists(placeholder + file.mid(cut));
+        const bool isFound = PathCheck(platform::Registry()).exists(placeholder + file.mid(cut));
 #else
         QFile file(m_home.folder("prefix/drive_c/"_L1 + inPrefix) + "/in variable.exe"_L1);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
         // What is set here means nothing to the prefix.
         qputenv(variable.constData(), "C:\\Sweepwise Elsewhere");
-        const bool isFound = PathCheck().exists(placeholder + "\\in variable.exe"_L1);
+        const bool isFound =
+            PathCheck(platform::Registry()).exists(placeholder + "\\in variable.exe"_L1);
 #endif
-        const bool isMissed = PathCheck().exists(placeholder + "\\sweepwise missing"_L1);
+        const bool isMissed =
+            PathCheck(platform::Registry()).exists(placeholder + "\\sweepwise missing"_L1);
 #ifdef Q_OS_WIN
         // Unset, it stands for nothing.
         qunsetenv(variable.constData());
-        const bool isGone = PathCheck().exists(placeholder + file);
+        const bool isGone = PathCheck(platform::Registry()).exists(placeholder + file);
 #else
-        const bool isGone =
-            file.remove() && !PathCheck().exists(placeholder + "\\in variable.exe"_L1);
+        const bool isGone = file.remove()
+            && !PathCheck(platform::Registry()).exists(placeholder + "\\in variable.exe"_L1);
 #endif
         if (wasSet)
             qputenv(variable.constData(), before);
@@ -236,8 +292,8 @@ private Q_SLOTS:
     void homeDriveAndPathGoTogether()
     {
         const QString text = u"%HomeDrive%%HomePath%"_s;
-        QVERIFY(PathCheck().exists(text));
-        QVERIFY(!PathCheck().exists(text + "\\sweepwise missing"_L1));
+        QVERIFY(PathCheck(platform::Registry()).exists(text));
+        QVERIFY(!PathCheck(platform::Registry()).exists(text + "\\sweepwise missing"_L1));
     }
 
 #ifndef Q_OS_WIN
@@ -245,7 +301,7 @@ private Q_SLOTS:
     {
         m_home.folder(u"prefix/drive_c/users/john"_s);
         qputenv("USER", "somebody-else");
-        PathCheck paths;
+        PathCheck paths{platform::Registry()};
         for (const QString &placeholder : {u"%UserProfile%"_s, u"%LocalAppData%"_s, u"%AppData%"_s,
                                            u"%HomeDrive%%HomePath%"_s, u"%Temp%"_s, u"%Tmp%"_s})
             QVERIFY2(paths.exists(placeholder + "\\sweepwise missing"_L1), qPrintable(placeholder));
@@ -265,7 +321,7 @@ private Q_SLOTS:
         m_home.folder(u"prefix/drive_c/users/jane/one"_s);
         m_home.folder(u"prefix/drive_c/two"_s);
         qputenv("TMP", "/tmp");
-        PathCheck paths;
+        PathCheck paths{platform::Registry()};
         QVERIFY(paths.exists(u"%Temp%"_s));
         QVERIFY(paths.exists(u"%Tmp%"_s));
         QVERIFY(!paths.exists(u"%Temp%\\sweepwise missing"_s));
@@ -294,7 +350,7 @@ private Q_SLOTS:
         bool missingElsewhere = true;
         {
             const OrdinaryUser ordinary;
-            PathCheck paths;
+            PathCheck paths{platform::Registry()};
             exact = paths.exists(u"C:\\Closed\\Inside"_s);
             otherCase = paths.exists(u"C:\\Closed\\inside"_s);
             behindALock = paths.exists(u"C:\\Locked\\Inside"_s);
@@ -311,7 +367,7 @@ private Q_SLOTS:
         const QString folder = m_home.folder(u"prefix/drive_c/Links"_s);
         QVERIFY(QFile::link(u"/sweepwise/none"_s, folder + "/broken"_L1));
         QVERIFY(QFile::link(folder, folder + "/good"_L1));
-        PathCheck paths;
+        PathCheck paths{platform::Registry()};
         QVERIFY(!paths.exists(u"C:\\Links\\broken"_s));
         QVERIFY(!paths.exists(u"C:\\Links\\BROKEN"_s));
         QVERIFY(paths.exists(u"C:\\Links\\GOOD"_s));

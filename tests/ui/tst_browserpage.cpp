@@ -494,6 +494,51 @@ private Q_SLOTS:
         QCOMPARE(records.categories.constFirst().checkedCount(), 3);
     }
 
+    // Nobody ticks by the way what starts unticked for its own good.
+    void guardedItemsAreTickedWithTheirOwnRowAlone()
+    {
+        Records records(2, 1);
+        BrowserGroupWidget &group = records.group;
+        CleanCategory &record = records.categories[0];
+        record.items[0].riskLevel = HighRisk;
+        QCheckBox *checkBox = box(*subItems(group).constFirst());
+        QCOMPARE(checkBox->checkState(), Qt::PartiallyChecked);
+        // Everything else is ticked already: the click takes the ticks away.
+        click(checkBox);
+        QCOMPARE(checkBox->checkState(), Qt::Unchecked);
+        QCOMPARE(record.checkedCount(), 0);
+        QVERIFY(!record.checked);
+        // From there the header brings back what there was.
+        click(header(group));
+        QCOMPARE(header(group)->checkState(), Qt::PartiallyChecked);
+        QCOMPARE(checkBox->checkState(), Qt::PartiallyChecked);
+        QCOMPARE(record.checkedCount(), 2);
+        QVERIFY(record.checked);
+        QVERIFY(!record.items[0].checked);
+        QCOMPARE(records.categories[1].checkedCount(), 3);
+        click(header(group));
+        QCOMPARE(header(group)->checkState(), Qt::Unchecked);
+        QCOMPARE(record.checkedCount(), 0);
+        QCOMPARE(records.categories[1].checkedCount(), 0);
+        // The row itself is about everything in it.
+        click(checkBox);
+        QCOMPARE(checkBox->checkState(), Qt::Checked);
+        QCOMPARE(record.checkedCount(), 3);
+    }
+
+    void aKindOfDataThatIsAllGuardedIsLeftAloneByTheHeader()
+    {
+        Records records(2, 3);
+        for (CleanItem &item : records.categories[0].items)
+            item.riskLevel = HighRisk;
+        click(header(records.group));
+        QCOMPARE(header(records.group)->checkState(), Qt::Unchecked);
+        click(header(records.group));
+        QCOMPARE(records.categories[0].checkedCount(), 0);
+        QVERIFY(!records.categories[0].checked);
+        QCOMPARE(records.categories[1].checkedCount(), 3);
+    }
+
     void aTickedCategoryOfUntickedItemsIsShownUnticked()
     {
         Records records(1, 3);

@@ -136,13 +136,21 @@ QList<QWidget *> BrowserGroupWidget::focusChain() const
     return chain;
 }
 
-// Partly ticked is shown, but nobody chooses it: a click ticks all.
+// Partly ticked is shown, but nobody chooses it: a click ticks all but the guarded items, and where
+// they alone are left it takes the ticks away.
 void BrowserGroupWidget::onHeaderChanged(int state)
 {
     if (state == Qt::PartiallyChecked)
         return;
-    for (BrowserSubItem *subItem : std::as_const(m_subItems))
-        subItem->setChecked(state == Qt::Checked);
+    const bool tick = state == Qt::Checked
+        && std::any_of(m_subItems.cbegin(), m_subItems.cend(),
+                       [](const BrowserSubItem *subItem) { return subItem->hasMoreToTick(); });
+    for (BrowserSubItem *subItem : std::as_const(m_subItems)) {
+        if (tick)
+            subItem->tickUnguarded();
+        else
+            subItem->setChecked(false);
+    }
     showCheckState();
     Q_EMIT selectionChanged();
 }

@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -111,6 +112,31 @@ void BrowserSubItem::setChecked(bool checked)
     showCheckState();
 }
 
+bool BrowserSubItem::hasMoreToTick() const
+{
+    return std::any_of(m_category->items.cbegin(), m_category->items.cend(),
+                       [this](const CleanItem &item) {
+                           return !(m_category->checked && item.checked) && !isGuarded(item);
+                       });
+}
+
+void BrowserSubItem::tickUnguarded()
+{
+    if (!m_category->checked)
+        m_category->setChecked(
+            false); // its items may still bear the ticks that counted for nothing
+    for (CleanItem &item : m_category->items)
+        item.checked = item.checked || !isGuarded(item);
+    m_category->checked = m_category->checkedCount() > 0;
+    showCheckState();
+}
+
+// Listed with a higher risk than its kind of data, by whoever knows more of the item.
+bool BrowserSubItem::isGuarded(const CleanItem &item) const
+{
+    return item.riskLevel > m_category->riskLevel;
+}
+
 void BrowserSubItem::setIncluded(bool included)
 {
     if (std::exchange(m_isIncluded, included) == included)
@@ -141,12 +167,14 @@ void BrowserSubItem::showDetails()
     m_details->show();
 }
 
-// Partly ticked is shown, but nobody chooses it: a click ticks all.
+// Partly ticked is shown, but nobody chooses it: a click ticks all. Where all but the guarded items
+// are ticked, it takes the ticks away: nobody is to get those by the way.
 void BrowserSubItem::onStateChanged(int state)
 {
     if (state == Qt::PartiallyChecked)
         return;
-    setChecked(state == Qt::Checked);
+    const bool wasUnticked = m_category->checkState() == Qt::Unchecked;
+    setChecked(state == Qt::Checked && (wasUnticked || hasMoreToTick()));
     Q_EMIT checkChanged();
 }
 

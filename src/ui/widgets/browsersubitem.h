@@ -8,6 +8,7 @@ class QCheckBox;
 class QLabel;
 class QPushButton;
 struct CleanCategory;
+struct CleanItem;
 
 /// One kind of data of one browser: a row with a check box, how much there is, and a button for the
 /// details. Bound to a record of the engine's result.
@@ -24,6 +25,11 @@ public:
     [[nodiscard]] Qt::CheckState checkState() const;
     /// Ticks or unticks the record with all its items, without a signal.
     void setChecked(bool checked);
+    /// Whether something is not ticked that is not guarded.
+    [[nodiscard]] bool hasMoreToTick() const;
+    /// Ticks the record and its items, but for those that are guarded: these are ticked with this
+    /// row alone, by somebody who sees which kind of data it is.
+    void tickUnguarded();
     /// Takes the category out of every clean, or puts it back with the ticks that it had. Taken
     /// out, it cannot be ticked.
     void setIncluded(bool included);
@@ -33,6 +39,7 @@ public:
 public Q_SLOTS:
     /// Opens the dialog that lists every item.
     void showDetails();
+    [[nodiscard]] bool isGuarded(const CleanItem &item) const;
 
 Q_SIGNALS:
     void checkChanged();

@@ -182,6 +182,7 @@ void LargeFileProbe::check()
 void LargeFileProbe::rememberChoice()
 {
     ++m_listing;
+    m_isFresh = false;
     const QString size = m_sizes->currentText();
     m_minimum =
         size.section(u' ', 0, 0).toLongLong() * (size.endsWith("GB"_L1) ? 1 << 30 : 1 << 20);

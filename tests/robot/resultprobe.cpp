@@ -63,6 +63,7 @@ ResultProbe::ResultProbe(const QString &name, BasePage *page, const ListingCheck
         if (state == State::Scanning) {
             ++m_listing;
             m_hasFigures = false;
+            m_isFresh = false; // gone before anybody has looked at it
         }
         m_isScanning = state == State::Scanning || (state != State::Cancelled && m_isScanning);
         m_isCleaning = state == State::Cleaning || m_isCleaning;

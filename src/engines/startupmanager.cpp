@@ -1,15 +1,17 @@
 #include "startupmanager.h"
 
 #include "filewalk.h"
+#include "folderlist.h"
 #include "logger.h"
 #include "registrysettings.h"
 #include "windowspaths.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using platform::Hive;
@@ -72,6 +74,34 @@ QString iconFile(const QString &displayIcon)
     return path;
 }
 
+// One spelling for all that mean the same to the system: with backslashes, in small letters, and
+// with what the known placeholders stand for.
+QString oneSpelling(const QString &path)
+{
+    QString result = path;
+    for (qsizetype begin = result.indexOf(u'%'); begin >= 0;
+         begin = result.indexOf(u'%', begin + 1)) {
+        const qsizetype end = result.indexOf(u'%', begin + 1);
+        if (end < 0)
+            break;
+        const QString name = result.mid(begin + 1, end - begin - 1).toUpper();
+        const std::optional<QString> value = platform::windowsVariable(name);
+        if (value && !value->isEmpty())
+            result.replace(begin, end - begin + 1, *value);
+    }
+    return result.replace(u'/', u'\\').toLower();
+}
+
+// Whatever the spelling; without quotes the system tries each blank as the end of the program.
+bool startsProgram(const QString &command, const QString &exePath)
+{
+    const QString program = oneSpelling(exePath);
+    if (command.startsWith(u'"'))
+        return oneSpelling(StartupManager::commandPath(command)) == program;
+    const QString line = oneSpelling(command);
+    return line == program || line.startsWith(program + u' ') || line.startsWith(program + u'\t');
+}
+
 // The programs of one folder, by name, below it with a prefix.
 QStringList programsIn(const QString &folder, const QString &prefix)
 {
@@ -123,8 +153,19 @@ void StartupManager::readStartupTable(const Registry &registry)
     for (const QString &name : registry.valueNames(Hive::CurrentUser, runKey)) {
         const QString command = registry.text(Hive::CurrentUser, runKey, name).trimmed();
         const QString path = commandPath(command);
-        m_startup.insert(path.toLower(), {name, path, command});
+        m_startup.append({name, path, command});
     }
+}
+
+QList<StartupManager::Entry> StartupManager::entriesOf(const QString &exePath) const
+{
+    QList<Entry> entries;
+    for (const Entry &entry : m_startup) {
+        if (entry.exePath.compare(exePath, Qt::CaseInsensitive) == 0
+            || startsProgram(entry.command, exePath))
+            entries.append(entry);
+    }
+    return entries;
 }
 
 QString StartupManager::commandPath(const QString &command)
@@ -168,7 +209,7 @@ void StartupManager::readUninstallKey(const Registry &registry, Hive hive, const
         });
     if (isKnown)
         return;
-    app.isStartup = m_startup.contains(app.exePath.toLower());
+    app.isStartup = !entriesOf(app.exePath).isEmpty();
     m_apps.append(app);
 }
 
@@ -181,13 +222,14 @@ QString StartupManager::findExecutable(const QString &folder, const QString &nam
         return {};
     // No deeper: an install folder may be a whole drive or a share.
     QStringList programs = programsIn(local, {});
-    const QStringList below =
-        QDir(local).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
-    for (const QString &subfolder : below) {
-        const QString path = platform::joinedPath(local, subfolder);
-        if (platform::inspect(path).kind == platform::EntryKind::Folder)
-            programs += programsIn(path, subfolder + u'\\');
+    QStringList below;
+    for (const platform::ListedEntry &entry : platform::FolderLister().list(local).entries) {
+        if (entry.kind == platform::ListedKind::Folder && !entry.isHidden)
+            below.append(entry.name);
     }
+    below.sort(Qt::CaseInsensitive);
+    for (const QString &subfolder : std::as_const(below))
+        programs += programsIn(platform::joinedPath(local, subfolder), subfolder + u'\\');
     programs.removeIf([](const QString &program) {
         return isHelperProgram(program.mid(program.lastIndexOf(u'\\') + 1));
     });
@@ -233,7 +275,7 @@ bool StartupManager::setStartup(const StartupApp &app, bool enable)
         return addToStartup(app.name, app.exePath);
     readStartupTable(Registry());
     QStringList names;
-    for (const Entry &entry : m_startup.values(app.exePath.toLower()))
+    for (const Entry &entry : entriesOf(app.exePath))
         names.append(entry.valueName);
     return removeEntries(names.isEmpty() ? QStringList{app.name} : names);
 }
@@ -243,13 +285,19 @@ bool StartupManager::removeEntries(const QStringList &valueNames)
     keepCommands(valueNames, u"Startup command of %1 before it was removed: %2"_s);
     const bool isDone =
         platform::registrysettings::remove(Hive::CurrentUser, runKey, valueNames, m_error);
+    const QList<Entry> before = m_startup;
+    readStates();
+    const auto has = [](const QList<Entry> &entries, const QString &name) {
+        return std::any_of(entries.cbegin(), entries.cend(), [&name](const Entry &entry) {
+            return entry.valueName.compare(name, Qt::CaseInsensitive) == 0;
+        });
+    };
     for (const QString &name : valueNames) {
-        if (isDone)
+        if (isDone || (has(before, name) && !has(m_startup, name)))
             Logger::instance().info(u"Removed from startup: %1"_s.arg(name));
         else
             Logger::instance().error(u"Failed to remove startup: %1"_s.arg(name));
     }
-    readStates();
     return isDone;
 }
 
@@ -265,5 +313,5 @@ void StartupManager::readStates()
 {
     readStartupTable(Registry());
     for (StartupApp &app : m_apps)
-        app.isStartup = m_startup.contains(app.exePath.toLower());
+        app.isStartup = !entriesOf(app.exePath).isEmpty();
 }

@@ -2,7 +2,6 @@
 
 #include "registry.h"
 
-#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -69,6 +68,8 @@ private:
                            const QString &root);
     void readUninstallKey(const platform::Registry &registry, platform::Hive hive,
                           const QString &root, const QString &id);
+    /// What starts @p exePath, however it is spelled.
+    [[nodiscard]] QList<Entry> entriesOf(const QString &exePath) const;
     bool removeEntries(const QStringList &valueNames);
     /// Writes the commands of these entries, which are about to go, to the log.
     void keepCommands(const QStringList &valueNames, const QString &line) const;
@@ -77,6 +78,6 @@ private:
 
     QList<StartupApp> m_apps;
     bool m_loaded = false;
-    QMultiHash<QString, Entry> m_startup; ///< by executable path in lower case
+    QList<Entry> m_startup; ///< the start-up list, in the registry's order
     QString m_error;
 };

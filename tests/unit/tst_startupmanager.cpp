@@ -14,6 +14,7 @@
 
 #ifndef Q_OS_WIN
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -363,6 +364,30 @@ private Q_SLOTS:
                              + path + "\" --own"_L1));
     }
 
+    void switchingOffTakesEverySpellingOfTheProgram()
+    {
+        const QString path = existing(u"spelled/app.exe"_s);
+        product(userList, u"app"_s, u"Sweepwise Spelled"_s, path);
+        const QStringList commands{u'"' + QString(path).replace(u'\\', u'/') + u'"',
+                                   path.toUpper() + " -x"_L1,
+                                   "\"%systemdrive%"_L1 + path.mid(2) + "\" -y"_L1, path};
+        for (qsizetype i = 0; i < commands.size(); ++i)
+            m_fixture->addText(runKey, u"Sweepwise %1"_s.arg(i), commands.at(i));
+        const QStringList others{path + ".bak"_L1, u'"' + path + "x\""_L1, u"cmd /c "_s + path};
+        for (qsizetype i = 0; i < others.size(); ++i)
+            m_fixture->addText(runKey, u"Sweepwise other %1"_s.arg(i), others.at(i));
+        m_fixture->write();
+        StartupManager manager;
+        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
+        QVERIFY(!own(manager).constFirst().isStartup);
+        for (qsizetype i = 0; i < commands.size(); ++i)
+            QVERIFY2(!m_fixture->hasValue(runKey, u"Sweepwise %1"_s.arg(i)),
+                     qPrintable(commands.at(i)));
+        for (qsizetype i = 0; i < others.size(); ++i)
+            QVERIFY2(m_fixture->hasValue(runKey, u"Sweepwise other %1"_s.arg(i)),
+                     qPrintable(others.at(i)));
+    }
+
     void aCommandThatIsOverwrittenIsKeptInTheLog()
     {
         const QString path = existing(u"kept/app.exe"_s);
@@ -543,6 +568,13 @@ private Q_SLOTS:
         QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).endsWith("\\photo.exe"_L1));
         QVERIFY(QFile::remove(m_home.folder(filesFolder()) + "/photo.exe"_L1));
         QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+        // A hidden folder is no place for what people start.
+        existing(u"../Hidden/photo.exe"_s);
+        const QString hidden = m_home.folder(u"prefix/drive_c/Hidden"_s);
+        QVERIFY(!StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+        if (::setxattr(QFile::encodeName(hidden).constData(), "user.DOSATTRIB", "0x2", 3, 0) == 0)
+            QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+        QVERIFY(QDir(hidden).removeRecursively());
         // A link that leads back up is not followed.
         QFile::link(m_home.folder(u"prefix/drive_c"_s),
                     m_home.folder(u"prefix/drive_c"_s) + "/loop"_L1);

@@ -1,6 +1,7 @@
 #include "browser.h"
 
 #include "filewalk.h"
+#include "folderlist.h"
 #include "folders.h"
 #include "inifile.h"
 #include "logger.h"
@@ -53,8 +54,12 @@ constexpr qint64 longestProfilesIni = 1'048'576;
 // followed.
 QString below(const DataFolders &folders, DataFolder folder, const QString &relative)
 {
-    return platform::locate(folder == DataFolder::Local ? folders.local : folders.roaming,
-                            relative);
+    const QString base = folder == DataFolder::Local ? folders.local : folders.roaming;
+    QString problem;
+    const QString path = platform::locate(base, relative, &problem);
+    if (!problem.isEmpty())
+        Logger::instance().warning(u"Skipped %1/%2: %3"_s.arg(base, relative, problem));
+    return path;
 }
 
 // Without its data folder nothing of the browser is there either; it is told where it would be.
@@ -104,7 +109,12 @@ private:
 bool hasData(const DataFolders &folders, const Description &browser, const QString &dataRoot)
 {
     const auto isThere = [](const QString &path) {
-        return !path.isEmpty() && QFileInfo(path).isDir();
+        if (path.isEmpty())
+            return false;
+        const platform::Entry entry = platform::inspect(path);
+        if (entry.kind == platform::EntryKind::Other)
+            logSkipped(path, entry);
+        return QFileInfo(path).isDir();
     };
     if (browser.type != Browser::Firefox)
         return isThere(dataRoot);
@@ -113,17 +123,22 @@ bool hasData(const DataFolders &folders, const Description &browser, const QStri
         || isThere(below(folders, DataFolder::Local, u"Mozilla/Firefox/Profiles"_s));
 }
 
-/// The real folders right below @p folder, in the order of their names.
+/// The real folders right below @p folder that are not hidden, in the order of their names.
 QStringList subfolders(const QString &folder, const QStringList &nameFilters = {})
 {
-    QStringList paths;
+    const platform::FolderListing listing = platform::FolderLister().list(folder);
+    if (!listing.error.isEmpty() && !listing.isMissing)
+        Logger::instance().warning(u"Cannot read folder: %1 - %2"_s.arg(folder, listing.error));
     const platform::NameFilter filter(nameFilters);
-    const QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &name : names) {
-        const QString path = folder + u'/' + name;
-        if (filter.matches(name) && isScannable(path))
+    QStringList paths;
+    for (const platform::ListedEntry &entry : listing.entries) {
+        const bool isFolder = entry.kind == platform::ListedKind::Folder
+            || entry.kind == platform::ListedKind::FolderLink;
+        const QString path = folder + u'/' + entry.name;
+        if (isFolder && !entry.isHidden && filter.matches(entry.name) && isScannable(path))
             paths.append(path);
     }
+    paths.sort();
     return paths;
 }
 
@@ -131,8 +146,12 @@ QByteArray readProfilesIni(const QString &path)
 {
     QFile file(path);
     // Opening a pipe would wait for somebody to write into it.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile())
         return {};
+    if (!file.open(QIODevice::ReadOnly)) {
+        Logger::instance().warning(u"Cannot read file: %1 - %2"_s.arg(path, file.errorString()));
+        return {};
+    }
     return file.read(longestProfilesIni);
 }
 

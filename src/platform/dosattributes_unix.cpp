@@ -2,6 +2,8 @@
 
 #include "wineprefix_unix.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
@@ -26,6 +28,9 @@ DosAttributes::DosAttributes()
     if (prefix.isEmpty())
         return;
     m_tops.append(prefix + u'/');
+    // Wherever that is.
+    if (const QString temporary = wineprefix::temporaryFolder(); !temporary.isEmpty())
+        m_tops.append(QFileInfo(temporary).canonicalFilePath() + u'/');
     // A drive that is everything there is would have every file of this system asked.
     for (const QString &drive : wineprefix::drives()) {
         if (drive != u'/')

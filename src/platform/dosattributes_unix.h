@@ -6,8 +6,8 @@
 // The attributes that Wine keeps of files beside what this file system knows of them.
 namespace platform {
 
-/// Tells where files may bear such attributes: below the prefix and what it calls its drives. One
-/// object a run; any thread.
+/// Tells where files may bear such attributes: below the prefix, what it calls its drives, and its
+/// temporary folder. One object a run; any thread.
 class DosAttributes final
 {
 public:

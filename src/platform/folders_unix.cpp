@@ -96,8 +96,11 @@ QString locate(const QString &base, const QString &relative, QString *problem)
     QString rest = relative;
     rest.replace(u'\\', u'/');
     const QStringList names = rest.split(u'/', Qt::SkipEmptyParts);
-    if (names.contains(".."_L1) || names.contains("."_L1))
+    if (names.contains(".."_L1) || names.contains("."_L1)) {
+        if (problem)
+            *problem = u"a path with . or .. in it is not followed"_s;
         return {};
+    }
     rest = names.join(u'/');
     if (rest.isEmpty())
         return folder;

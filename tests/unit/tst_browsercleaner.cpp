@@ -18,6 +18,7 @@
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -634,6 +635,54 @@ private Q_SLOTS:
                  (QStringList{u"Default/GPUCache/x"_s, u"Profile 1/GPUCache/x"_s,
                               u"Profile 2.bak/GPUCache/x"_s}));
     }
+
+#ifdef Q_OS_UNIX
+    // As the same scan does in the prefix itself.
+    void aHiddenProfileIsPassedOver()
+    {
+        const TestTree tree;
+        const QString root = u"prefix/drive_c/Local/Google/Chrome/User Data/"_s;
+        for (const QString &name : {u"Default"_s, u"Profile 1"_s, u"Profile 2"_s})
+            tree.file(root + name + "/GPUCache/x"_L1);
+        if (::setxattr(QFile::encodeName(tree.path(root + "Profile 1"_L1)).constData(),
+                       "user.DOSATTRIB", "0x2", 3, 0)
+            != 0)
+            QSKIP("this file system keeps no attributes of others");
+        const QByteArray before = qgetenv("WINEPREFIX");
+        qputenv("WINEPREFIX", QFile::encodeName(tree.path(u"prefix"_s)));
+        const QStringList profiles = browsers::chromiumProfiles(tree.path(root).chopped(1));
+        qputenv("WINEPREFIX", before);
+        QCOMPARE(profiles,
+                 (QStringList{tree.path(root + "Default"_L1), tree.path(root + "Profile 2"_L1)}));
+    }
+
+    void whatCannotBeLookedAtIsSaid()
+    {
+        const TestTree tree;
+        const QString chrome = tree.path(u"Local/Google/Chrome/User Data"_s);
+        tree.file(u"Local/Google/Chrome/User Data/Profile 1/GPUCache/x"_s);
+        const QString edge = tree.path(u"Local/Microsoft/Edge"_s);
+        tree.file(u"Local/Microsoft/Edge/User Data/Default/GPUCache/x"_s);
+        const QString ini = tree.file(u"Roaming/Mozilla/Firefox/profiles.ini"_s);
+        const QFile::Permissions mine = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+        QVERIFY(QFile::setPermissions(chrome, mine | QFile::ExeGroup | QFile::ExeOther));
+        QVERIFY(QFile::setPermissions(edge, mine));
+        QVERIFY(QFile::setPermissions(ini, mine));
+        const browsers::DataFolders folders = foldersOf(tree);
+        QCOMPARE(::chmod(QFile::encodeName(tree.path()).constData(), 0755), 0);
+        const LogCapture log;
+        {
+            const OrdinaryUser ordinary;
+            BrowserCleaner cleaner(folders);
+            cleaner.loadRules(shipped);
+            scan(cleaner);
+            QVERIFY(browsers::firefoxProfiles(folders).isEmpty());
+        }
+        QVERIFY(log.contains("Cannot read folder: "_L1 + chrome));
+        QVERIFY(log.contains("Skipped "_L1 + edge + "/User Data: "_L1));
+        QVERIFY(log.contains("Cannot read file: "_L1 + ini));
+    }
+#endif
 
     // --- Firefox
 

@@ -184,6 +184,11 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
         scanDirectory(path, rule.patterns, items, rule.recursive);
         return;
     case platform::EntryKind::File: {
+        // Where the rule means a folder of the environment the file would be somebody's drive.
+        if (relative.isEmpty()) {
+            Logger::instance().warning(u"Skipped %1: it is no folder"_s.arg(path));
+            return;
+        }
         CleanItem item(QFileInfo(path).fileName(), path, entry.size);
         item.checked = rule.defaultChecked;
         item.riskLevel = rule.riskLevel;

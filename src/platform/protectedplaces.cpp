@@ -4,6 +4,7 @@
 #include "folders.h"
 #include "folders_p.h"
 
+#include <QDir>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -47,7 +48,6 @@ constexpr std::array belowDrive{
 
 // A temporary folder may well lie in one of them, if its owner says so.
 constexpr std::array belowProfile{
-    RelativePlace{""_L1, Extent::Itself},
     RelativePlace{"AppData"_L1, Extent::Children}, // what programs keep for the user
     RelativePlace{"Desktop"_L1, Extent::Itself}, // from here on: what people made
     RelativePlace{"Documents"_L1, Extent::Itself},
@@ -62,11 +62,30 @@ constexpr std::array belowProfile{
     RelativePlace{"OneDrive"_L1, Extent::Itself},
 };
 
+QString asFolder(const QString &path)
+{
+    return path.endsWith(u'/') ? path : path + u'/';
+}
+
 template<class Places>
 void add(QList<ProtectedPlace> &list, const QString &base, const Places &places)
 {
     for (const RelativePlace &place : places)
         list.append({locate(base, place.path), place.extent});
+}
+
+// The user's own profile, and those of others beside it.
+void addProfiles(QList<ProtectedPlace> &list)
+{
+    list.append({homeFolder(), Extent::Itself});
+    add(list, homeFolder(), belowProfile);
+    for (const QString &parent : {locate(systemDrive(), u"Users"_s), u"/home"_s}) {
+        if (parent.isEmpty())
+            continue;
+        const QStringList names = QDir(parent).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        for (const QString &name : names)
+            add(list, asFolder(parent) + name, belowProfile);
+    }
 }
 
 // Where the system's settings say that people keep what they made.
@@ -84,7 +103,7 @@ QList<ProtectedPlace> protectedPlaces()
     QList<ProtectedPlace> list = systemPlaces();
     add(list, windowsFolder(), belowWindows);
     add(list, systemDrive(), belowDrive);
-    add(list, homeFolder(), belowProfile);
+    addProfiles(list);
     addPersonalFolders(list);
     for (const QString &folder : {localDataFolder(), roamingDataFolder(), programDataFolder()})
         list.append({folder, Extent::Itself});
@@ -92,11 +111,6 @@ QList<ProtectedPlace> protectedPlaces()
         place.path = canonicalPath(place.path);
     list.removeIf([](const ProtectedPlace &place) { return place.path.isEmpty(); });
     return list;
-}
-
-QString asFolder(const QString &path)
-{
-    return path.endsWith(u'/') ? path : path + u'/';
 }
 
 bool isInside(const QString &path, const QString &folder)

@@ -49,6 +49,8 @@ QList<ProtectedPlace> systemPlaces()
     for (const QString &drive : wineprefix::drives())
         list.append({drive, Extent::Itself});
     list.append({wineprefix::folder(), Extent::Itself});
+    for (const QString &folder : wineprefix::personalFolders())
+        list.append({folder, Extent::Itself});
     return list;
 }
 

@@ -7,11 +7,17 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QMutex>
 
+#include <array>
 #include <cerrno>
+#include <optional>
+#include <tuple>
+#include <utility>
 
 #include <fcntl.h>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -34,24 +40,117 @@ QString userName()
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString();
 }
 
-// A text value of the environment that the prefix's registry lays down: the user's, else the
-// machine's.
+const QString environmentKey = u"Environment"_s;
+const QString machineEnvironmentKey =
+    u"System\\CurrentControlSet\\Control\\Session Manager\\Environment"_s;
+constexpr std::array environmentNames{"TEMP"_L1, "TMP"_L1};
+
+// Where the user's hive keeps the places of what people make; the second is what the first was
+// worth when it was last asked.
+const std::array folderKeys{
+    u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"_s,
+    u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders"_s};
+constexpr std::array folderNames{
+    "Desktop"_L1,
+    "Personal"_L1, // documents
+    "My Pictures"_L1,
+    "My Music"_L1,
+    "My Video"_L1,
+    "Favorites"_L1,
+    "{374DE290-123F-4565-9164-39C4925E467B}"_L1, // downloads
+    // The same as newer programs know them: documents, pictures, music, videos, downloads.
+    "{F42EE2D3-909F-4907-8871-4C22FC0BF756}"_L1,
+    "{0DDD015D-B06C-45D5-8C4C-F59713854639}"_L1,
+    "{A0C69A99-21C8-4671-8703-7934162FCF1D}"_L1,
+    "{35286A68-3C57-41A1-BBB1-0EAE73D76C95}"_L1,
+    "{7D83EE9B-2244-4E70-B1F5-5393042AF1E4}"_L1,
+};
+
+// Of a text of the registry: its key and its name.
+using Entry = std::pair<QString, QString>;
+
+template<class Keys, class Names>
+QList<Entry> entriesOf(const Keys &keys, const Names &names)
+{
+    QList<Entry> entries;
+    for (const QString &key : keys) {
+        for (const QLatin1StringView name : names)
+            entries.append({key, name});
+    }
+    return entries;
+}
+
+// The few texts that tell where things are, of one hive's file. They are asked for again and again:
+// the file is read once for as long as it stays the same.
+class LaidDown
+{
+public:
+    LaidDown(QLatin1StringView hive, const QList<Entry> &entries)
+        : m_hive(hive)
+        , m_entries(entries)
+    {
+    }
+
+    QString text(const QString &key, const QString &name)
+    {
+        const QMutexLocker locker(&m_mutex);
+        const QByteArray path = QFile::encodeName(folder() + m_hive);
+        struct stat status {
+        };
+        // Opening a pipe would wait for somebody to write into it.
+        if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
+            return {};
+        const Stamp stamp{path,           status.st_dev,         status.st_ino,
+                          status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+        if (m_stamp != stamp) {
+            m_texts = read(QFile::decodeName(path));
+            m_stamp = stamp;
+        }
+        return m_texts.value({key, name});
+    }
+
+private:
+    using Stamp = std::tuple<QByteArray, dev_t, ino_t, off_t, time_t, long>;
+
+    [[nodiscard]] QHash<Entry, QString> read(const QString &path) const
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        QHash<Entry, QString> texts;
+        const std::optional<RegistryFile> registry = RegistryFile::parse(file.readAll());
+        for (const auto &[key, name] : m_entries) {
+            const RegistryFile::Key found = registry ? registry->find(key) : RegistryFile::none;
+            const auto value =
+                found == RegistryFile::none ? std::nullopt : registry->value(found, name);
+            if (value)
+                texts.insert({key, name}, registryText(*value));
+        }
+        return texts;
+    }
+
+    const QString m_hive;
+    const QList<Entry> m_entries;
+    QMutex m_mutex;
+    std::optional<Stamp> m_stamp;
+    QHash<Entry, QString> m_texts;
+};
+
+LaidDown &ofUser()
+{
+    static LaidDown texts("/user.reg"_L1,
+                          entriesOf(QStringList{environmentKey}, environmentNames)
+                              + entriesOf(folderKeys, folderNames));
+    return texts;
+}
+
+// A text of the environment that the prefix's registry lays down: the user's, else the machine's.
 QString environmentValue(const QString &name)
 {
-    for (const auto &[hive, path] :
-         {std::pair("/user.reg"_L1, u"Environment"_s),
-          std::pair("/system.reg"_L1,
-                    u"System\\CurrentControlSet\\Control\\Session Manager\\Environment"_s)}) {
-        QFile file(folder() + hive);
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        const std::optional<RegistryFile> registry = RegistryFile::parse(file.readAll());
-        const RegistryFile::Key key = registry ? registry->find(path) : RegistryFile::none;
-        const auto value = key == RegistryFile::none ? std::nullopt : registry->value(key, name);
-        if (value)
-            return registryText(*value);
-    }
-    return {};
+    static LaidDown ofMachine("/system.reg"_L1,
+                              entriesOf(QStringList{machineEnvironmentKey}, environmentNames));
+    const QString text = ofUser().text(environmentKey, name);
+    return text.isEmpty() ? ofMachine.text(machineEnvironmentKey, name) : text;
 }
 
 // A folder below the C: drive as Windows programs name it; empty for others.
@@ -183,6 +282,17 @@ QString localPath(const QString &windowsPath)
     const bool hasDrive = path.size() >= 3 && path.at(1) == u':' && path.at(2) == u'/';
     const QString top = hasDrive ? drive(path.at(0)) : QString();
     return top.isEmpty() ? QString() : matchCase(top, path.mid(2));
+}
+
+QStringList personalFolders()
+{
+    QStringList folders;
+    for (const auto &[key, name] : entriesOf(folderKeys, folderNames)) {
+        const std::optional<QString> path = expanded(ofUser().text(key, name));
+        if (const QString local = path ? localPath(*path) : QString(); !local.isEmpty())
+            folders.append(local);
+    }
+    return folders;
 }
 
 QString drive(QChar letter)

@@ -21,6 +21,10 @@ namespace platform::wineprefix {
 /// or when it cannot be told.
 [[nodiscard]] QString temporaryFolder();
 
+/// Where the prefix's registry says that its user keeps what people make: documents, pictures and
+/// the like. Without what it does not tell.
+[[nodiscard]] QStringList personalFolders();
+
 /// The environment variable @p name, in capitals, of the prefix's programs; nothing without a
 /// prefix or when the prefix does not tell.
 [[nodiscard]] std::optional<QString> variable(const QString &name);

@@ -224,6 +224,14 @@ private Q_SLOTS:
         for (const char *name :
              {"Desktop", "Documents", "Downloads", "Pictures", "Music", "Videos"})
             QTest::newRow(name) << "DRIVE/users/jane/"_L1 + QLatin1StringView(name) << true;
+        QTest::newRow("another user's documents") << u"DRIVE/users/john/Documents"_s << true;
+        QTest::newRow("everybody's documents") << u"DRIVE/users/Public/Documents"_s << true;
+        QTest::newRow("another user's data") << u"DRIVE/users/john/AppData/Local"_s << true;
+        QTest::newRow("another user's temporary folder")
+            << u"DRIVE/users/john/AppData/Local/Temp"_s << false;
+        QTest::newRow("documents that were moved") << u"OTHER/Papers"_s << true;
+        QTest::newRow("downloads that were moved") << u"OTHER/Loads"_s << true;
+        QTest::newRow("what else the registry tells of") << u"OTHER/Cache"_s << false;
         QTest::newRow("below the downloads") << u"DRIVE/users/jane/Downloads/tmp"_s << false;
         QTest::newRow("where a link of the prefix leads") << u"HOME/linked music"_s << true;
     }
@@ -246,6 +254,21 @@ private Q_SLOTS:
         const QString other = m_home.folder(u"disks/other"_s);
         m_home.folder(u"disks/other/temp"_s);
         QFile::link(other, m_home.path() + "/prefix/dosdevices/d:"_L1);
+        m_home.folder(u"prefix/drive_c/users/john/AppData/Local/Temp"_s);
+        for (const QString &name : {u"john"_s, u"Public"_s})
+            m_home.folder("prefix/drive_c/users/"_L1 + name + "/Documents"_L1);
+        for (const QString &name : {u"Papers"_s, u"Loads"_s, u"Cache"_s})
+            m_home.folder("disks/other/"_L1 + name);
+        QFile registry(m_home.path() + "/prefix/user.reg"_L1);
+        QVERIFY(registry.open(QIODevice::WriteOnly));
+        registry.write(
+            "WINE REGISTRY Version 2\n\n"
+            "[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Explorer\\\\User Shell "
+            "Folders] 1\n"
+            "\"Personal\"=\"D:\\\\papers\"\n\"Cache\"=\"D:\\\\Cache\"\n\n"
+            "[Software\\\\Microsoft\\\\Windows\\\\CurrentVersion\\\\Explorer\\\\Shell Folders] 1\n"
+            "\"{374DE290-123F-4565-9164-39C4925E467B}\"=\"D:\\\\Loads\"\n");
+        registry.close();
         path.replace("HOME"_L1, QDir::homePath()).replace("DRIVE"_L1, drive);
         path.replace("OTHER"_L1, other).replace("PREFIX"_L1, m_home.path() + "/prefix"_L1);
         QCOMPARE(platform::isProtectedRoot(path), expected);

@@ -487,6 +487,7 @@ private Q_SLOTS:
         QTest::newRow("a drive") << u"D:\\\\"_s << QStringList();
         QTest::newRow("its folder") << u"d:\\\\temp"_s << QStringList{u"junk.tmp"_s};
         QTest::newRow("the documents") << u"C:\\\\users\\\\jane\\\\Documents"_s << QStringList();
+        QTest::newRow("drive that is a file") << u"L:\\\\"_s << QStringList();
         QTest::newRow("in other case")
             << u"%UserProfile%\\\\LOCAL\\\\temp"_s << QStringList{u"deep.tmp"_s};
     }
@@ -500,6 +501,7 @@ private Q_SLOTS:
         tree.folder(u"prefix/dosdevices"_s);
         tree.link(u"../drive_c"_s, u"prefix/dosdevices/c:"_s);
         tree.link(tree.folder(u"disk"_s), u"prefix/dosdevices/d:"_s);
+        tree.link(tree.file(u"disk.img"_s), u"prefix/dosdevices/l:"_s);
         tree.file(u"disk/photographs/one.jpg"_s);
         tree.file(u"disk/Temp/junk.tmp"_s);
         tree.file(u"prefix/user.reg"_s,

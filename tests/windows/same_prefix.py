@@ -99,6 +99,8 @@ def fill_browsers():
         write(chrome / profile / "debug.log", 8)
         write(chrome / profile / "old.log" / "kept" / "CURRENT", 9)
         write(chrome / profile / "old.log" / "kept" / "MANIFEST-000001", 10)
+    write(chrome / "Profile 7" / "Cache" / "Cache_Data" / "f_0", 10)
+    os.setxattr(chrome / "Profile 7", "user.DOSATTRIB", b"0x2")
     (chrome / "Default" / "Cache" / "link").symlink_to("/etc")
     roaming = user / "AppData" / "Roaming" / "Mozilla" / "Firefox"
     write(roaming / "Profiles" / "abc.default" / "cookies.sqlite", 11)
@@ -133,6 +135,10 @@ def fill_registry():
                     (machine + current + "\\SharedDLLs", path, "1"),
                     (user + mui, path + ".FriendlyAppName", "x")]
 
+    # Found where the system looks for programs; the last one nowhere.
+    entries += [(user + current + "\\Run", command, command) for command in ("notepad", "wmic.exe /x", "C:\\windows\\notepad",
+                                                                            "sweepwise none -x")]
+
     def quoted(text):
         return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
@@ -145,15 +151,19 @@ def fill_registry():
         subprocess.run(["wine", "reg", "import", "Z:" + file.name.replace("/", "\\")], check=True, stdin=subprocess.DEVNULL,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     stop_server()
-    return {"invalid_software": 4, "invalid_file_assoc": 2, "invalid_com": 4, "invalid_fonts": 5, "invalid_startup": 4,
+    return {"invalid_software": 4, "invalid_file_assoc": 2, "invalid_com": 4, "invalid_fonts": 5, "invalid_startup": 5,
             "invalid_shared_dll": 2, "mui_cache": 2}
+
+
+def set_text(key, name, text):
+    subprocess.run(["wine", "reg", "add", key, "/v", name, "/t", "REG_EXPAND_SZ", "/d", text, "/f"], check=True,
+                   stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
 
 def set_temporary_folder(path):
     """For the programs of the prefix, in its registry, which is on the disk then."""
     for name in ("TMP", "TEMP"):
-        subprocess.run(["wine", "reg", "add", "HKCU\\Environment", "/v", name, "/t", "REG_EXPAND_SZ", "/d", path, "/f"],
-                       check=True, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        set_text("HKCU\\Environment", name, path)
     stop_server()
 
 
@@ -212,7 +222,7 @@ def main():
     start_server()
 
     def local_path(path):
-        return str(drive) + path[2:] if path[1] == ":" else path
+        return str((drive.parent / "dosdevices" / path[:2].lower()).resolve()) + path[2:] if path[1] == ":" else path
 
     foreign = items(scan(["wine", windows_cli], "junk", plain), local_path)
     foreign_browsers = items(scan(["wine", windows_cli], "browser", plain), local_path)
@@ -244,6 +254,22 @@ def main():
         set_temporary_folder("D:\\")
         answer, on_drive = compare_junk("junk, temporary folder is a drive", {"prefetch": 7})
         lost = [item[1] for item in on_drive if "photographs" in item[1]]
+        if lost:
+            print(f"would be deleted: {lost}")
+        same = answer and not lost and same
+
+        # It is where the user keeps documents by now.
+        documents = pathlib.Path(disk).resolve() / "Papers"
+        documents.mkdir()
+        (documents / "thesis.odt").write_bytes(b"x")
+        (documents / "notes.txt").write_bytes(b"x")
+        set_temporary_folder("D:\\Papers")
+        answer, _ = compare_junk("junk, temporary folder below a drive", {"temp_files": 2, "prefetch": 7})
+        same = answer and same
+        set_text("HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders", "Personal", "D:\\Papers")
+        set_temporary_folder("D:\\Papers")
+        answer, in_documents = compare_junk("junk, temporary folder is that of the documents", {"prefetch": 7})
+        lost = [item[1] for item in in_documents if "Papers" in item[1]]
         if lost:
             print(f"would be deleted: {lost}")
         same = answer and not lost and same

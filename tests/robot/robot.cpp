@@ -103,7 +103,9 @@ void Robot::act()
             return u"the memory has grown from %1 to %2 MiB"_s.arg(QString::number(m_memory),
                                                                    QString::number(mebibytes()));
         });
-    const bool isRefilled = isIdle() && !Hands::isWaiting() && dice.chance(5);
+    // Not while a box tells of a run: what the run saw is still to be compared.
+    const bool isRefilled =
+        isIdle() && !Hands::isWaiting() && !QApplication::activeModalWidget() && dice.chance(5);
     if (isRefilled)
         refill();
     m_action = m_player.act(dice, m_rows);

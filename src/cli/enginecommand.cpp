@@ -140,10 +140,14 @@ int runRegistry(const QString &command, const EngineOptions &options)
     if (options.backup.isEmpty() == !options.noBackup)
         return refuse(u"say where the removed entries are to be kept with --backup FILE, or "
                       "--no-backup"_s);
+    const QFileInfo backup(options.backup);
+    if (backup.isFile() && !backup.isSymLink())
+        return refuse(u"there is a file of this name already: %1"_s.arg(options.backup));
     cleaner.setBackupPath(options.backup);
     report::CleanOutcome outcome = runClean(cleaner, options);
-    if (cleaner.hasBackupFailed())
-        outcome.failures.prepend({options.backup, u"the backup could not be written"_s});
+    if (cleaner.backupError())
+        outcome.failures.prepend(
+            {options.backup, u"the backup could not be written: %1"_s.arg(*cleaner.backupError())});
     return reportClean(subject, outcome, options.json);
 }
 

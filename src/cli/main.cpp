@@ -63,7 +63,7 @@ int main(int argc, char *argv[])
         u"clean: only this one of the categories that are selected by default; may be repeated."_s,
         u"ID"_s);
     const QCommandLineOption backup(
-        u"backup"_s, u"clean registry: first write the entries to this file."_s, u"FILE"_s);
+        u"backup"_s, u"clean registry: first write the entries to this new file."_s, u"FILE"_s);
     const QCommandLineOption noBackup(u"no-backup"_s, u"clean registry: keep no backup."_s);
     const QCommandLineOption browser(
         u"browser"_s, u"browser: only this one, such as 'chrome'; may be repeated."_s, u"NAME"_s);

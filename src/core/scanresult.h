@@ -28,11 +28,11 @@ struct CleanItem {
     int riskLevel = LowRisk;
     QString description;
     bool isDirectory = false;
+    QString registryRoot; ///< such as "HKEY_CLASSES_ROOT"; empty for files
+    QString registryKey; ///< below the root; empty for files
     bool isUserClass =
         false; ///< of HKEY_CLASSES_ROOT: read from the user's hive, not the machine's
     RegistryEntry registryEntry = RegistryEntry::Unknown;
-    QString registryRoot; ///< such as "HKEY_CLASSES_ROOT"; empty for files
-    QString registryKey; ///< below the root; empty for files
 };
 
 /// One group of items: a junk rule, a kind of browser data, a registry check.

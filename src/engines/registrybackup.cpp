@@ -204,12 +204,11 @@ QString RegistryBackup::targetProblem(const QString &path)
     const QString target = platform::locate(info.absolutePath(), info.fileName());
     if (target.isEmpty() || info.fileName().isEmpty())
         return Text::tr("There is no such folder");
-    if (platform::isRegistryFile(target))
-        return Text::tr("It is a file of the registry itself");
     switch (platform::inspect(target).kind) {
     case platform::EntryKind::Missing:
     case platform::EntryKind::File:
-        return {};
+        return platform::isRegistryFile(target) ? Text::tr("It is a file of the registry itself")
+                                                : QString();
     case platform::EntryKind::Folder:
         return Text::tr("A folder stands there");
     case platform::EntryKind::Link:

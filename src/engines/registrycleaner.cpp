@@ -5,6 +5,7 @@
 #include "registrybackup.h"
 #include "windowspaths.h"
 
+#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
@@ -438,9 +439,14 @@ std::set<RegistryCleaner::Place> RegistryCleaner::findAgain(const Registry &regi
 
 void RegistryCleaner::backUp(const ScanResult &due, const Registry &registry)
 {
-    m_backupFailed = false;
+    m_backupError.reset();
     if (m_backupPath.isEmpty()) {
         Logger::instance().info(u"Registry backup skipped (no backup path specified)"_s);
+        return;
+    }
+    if (due.checkedCount() == 0 && QFileInfo::exists(m_backupPath)) {
+        // The last backup is worth more than an empty one.
+        Logger::instance().info(u"Registry backup skipped (nothing to remove)"_s);
         return;
     }
     Logger::instance().info("Creating registry backup to: "_L1 + m_backupPath);
@@ -451,7 +457,7 @@ void RegistryCleaner::backUp(const ScanResult &due, const Registry &registry)
         Logger::instance().info(u"Registry backup created successfully"_s);
         return;
     }
-    m_backupFailed = true;
+    m_backupError = error;
     Logger::instance().error(u"Failed to create registry backup"_s);
     Logger::instance().error(u"%1 - %2"_s.arg(m_backupPath, error));
 }

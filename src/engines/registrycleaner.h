@@ -5,6 +5,7 @@
 
 #include <QList>
 
+#include <optional>
 #include <set>
 
 /// Finds registry entries that name files or programs which are no longer there, and removes them
@@ -13,7 +14,7 @@
 /// One check becomes one category. Which hive an entry is in is decided when it is read: of the
 /// merged classes, another one would be found in its place once it is gone. The descriptions of the
 /// categories and the path of the backup are set on the GUI thread while no run is under way and
-/// only read by the worker; whether the last backup failed is written by it during a clean; for
+/// only read by the worker; the last backup's error is written by it during a clean; for
 /// everything else see CleanEngine.
 class RegistryCleaner final : public CleanEngine
 {
@@ -27,8 +28,9 @@ public:
     /// Where the next cleans write their backup; empty means none.
     void setBackupPath(const QString &path) { m_backupPath = path; }
     [[nodiscard]] const QString &backupPath() const { return m_backupPath; }
-    /// Whether the last clean should have written a backup and could not.
-    [[nodiscard]] bool hasBackupFailed() const { return m_backupFailed; }
+    /// Why the last clean could not write the backup that it should have written, for people;
+    /// nothing when there was no such failure.
+    [[nodiscard]] const std::optional<QString> &backupError() const { return m_backupError; }
 
     /// Whether the file or folder that an entry names exists, see PathCheck.
     [[nodiscard]] static bool pathExists(const QString &text);
@@ -74,5 +76,5 @@ private:
 
     QList<Category> m_categories;
     QString m_backupPath;
-    bool m_backupFailed = false;
+    std::optional<QString> m_backupError;
 };

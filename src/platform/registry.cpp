@@ -1,5 +1,6 @@
 #include "registry_p.h"
 
+#include <QFile>
 #include <QtEndian>
 
 #include <algorithm>
@@ -27,6 +28,15 @@ Registry::ClassText Registry::classText(const QString &key, const QString &name)
             return {registryText(*found), hive};
     }
     return {};
+}
+
+bool beginsAsRegistryFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray start = file.read(21);
+    return start == "WINE REGISTRY Version" || start.startsWith("regf");
 }
 
 QString registryText(const RegistryValue &value)

@@ -108,7 +108,8 @@ private:
     std::unique_ptr<Private> d;
 };
 
-/// Whether @p path, absolute, is a file that the registry itself is kept in, under whatever name.
+/// Whether @p path, absolute, is a file that a registry itself is kept in, under whatever name.
+/// Not for a pipe, which would be waited for.
 [[nodiscard]] bool isRegistryFile(const QString &path);
 
 } // namespace platform

@@ -21,4 +21,8 @@ struct RegistryTexts {
 /// The value's data as text, as Registry::text() gives it.
 [[nodiscard]] QString registryText(const RegistryValue &value);
 
+/// Whether the regular file at @p path begins as one that a registry is kept in: this prefix's,
+/// another one's, or a hive of Windows itself.
+[[nodiscard]] bool beginsAsRegistryFile(const QString &path);
+
 } // namespace platform

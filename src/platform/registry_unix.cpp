@@ -379,12 +379,14 @@ QString Registry::errorString() const
 
 bool isRegistryFile(const QString &path)
 {
-    const QString prefix = wineprefix::folder();
-    if (prefix.isEmpty())
-        return false;
     struct stat asked {
     };
     const bool exists = ::stat(QFile::encodeName(path).constData(), &asked) == 0;
+    if (exists && S_ISREG(asked.st_mode) && beginsAsRegistryFile(path))
+        return true;
+    const QString prefix = wineprefix::folder();
+    if (prefix.isEmpty())
+        return false;
     for (const QLatin1StringView name : {"/system.reg"_L1, "/user.reg"_L1, "/userdef.reg"_L1}) {
         const QString file = prefix + name;
         struct stat data {

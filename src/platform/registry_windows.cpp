@@ -303,10 +303,13 @@ QString Registry::errorString() const
     return d->error;
 }
 
-// The system keeps its files open for itself.
-bool isRegistryFile(const QString &)
+// The system keeps its files open for itself. Wine's server does not, and would write over what was
+// put there.
+bool isRegistryFile(const QString &path)
 {
-    return false;
+    const DWORD attributes = ::GetFileAttributesW(reinterpret_cast<const wchar_t *>(path.utf16()));
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0
+        && beginsAsRegistryFile(path);
 }
 
 } // namespace platform

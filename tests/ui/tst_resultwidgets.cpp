@@ -351,12 +351,17 @@ private Q_SLOTS:
 
         const CleanItemWidget row(&category, 0);
         QCOMPARE(row.toolTip(), shown);
-        QCOMPARE(row.findChild<QLabel *>(u"itemName"_s)->toolTip(), "item 0\n"_L1 + shown);
+        QCOMPARE(row.findChild<QLabel *>(u"itemName"_s)->toolTip(), "item 0\n"_L1 + text);
         QCOMPARE(row.findChild<QLabel *>(u"itemPath"_s)->toolTip(),
-                 "/folder/of/x/item 0\n"_L1 + shown);
+                 "/folder/of/x/item 0\n"_L1 + text);
         QCOMPARE(row.findChild<QCheckBox *>()->accessibleDescription(),
                  "Risk: High, 1.0 KB, /folder/of/x/item 0, "_L1 + text);
         QCOMPARE(row.findChild<QLabel *>(u"itemRisk"_s)->text(), u"High"_s);
+        // The box with the tip takes it for markup by its first line alone.
+        QVERIFY(!Qt::mightBeRichText(row.findChild<QLabel *>(u"itemName"_s)->toolTip()));
+        category.items[0].name = u"<i>item</i>"_s;
+        QCOMPARE(CleanItemWidget(&category, 0).findChild<QLabel *>(u"itemName"_s)->toolTip(),
+                 "&lt;i&gt;item&lt;/i&gt;<br>"_L1 + shown);
         const CleanItemWidget plain(&category, 1);
         QVERIFY(plain.toolTip().isEmpty());
         QCOMPARE(plain.findChild<QLabel *>(u"itemName"_s)->toolTip(), u"item 1"_s);
@@ -367,7 +372,7 @@ private Q_SLOTS:
         const auto *location = button(detail, u"openLocationBtn"_s);
         QCOMPARE(detail.toolTip(), shown);
         QCOMPARE(detail.findChild<QLabel *>(u"itemName"_s)->toolTip(),
-                 "/folder/of/x/item 0\n"_L1 + shown);
+                 "/folder/of/x/item 0\n"_L1 + text);
         QCOMPARE(detail.accessibleDescription(), text);
         QCOMPARE(location->accessibleDescription(), text);
         QCOMPARE(location->whatsThis(), shown);

@@ -260,6 +260,11 @@ private Q_SLOTS:
         QVERIFY(!fixture.hasKey(key));
         QVERIFY(fixture.hasValue(dlls, u"sweepwise.dll"_s));
 
+        // It is not lost to the next clean.
+        const Run again = run({u"clean"_s, u"registry"_s, u"--backup"_s, backup, u"--yes"_s});
+        QCOMPARE(again.exitCode, 2);
+        QVERIFY(again.error.contains("there is a file of this name already: "));
+
         const Run restored = run({u"restore"_s, backup, u"--json"_s});
         QCOMPARE(restored.exitCode, 0);
         const QJsonObject object = QJsonDocument::fromJson(restored.output).object();
@@ -325,7 +330,7 @@ private Q_SLOTS:
             run({u"clean"_s, u"registry"_s, u"--category"_s, u"invalid_startup"_s, u"--backup"_s,
                  m_home.path() + "/no such folder/b.reg"_L1, u"--yes"_s});
         QCOMPARE(clean.exitCode, 1);
-        QVERIFY(clean.output.contains("the backup could not be written"));
+        QVERIFY(clean.output.contains("the backup could not be written: There is no such folder"));
     }
 
     void aDamagedBackupRestoresNothing()

@@ -618,7 +618,7 @@ private Q_SLOTS:
         const LogCapture log;
         clean();
         QVERIFY(wasThere);
-        QVERIFY(!m_cleaner->hasBackupFailed());
+        QVERIFY(!m_cleaner->backupError());
         QVERIFY(log.contains("Creating registry backup to: "_L1 + path));
         QVERIFY(log.contains("Registry backup created: "_L1 + path));
         QVERIFY(log.contains(u"Registry backup created successfully"_s));
@@ -637,6 +637,8 @@ private Q_SLOTS:
         QTest::newRow("nothing there") << u"missing"_s << true;
         QTest::newRow("a file") << u"file"_s << true;
         QTest::newRow("a folder") << u"folder"_s << false;
+        QTest::newRow("the registry of some prefix") << u"another prefix's"_s << false;
+        QTest::newRow("a hive") << u"hive"_s << false;
 #ifndef Q_OS_WIN
         QTest::newRow("a link to a file") << u"link"_s << false;
         QTest::newRow("a link that leads nowhere") << u"broken link"_s << false;
@@ -663,6 +665,10 @@ private Q_SLOTS:
             tree.file(u"one.reg"_s, "old");
         else if (what == "folder"_L1)
             tree.file(u"one.reg/inside"_s);
+        else if (what == "another prefix's"_L1)
+            tree.file(u"one.reg"_s, "WINE REGISTRY Version 2\n;; All keys\n");
+        else if (what == "hive"_L1)
+            tree.file(u"one.reg"_s, QByteArray("regf\0\0\0\1", 8));
 #ifndef Q_OS_WIN
         else if (what == "link"_L1)
             tree.link(victim, u"one.reg"_s);
@@ -691,7 +697,7 @@ private Q_SLOTS:
         m_cleaner->setBackupPath(path);
         const LogCapture log;
         QCOMPARE(clean().constFirst().at(1).toInt(), 1); // without a backup if need be
-        QCOMPARE(m_cleaner->hasBackupFailed(), !isWritten);
+        QCOMPARE(m_cleaner->backupError().has_value(), !isWritten);
         QCOMPARE(log.contains(u"[ERROR] Failed to create registry backup"_s), !isWritten);
         QVERIFY(!m_fixture->hasValue(user + key, u"a"_s));
         QFile kept(victim);
@@ -703,6 +709,31 @@ private Q_SLOTS:
             QCOMPARE(tree.snapshot(), before);
         else
             QVERIFY(QFileInfo(path).size() > 100);
+    }
+
+    // Whoever cleans twice still has what the first clean took.
+    void aCleanOfNothingLeavesTheLastBackupAlone()
+    {
+        m_fixture->addText(user + runKey, u"Sweepwise"_s, missing);
+        m_fixture->write();
+        const QString path = m_home.folder(u"backup"_s) + "/twice.reg"_L1;
+        m_cleaner->setBackupPath(path);
+        scan();
+        keepOwnOnly();
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray first = file.readAll();
+        file.close();
+        QVERIFY(first.size() > 500);
+        scan();
+        keepOwnOnly();
+        const LogCapture log;
+        QCOMPARE(clean().constFirst().at(1).toInt(), 0);
+        QVERIFY(log.contains(u"Registry backup skipped (nothing to remove)"_s));
+        QVERIFY(!m_cleaner->backupError());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), first);
     }
 
     void aFailedBackupIsLoggedAndDoesNotStopTheClean()
@@ -717,7 +748,7 @@ private Q_SLOTS:
         QCOMPARE(clean().constFirst().at(1).toInt(), 1);
         QVERIFY(log.contains(u"[ERROR] Failed to create registry backup"_s));
         QVERIFY(!log.contains(u"Registry backup created"_s));
-        QVERIFY(m_cleaner->hasBackupFailed());
+        QVERIFY(m_cleaner->backupError() && !m_cleaner->backupError()->isEmpty());
         QVERIFY(m_fixture->hasValue(user + key, u"b"_s));
     }
 

@@ -1,6 +1,7 @@
 #include "accessible.h"
 
 #include "circleprogresswidget.h"
+#include "filecardlist.h"
 #include "navbutton.h"
 #include "statcard.h"
 
@@ -112,6 +113,8 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
     if (auto *area = qobject_cast<QScrollArea *>(object);
         area && area->focusPolicy() != Qt::NoFocus)
         return new PaneInterface(area);
+    if (qobject_cast<FileCardList *>(object))
+        return new QAccessibleWidget(widget, QAccessible::List);
     return nullptr;
 }
 

@@ -1,5 +1,6 @@
 #include "largefilepage.h"
 
+#include "accessible.h"
 #include "appinfo.h"
 #include "application.h"
 #include "filecard.h"
@@ -12,6 +13,7 @@
 #include "testtree.h"
 #include "uisupport.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -752,6 +754,17 @@ private Q_SLOTS:
         QCOMPARE(page.scanner()->results().size(), 200);
         for (int i = 0; i < 400; ++i)
             QCOMPARE(tree.has(u"f%1"_s.arg(i)), i % 2 == 1);
+    }
+
+    void theListTellsWhatItIs()
+    {
+        installAccessibleInterfaces();
+        const TestTree tree;
+        LargeFilePage page({drive(tree.path())});
+        const auto *list =
+            QAccessible::queryAccessibleInterface(find<FileCardList>(page, u"fileCardList"_s));
+        QCOMPARE(list->role(), QAccessible::List);
+        QCOMPARE(list->text(QAccessible::Name), u"Scan Results"_s);
     }
 
     void neitherDialogLiesOverAnotherPage()

@@ -150,6 +150,7 @@ LargeFileResultsView::LargeFileResultsView(LargeFileModel *model, QWidget *paren
     bar->addWidget(m_selected, 1);
     bar->addWidget(m_deleteButton);
     layout->addLayout(bar);
+    m_list->setAccessibleName(tr("Scan Results"));
     layout->addWidget(m_list, 1);
 }
 

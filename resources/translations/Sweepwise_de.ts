@@ -140,6 +140,10 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>Gehört zu einer Erweiterung, die ohne alle ihre Dateien nicht funktioniert</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>Der Ordner ist nicht derselbe, der aufgelistet wurde</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -601,6 +605,10 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     <message>
         <source>File not found</source>
         <translation>Datei nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>Der Ordner ist nicht derselbe, der aufgelistet wurde</translation>
     </message>
 </context>
 <context>

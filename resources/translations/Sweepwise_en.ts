@@ -133,6 +133,10 @@ This action cannot be undone!</translation>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>Belongs to an extension, which does not work without all its files</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>Its folder is not the one that was listed</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -586,6 +590,10 @@ This action cannot be undone!</translation>
     <message>
         <source>File not found</source>
         <translation>File not found</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>Its folder is not the one that was listed</translation>
     </message>
 </context>
 <context>

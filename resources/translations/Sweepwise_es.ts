@@ -138,6 +138,10 @@ Esta acción no se puede deshacer.</translation>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>Pertenece a una extensión, que no funciona si le falta algún archivo</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>Su carpeta no es la que figuraba en la lista</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -598,6 +602,10 @@ Esta acción no se puede deshacer.</translation>
     <message>
         <source>File not found</source>
         <translation>No se ha encontrado el archivo</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>Su carpeta no es la que figuraba en la lista</translation>
     </message>
 </context>
 <context>

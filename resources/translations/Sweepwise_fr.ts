@@ -140,6 +140,10 @@ Cette action est irréversible&#xa0;!</translation>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>Fait partie d’une extension, qui ne fonctionne pas s’il lui manque un fichier</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>Son dossier n’est pas celui qui a été répertorié</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -600,6 +604,10 @@ Cette action est irréversible&#xa0;!</translation>
     <message>
         <source>File not found</source>
         <translation>Fichier introuvable</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>Son dossier n’est pas celui qui a été répertorié</translation>
     </message>
 </context>
 <context>

@@ -139,6 +139,10 @@ L&apos;operazione non può essere annullata.</translation>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>Fa parte di un&apos;estensione, che non funziona senza tutti i suoi file</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>La cartella non è quella che era stata elencata</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -600,6 +604,10 @@ L&apos;operazione non può essere annullata.</translation>
     <message>
         <source>File not found</source>
         <translation>File non trovato</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>La cartella non è quella che era stata elencata</translation>
     </message>
 </context>
 <context>

@@ -140,6 +140,10 @@ This action cannot be undone!</source>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>拡張機能の一部です。すべてのファイルが揃っていないと拡張機能は動作しません</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>フォルダーが一覧に表示されたときのものと異なります</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -599,6 +603,10 @@ This action cannot be undone!</source>
     <message>
         <source>File not found</source>
         <translation>ファイルが見つかりません</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>フォルダーが一覧に表示されたときのものと異なります</translation>
     </message>
 </context>
 <context>

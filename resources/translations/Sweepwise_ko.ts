@@ -139,6 +139,10 @@ This action cannot be undone!</source>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>확장 프로그램의 일부입니다. 파일이 모두 있어야 확장 프로그램이 작동합니다</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>목록에 있던 폴더와 다른 폴더입니다</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -599,6 +603,10 @@ This action cannot be undone!</source>
     <message>
         <source>File not found</source>
         <translation>파일을 찾을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>목록에 있던 폴더와 다른 폴더입니다</translation>
     </message>
 </context>
 <context>

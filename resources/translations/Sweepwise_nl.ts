@@ -139,6 +139,10 @@ Dit kan niet ongedaan worden gemaakt!</translation>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>Hoort bij een extensie, die zonder al haar bestanden niet werkt</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>De map is niet de map die in de lijst stond</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -601,6 +605,10 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     <message>
         <source>File not found</source>
         <translation>Bestand niet gevonden</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>De map is niet de map die in de lijst stond</translation>
     </message>
 </context>
 <context>

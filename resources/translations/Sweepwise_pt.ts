@@ -139,6 +139,10 @@ Esta ação não pode ser anulada!</translation>
         <source>Belongs to an extension, which does not work without all its files</source>
         <translation>Pertence a uma extensão, que não funciona sem todos os seus ficheiros</translation>
     </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>A pasta não é a que foi listada</translation>
+    </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
@@ -601,6 +605,10 @@ Esta ação não pode ser anulada!</translation>
     <message>
         <source>File not found</source>
         <translation>Ficheiro não encontrado</translation>
+    </message>
+    <message>
+        <source>Its folder is not the one that was listed</source>
+        <translation>A pasta não é a que foi listada</translation>
     </message>
 </context>
 <context>

@@ -90,6 +90,7 @@ void BrowserCleaner::startScan()
 void BrowserCleaner::doScan()
 {
     Logger::instance().info(u"Starting browser scan..."_s);
+    m_listed.clear();
     const int count = static_cast<int>(m_scanned.size());
     for (int i = 1; i <= count; ++i) {
         const Browser &browser = m_scanned.at(i - 1);
@@ -111,14 +112,14 @@ void BrowserCleaner::scanBrowser(const Browser &browser)
 {
     ItemsByRule found(static_cast<std::size_t>(m_rules.size()));
     if (browser.type == Browser::Firefox) {
-        const FirefoxScan scan(m_rules, stopFlag());
+        const FirefoxScan scan(m_rules, m_listed, stopFlag());
         if (const QString root = browsers::firefoxRoot(m_folders); !root.isEmpty())
             scan.scanShared(root, found);
         const QStringList profiles = browsers::firefoxProfiles(m_folders);
         for (const QString &profile : profiles)
             scan.scanProfile(profile, found);
     } else {
-        const ChromiumScan scan(m_rules, stopFlag());
+        const ChromiumScan scan(m_rules, m_listed, stopFlag());
         const QStringList profiles = browsers::chromiumProfiles(browser.dataRoot);
         for (const QString &profile : profiles)
             scan.scanProfile(profile, found);
@@ -145,6 +146,7 @@ void BrowserCleaner::doClean()
     int index = 0;
     CleanLedger ledger(selection());
     platform::FileRemover remover;
+    remover.setListed(&m_listed);
     for (const CleanCategory &category : selection().categories) {
         warnIfRunning(category);
         for (const CleanItem &item : category.items) {
@@ -182,14 +184,17 @@ void BrowserCleaner::warnIfRunning(const CleanCategory &category) const
 void BrowserCleaner::removeItem(platform::FileRemover &remover, const CleanItem &item,
                                 CleanLedger &ledger)
 {
+    using Status = platform::FileRemover::Status;
     const platform::FileRemover::Outcome outcome = remover.remove(item.path, &stopFlag());
-    if (outcome.status == platform::FileRemover::Status::Failed && outcome.wasFolder
-        && isStopRequested())
+    if (outcome.status == Status::Failed && outcome.wasFolder && isStopRequested())
         return; // left in the middle, not failed
     if (ledger.enter(item, outcome))
         return;
     Logger::instance().warning(u"Failed to delete: %1"_s.arg(item.path));
-    addFailure({item.path,
-                outcome.status == platform::FileRemover::Status::NotFound ? tr("File not found")
-                                                                          : outcome.error});
+    QString reason = outcome.error;
+    if (outcome.status == Status::NotFound)
+        reason = tr("File not found");
+    else if (outcome.status == Status::Replaced)
+        reason = tr("Its folder is not the one that was listed");
+    addFailure({item.path, reason});
 }

@@ -3,6 +3,7 @@
 #include "browser.h"
 #include "browserrule.h"
 #include "cleanengine.h"
+#include "listedfolders.h"
 
 #include <QList>
 #include <QMap>
@@ -20,7 +21,8 @@ class FileRemover;
 /// is in it as items of their own. What a rule finds by name inside a database is listed unticked,
 /// with a high risk and the reason. The browsers and their selection belong to the GUI thread. The
 /// rules and the copy of the selected browsers that startScan() makes are written there while no
-/// worker runs, and only read by the workers. For everything else see CleanEngine.
+/// worker runs, and only read by the workers, to which the listed folders belong. For everything
+/// else see CleanEngine.
 class BrowserCleaner final : public CleanEngine
 {
     Q_OBJECT
@@ -65,4 +67,5 @@ private:
     QList<Browser> m_browsers;
     QMap<int, bool> m_enabled;
     QList<Browser> m_scanned; ///< those of the last scan
+    platform::ListedFolders m_listed; ///< by the last scan
 };

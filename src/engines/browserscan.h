@@ -1,6 +1,7 @@
 #pragma once
 
 #include "browserrule.h"
+#include "listedfolders.h"
 #include "namefilter.h"
 #include "scanresult.h"
 
@@ -20,8 +21,9 @@ class ChromiumScan final
 {
     Q_DISABLE_COPY_MOVE(ChromiumScan)
 public:
-    /// @p rules and @p stopRequested must outlive the object.
-    ChromiumScan(const QList<BrowserRule> &rules, const std::atomic_bool &stopRequested);
+    /// All three must outlive the object. The folders that it reads are recorded in @p listed.
+    ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+                 const std::atomic_bool &stopRequested);
 
     /// Appends what lies in the folder @p profile (absolute, link-free) to @p found. Each rule's
     /// items come as a walk of the rule's own folder lists them: folders and files, each folder
@@ -36,6 +38,7 @@ private:
     [[nodiscard]] RulesByFolder foldersOf(const QString &profile) const;
 
     const QList<BrowserRule> &m_rules;
+    platform::ListedFolders &m_listed;
     const std::atomic_bool &m_stopRequested;
     std::vector<platform::NameFilter> m_filters; ///< by rule
 };
@@ -46,7 +49,9 @@ class FirefoxScan final
 {
     Q_DISABLE_COPY_MOVE(FirefoxScan)
 public:
-    FirefoxScan(const QList<BrowserRule> &rules, const std::atomic_bool &stopRequested);
+    /// As the other.
+    FirefoxScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+                const std::atomic_bool &stopRequested);
 
     /// Appends what belongs to no profile and lies below @p root.
     void scanShared(const QString &root, ItemsByRule &found) const;
@@ -63,5 +68,6 @@ private:
                     ItemsByRule &found) const;
 
     const QList<BrowserRule> &m_rules;
+    platform::ListedFolders &m_listed;
     const std::atomic_bool &m_stopRequested;
 };

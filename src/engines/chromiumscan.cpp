@@ -163,8 +163,10 @@ private:
     std::vector<Unit> m_units; ///< on that way, the root included
 };
 
-ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, const std::atomic_bool &stopRequested)
+ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+                           const std::atomic_bool &stopRequested)
     : m_rules(rules)
+    , m_listed(listed)
     , m_stopRequested(stopRequested)
 {
     m_filters.reserve(static_cast<std::size_t>(rules.size()));
@@ -204,6 +206,7 @@ void ChromiumScan::scanProfile(const QString &profile, ItemsByRule &found) const
             folders.begin(), folders.end(),
             [](const QString &a, const QString &b) { return a.size() < b.size(); });
         Visitor visitor(*this, remaining.take(outermost), remaining, found);
-        logWalkFailures(outermost, platform::walkEntries(outermost, visitor, &m_stopRequested));
+        logWalkFailures(outermost,
+                        platform::walkEntries(outermost, visitor, &m_stopRequested, &m_listed));
     }
 }

@@ -38,7 +38,7 @@ bool CleanLedger::enter(const CleanItem &item, const platform::FileRemover::Outc
             addCleaned(item.path, item.isDirectory ? 0 : item.size);
             return true;
         }
-    } else if (outcome.wasFolder) {
+    } else if (outcome.status == Status::Failed && outcome.wasFolder) {
         m_partlyRemoved.insert(item.path);
     }
     ++m_failedCount;

@@ -11,7 +11,8 @@
 /// in it, or one file that two rules take.
 ///
 /// What is gone because this clean removed the folder around it, or the same path before, is
-/// cleaned and no failure, but its bytes have been counted.
+/// cleaned and no failure, but its bytes have been counted. What is gone because somebody else
+/// moved the folder away is a failure.
 class CleanLedger final
 {
     Q_DISABLE_COPY_MOVE(CleanLedger)

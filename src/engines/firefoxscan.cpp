@@ -96,8 +96,10 @@ const std::vector<FirefoxScan::Source> &FirefoxScan::sources()
     return list;
 }
 
-FirefoxScan::FirefoxScan(const QList<BrowserRule> &rules, const std::atomic_bool &stopRequested)
+FirefoxScan::FirefoxScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+                         const std::atomic_bool &stopRequested)
     : m_rules(rules)
+    , m_listed(listed)
     , m_stopRequested(stopRequested)
 {
 }
@@ -172,15 +174,15 @@ void FirefoxScan::scanFolder(const QString &folder, bool isTree, const std::vect
         FilesOnly visitor([&take](const platform::WalkedEntry &entry) {
             take(entry.name, entry.path, entry.size);
         });
-        logWalkFailures(folder, platform::walkEntries(folder, visitor, &m_stopRequested));
+        logWalkFailures(folder,
+                        platform::walkEntries(folder, visitor, &m_stopRequested, &m_listed));
         return;
     }
     platform::WalkOptions options;
     options.recursive = false;
     options.stopRequested = &m_stopRequested;
-    const platform::WalkReport report =
-        platform::walkFiles(folder, options, [&take](platform::WalkedFile &&file) {
-            take(file.name, file.path, file.size);
-        });
+    const platform::WalkReport report = platform::walkFiles(
+        folder, options,
+        [&take](platform::WalkedFile &&file) { take(file.name, file.path, file.size); }, &m_listed);
     logWalkFailures(folder, report);
 }

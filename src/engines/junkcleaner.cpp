@@ -130,6 +130,7 @@ QString JunkCleaner::expandPath(const QString &text)
 void JunkCleaner::doScan()
 {
     Logger::instance().info(u"Starting junk scan..."_s);
+    m_listed.clear();
     const int ruleCount = static_cast<int>(m_rules.size());
     for (int i = 1; i <= ruleCount; ++i) {
         if (isStopRequested()) {
@@ -193,6 +194,7 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
         item.checked = rule.defaultChecked;
         item.riskLevel = rule.riskLevel;
         items.append(item);
+        m_listed.add(platform::folderOf(path), entry.folder);
         return;
     }
     case platform::EntryKind::Link:
@@ -207,10 +209,12 @@ void JunkCleaner::scanDirectory(const QString &directory, const QStringList &pat
                                 QList<CleanItem> &items, bool recursive)
 {
     const platform::WalkOptions options{patterns, recursive, &stopFlag()};
-    const platform::WalkReport report =
-        platform::walkFiles(directory, options, [&items](platform::WalkedFile &&file) {
+    const platform::WalkReport report = platform::walkFiles(
+        directory, options,
+        [&items](platform::WalkedFile &&file) {
             items.emplaceBack(file.name, file.path, file.size);
-        });
+        },
+        &m_listed);
     logWalkFailures(directory, report);
 }
 
@@ -223,6 +227,7 @@ void JunkCleaner::doClean()
     const int total = selection().checkedCount();
     int index = 0;
     platform::FileRemover remover;
+    remover.setListed(&m_listed);
     for (const CleanCategory &category : selection().categories) {
         for (const CleanItem &item : category.items) {
             if (isStopRequested()) {
@@ -251,11 +256,17 @@ bool JunkCleaner::removePath(platform::FileRemover &remover, const QString &path
     using Status = platform::FileRemover::Status;
     const platform::FileRemover::Outcome outcome = remover.remove(path, &stopFlag());
     QString line;
+    QString reason = outcome.error;
     switch (outcome.status) {
     case Status::Removed:
         return true;
     case Status::NotFound:
         line = u"File not found: %1"_s.arg(path);
+        reason = tr("File not found");
+        break;
+    case Status::Replaced:
+        line = u"Failed to remove %1: its folder is not the one that was listed"_s.arg(path);
+        reason = tr("Its folder is not the one that was listed");
         break;
     case Status::Failed:
         line = outcome.wasFolder ? u"Failed to remove directory: %1"_s.arg(path)
@@ -263,6 +274,6 @@ bool JunkCleaner::removePath(platform::FileRemover &remover, const QString &path
         break;
     }
     Logger::instance().warning(line);
-    addFailure({path, outcome.status == Status::NotFound ? tr("File not found") : outcome.error});
+    addFailure({path, reason});
     return false;
 }

@@ -2,6 +2,7 @@
 
 #include "cleanengine.h"
 #include "junkrule.h"
+#include "listedfolders.h"
 
 #include <QList>
 
@@ -13,7 +14,8 @@ class FileRemover;
 /// a rule file.
 ///
 /// One rule becomes one category, every file that it matches one item. The rules are read on the
-/// GUI thread before any scan and only read by the worker; for everything else see CleanEngine.
+/// GUI thread before any scan and only read by the worker, to which the listed folders belong; for
+/// everything else see CleanEngine.
 class JunkCleaner final : public CleanEngine
 {
     Q_OBJECT
@@ -44,4 +46,5 @@ private:
     bool removePath(platform::FileRemover &remover, const QString &path);
 
     QList<JunkRule> m_rules;
+    platform::ListedFolders m_listed; ///< by the last scan
 };

@@ -12,6 +12,8 @@ struct LargeFileInfo {
     qint64 size = 0; ///< bytes
     QDateTime modified;
     QString type; ///< "video", "audio", "archive", "image", "document" or "other"
+    quint64 number = 0; ///< of the file on its file system; 0 where the scan was not told
+    bool isLink = false; ///< a link to a file
 };
 
 Q_DECLARE_METATYPE(LargeFileInfo)

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -83,8 +84,10 @@ private:
         const QString name = file.name.toString();
         if (isLeftOut(name))
             return;
+        m_scanner.m_listed.add(m_folder, file.folder->id());
         m_scanner.addResult({platform::joinedPath(m_folder, name), name, m_folder, file.size,
-                             QDateTime::fromMSecsSinceEpoch(file.modified), largeFileType(name)});
+                             QDateTime::fromMSecsSinceEpoch(file.modified), largeFileType(name),
+                             file.number, file.isLink});
     }
 
     /// Whether progress is due.
@@ -159,6 +162,7 @@ void LargeFileScanner::startScan()
     startWorker(
         std::unique_ptr<QThread>(QThread::create([this, old = std::move(discarded)]() mutable {
             old.clear();
+            m_listed.clear();
             doScan();
         })));
 }
@@ -303,21 +307,41 @@ QString LargeFileScanner::withoutFollowedLinks(const QString &path) const
 bool LargeFileScanner::deleteFile(const QString &path)
 {
     platform::FileRemover remover;
-    if (!removeFound(remover, path))
+    remover.setListed(&m_listed);
+    if (!removeFound(remover, recordOf(path)))
         return false;
     dropResults({path});
     return true;
 }
 
-bool LargeFileScanner::removeFound(platform::FileRemover &remover, const QString &path) const
+bool LargeFileScanner::removeFound(platform::FileRemover &remover, const LargeFileInfo &file)
 {
-    const bool isRemoved = remover.removeFile(withoutFollowedLinks(path)).status
-        == platform::FileRemover::Status::Removed;
+    const QString path = withoutFollowedLinks(file.path);
+    if (path != file.path)
+        m_listed.add(platform::folderOf(path), m_listed.idOf(platform::folderOf(file.path)));
+    std::optional<platform::FileRemover::ListedFile> listed;
+    if (!file.name.isEmpty())
+        listed = {file.number, file.isLink};
+    const bool isRemoved =
+        remover.removeFile(path, listed).status == platform::FileRemover::Status::Removed;
     if (isRemoved)
-        Logger::instance().info(u"Deleted file: %1"_s.arg(path));
+        Logger::instance().info(u"Deleted file: %1"_s.arg(file.path));
     else
-        Logger::instance().error(u"Failed to delete file: %1"_s.arg(path));
+        Logger::instance().error(u"Failed to delete file: %1"_s.arg(file.path));
     return isRemoved;
+}
+
+LargeFileInfo LargeFileScanner::recordOf(const QString &path) const
+{
+    const QMutexLocker locker(&m_mutex);
+    const auto found =
+        std::find_if(m_results.begin(), m_results.end(),
+                     [&path](const LargeFileInfo &info) { return info.path == path; });
+    if (found != m_results.end())
+        return *found;
+    LargeFileInfo unknown;
+    unknown.path = path;
+    return unknown;
 }
 
 void LargeFileScanner::dropResults(const QSet<QString> &paths)
@@ -351,6 +375,7 @@ void LargeFileScanner::cancelDelete()
 void LargeFileScanner::doDelete(const QList<LargeFileInfo> &files)
 {
     platform::FileRemover remover;
+    remover.setListed(&m_listed);
     QBitArray deleted(files.size());
     QSet<QString> gone;
     qint64 size = 0;
@@ -362,7 +387,7 @@ void LargeFileScanner::doDelete(const QList<LargeFileInfo> &files)
             sinceProgress.start();
         }
         const LargeFileInfo &file = files.at(tried);
-        if (!removeFound(remover, file.path))
+        if (!removeFound(remover, file))
             continue;
         deleted.setBit(tried);
         gone.insert(file.path);

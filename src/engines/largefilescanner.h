@@ -1,6 +1,7 @@
 #pragma once
 
 #include "largefileinfo.h"
+#include "listedfolders.h"
 
 #include <QBitArray>
 #include <QList>
@@ -25,6 +26,7 @@ struct FollowedLink;
 /// walk also on helpers that the worker starts and joins. Who touches what:
 ///  - drives, minimum size, walker count: the GUI thread; the worker has copies of its own;
 ///  - results, total size, followed links: all threads, under the mutex;
+///  - listed folders: all threads, guarded by themselves;
 ///  - running, deleting, cancelled, count of files: atomic;
 ///  - worker, run number: the GUI thread.
 ///
@@ -64,7 +66,8 @@ public:
 
     /// Removes a file for good and drops it from the results. A path below a link that the last
     /// scan followed is taken to the folder where the link led then; no other link on the way is
-    /// passed. False when nothing was removed: the log tells the path.
+    /// passed. Of what the scan has found, another file or folder that has taken the place stays.
+    /// False when nothing was removed: the log tells the path.
     [[nodiscard]] bool deleteFile(const QString &path);
 
     /// Removes files as deleteFile() does, one after the other, on the worker; deleteFinished()
@@ -98,8 +101,10 @@ private:
     void sortResults();
     void onWorkerFinished(quint64 run);
     void doDelete(const QList<LargeFileInfo> &files);
-    /// Whether @p path was removed; the log tells either way.
-    bool removeFound(platform::FileRemover &remover, const QString &path) const;
+    /// Whether @p file was removed; the log tells either way.
+    bool removeFound(platform::FileRemover &remover, const LargeFileInfo &file);
+    /// The record of what is listed at @p path; else one that knows no more than that.
+    [[nodiscard]] LargeFileInfo recordOf(const QString &path) const;
     void dropResults(const QSet<QString> &paths);
     /// Takes a file over; on the worker or a helper.
     void addResult(const LargeFileInfo &info);
@@ -116,6 +121,7 @@ private:
     QList<LargeFileInfo> m_results;
     QSet<QString> m_foundPaths; ///< of a scan of several drives
     QList<platform::FollowedLink> m_followed;
+    platform::ListedFolders m_listed; ///< those with a result, by the last scan
     std::atomic_bool m_running = false;
     std::atomic_bool m_deleting = false;
     std::atomic_bool m_cancelled = false; ///< the scan or the deletion

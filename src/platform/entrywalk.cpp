@@ -15,9 +15,10 @@ namespace {
 class EntryWalk
 {
 public:
-    EntryWalk(EntryVisitor &visitor, const std::atomic_bool *stopRequested)
+    EntryWalk(EntryVisitor &visitor, const std::atomic_bool *stopRequested, ListedFolders *listed)
         : m_visitor(visitor)
         , m_stopRequested(stopRequested)
+        , m_listed(listed)
     {
     }
 
@@ -28,6 +29,7 @@ public:
         FolderListing listing = m_lister.list(root, m_stopRequested);
         noteFailure(root, listing);
         m_device = listing.device;
+        record(root, listing);
         m_visitor.read(listing.entries, true);
         m_open.push_back(
             {root.endsWith(u'/') ? root.chopped(1) : root, std::move(listing.entries), 0, 0, true});
@@ -65,6 +67,12 @@ private:
             m_report.failures.append({path, listing.error});
     }
 
+    void record(const QString &path, const FolderListing &listing)
+    {
+        if (m_listed)
+            m_listed->add(path, listing.id);
+    }
+
     void step()
     {
         Folder &folder = m_open.back();
@@ -95,6 +103,8 @@ private:
                 m_visitor.left(0, false);
             return;
         }
+        if (isShown)
+            record(path, listing);
         m_visitor.read(listing.entries, isShown);
         m_open.push_back({path, std::move(listing.entries), 0, 0, isShown});
     }
@@ -111,6 +121,7 @@ private:
 
     EntryVisitor &m_visitor;
     const std::atomic_bool *m_stopRequested;
+    ListedFolders *m_listed;
     const FolderLister m_lister;
     std::vector<Folder> m_open; ///< the way down to the current folder
     quint64 m_device = 0;
@@ -122,9 +133,9 @@ private:
 void EntryVisitor::read(const std::vector<ListedEntry> &, bool) { }
 
 WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
-                       const std::atomic_bool *stopRequested)
+                       const std::atomic_bool *stopRequested, ListedFolders *listed)
 {
-    return EntryWalk(visitor, stopRequested).run(root);
+    return EntryWalk(visitor, stopRequested, listed).run(root);
 }
 
 } // namespace platform

@@ -45,8 +45,10 @@ public:
 /// QDirIterator's recursive QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot listing, order
 /// included, except that nothing mounted below the root is listed or entered and that a junction
 /// counts as a link. Hidden folders are entered only for their size. When @p stopRequested is set
-/// the walk ends, and folders are not left any more.
+/// the walk ends, and folders are not left any more. Each folder that is read and not hidden is
+/// recorded in @p listed.
 WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
-                       const std::atomic_bool *stopRequested = nullptr);
+                       const std::atomic_bool *stopRequested = nullptr,
+                       ListedFolders *listed = nullptr);
 
 } // namespace platform

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "listedfolders.h"
+
 #include <QString>
 
 #include <atomic>
 #include <memory>
+#include <optional>
 
 namespace platform {
 
@@ -16,6 +19,10 @@ namespace platform {
 /// removed through that handle. Whatever stands at the path now is taken as it is: a link goes as a
 /// link, a real folder with its contents, but never with what is mounted below it.
 ///
+/// What is taken is taken from the folder that was listed, and from none that has come to its path
+/// since, be it by a rename or a mount. A folder that nobody listed is held to what it was when
+/// this remover met it first.
+///
 /// Lives on one thread. Keep one object for a run and drop it at the end: it holds a folder open.
 class FileRemover final
 {
@@ -23,17 +30,28 @@ class FileRemover final
 public:
     enum class Status {
         Removed,
-        NotFound, ///< nothing stands at the path
+        NotFound, ///< nothing stands at the path, or its folder was removed by this remover
+        /// Nothing was removed: the folder that was listed, or the file, is not at its path any
+        /// more. Of a folder that was to go whole a part may be gone.
+        Replaced,
         Failed,
     };
     struct Outcome {
         Status status = Status::Failed;
         bool wasFolder = false; ///< set when a folder stood there, removed or not
-        QString error; ///< the system's reason, for failures
+        QString error; ///< the system's reason, for Status::Failed
+    };
+    /// What a listing told of a single file.
+    struct ListedFile {
+        quint64 number = 0; ///< EntryId::number; 0 where it was not told
+        bool isLink = false; ///< a link to a file
     };
 
     FileRemover();
     ~FileRemover();
+
+    /// Holds what follows to the folders in @p listed, which outlives this object.
+    void setListed(const ListedFolders *listed);
 
     /// Removes the entry at the absolute @p path. A folder is emptied first; that ends early, as a
     /// failure, once
@@ -43,8 +61,9 @@ public:
                                  const std::atomic_bool *stopRequested = nullptr);
 
     /// Removes the file or link at the absolute @p path; a real folder that stands there stays and
-    /// is a failure.
-    [[nodiscard]] Outcome removeFile(const QString &path);
+    /// is a failure. With @p listed it must still be the file that was listed.
+    [[nodiscard]] Outcome removeFile(const QString &path,
+                                     const std::optional<ListedFile> &listed = {});
 
 private:
     class Private;

@@ -1,8 +1,10 @@
 #include "fileremove.h"
 
+#include "fileremove_p.h"
 #include "openfolder_unix.h"
 
 #include <QByteArray>
+#include <QFile>
 #include <QList>
 
 #include <cerrno>
@@ -37,12 +39,14 @@ bool isFolderAt(int folder, const char *name)
     return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode);
 }
 
-bool isSame(int one, int other)
+/// Whether the entry @p name is still the file of which a listing told.
+bool isListed(int folder, const char *name, const FileRemover::ListedFile &listed)
 {
-    FileStatus first{};
-    FileStatus second{};
-    return ::fstat(one, &first) == 0 && ::fstat(other, &second) == 0
-        && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+    FileStatus status{};
+    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return true; // the removal will tell
+    return S_ISLNK(status.st_mode) == listed.isLink && (listed.isLink || S_ISREG(status.st_mode))
+        && (listed.number == 0 || listed.number == status.st_ino);
 }
 
 /// Sees to it that entries are removed where they were listed: a folder stays open when somebody
@@ -59,7 +63,7 @@ public:
             return true;
         confirm();
         const UniqueFd there = openFolder(path(), Access::PassThrough);
-        return there.isValid() && isSame(folder, there.get());
+        return there.isValid() && idOf(folder) == idOf(there.get());
     }
     /// The folder has been opened by its path just now.
     void confirm()
@@ -90,9 +94,10 @@ class FolderRemoval
 {
 public:
     /// The folder @p name of the open folder @p parent, which is at @p parentPath.
-    FolderRemoval(int parent, const QByteArray &parentPath, const QByteArray &name,
-                  const std::atomic_bool *stopRequested)
-        : m_parent(parent)
+    FolderRemoval(RightFolders &folders, int parent, const QByteArray &parentPath,
+                  const QByteArray &name, const std::atomic_bool *stopRequested)
+        : m_folders(folders)
+        , m_parent(parent)
         , m_parentPath(parentPath)
         , m_name(name)
         , m_stopRequested(stopRequested)
@@ -104,14 +109,24 @@ public:
         m_top = openFolderBelow(m_parent, m_name, Mounts::Stay);
         if (!m_top.isValid())
             return failure(errno, true);
+        const QString path = QFile::decodeName(pathOfTop());
+        if (m_folders.isRemoved(path))
+            return {Status::NotFound, false, {}};
+        const EntryId id = idOf(m_top.get());
+        if (!m_folders.isRight(path, id))
+            return {Status::Replaced, true, {}};
         if (!enter(openFolderBelow(m_top.get(), {}, Mounts::Stay), {}))
             return failure(m_error, true);
         while (!m_levels.empty() && !isStopped() && !m_wasMoved)
             step();
         if (isStopped())
             return failure(ECANCELED, true);
+        if (m_wasMoved || m_hasReplaced)
+            return {Status::Replaced, true, {}};
         if (m_error == 0 && ::unlinkat(m_parent, m_name.constData(), AT_REMOVEDIR) != 0)
             note(errno);
+        if (m_error == 0)
+            m_folders.noteRemoved(id);
         return m_error == 0 ? Outcome{Status::Removed, true, {}} : failure(m_error, true);
     }
 
@@ -120,6 +135,7 @@ private:
 
     struct Level {
         UniqueFd fd;
+        EntryId id;
         QByteArray name; ///< in its parent level; empty at the top
         std::vector<QByteArray> subfolders; ///< still to be removed
     };
@@ -139,15 +155,18 @@ private:
         if (m_wasMoved || m_guard.isInPlace(level.fd.get(), [&] { return pathOf(level); }))
             return !m_wasMoved;
         m_wasMoved = true;
-        note(ENOENT);
         return false;
+    }
+
+    QByteArray pathOfTop() const
+    {
+        return (m_parentPath == "/" ? QByteArray() : m_parentPath) + '/' + m_name;
     }
 
     // Of the deepest level, or of one that is about to become it.
     QByteArray pathOf(const Level &level) const
     {
-        QByteArray path = m_parentPath == "/" ? QByteArray() : m_parentPath;
-        path += '/' + m_name;
+        QByteArray path = pathOfTop();
         for (std::size_t i = 1; i < m_levels.size(); ++i)
             path += '/' + m_levels[i].name;
         const bool isOnStack = !m_levels.empty() && &m_levels.back() == &level;
@@ -161,7 +180,13 @@ private:
             note(errno);
             return false;
         }
-        Level level{std::move(fd), name, {}};
+        Level level{std::move(fd), {}, name, {}};
+        level.id = idOf(level.fd.get());
+        if (!name.isEmpty() && m_folders.hasListed()
+            && m_folders.wasAnotherListed(QFile::decodeName(pathOf(level)), level.id)) {
+            m_hasReplaced = true;
+            return false;
+        }
         if (!clear(level))
             return false;
         m_levels.push_back(std::move(level));
@@ -246,6 +271,7 @@ private:
     void leave()
     {
         const QByteArray name = m_levels.back().name;
+        const EntryId id = m_levels.back().id;
         m_levels.pop_back();
         if (m_levels.empty())
             return;
@@ -253,13 +279,18 @@ private:
         if ((!parent.fd.isValid() && !reopen()) || !isInPlace(parent))
             return;
         const int fd = parent.fd.get();
-        if (::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0 || errno == ENOENT)
+        if (::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0) {
+            m_folders.noteRemoved(id);
             return;
-        const int error = errno;
-        if (error != EACCES || !makeWritable(fd)
-            || ::unlinkat(fd, name.constData(), AT_REMOVEDIR) != 0) {
-            note(error);
         }
+        const int error = errno;
+        if (error == ENOENT)
+            return;
+        if (error == EACCES && makeWritable(fd)
+            && ::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0)
+            m_folders.noteRemoved(id);
+        else
+            note(error);
     }
 
     // Opens the deepest levels anew, as many as are held open: the first from the top, each other
@@ -276,11 +307,15 @@ private:
             m_levels[i].fd =
                 openFolderBelow(m_levels[i - 1].fd.get(), m_levels[i].name, Mounts::Stay);
         }
-        if (!m_levels.back().fd.isValid())
+        const Level &deepest = m_levels.back();
+        if (!deepest.fd.isValid())
             note(errno);
-        return m_levels.back().fd.isValid();
+        else if (idOf(deepest.fd.get()) != deepest.id)
+            m_wasMoved = true;
+        return deepest.fd.isValid() && !m_wasMoved;
     }
 
+    RightFolders &m_folders;
     const int m_parent;
     const QByteArray m_parentPath;
     const QByteArray m_name;
@@ -289,6 +324,7 @@ private:
     std::vector<Level> m_levels;
     PlaceGuard m_guard;
     bool m_wasMoved = false;
+    bool m_hasReplaced = false; ///< a folder inside, which stays
     int m_error = 0;
 };
 
@@ -298,21 +334,34 @@ class FileRemover::Private
 {
 public:
     // Opens the folder of the next entry, unless it is the one that is open already and still
-    // there.
-    bool openParent(const QByteArray &path)
+    // there. Otherwise tells what became of the entry.
+    std::optional<Outcome> openParent(const QByteArray &path)
     {
         if (isOpen(path) && guard.isInPlace(fd.get(), [&] { return path; }))
-            return true;
-        fd = openFolder(path, Access::PassThrough);
+            return {};
+        fd.reset();
+        const QString name = QFile::decodeName(path);
+        if (folders.isRemoved(name))
+            return Outcome{Status::NotFound, false, {}};
+        UniqueFd found = openFolder(path, Access::PassThrough);
+        if (!found.isValid() && errno != ENOENT)
+            return failure(errno);
+        if (!found.isValid())
+            return Outcome{
+                folders.idOf(name).isKnown() ? Status::Replaced : Status::NotFound, false, {}};
+        if (!folders.isRight(name, idOf(found.get())))
+            return Outcome{Status::Replaced, false, {}};
+        fd = std::move(found);
         folder = path;
         guard.confirm();
-        return fd.isValid();
+        return {};
     }
     [[nodiscard]] bool isOpen(const QByteArray &path) const
     {
         return fd.isValid() && folder == path;
     }
 
+    RightFolders folders;
     QByteArray folder;
     UniqueFd fd;
     PlaceGuard guard;
@@ -325,7 +374,13 @@ FileRemover::FileRemover()
 
 FileRemover::~FileRemover() = default;
 
-FileRemover::Outcome FileRemover::removeFile(const QString &path)
+void FileRemover::setListed(const ListedFolders *listed)
+{
+    d->folders.setListed(listed);
+}
+
+FileRemover::Outcome FileRemover::removeFile(const QString &path,
+                                             const std::optional<ListedFile> &listed)
 {
     const SplitPath split = splitPath(path);
     if (split.name.isEmpty())
@@ -335,10 +390,10 @@ FileRemover::Outcome FileRemover::removeFile(const QString &path)
     const bool wasOpen = d->isOpen(split.folder);
     int error = ENOENT;
     for (int attempts = wasOpen ? 2 : 1; attempts > 0 && error == ENOENT; --attempts) {
-        if (!d->openParent(split.folder)) {
-            error = errno;
-            return error == ENOENT ? Outcome{Status::NotFound, false, {}} : failure(error);
-        }
+        if (const std::optional<Outcome> outcome = d->openParent(split.folder))
+            return *outcome;
+        if (listed && !isListed(d->fd.get(), split.name.constData(), *listed))
+            return {Status::Replaced, isFolderAt(d->fd.get(), split.name.constData()), {}};
         if (::unlinkat(d->fd.get(), split.name.constData(), 0) == 0)
             return {Status::Removed, false, {}};
         error = errno;
@@ -356,7 +411,7 @@ FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_
     if (!outcome.wasFolder)
         return outcome;
     const SplitPath split = splitPath(path);
-    return FolderRemoval(d->fd.get(), split.folder, split.name, stopRequested).run();
+    return FolderRemoval(d->folders, d->fd.get(), split.folder, split.name, stopRequested).run();
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "fileremove.h"
 
+#include "fileremove_p.h"
 #include "openentry_windows.h"
 
 #include <optional>
@@ -33,6 +34,33 @@ struct OpenedEntry {
     EntryNature nature = EntryNature::File;
 
     [[nodiscard]] bool isFolder() const { return nature == EntryNature::Folder; }
+};
+
+/// Entries are opened by their path, at which another folder than the one that was looked at may
+/// have come to stand. Tells when to look: for every few entries, and after every short while.
+class LookGuard
+{
+public:
+    /// For each entry; true makes it count as looked.
+    [[nodiscard]] bool isDue()
+    {
+        if (--m_left >= 0 && ::GetTickCount64() - m_looked < longestTrust)
+            return false;
+        confirm();
+        return true;
+    }
+    void confirm()
+    {
+        m_left = entriesAtOnce - 1;
+        m_looked = ::GetTickCount64();
+    }
+
+private:
+    static constexpr int entriesAtOnce = 32;
+    static constexpr quint64 longestTrust = 16; // milliseconds: a tick of the system's clock
+
+    int m_left = 0;
+    quint64 m_looked = 0;
 };
 
 /// Removes single entries by handle: what was looked at is what goes, whatever happens meanwhile to
@@ -157,8 +185,10 @@ private:
 class FolderRemoval
 {
 public:
-    FolderRemoval(EntryRemover &remover, const QString &top, const std::atomic_bool *stopRequested)
-        : m_remover(remover)
+    FolderRemoval(RightFolders &folders, EntryRemover &remover, const QString &top,
+                  const std::atomic_bool *stopRequested)
+        : m_folders(folders)
+        , m_remover(remover)
         , m_top(top)
         , m_stopRequested(stopRequested)
     {
@@ -167,12 +197,14 @@ public:
     Outcome run()
     {
         enter(m_top);
-        while (!m_levels.empty() && !isStopped()) {
+        while (!m_levels.empty() && !isStopped() && !m_wasMoved) {
             Level &level = m_levels.back();
             if (level.subfolders.empty()) {
                 const QString path = std::move(level.path);
+                const EntryId id = level.id;
                 m_levels.pop_back();
-                removeEntry(path);
+                if (removeEntry(path))
+                    m_folders.noteRemoved(id);
                 continue;
             }
             const QString subfolder = level.path + u'\\' + level.subfolders.back();
@@ -181,6 +213,8 @@ public:
         }
         if (isStopped())
             return failure(ERROR_CANCELLED, true);
+        if (m_wasMoved || m_hasReplaced)
+            return {Status::Replaced, true, {}};
         return m_error == ERROR_SUCCESS ? Outcome{Status::Removed, true, {}}
                                         : failure(m_error, true);
     }
@@ -188,6 +222,7 @@ public:
 private:
     struct Level {
         QString path; ///< extended
+        EntryId id;
         std::vector<QString> subfolders; ///< still to be removed
     };
 
@@ -214,8 +249,15 @@ private:
                 note(m_remover.error());
             return;
         }
+        const EntryId id = idOf(entry.handle);
+        const QString plain = plainPath(path);
+        if (path == m_top ? !m_folders.isRight(plain, id) : m_folders.wasAnotherListed(plain, id)) {
+            m_hasReplaced = true;
+            return;
+        }
         entry.handle.reset();
-        Level level{path, {}};
+        m_guard.confirm();
+        Level level{path, id, {}};
         clear(level);
         m_levels.push_back(std::move(level));
     }
@@ -237,22 +279,35 @@ private:
                 continue;
             if (natureOf(data.dwFileAttributes, data.dwReserved0) == EntryNature::Folder)
                 level.subfolders.push_back(name);
-            else
+            else if (isInPlace(level))
                 removeEntry(level.path + u'\\' + name);
-        } while (!isStopped() && ::FindNextFileW(search, &data));
-        if (const DWORD error = ::GetLastError(); !isStopped() && error != ERROR_NO_MORE_FILES)
+        } while (!isStopped() && !m_wasMoved && ::FindNextFileW(search, &data));
+        if (const DWORD error = ::GetLastError();
+            !isStopped() && !m_wasMoved && error != ERROR_NO_MORE_FILES)
             note(error);
         ::FindClose(search);
     }
 
-    // A file, a link, or a folder that has been emptied.
-    void removeEntry(const QString &path)
+    // Before anything in the level is removed. Once another folder is at its path, nothing more is.
+    bool isInPlace(const Level &level)
+    {
+        if (m_guard.isDue() && idOfFolder(plainPath(level.path)) != level.id)
+            m_wasMoved = true;
+        return !m_wasMoved;
+    }
+
+    // A file, a link, or a folder that has been emptied. Whether it was removed.
+    bool removeEntry(const QString &path)
     {
         OpenedEntry entry = m_remover.open(path);
-        if (!entry.handle.isValid())
+        if (!entry.handle.isValid()) {
             noteUnlessMissing(m_remover.error());
-        else if (!m_remover.removeEvenIfReadOnly(path, std::move(entry)))
+            return false;
+        }
+        const bool isRemoved = m_remover.removeEvenIfReadOnly(path, std::move(entry));
+        if (!isRemoved)
             note(m_remover.error());
+        return isRemoved;
     }
 
     void noteUnlessMissing(DWORD error)
@@ -261,10 +316,14 @@ private:
             note(error);
     }
 
+    RightFolders &m_folders;
     EntryRemover &m_remover;
     const QString m_top;
     const std::atomic_bool *const m_stopRequested;
     std::vector<Level> m_levels;
+    LookGuard m_guard;
+    bool m_wasMoved = false;
+    bool m_hasReplaced = false; ///< the folder or one inside, which stays
     DWORD m_error = ERROR_SUCCESS;
 };
 
@@ -283,11 +342,16 @@ class FileRemover::Private
 public:
     enum class Folders { Leave, Remove };
 
-    Outcome remove(const QString &path, Folders folders, const std::atomic_bool *stopRequested)
+    void setListed(const ListedFolders *listed) { m_right.setListed(listed); }
+
+    Outcome remove(const QString &path, Folders folders, const std::atomic_bool *stopRequested,
+                   const std::optional<FileRemover::ListedFile> &listed)
     {
         const QString extended = extendedPath(path);
         if (extended.isEmpty() || extended.size() == rootLength(extended))
             return failure(ERROR_INVALID_NAME);
+        if (const std::optional<Outcome> outcome = checkFolderOf(extended))
+            return *outcome;
 
         OpenedEntry entry = m_entries.open(extended);
         if (!entry.handle.isValid()) {
@@ -299,14 +363,49 @@ public:
             if (folders == Folders::Leave)
                 return failure(ERROR_ACCESS_DENIED, true);
             entry.handle.reset();
-            return FolderRemoval(m_entries, extended, stopRequested).run();
+            if (m_right.isRemoved(plainPath(extended)))
+                return {Status::NotFound, false, {}};
+            return FolderRemoval(m_right, m_entries, extended, stopRequested).run();
         }
+        if (listed && !isListed(entry, *listed))
+            return {Status::Replaced, false, {}};
         if (!m_entries.remove(std::move(entry)))
             return failure(m_entries.error());
         return {Status::Removed, false, {}};
     }
 
 private:
+    static bool isListed(const OpenedEntry &entry, const FileRemover::ListedFile &listed)
+    {
+        const auto nature = listed.isLink ? EntryNature::FileLink : EntryNature::File;
+        return entry.nature == nature
+            && (listed.number == 0 || listed.number == idOf(entry.handle).number);
+    }
+
+    // Whether the folder around the entry is the right one; otherwise tells what became of the
+    // entry.
+    std::optional<Outcome> checkFolderOf(const QString &extended)
+    {
+        const QString folder = folderOf(plainPath(extended));
+        if (folder == m_folder && !m_guard.isDue())
+            return {};
+        m_folder.clear();
+        if (m_right.isRemoved(folder))
+            return Outcome{Status::NotFound, false, {}};
+        const EntryId id = idOfFolder(folder);
+        // Where the folder does not tell, what becomes of the entry does.
+        if (!id.isKnown() && !m_right.idOf(folder).isKnown())
+            return {};
+        if (!m_right.isRight(folder, id))
+            return Outcome{Status::Replaced, false, {}};
+        m_folder = folder;
+        m_guard.confirm();
+        return {};
+    }
+
+    RightFolders m_right;
+    QString m_folder; ///< that was found to be the right one last
+    LookGuard m_guard;
     EntryRemover m_entries;
 };
 
@@ -317,14 +416,20 @@ FileRemover::FileRemover()
 
 FileRemover::~FileRemover() = default;
 
-FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
+void FileRemover::setListed(const ListedFolders *listed)
 {
-    return d->remove(path, Private::Folders::Remove, stopRequested);
+    d->setListed(listed);
 }
 
-FileRemover::Outcome FileRemover::removeFile(const QString &path)
+FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
 {
-    return d->remove(path, Private::Folders::Leave, nullptr);
+    return d->remove(path, Private::Folders::Remove, stopRequested, {});
+}
+
+FileRemover::Outcome FileRemover::removeFile(const QString &path,
+                                             const std::optional<ListedFile> &listed)
+{
+    return d->remove(path, Private::Folders::Leave, nullptr, listed);
 }
 
 } // namespace platform

@@ -11,19 +11,24 @@ class Lister final : public TreeVisitor
 {
     Q_DISABLE_COPY_MOVE(Lister)
 public:
-    explicit Lister(const FileVisitor &visit)
+    Lister(const FileVisitor &visit, ListedFolders *listed)
         : m_visit(visit)
+        , m_listed(listed)
     {
     }
 
     [[nodiscard]] Wanted enterFolder(const QString &path) override
     {
         m_folder = path;
+        m_isRecorded = m_listed == nullptr;
         return Wanted::SizesAndTimes;
     }
 
     void meetFile(const MetFile &file) override
     {
+        if (!m_isRecorded)
+            m_listed->add(m_folder, file.folder->id());
+        m_isRecorded = true;
         QString name = file.name.toString();
         QString path = joinedPath(m_folder, name);
         m_visit({std::move(name), std::move(path), file.size});
@@ -31,14 +36,17 @@ public:
 
 private:
     const FileVisitor &m_visit;
+    ListedFolders *const m_listed;
     QString m_folder;
+    bool m_isRecorded = true;
 };
 
 } // namespace
 
-WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit)
+WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
+                     ListedFolders *listed)
 {
-    Lister lister(visit);
+    Lister lister(visit, listed);
     return walkTree(root, options, {&lister});
 }
 

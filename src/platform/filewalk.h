@@ -1,5 +1,7 @@
 #pragma once
 
+#include "listedfolders.h"
+
 #include <QAnyStringView>
 #include <QList>
 #include <QString>
@@ -23,6 +25,7 @@ struct Entry {
     EntryKind kind = EntryKind::Missing;
     qint64 size = 0; ///< bytes, for files only
     QString error; ///< for people; why it cannot be looked at, with EntryKind::Other
+    EntryId folder; ///< the folder that holds it, for files only
 };
 
 /// Looks at the entry at an absolute path without following a link anywhere on the way.
@@ -83,14 +86,37 @@ using FileVisitor = std::function<void(WalkedFile &&file)>;
 /// hidden folders, no pipes, sockets, devices or undecodable names, links to folders not entered,
 /// links to files listed. In addition a walk never leaves the device of its root, unless the
 /// options say otherwise. Files of one folder arrive together, before those of its subfolders; the
-/// order is otherwise the file system's.
-WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit);
+/// order is otherwise the file system's. Each folder from which a file is listed is recorded in
+/// @p listed.
+WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
+                     ListedFolders *listed = nullptr);
+
+/// The folder that a walker is reading.
+class WalkedFolder final
+{
+public:
+    WalkedFolder() = default;
+    /// With no @p id, that is looked up when somebody asks for it first.
+    explicit WalkedFolder(const QString &path, const EntryId &id = {})
+        : m_path(path)
+        , m_id(id)
+    {
+    }
+    [[nodiscard]] EntryId id() const;
+
+private:
+    QString m_path;
+    mutable EntryId m_id;
+};
 
 /// A file as a walk meets it. No string is built for it: most are looked at and passed over.
 struct MetFile {
     QAnyStringView name; ///< without its folder; valid until the visitor returns
     qint64 size = 0; ///< bytes; of a link its own, which is what its removal frees
     qint64 modified = 0; ///< milliseconds since 1970, UTC; of a link its own
+    bool isLink = false;
+    quint64 number = 0; ///< EntryId::number of the file or link; 0 where a listing tells none
+    const WalkedFolder *folder = nullptr; ///< that it lies in; never null in a visitor
 };
 
 /// Receives what one walker meets, on the thread of that walker.

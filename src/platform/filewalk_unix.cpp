@@ -34,18 +34,6 @@ QString reasonOf(int error)
     return QString::fromStdString(std::generic_category().message(error));
 }
 
-/// What tells a folder from all others, whatever path leads to it.
-struct FolderId {
-    dev_t device;
-    ino_t inode;
-
-    friend bool operator==(const FolderId &, const FolderId &) = default;
-    friend std::size_t qHash(const FolderId &id, std::size_t seed)
-    {
-        return qHashMulti(seed, quint64(id.device), quint64(id.inode));
-    }
-};
-
 using SharedFd = std::shared_ptr<const UniqueFd>;
 
 /// The root of the walk or a folder behind a link: from here down no link is passed.
@@ -69,7 +57,7 @@ struct Folder {
 
 struct Link {
     QString path;
-    FolderId target;
+    EntryId target;
 };
 
 /// Keeps the levels open that were entered last, so that each folder is opened from its parent;
@@ -117,7 +105,7 @@ public:
     VisitedFolders() = default;
 
     /// False when @p id was there before.
-    [[nodiscard]] bool insert(const FolderId &id)
+    [[nodiscard]] bool insert(const EntryId &id)
     {
         const std::lock_guard lock(m_mutex);
         const qsizetype before = m_ids.size();
@@ -125,7 +113,7 @@ public:
         return m_ids.size() > before;
     }
 
-    [[nodiscard]] bool contains(const FolderId &id)
+    [[nodiscard]] bool contains(const EntryId &id)
     {
         const std::lock_guard lock(m_mutex);
         return m_ids.contains(id);
@@ -133,7 +121,7 @@ public:
 
 private:
     std::mutex m_mutex;
-    QSet<FolderId> m_ids;
+    QSet<EntryId> m_ids;
 };
 
 /// What the walkers of one walk share.
@@ -272,12 +260,12 @@ private:
     void readBase(const QString &path, const SharedFd &fd, const FileStatus &status)
     {
         if (isEverywhere()) {
-            if (!m_shared.visited.insert({status.st_dev, status.st_ino}))
+            if (!m_shared.visited.insert(idOf(status)))
                 return;
             if (const QString target = realPath(fd->get()); !target.isEmpty() && target != path)
                 m_shared.report.addFollowed({path, target});
         }
-        readFolder(path, std::make_shared<const Base>(Base{fd, path}), fd, status.st_dev);
+        readFolder(path, std::make_shared<const Base>(Base{fd, path}), fd, idOf(status));
     }
 
     void read(const Folder &folder)
@@ -290,13 +278,12 @@ private:
         }
         if (isEverywhere()) {
             const bool isMounted = status.st_dev != folder.parent->device;
-            if ((isMounted && holdsNoFiles(fd->get()))
-                || !m_shared.visited.insert({status.st_dev, status.st_ino}))
+            if ((isMounted && holdsNoFiles(fd->get())) || !m_shared.visited.insert(idOf(status)))
                 return;
         } else if (status.st_dev != m_shared.device) {
             return;
         }
-        readFolder(folder.path, folder.parent->base, fd, status.st_dev);
+        readFolder(folder.path, folder.parent->base, fd, idOf(status));
     }
 
     // From its parent, which is opened from the base when it is not open any more.
@@ -319,8 +306,9 @@ private:
     }
 
     void readFolder(const QString &path, const std::shared_ptr<const Base> &base,
-                    const SharedFd &fd, dev_t device)
+                    const SharedFd &fd, const EntryId &id)
     {
+        m_folder = WalkedFolder(path, id);
         const bool isAsked = m_visitor.enterFolder(path) == TreeVisitor::Wanted::SizesAndTimes;
         m_mayBeHidden = m_shared.attributes.mayBeIn(path);
         std::shared_ptr<Level> level;
@@ -338,7 +326,7 @@ private:
                 readEntry(fd->get(), path, *entry, isAsked);
             }
             if (!m_subfolders.empty() && !level) {
-                level = std::make_shared<Level>(Level{base, path, device, nullptr});
+                level = std::make_shared<Level>(Level{base, path, id.volume, nullptr});
                 m_shared.levels.keep(level, fd);
             }
             for (std::size_t i = m_levelled; i < m_subfolders.size(); ++i)
@@ -396,12 +384,12 @@ private:
         return static_cast<unsigned char>(IFTODT(status.st_mode));
     }
 
-    static constexpr unsigned fileMask = STATX_TYPE | STATX_SIZE | STATX_MTIME;
+    static constexpr unsigned fileMask = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_MTIME;
 
     void readFile(int folderFd, const char *name, bool isAsked)
     {
         if (!isAsked) {
-            m_visitor.meetFile({QUtf8StringView(name)});
+            m_visitor.meetFile({QUtf8StringView(name), 0, 0, false, 0, &m_folder});
             return;
         }
         struct statx status = {};
@@ -417,7 +405,7 @@ private:
     void readLink(int folderFd, const QString &folder, const char *name)
     {
         struct statx status = {};
-        if (::statx(folderFd, name, AT_NO_AUTOMOUNT, fileMask | STATX_INO, &status) != 0)
+        if (::statx(folderFd, name, AT_NO_AUTOMOUNT, fileMask, &status) != 0)
             return;
         if (S_ISREG(status.stx_mode)) {
             // What would go is the link.
@@ -426,8 +414,8 @@ private:
                     == 0)
                 meet(name, status);
         } else if (S_ISDIR(status.stx_mode) && isEverywhere() && m_shared.options.recursive) {
-            const FolderId target{makedev(status.stx_dev_major, status.stx_dev_minor),
-                                  static_cast<ino_t>(status.stx_ino)};
+            const EntryId target{makedev(status.stx_dev_major, status.stx_dev_minor),
+                                 status.stx_ino};
             if (!m_shared.visited.contains(target))
                 m_shared.queue.addLink({joinedPath(folder, QString::fromUtf8(name)), target});
         }
@@ -437,7 +425,8 @@ private:
     {
         const qint64 modified =
             qint64(status.stx_mtime.tv_sec) * 1000 + qint64(status.stx_mtime.tv_nsec) / 1'000'000;
-        m_visitor.meetFile({QUtf8StringView(name), static_cast<qint64>(status.stx_size), modified});
+        m_visitor.meetFile({QUtf8StringView(name), static_cast<qint64>(status.stx_size), modified,
+                            S_ISLNK(status.stx_mode), status.stx_ino, &m_folder});
     }
 
     Shared &m_shared;
@@ -446,34 +435,41 @@ private:
     const std::unique_ptr<char[]> m_buffer;
     std::vector<Folder> m_subfolders; ///< of the folder that is being read
     std::size_t m_levelled = 0; ///< how many of them know their parent
+    WalkedFolder m_folder; ///< that is being read
     bool m_mayBeHidden = false; ///< what is in it, though it has no dot in front
 };
 
 } // namespace
 
+EntryId WalkedFolder::id() const
+{
+    return m_id;
+}
+
 Entry inspect(const QString &path)
 {
     const auto failure = [](int error) {
         if (error == ELOOP)
-            return Entry{EntryKind::Link, 0, {}};
-        return error == ENOENT || error == ENOTDIR ? Entry()
-                                                   : Entry{EntryKind::Other, 0, reasonOf(error)};
+            return Entry{EntryKind::Link, 0, {}, {}};
+        return error == ENOENT || error == ENOTDIR
+            ? Entry()
+            : Entry{EntryKind::Other, 0, reasonOf(error), {}};
     };
     const SplitPath split = splitPath(path);
     if (split.folder.isEmpty())
         return {};
     if (split.name.isEmpty())
-        return {path == u'/' ? EntryKind::Folder : EntryKind::Missing, 0, {}};
+        return {path == u'/' ? EntryKind::Folder : EntryKind::Missing, 0, {}, {}};
     const UniqueFd folder = openFolder(split.folder, Access::PassThrough);
     FileStatus status{};
     if (!folder.isValid()
         || ::fstatat(folder.get(), split.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
         return failure(errno);
     if (S_ISREG(status.st_mode))
-        return {EntryKind::File, static_cast<qint64>(status.st_size), {}};
+        return {EntryKind::File, static_cast<qint64>(status.st_size), {}, idOf(folder.get())};
     if (S_ISDIR(status.st_mode))
-        return {EntryKind::Folder, 0, {}};
-    return {S_ISLNK(status.st_mode) ? EntryKind::Link : EntryKind::Other, 0, {}};
+        return {EntryKind::Folder, 0, {}, {}};
+    return {S_ISLNK(status.st_mode) ? EntryKind::Link : EntryKind::Other, 0, {}, {}};
 }
 
 WalkReport walkTree(const QString &root, const WalkOptions &options,

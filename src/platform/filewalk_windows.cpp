@@ -48,21 +48,15 @@ struct Link {
 /// numbers its files, nor resolves every path.
 struct FolderIdentity {
     QString path; ///< link-free
-    std::optional<std::pair<quint64, quint64>> number; ///< of the volume and of the file on it
+    EntryId id; ///< unknown where the file system numbers nothing
 };
 
 FolderIdentity identityOf(const UniqueHandle &folder, const QString &path)
 {
-    FolderIdentity identity{path, {}};
+    FolderIdentity identity{path, idOf(folder)};
     if (const QString target = plainPath(finalPath(folder, PathForm::Drive)); !target.isEmpty())
         identity.path =
             target.endsWith(u'/') && !target.endsWith(":/"_L1) ? target.chopped(1) : target;
-    BY_HANDLE_FILE_INFORMATION info{};
-    if (::GetFileInformationByHandle(folder.get(), &info)) {
-        const quint64 file = static_cast<quint64>(sizeOf(info.nFileIndexHigh, info.nFileIndexLow));
-        if (file != 0)
-            identity.number = std::pair{quint64(info.dwVolumeSerialNumber), file};
-    }
     return identity;
 }
 
@@ -77,11 +71,11 @@ public:
     [[nodiscard]] bool insert(const FolderIdentity &folder)
     {
         const std::lock_guard lock(m_mutex);
-        if ((folder.number && m_numbers.contains(*folder.number)) || isWalked(folder.path))
+        if ((folder.id.isKnown() && m_ids.contains(folder.id)) || isWalked(folder.path))
             return false;
         m_paths.insert(folder.path);
-        if (folder.number)
-            m_numbers.insert(*folder.number);
+        if (folder.id.isKnown())
+            m_ids.insert(folder.id);
         m_hasSeveral = m_paths.size() > 1;
         return true;
     }
@@ -117,7 +111,7 @@ private:
 
     std::mutex m_mutex;
     QSet<QString> m_paths;
-    QSet<std::pair<quint64, quint64>> m_numbers;
+    QSet<EntryId> m_ids;
     std::atomic_bool m_hasSeveral = false;
 };
 
@@ -228,6 +222,7 @@ private:
     {
         // The files' sizes and times come with their names, wanted or not.
         Q_UNUSED(m_visitor.enterFolder(folder.path))
+        m_folder = WalkedFolder(folder.path);
         QString pattern = extendedPath(folder.path);
         pattern += pattern.endsWith(u'\\') ? "*"_L1 : "\\*"_L1;
         FolderSearch search(pattern);
@@ -257,12 +252,12 @@ private:
             return;
         case EntryNature::File:
             if (m_filter.matches(name))
-                meet(name, entry);
+                meet(name, entry, false);
             return;
         case EntryNature::FileLink:
             if (m_filter.matches(name)
                 && leadsToFile(extendedPath(joinedPath(folder.path, name.toString()))))
-                meet(name, entry);
+                meet(name, entry, true);
             return;
         case EntryNature::FolderLink:
             if (isEverywhere() && m_shared.options.recursive)
@@ -274,11 +269,12 @@ private:
     }
 
     // Of a link, too, these are its own size and time.
-    void meet(QStringView name, const WIN32_FIND_DATAW &entry)
+    void meet(QStringView name, const WIN32_FIND_DATAW &entry, bool isLink)
     {
         m_visitor.meetFile({name, sizeOf(entry.nFileSizeHigh, entry.nFileSizeLow),
                             millisecondsSince1970(sizeOf(entry.ftLastWriteTime.dwHighDateTime,
-                                                         entry.ftLastWriteTime.dwLowDateTime))});
+                                                         entry.ftLastWriteTime.dwLowDateTime)),
+                            isLink, 0, &m_folder});
     }
 
     static constexpr std::size_t subfoldersAtOnce = 64;
@@ -286,15 +282,24 @@ private:
     Shared &m_shared;
     const NameFilter m_filter;
     TreeVisitor &m_visitor;
-    std::vector<Folder> m_subfolders; ///< of the folder that is being read
+    WalkedFolder m_folder; ///< that is being read
+    std::vector<Folder> m_subfolders; ///< of that folder
 };
 
 } // namespace
 
+// A listing does not tell: another look for each folder, of which most hold nothing that is wanted.
+EntryId WalkedFolder::id() const
+{
+    if (!m_id.isKnown())
+        m_id = idOfFolder(m_path);
+    return m_id;
+}
+
 Entry inspect(const QString &path)
 {
     const auto failure = [](DWORD error) {
-        return isMissing(error) ? Entry() : Entry{EntryKind::Other, 0, reasonOf(error)};
+        return isMissing(error) ? Entry() : Entry{EntryKind::Other, 0, reasonOf(error), {}};
     };
     const QString extended = extendedPath(path);
     if (extended.isEmpty())
@@ -303,27 +308,27 @@ Entry inspect(const QString &path)
     if (!entry.isValid())
         return failure(::GetLastError());
     if (PlaceCheck().placeOf(entry, extended) == PlaceCheck::Place::Elsewhere)
-        return {EntryKind::Link, 0, {}};
+        return {EntryKind::Link, 0, {}, {}};
     const std::optional<EntryAttributes> attributes = attributesOf(entry);
     if (!attributes)
         return failure(::GetLastError());
     if (::GetFileType(entry.get()) != FILE_TYPE_DISK)
-        return {EntryKind::Other, 0, {}};
+        return {EntryKind::Other, 0, {}, {}};
     FILE_STANDARD_INFO standard{};
     if (!::GetFileInformationByHandleEx(entry.get(), FileStandardInfo, &standard, sizeof standard))
         return failure(::GetLastError());
     switch (attributes->nature) {
     case EntryNature::File:
-        return {EntryKind::File, standard.EndOfFile.QuadPart, {}};
+        return {EntryKind::File, standard.EndOfFile.QuadPart, {}, idOfFolder(folderOf(path))};
     case EntryNature::Folder:
-        return {EntryKind::Folder, 0, {}};
+        return {EntryKind::Folder, 0, {}, {}};
     case EntryNature::FileLink:
     case EntryNature::FolderLink:
-        return {EntryKind::Link, 0, {}};
+        return {EntryKind::Link, 0, {}, {}};
     case EntryNature::Special:
         break;
     }
-    return {EntryKind::Other, 0, {}};
+    return {EntryKind::Other, 0, {}, {}};
 }
 
 WalkReport walkTree(const QString &root, const WalkOptions &options,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "listedfolders.h"
+
 #include <QString>
 
 #include <atomic>
@@ -22,6 +24,7 @@ struct FolderListing {
     std::vector<ListedEntry> entries; ///< in the file system's order
     quint64 device =
         0; ///< where the folder lies, for comparing; 0 where links alone lead elsewhere
+    EntryId id; ///< of the folder
     bool isMissing = false; ///< gone, or no folder, or (on Linux) reached through a link
     QString error; ///< why it could not be read; what was read before is kept
 };

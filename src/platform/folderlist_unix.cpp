@@ -86,6 +86,7 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
         return listing;
     }
     listing.device = status.st_dev;
+    listing.id = idOf(status);
     const bool mayBeHidden = d->attributes.mayBeIn(path);
     const auto buffer = std::make_unique_for_overwrite<char[]>(bufferSize);
     for (;;) {

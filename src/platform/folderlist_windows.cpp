@@ -64,6 +64,8 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
         listing.isMissing = true;
         return listing;
     }
+    // Before anything is listed: what comes to the path later is then another folder.
+    listing.id = idOfFolder(asRoot);
     pattern += pattern.endsWith(u'\\') ? "*"_L1 : "\\*"_L1;
     FolderSearch search(pattern);
     for (; search.hasEntry(); search.next()) {

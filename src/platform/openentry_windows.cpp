@@ -173,6 +173,22 @@ UniqueHandle openEntry(const QString &extended, quint32 access, Links links)
     return handle == INVALID_HANDLE_VALUE ? UniqueHandle() : UniqueHandle(handle);
 }
 
+EntryId idOf(const UniqueHandle &entry)
+{
+    BY_HANDLE_FILE_INFORMATION info{};
+    if (!entry.isValid() || !::GetFileInformationByHandle(entry.get(), &info))
+        return {};
+    return {info.dwVolumeSerialNumber,
+            (static_cast<quint64>(info.nFileIndexHigh) << 32) | info.nFileIndexLow};
+}
+
+EntryId idOfFolder(const QString &path)
+{
+    // Without its slash a drive would be whatever folder is current on it.
+    const QString extended = extendedPath(path.endsWith(u':') ? path + u'/' : path);
+    return idOf(openEntry(extended, FILE_READ_ATTRIBUTES, Links::Open));
+}
+
 bool leadsToFile(const QString &extended)
 {
     const UniqueHandle target = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);

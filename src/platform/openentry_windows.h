@@ -1,5 +1,7 @@
 #pragma once
 
+#include "listedfolders.h"
+
 #include <QString>
 
 #include <optional>
@@ -73,6 +75,12 @@ enum class Links { Follow, Open };
 /// Opens what stands at an extended path, shared with everybody. On failure the result is invalid
 /// and the thread's last error tells why.
 [[nodiscard]] UniqueHandle openEntry(const QString &extended, quint32 access, Links links);
+
+/// Unknown on failure, and where the file system numbers nothing.
+[[nodiscard]] EntryId idOf(const UniqueHandle &entry);
+/// Of the folder at a path with forward slashes; a link there is not followed. On failure unknown,
+/// and the thread's last error tells why.
+[[nodiscard]] EntryId idOfFolder(const QString &path);
 
 /// Whether a link at an extended path leads to a file.
 [[nodiscard]] bool leadsToFile(const QString &extended);

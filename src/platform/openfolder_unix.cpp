@@ -80,6 +80,12 @@ UniqueFd openStep(int base, const QByteArray &relative, Mounts mounts, Access ac
 
 } // namespace
 
+EntryId idOf(int folder)
+{
+    FileStatus status{};
+    return ::fstat(folder, &status) == 0 ? idOf(status) : EntryId();
+}
+
 UniqueFd openFolderBelow(int base, const QByteArray &relative, Mounts mounts, Access access)
 {
     if (relative.isEmpty())

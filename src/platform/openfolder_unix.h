@@ -1,5 +1,7 @@
 #pragma once
 
+#include "listedfolders.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -12,6 +14,13 @@ namespace platform {
 
 /// What the system tells of an entry; the function of the same name hides its type.
 using FileStatus = struct stat;
+
+[[nodiscard]] inline EntryId idOf(const FileStatus &status)
+{
+    return {status.st_dev, status.st_ino};
+}
+/// Of an open folder; unknown when the system does not tell.
+[[nodiscard]] EntryId idOf(int folder);
 
 /// Owns a file descriptor; -1 is none.
 class UniqueFd

@@ -18,8 +18,12 @@
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 #endif
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 using State = CleanEngine::State;
@@ -115,6 +119,23 @@ QStringList held(const ScanResult &result, const QString &id, const QString &roo
 }
 
 } // namespace
+
+#ifdef Q_OS_UNIX
+namespace {
+
+int removalsUntilThen = -1; ///< below 0 never
+std::function<void()> happensThen;
+
+} // namespace
+
+// Every removal comes by here, so that a test can have something happen between two of them.
+extern "C" int unlinkat(int folder, const char *name, int flags) noexcept
+{
+    if (removalsUntilThen >= 0 && --removalsUntilThen < 0)
+        happensThen();
+    return static_cast<int>(::syscall(SYS_unlinkat, folder, name, flags));
+}
+#endif
 
 class TestBrowserCleaner : public QObject
 {
@@ -1155,6 +1176,127 @@ private Q_SLOTS:
         clean(cleaner, finished);
         QVERIFY(outside.has(u"canary"_s));
         QVERIFY(!tree.has(folder));
+    }
+
+    void aFolderThatTookThePlaceOfAListedOneKeepsItsFiles_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("isDuring");
+        const QString chromium = chromeProfile() + "/Cache/Cache_Data"_L1;
+        QTest::newRow("Chromium, before the clean") << chromium << false;
+        QTest::newRow("Chromium, during the clean") << chromium << true;
+        const QString firefox = u"Roaming/Mozilla/Firefox/Profiles/x/cache2/entries"_s;
+        QTest::newRow("Firefox, before the clean") << firefox << false;
+        QTest::newRow("Firefox, during the clean") << firefox << true;
+    }
+    void aFolderThatTookThePlaceOfAListedOneKeepsItsFiles()
+    {
+        QFETCH(QString, folder);
+        QFETCH(bool, isDuring);
+        constexpr int files = 300;
+        const TestTree tree;
+        for (int i = 0; i < files; ++i) {
+            tree.file(folder + u"/f%1"_s.arg(i));
+            tree.file(u"other/f%1"_s.arg(i));
+        }
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const int found = cleaner.result().checkedCount();
+        QVERIFY(found >= files);
+        happensThen = [&] {
+            QVERIFY(QDir().rename(tree.path(folder), tree.path(u"away"_s)));
+            QVERIFY(QDir().rename(tree.path(u"other"_s), tree.path(folder)));
+        };
+        if (isDuring)
+            removalsUntilThen = 20;
+        else
+            happensThen();
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        QCOMPARE(QDir(tree.path(folder)).entryList(QDir::Files).size(), files);
+        const auto left = QDir(tree.path(u"away"_s)).entryList(QDir::Files).size();
+        QVERIFY2(left >= files - (isDuring ? 20 + 32 : 0), qPrintable(QString::number(left)));
+        const int cleaned = finished.constFirst().at(1).toInt();
+        QVERIFY2(cleaned <= files - left, qPrintable(QString::number(cleaned)));
+        QCOMPARE(cleaner.failures().size(), found - cleaned);
+        QCOMPARE(cleaner.failures().constLast().reason,
+                 u"Its folder is not the one that was listed"_s);
+    }
+
+    // The folder is an item, and so is each file in it: they are not gone because they are not
+    // where they were.
+    void aFolderThatWasMovedAwayDuringACleanIsNotCounted()
+    {
+        constexpr int files = 300;
+        const TestTree tree;
+        const QString folder = chromeProfile() + "/Cache/Cache_Data"_L1;
+        for (int i = 0; i < files; ++i)
+            tree.file(folder + u"/f%1"_s.arg(i));
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        happensThen = [&] { QVERIFY(QDir().rename(tree.path(folder), tree.path(u"away"_s))); };
+        removalsUntilThen = 20;
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        const auto left = QDir(tree.path(u"away"_s)).entryList(QDir::Files).size();
+        QVERIFY(left > 0);
+        const int cleaned = finished.constFirst().at(1).toInt();
+        QVERIFY2(cleaned <= files - left, qPrintable(QString::number(cleaned)));
+        QVERIFY(cleaner.failures().size() >= left);
+    }
+
+    void aLinkCountsForItsOwnSize()
+    {
+        const TestTree outside;
+        const QString target = outside.file(u"large"_s, QByteArray(100'000, 'x'));
+        const TestTree tree;
+        const QString folder = chromeProfile() + "/Cache/Cache_Data"_L1;
+        tree.file(folder + "/plain"_L1, "12345");
+        tree.link(target, folder + "/link"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        load(cleaner, R"({"rules": [{"id": "c", "subPath": "Cache", "patterns": ["*"]}]})");
+        scan(cleaner);
+        const qint64 size = QFile::encodeName(target).size();
+        QMap<QString, qint64> sizes;
+        const CleanCategory *category = find(cleaner.result(), u"google_chrome_c"_s);
+        QVERIFY(category);
+        for (const CleanItem &item : category->items)
+            sizes.insert(item.name, item.size);
+        QCOMPARE(sizes.value(u"link"_s), size);
+        QCOMPARE(sizes.value(u"plain"_s), 5);
+    }
+
+    void aChromiumProfileThatHoldsTheHomeIsNotTakenWhole_data()
+    {
+        QTest::addColumn<QString>("subPath");
+        QTest::newRow("the profile") << QString();
+        QTest::newRow("a folder in it") << u"Cache"_s;
+    }
+    void aChromiumProfileThatHoldsTheHomeIsNotTakenWhole()
+    {
+        QFETCH(QString, subPath);
+        const TestTree tree;
+        const QString folder =
+            subPath.isEmpty() ? chromeProfile() : chromeProfile() + u'/' + subPath;
+        tree.file(folder + "/home/precious"_L1);
+        tree.file(folder + "/f.log"_L1);
+        const QByteArray before = qgetenv("HOME");
+        qputenv("HOME", QFile::encodeName(tree.path(folder + "/home"_L1)));
+        BrowserCleaner cleaner(foldersOf(tree));
+        load(cleaner,
+             R"({"rules": [{"id": "all", "subPath": "%", "patterns": ["*"]},
+                           {"id": "logs", "subPath": "%", "patterns": ["*.log"]}]})"_ba.replace(
+                 '%', subPath.toUtf8()));
+        const LogCapture log;
+        scan(cleaner);
+        qputenv("HOME", before);
+        QVERIFY(!find(cleaner.result(), u"google_chrome_all"_s));
+        QCOMPARE(paths(cleaner.result(), u"google_chrome_logs"_s, tree.path(folder)),
+                 QStringList{u"f.log"_s});
+        QVERIFY(log.contains(
+            u"[WARN] Skipped %1: rule all would take everything in it"_s.arg(tree.path(folder))));
     }
 
     void aProfileThatTheFileNamesThroughALinkIsTheRealOne()

@@ -31,6 +31,8 @@ ScanResult selectionOf(const QList<CleanItem> &items)
 const platform::FileRemover::Outcome removed{Status::Removed, false, {}};
 const platform::FileRemover::Outcome missing{Status::NotFound, false, {}};
 const platform::FileRemover::Outcome stuck{Status::Failed, false, QStringLiteral("busy")};
+const platform::FileRemover::Outcome replaced{Status::Replaced, false, {}};
+const platform::FileRemover::Outcome replacedFolder{Status::Replaced, true, {}};
 const platform::FileRemover::Outcome partly{Status::Failed, true, QStringLiteral("busy")};
 
 } // namespace
@@ -89,6 +91,28 @@ private Q_SLOTS:
         QVERIFY(!ledger.enter(items.at(2), partly));
         QVERIFY(!ledger.enter(items.at(3), stuck));
         expect(ledger, 4, 1, 3);
+    }
+
+    void whatWasReplacedIsNeverCleaned()
+    {
+        const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
+                                     file(u"/p/f/b"_s, 6)};
+        CleanLedger ledger(selectionOf(items));
+        QVERIFY(!ledger.enter(items.at(0), replacedFolder));
+        QVERIFY(!ledger.enter(items.at(1), replaced));
+        QVERIFY(!ledger.enter(items.at(2), missing));
+        expect(ledger, 0, 0, 3);
+    }
+
+    void whatWasReplacedInAFolderThatStayedIsNotCleaned()
+    {
+        const QList<CleanItem> items{folder(u"/p/f"_s, 10), folder(u"/p/f/g"_s, 6),
+                                     file(u"/p/f/g/b"_s, 6)};
+        CleanLedger ledger(selectionOf(items));
+        QVERIFY(!ledger.enter(items.at(0), partly));
+        QVERIFY(!ledger.enter(items.at(1), replacedFolder));
+        QVERIFY(!ledger.enter(items.at(2), replaced));
+        expect(ledger, 0, 0, 3);
     }
 
     void aNeighbourWithALikeNameIsNotBelow()

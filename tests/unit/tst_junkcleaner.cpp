@@ -815,6 +815,55 @@ private Q_SLOTS:
         QCOMPARE(cleaner.failures().constFirst().path, path);
     }
 
+    void aFolderThatTookThePlaceOfAListedOneKeepsItsFiles_data()
+    {
+        QTest::addColumn<QString>("location");
+        QTest::addColumn<bool>("isDuring");
+        QTest::newRow("a folder, before the clean") << u"d"_s << false;
+        QTest::newRow("a folder, during the clean") << u"d"_s << true;
+        QTest::newRow("a file, before the clean") << u"d/listed/f0"_s << false;
+    }
+    void aFolderThatTookThePlaceOfAListedOneKeepsItsFiles()
+    {
+        QFETCH(QString, location);
+        QFETCH(bool, isDuring);
+        constexpr int files = 100;
+        const TestTree tree;
+        for (int i = 0; i < files; ++i) {
+            tree.file(u"d/listed/f%1"_s.arg(i));
+            tree.file(u"other/f%1"_s.arg(i));
+        }
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(location)) + "]}");
+        scan(cleaner);
+        const int found = cleaner.result().totalCount();
+        const auto exchange = [&tree] {
+            QVERIFY(QDir().rename(tree.path(u"d/listed"_s), tree.path(u"away"_s)));
+            QVERIFY(QDir().rename(tree.path(u"other"_s), tree.path(u"d/listed"_s)));
+        };
+        if (!isDuring)
+            exchange();
+        // In the worker, right before an item is removed.
+        connect(
+            &cleaner, &CleanEngine::cleanProgress, &cleaner,
+            [&](int current) {
+                if (isDuring && current == 11)
+                    exchange();
+            },
+            Qt::DirectConnection);
+        const LogCapture log;
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        clean(cleaner, finished);
+        const int cleaned = finished.constFirst().at(1).toInt();
+        QCOMPARE(QDir(tree.path(u"d/listed"_s)).entryList(QDir::Files).size(), files);
+        QCOMPARE(QDir(tree.path(u"away"_s)).entryList(QDir::Files).size(), files - cleaned);
+        QVERIFY2(isDuring ? cleaned < 10 + 32 : cleaned == 0, qPrintable(QString::number(cleaned)));
+        QCOMPARE(cleaner.failures().size(), found - cleaned);
+        for (const CleanFailure &failure : cleaner.failures())
+            QCOMPARE(failure.reason, u"Its folder is not the one that was listed"_s);
+        QCOMPARE(log.count(u"its folder is not the one that was listed"_s), found - cleaned);
+    }
+
     void cancelInTheMiddleReportsWhatWasRemovedSoFar()
     {
         const TestTree tree;

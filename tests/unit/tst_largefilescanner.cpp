@@ -6,6 +6,8 @@
 #include "testhome.h"
 #include "testtree.h"
 
+#include <QBitArray>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -79,6 +81,23 @@ private:
     QSemaphore m_open;
     QMetaObject::Connection m_connection;
 };
+
+/// Has the worker delete all results; the paths of those that it has removed.
+QStringList deleteAll(LargeFileScanner &scanner)
+{
+    const QList<LargeFileInfo> files = scanner.results();
+    const SignalSpy finished(&scanner, &LargeFileScanner::deleteFinished);
+    scanner.startDelete(files);
+    if (!finished.wait(patience))
+        qFatal("the deletion did not end");
+    const auto deleted = finished.constFirst().at(0).toBitArray();
+    QStringList removed;
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (deleted.testBit(i))
+            removed.append(files.at(i).path);
+    }
+    return removed;
+}
 
 void fill(const TestTree &tree, int count, const QString &folder = u"many"_s)
 {
@@ -505,6 +524,25 @@ private Q_SLOTS:
         QVERIFY(tree.has(u"empty"_s));
     }
 
+    void aFolderThatTookThePlaceOfAListedOneKeepsItsFiles()
+    {
+        const TestTree tree;
+        const QString path = tree.file(u"d/f"_s);
+        LargeFileScanner scanner;
+        scan(scanner, {tree.path()});
+        QVERIFY(QDir().rename(tree.path(u"d"_s), tree.path(u"away"_s)));
+        tree.file(u"d/f"_s, "never listed");
+        QVERIFY(!scanner.deleteFile(path));
+        QVERIFY(deleteAll(scanner).isEmpty());
+        QVERIFY(tree.has(u"d/f"_s));
+        QVERIFY(tree.has(u"away/f"_s));
+        QCOMPARE(paths(scanner), QStringList{path});
+        // What the next scan lists counts from then on.
+        scan(scanner, {tree.path(u"d"_s)});
+        QVERIFY(scanner.deleteFile(path));
+        QVERIFY(!tree.has(u"d/f"_s));
+    }
+
     void aFinishedScanHasTheLargestFirst()
     {
         const TestTree tree;
@@ -640,6 +678,44 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(found));
         QCOMPARE(elsewhere.snapshot(), fence);
         QVERIFY(scanner.results().isEmpty());
+    }
+
+    void behindAFollowedLinkAnotherFolderKeepsItsFiles()
+    {
+        const TestTree outside;
+        outside.file(u"sub/f"_s);
+        const TestTree tree;
+        tree.link(outside.path(), u"link"_s);
+        LargeFileScanner scanner;
+        scan(scanner, {tree.path()});
+        QVERIFY(QDir().rename(outside.path(u"sub"_s), outside.path(u"away"_s)));
+        outside.file(u"sub/f"_s, "never listed");
+        QVERIFY(!scanner.deleteFile(tree.path(u"link/sub/f"_s)));
+        QVERIFY(outside.has(u"sub/f"_s));
+        QVERIFY(outside.has(u"away/f"_s));
+    }
+
+    void anotherEntryInThePlaceOfAListedFileStays()
+    {
+        const TestTree tree;
+        const QStringList listed{tree.file(u"became-a-link"_s), tree.file(u"became-another"_s),
+                                 tree.file(u"became-a-folder"_s)};
+        const QString precious = tree.file(u".precious"_s);
+        LargeFileScanner scanner;
+        scan(scanner, {tree.path()});
+        QCOMPARE(scanner.results().size(), 3);
+        // Kept, so that no other file is given its number.
+        for (const QString &path : listed)
+            QVERIFY(QFile::rename(path, path + ".away"_L1));
+        tree.link(precious, u"became-a-link"_s);
+        tree.file(u"became-another"_s, "never listed");
+        tree.file(u"became-a-folder/f"_s);
+        const auto before = tree.snapshot();
+        for (const QString &path : listed)
+            QVERIFY2(!scanner.deleteFile(path), qPrintable(path));
+        QVERIFY(deleteAll(scanner).isEmpty());
+        QCOMPARE(tree.snapshot(), before);
+        QCOMPARE(scanner.results().size(), 3);
     }
 
     void nothingIsDeletedThroughALinkThatTheScanDidNotFollow()

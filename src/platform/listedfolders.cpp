@@ -1,0 +1,46 @@
+#include "listedfolders.h"
+
+#include <limits>
+
+namespace platform {
+
+namespace {
+
+constexpr quint64 most = std::numeric_limits<quint64>::max();
+constexpr EntryId noFolder{most, most};
+
+// Only the top of a file system has a slash at its end, and not everybody writes it.
+QString keyOf(const QString &path)
+{
+    return path.endsWith(u'/') ? path.chopped(1) : path;
+}
+
+} // namespace
+
+void ListedFolders::add(const QString &path, const EntryId &id)
+{
+    if (!id.isKnown())
+        return;
+    const std::lock_guard lock(m_mutex);
+    EntryId &known = m_ids[keyOf(path)];
+    known = known.isKnown() && known != id ? noFolder : id;
+}
+
+EntryId ListedFolders::idOf(const QString &path) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_ids.value(keyOf(path));
+}
+
+void ListedFolders::clear()
+{
+    const std::lock_guard lock(m_mutex);
+    m_ids.clear();
+}
+
+QString folderOf(const QString &path)
+{
+    return path.left(qMax<qsizetype>(path.lastIndexOf(u'/'), 0));
+}
+
+} // namespace platform

@@ -36,33 +36,6 @@ struct OpenedEntry {
     [[nodiscard]] bool isFolder() const { return nature == EntryNature::Folder; }
 };
 
-/// Entries are opened by their path, at which another folder than the one that was looked at may
-/// have come to stand. Tells when to look: for every few entries, and after every short while.
-class LookGuard
-{
-public:
-    /// For each entry; true makes it count as looked.
-    [[nodiscard]] bool isDue()
-    {
-        if (--m_left >= 0 && ::GetTickCount64() - m_looked < longestTrust)
-            return false;
-        confirm();
-        return true;
-    }
-    void confirm()
-    {
-        m_left = entriesAtOnce - 1;
-        m_looked = ::GetTickCount64();
-    }
-
-private:
-    static constexpr int entriesAtOnce = 32;
-    static constexpr quint64 longestTrust = 16; // milliseconds: a tick of the system's clock
-
-    int m_left = 0;
-    quint64 m_looked = 0;
-};
-
 /// Removes single entries by handle: what was looked at is what goes, whatever happens meanwhile to
 /// the folders above.
 class EntryRemover
@@ -256,7 +229,6 @@ private:
             return;
         }
         entry.handle.reset();
-        m_guard.confirm();
         Level level{path, id, {}};
         clear(level);
         m_levels.push_back(std::move(level));
@@ -288,11 +260,11 @@ private:
         ::FindClose(search);
     }
 
-    // Before anything in the level is removed. Once another folder is at its path, nothing more is.
+    // Before each entry of the level, which is opened by its path. Once another folder is there,
+    // nothing more is removed.
     bool isInPlace(const Level &level)
     {
-        if (m_guard.isDue() && idOfFolder(plainPath(level.path)) != level.id)
-            m_wasMoved = true;
+        m_wasMoved = m_wasMoved || idOfFolder(plainPath(level.path)) != level.id;
         return !m_wasMoved;
     }
 
@@ -321,7 +293,6 @@ private:
     const QString m_top;
     const std::atomic_bool *const m_stopRequested;
     std::vector<Level> m_levels;
-    LookGuard m_guard;
     bool m_wasMoved = false;
     bool m_hasReplaced = false; ///< the folder or one inside, which stays
     DWORD m_error = ERROR_SUCCESS;
@@ -383,13 +354,10 @@ private:
     }
 
     // Whether the folder around the entry is the right one; otherwise tells what became of the
-    // entry.
+    // entry. It is asked for each entry: they are opened by their path.
     std::optional<Outcome> checkFolderOf(const QString &extended)
     {
         const QString folder = folderOf(plainPath(extended));
-        if (folder == m_folder && !m_guard.isDue())
-            return {};
-        m_folder.clear();
         if (m_right.isRemoved(folder))
             return Outcome{Status::NotFound, false, {}};
         const EntryId id = idOfFolder(folder);
@@ -398,14 +366,10 @@ private:
             return {};
         if (!m_right.isRight(folder, id))
             return Outcome{Status::Replaced, false, {}};
-        m_folder = folder;
-        m_guard.confirm();
         return {};
     }
 
     RightFolders m_right;
-    QString m_folder; ///< that was found to be the right one last
-    LookGuard m_guard;
     EntryRemover m_entries;
 };
 

@@ -77,10 +77,14 @@ void walkOurs(benchmark::State &state)
     for (auto _ : state) {
         qint64 count = 0;
         qint64 size = 0;
-        platform::walkFiles(root, {}, [&](platform::WalkedFile &&file) {
-            ++count;
-            size += file.size;
-        });
+        platform::ListedFolders listed;
+        platform::walkFiles(
+            root, {},
+            [&](platform::WalkedFile &&file) {
+                ++count;
+                size += file.size;
+            },
+            &listed);
         benchmark::DoNotOptimize(size);
         expect(state, count);
     }
@@ -168,8 +172,11 @@ void removeAll(benchmark::State &state, Remove remove)
         // In memory: the journal of a disk would drown the difference.
         const QTemporaryDir folder(u"/dev/shm/bench-XXXXXX"_s);
         const QStringList paths = fillForRemoval(folder.path());
+        platform::ListedFolders listed;
+        platform::walkFiles(
+            folder.path(), {}, [](platform::WalkedFile &&) {}, &listed);
         state.ResumeTiming();
-        remove(folder.path(), paths);
+        remove(folder.path(), paths, listed);
         state.PauseTiming();
         if (QFile::exists(paths.constFirst()) || QFile::exists(paths.constLast()))
             state.SkipWithError("not every file was removed");
@@ -179,16 +186,18 @@ void removeAll(benchmark::State &state, Remove remove)
 
 void removeOurs(benchmark::State &state)
 {
-    removeAll(state, [](const QString &, const QStringList &paths) {
-        platform::FileRemover remover;
-        for (const QString &path : paths)
-            benchmark::DoNotOptimize(remover.remove(path));
-    });
+    removeAll(state,
+              [](const QString &, const QStringList &paths, const platform::ListedFolders &listed) {
+                  platform::FileRemover remover;
+                  remover.setListed(&listed);
+                  for (const QString &path : paths)
+                      benchmark::DoNotOptimize(remover.remove(path));
+              });
 }
 
 void removeUnlinkat(benchmark::State &state)
 {
-    removeAll(state, [](const QString &, const QStringList &paths) {
+    removeAll(state, [](const QString &, const QStringList &paths, const auto &) {
         QString folder;
         int fd = -1;
         for (const QString &path : paths) {
@@ -206,7 +215,7 @@ void removeUnlinkat(benchmark::State &state)
 
 void removeQFile(benchmark::State &state)
 {
-    removeAll(state, [](const QString &, const QStringList &paths) {
+    removeAll(state, [](const QString &, const QStringList &paths, const auto &) {
         for (const QString &path : paths) {
             if (QFileInfo::exists(path))
                 QFile::remove(path);
@@ -216,7 +225,7 @@ void removeQFile(benchmark::State &state)
 
 void removeRm(benchmark::State &state)
 {
-    removeAll(state, [](const QString &root, const QStringList &) {
+    removeAll(state, [](const QString &root, const QStringList &, const auto &) {
         QProcess::execute(u"rm"_s, {u"-rf"_s, root});
     });
 }

@@ -1,7 +1,7 @@
 #include "appinfo.h"
 #include "application.h"
+#include "hardening.h"
 #include "language.h"
-#include "process.h"
 
 #include <QApplication>
 #include <QFont>

@@ -1,7 +1,7 @@
 #include "settingsguard.h"
 
 #include "appinfo.h"
-#include "folders.h"
+#include "rulefolders.h"
 
 #include <QDebug>
 #include <QFile>

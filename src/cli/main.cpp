@@ -1,9 +1,9 @@
 #include "appinfo.h"
 #include "enginecommand.h"
+#include "hardening.h"
 #include "largefilescommand.h"
 #include "logger.h"
 #include "output.h"
-#include "process.h"
 #include "restorecommand.h"
 #include "startupcommand.h"
 

@@ -1,7 +1,7 @@
 #include "world.h"
 
 #include "actionlog.h"
-#include "folders.h"
+#include "rulefolders.h"
 #include "testhome.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "entrywalk.h"
 
-#include "folderlist.h"
+#include "folderlister.h"
 #include "testtree.h"
 
 #include <QCoreApplication>

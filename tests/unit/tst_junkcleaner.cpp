@@ -1,8 +1,8 @@
 #include "junkcleaner.h"
 
 #include "appinfo.h"
-#include "folders.h"
 #include "logcapture.h"
+#include "rulefolders.h"
 #include "signalspy.h"
 #include "testhome.h"
 #include "testtree.h"

@@ -1,5 +1,5 @@
-#include "registryfile_unix.h"
-#include "registrytext_unix.h"
+#include "unix/registryfile.h"
+#include "unix/registrytext.h"
 
 #include <QElapsedTimer>
 #include <QTest>

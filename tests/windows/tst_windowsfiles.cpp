@@ -2,11 +2,11 @@
 
 #include "appinfo.h"
 #include "fileremove.h"
-#include "folders.h"
 #include "junkcleaner.h"
 #include "logcapture.h"
-#include "openentry_windows.h"
+#include "rulefolders.h"
 #include "testtree.h"
+#include "windows/openentry.h"
 #include "windowsfiles.h"
 
 #include <QCoreApplication>

@@ -4,7 +4,7 @@
 #include "browserprofiles.h"
 #include "fakelinks.h"
 #include "fileremove.h"
-#include "folders.h"
+#include "rulefolders.h"
 #include "testtree.h"
 #include "windowsfiles.h"
 

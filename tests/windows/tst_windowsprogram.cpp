@@ -1,11 +1,11 @@
 #include "appinfo.h"
 #include "application.h"
+#include "canonicalpath_p.h"
 #include "fakestart.h"
 #include "filemanager.h"
-#include "folders.h"
-#include "folders_p.h"
-#include "process.h"
+#include "hardening.h"
 #include "protectedplaces.h"
+#include "rulefolders.h"
 #include "testtree.h"
 
 #include <QApplication>

@@ -1,0 +1,252 @@
+#include "browser.h"
+
+#include "filewalk.h"
+#include "folderlister.h"
+#include "inifile.h"
+#include "logger.h"
+#include "namefilter.h"
+#include "protectedplaces.h"
+#include "registry.h"
+#include "rulefolders.h"
+#include "walklog.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace browsers {
+
+namespace {
+
+enum class DataFolder { Local, Roaming };
+
+struct Description {
+    Browser::Type type = Browser::Chrome;
+    const char *name = nullptr; ///< as the uninstall lists know it
+    DataFolder folder = DataFolder::Local;
+    QLatin1StringView root; ///< below the folder
+    QLatin1StringView process;
+};
+
+constexpr std::array descriptions{
+    Description{Browser::Chrome, QT_TRANSLATE_NOOP("BrowserCleaner", "Google Chrome"),
+                DataFolder::Local, "Google/Chrome/User Data"_L1, "chrome.exe"_L1},
+    Description{Browser::Edge, QT_TRANSLATE_NOOP("BrowserCleaner", "Microsoft Edge"),
+                DataFolder::Local, "Microsoft/Edge/User Data"_L1, "msedge.exe"_L1},
+    Description{Browser::Firefox, QT_TRANSLATE_NOOP("BrowserCleaner", "Mozilla Firefox"),
+                DataFolder::Roaming, "Mozilla/Firefox/Profiles"_L1, "firefox.exe"_L1},
+    Description{Browser::Opera, QT_TRANSLATE_NOOP("BrowserCleaner", "Opera"), DataFolder::Roaming,
+                "Opera Software/Opera Stable"_L1, "opera.exe"_L1},
+    Description{Browser::Brave, QT_TRANSLATE_NOOP("BrowserCleaner", "Brave"), DataFolder::Local,
+                "BraveSoftware/Brave-Browser/User Data"_L1, "brave.exe"_L1},
+};
+
+constexpr qint64 longestProfilesIni = 1'048'576;
+
+// Links in the data folders are their owner's wish; what a browser makes below them is not
+// followed.
+QString below(const DataFolders &folders, DataFolder folder, const QString &relative)
+{
+    const QString base = folder == DataFolder::Local ? folders.local : folders.roaming;
+    QString problem;
+    const QString path = platform::locate(base, relative, &problem);
+    if (!problem.isEmpty())
+        Logger::instance().warning(u"Skipped %1/%2: %3"_s.arg(base, relative, problem));
+    return path;
+}
+
+// Without its data folder nothing of the browser is there either; it is told where it would be.
+QString dataRoot(const DataFolders &folders, const Description &browser)
+{
+    const QString located = below(folders, browser.folder, browser.root);
+    if (!located.isEmpty())
+        return located;
+    return (browser.folder == DataFolder::Local ? folders.local : folders.roaming) + u'/'
+        + browser.root;
+}
+
+/// The names of what is installed, read from the registry on the first question.
+class InstalledPrograms
+{
+public:
+    bool hasNameWith(const QString &text)
+    {
+        if (!m_names)
+            m_names = read();
+        return std::any_of(m_names->begin(), m_names->end(), [&text](const QString &name) {
+            return name.contains(text, Qt::CaseInsensitive);
+        });
+    }
+
+private:
+    static QStringList read()
+    {
+        const platform::Registry registry;
+        QStringList names;
+        const auto add = [&](platform::Hive hive, const QString &key) {
+            const QStringList programs = registry.subkeys(hive, key);
+            for (const QString &program : programs)
+                names.append(registry.text(hive, key + u'\\' + program, u"DisplayName"_s));
+        };
+        const QString uninstall = u"Microsoft\\Windows\\CurrentVersion\\Uninstall"_s;
+        add(platform::Hive::LocalMachine, "SOFTWARE\\"_L1 + uninstall);
+        add(platform::Hive::LocalMachine, "SOFTWARE\\WOW6432Node\\"_L1 + uninstall);
+        add(platform::Hive::CurrentUser, "SOFTWARE\\"_L1 + uninstall);
+        return names;
+    }
+
+    std::optional<QStringList> m_names;
+};
+
+// To be installed a browser's folder may well be a link, which is then not scanned.
+bool hasData(const DataFolders &folders, const Description &browser, const QString &dataRoot)
+{
+    const auto isThere = [](const QString &path) {
+        if (path.isEmpty())
+            return false;
+        const platform::Entry entry = platform::inspect(path);
+        if (entry.kind == platform::EntryKind::Other)
+            logSkipped(path, entry);
+        return QFileInfo(path).isDir();
+    };
+    if (browser.type != Browser::Firefox)
+        return isThere(dataRoot);
+    return QFileInfo::exists(below(folders, DataFolder::Roaming, u"Mozilla/Firefox/profiles.ini"_s))
+        || isThere(dataRoot)
+        || isThere(below(folders, DataFolder::Local, u"Mozilla/Firefox/Profiles"_s));
+}
+
+/// The real folders right below @p folder that are not hidden, in the order of their names.
+QStringList subfolders(const QString &folder, const QStringList &nameFilters = {})
+{
+    const platform::FolderListing listing = platform::FolderLister().list(folder);
+    if (!listing.error.isEmpty() && !listing.isMissing)
+        Logger::instance().warning(u"Cannot read folder: %1 - %2"_s.arg(folder, listing.error));
+    const platform::NameFilter filter(nameFilters);
+    QStringList paths;
+    for (const platform::ListedEntry &entry : listing.entries) {
+        const bool isFolder = entry.kind == platform::ListedKind::Folder
+            || entry.kind == platform::ListedKind::FolderLink;
+        const QString path = folder + u'/' + entry.name;
+        if (isFolder && !entry.isHidden && filter.matches(entry.name) && isScannable(path))
+            paths.append(path);
+    }
+    paths.sort();
+    return paths;
+}
+
+QByteArray readProfilesIni(const QString &path)
+{
+    QFile file(path);
+    // Opening a pipe would wait for somebody to write into it.
+    if (!QFileInfo(path).isFile())
+        return {};
+    if (!file.open(QIODevice::ReadOnly)) {
+        Logger::instance().warning(u"Cannot read file: %1 - %2"_s.arg(path, file.errorString()));
+        return {};
+    }
+    return file.read(longestProfilesIni);
+}
+
+/// The folder that a group of profiles.ini names, resolved; empty when it names none.
+QString profileFolder(const IniGroup &group, const QString &root)
+{
+    const QString path = group.values.value(u"path"_s);
+    if (path.isEmpty() || path.contains(QChar::Null))
+        return {};
+    if (group.values.value(u"isrelative"_s) != "1"_L1)
+        return platform::locate(path, {});
+    const QString located = platform::locate(root, path);
+    return platform::locate(located.isEmpty() ? root + u'/' + path : located, {});
+}
+
+} // namespace
+
+DataFolders dataFolders()
+{
+    // Roaming data is looked for in the home itself, wherever other programs are told to keep
+    // theirs.
+    const QString roaming = platform::locate(platform::homeFolder(), u"AppData/Roaming"_s);
+    return {platform::localDataFolder(),
+            roaming.isEmpty() ? platform::homeFolder() + "/AppData/Roaming"_L1 : roaming};
+}
+
+QList<Browser> detect(const DataFolders &folders)
+{
+    InstalledPrograms programs;
+    QList<Browser> list;
+    for (const Description &description : descriptions) {
+        Browser browser;
+        const QString name = QString::fromLatin1(description.name);
+        browser.type = description.type;
+        browser.id = name.toLower().replace(u' ', u'_');
+        browser.name = QCoreApplication::translate("BrowserCleaner", description.name);
+        browser.dataRoot = dataRoot(folders, description);
+        browser.processName = description.process;
+        browser.installed =
+            hasData(folders, description, browser.dataRoot) || programs.hasNameWith(name);
+        list.append(browser);
+    }
+    return list;
+}
+
+QStringList chromiumProfiles(const QString &dataRoot)
+{
+    if (!isScannable(dataRoot))
+        return {};
+    QStringList profiles;
+    if (const QString first = platform::locate(dataRoot, u"Default"_s); isScannable(first))
+        profiles.append(first);
+    return profiles + subfolders(dataRoot, {u"Profile *"_s});
+}
+
+QString firefoxRoot(const DataFolders &folders)
+{
+    const QString root = below(folders, DataFolder::Roaming, u"Mozilla/Firefox"_s);
+    return isScannable(root) ? root : QString();
+}
+
+QStringList firefoxProfiles(const DataFolders &folders)
+{
+    QStringList profiles;
+    const auto add = [&profiles](const QString &path) {
+        if (!profiles.contains(path))
+            profiles.append(path);
+    };
+    const QString root = firefoxRoot(folders);
+    if (!root.isEmpty()) {
+        const QString ini = platform::locate(root, u"profiles.ini"_s);
+        const QList<IniGroup> groups = parseIni(readProfilesIni(ini));
+        for (const IniGroup &group : groups) {
+            if (!group.name.startsWith("Profile"_L1) && !group.name.startsWith("Install"_L1))
+                continue;
+            const QString path = profileFolder(group, root);
+            if (!isScannable(path))
+                continue;
+            if (platform::holdsProtectedPlace(path)) {
+                Logger::instance().warning(u"Skipped Firefox profile: %1 holds more"_s.arg(path));
+                continue;
+            }
+            add(path);
+            Logger::instance().info(u"Found Firefox profile: %1"_s.arg(path));
+        }
+    }
+    for (const DataFolder data : {DataFolder::Roaming, DataFolder::Local}) {
+        const QString folder = below(folders, data, u"Mozilla/Firefox/Profiles"_s);
+        if (!isScannable(folder))
+            continue;
+        const QStringList found = subfolders(folder);
+        for (const QString &path : found)
+            add(path);
+    }
+    return profiles;
+}
+
+} // namespace browsers

@@ -1,0 +1,212 @@
+#include "browserscan.h"
+
+#include "entrywalk.h"
+#include "folderlister.h"
+#include "logger.h"
+#include "protectedplaces.h"
+#include "rulefolders.h"
+#include "walklog.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What makes the entries of a folder one thing, of which a part cannot be removed without harm to
+/// the rest.
+enum class Unit {
+    None,
+    /// Browsers keep dozens of this kind in a profile. It consists of a file that names the current
+    /// list of its parts, the lists and the parts. One of those, named like "000003.log", is no log
+    /// but holds what was written last, which in a small database is all there is.
+    Database,
+    /// The files of an extension, as they were installed.
+    Extension,
+};
+
+Unit unitOf(const std::vector<platform::ListedEntry> &entries)
+{
+    const auto has = [&entries](auto matches) {
+        return std::any_of(
+            entries.begin(), entries.end(),
+            [&matches](const platform::ListedEntry &entry) { return matches(entry.name); });
+    };
+    const auto isCalled = [](QLatin1StringView wanted) {
+        return [wanted](const QString &name) {
+            return name.compare(wanted, Qt::CaseInsensitive) == 0;
+        };
+    };
+    const auto isList = [](const QString &name) {
+        return name.startsWith("MANIFEST-"_L1, Qt::CaseInsensitive);
+    };
+    if (has(isCalled("CURRENT"_L1)) && has(isList))
+        return Unit::Database;
+    return has(isCalled("manifest.json"_L1)) ? Unit::Extension : Unit::None;
+}
+
+QString warningOf(Unit unit)
+{
+    return unit == Unit::Extension
+        ? QCoreApplication::translate(
+            "BrowserCleaner", "Belongs to an extension, which does not work without all its files")
+        : QCoreApplication::translate(
+            "BrowserCleaner",
+            "Holds part of a database: removing it loses data saved by the browser, websites or "
+            "extensions");
+}
+
+} // namespace
+
+/// Hands each entry of a walk to the rules whose folder it is below. The folders of rules that the
+/// walk comes through are taken from the ones still to be walked.
+///
+/// What lies in a database or an extension, and a folder that holds one, is only offered by a rule
+/// that looks for names in the whole profile and knows nothing of them: it starts unticked. A rule
+/// with a folder of its own means what is in there.
+class ChromiumScan::Visitor final : public platform::EntryVisitor
+{
+public:
+    Visitor(const ChromiumScan &scan, std::vector<std::size_t> rules, RulesByFolder &remaining,
+            ItemsByRule &found)
+        : m_scan(scan)
+        , m_active(std::move(rules))
+        , m_remaining(remaining)
+        , m_found(found)
+    {
+    }
+
+    void read(const std::vector<platform::ListedEntry> &entries, bool isShown) override
+    {
+        const Unit unit = unitOf(entries);
+        if (unit == Unit::None)
+            return;
+        for (const OpenFolder &folder : m_open) {
+            for (const auto &[rule, item] : folder.items)
+                guard(rule, m_found[rule][item], unit);
+        }
+        // In a hidden folder there is nothing to offer.
+        if (!isShown)
+            return;
+        m_units.push_back(unit);
+        if (!m_open.empty())
+            m_open.back().isUnit = true;
+    }
+
+    void found(platform::WalkedEntry &&entry) override
+    {
+        OpenFolder folder{entry.path, m_active.size(), {}, false};
+        for (const std::size_t rule : m_active) {
+            if (!m_scan.m_filters[rule].matches(entry.name))
+                continue;
+            add(rule, entry);
+            folder.items.emplace_back(rule, m_found[rule].size() - 1);
+        }
+        if (!entry.isFolder)
+            return;
+        if (const auto own = m_remaining.constFind(entry.path); own != m_remaining.cend())
+            m_active.insert(m_active.end(), own->begin(), own->end());
+        m_open.push_back(std::move(folder));
+    }
+
+    void left(qint64 size, bool wasRead) override
+    {
+        const OpenFolder folder = std::move(m_open.back());
+        m_open.pop_back();
+        m_active.resize(folder.activeOutside);
+        if (folder.isUnit)
+            m_units.pop_back();
+        for (const auto &[rule, item] : folder.items)
+            m_found[rule][item].size = size;
+        if (wasRead)
+            m_remaining.remove(folder.path);
+    }
+
+private:
+    struct OpenFolder {
+        QString path;
+        std::size_t activeOutside; ///< how many rules take from around the folder
+        std::vector<std::pair<std::size_t, qsizetype>> items; ///< that the folder itself became
+        bool isUnit;
+    };
+
+    void add(std::size_t index, const platform::WalkedEntry &entry)
+    {
+        const BrowserRule &rule = m_scan.m_rules.at(static_cast<qsizetype>(index));
+        CleanItem &item = m_found[index].emplaceBack(entry.name, entry.path, entry.size);
+        item.checked = rule.defaultChecked;
+        item.riskLevel = rule.riskLevel;
+        item.isDirectory = entry.isFolder;
+        for (const Unit unit : m_units)
+            guard(index, item, unit);
+    }
+
+    void guard(std::size_t index, CleanItem &item, Unit unit) const
+    {
+        if (!m_scan.m_rules.at(static_cast<qsizetype>(index)).subPath.isEmpty())
+            return;
+        item.checked = false;
+        item.riskLevel = HighRisk;
+        // Lost data are the worse of the two.
+        if (item.description.isEmpty() || unit == Unit::Database)
+            item.description = warningOf(unit);
+    }
+
+    const ChromiumScan &m_scan;
+    std::vector<std::size_t> m_active; ///< the rules that take from the current folder
+    RulesByFolder &m_remaining;
+    ItemsByRule &m_found;
+    std::vector<OpenFolder> m_open; ///< the way down to the current folder
+    std::vector<Unit> m_units; ///< on that way, the root included
+};
+
+ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+                           const std::atomic_bool &stopRequested)
+    : m_rules(rules)
+    , m_listed(listed)
+    , m_stopRequested(stopRequested)
+{
+    m_filters.reserve(static_cast<std::size_t>(rules.size()));
+    for (const BrowserRule &rule : rules)
+        m_filters.emplace_back(rule.patterns);
+}
+
+ChromiumScan::RulesByFolder ChromiumScan::foldersOf(const QString &profile) const
+{
+    RulesByFolder folders;
+    for (qsizetype i = 0; i < m_rules.size(); ++i) {
+        const BrowserRule &rule = m_rules.at(i);
+        const QString folder =
+            rule.subPath.isEmpty() ? profile : platform::locate(profile, rule.subPath);
+        if (!folders.contains(folder) && !isScannable(folder))
+            continue;
+        if (rule.takesEverything() && platform::holdsProtectedPlace(folder)) {
+            Logger::instance().warning(
+                u"Skipped %1: rule %2 would take everything in it"_s.arg(folder, rule.id));
+            continue;
+        }
+        folders[folder].push_back(static_cast<std::size_t>(i));
+    }
+    return folders;
+}
+
+// A folder that the walk of an outer one does not come through, because it is hidden or something
+// is mounted there, is walked by itself.
+void ChromiumScan::scanProfile(const QString &profile, ItemsByRule &found) const
+{
+    if (m_stopRequested)
+        return;
+    RulesByFolder remaining = foldersOf(profile);
+    while (!remaining.isEmpty() && !m_stopRequested) {
+        const QStringList folders = remaining.keys();
+        const QString outermost = *std::min_element(
+            folders.begin(), folders.end(),
+            [](const QString &a, const QString &b) { return a.size() < b.size(); });
+        Visitor visitor(*this, remaining.take(outermost), remaining, found);
+        logWalkFailures(outermost,
+                        platform::walkEntries(outermost, visitor, &m_stopRequested, &m_listed));
+    }
+}

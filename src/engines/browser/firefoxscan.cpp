@@ -1,0 +1,188 @@
+#include "browserscan.h"
+
+#include "entrywalk.h"
+#include "logger.h"
+#include "protectedplaces.h"
+#include "rulefolders.h"
+#include "walklog.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Passes the files of a walk on.
+class FilesOnly final : public platform::EntryVisitor
+{
+public:
+    explicit FilesOnly(std::function<void(const platform::WalkedEntry &)> visit)
+        : m_visit(std::move(visit))
+    {
+    }
+
+    void found(platform::WalkedEntry &&entry) override
+    {
+        if (!entry.isFolder)
+            m_visit(entry);
+    }
+    void left(qint64, bool) override { }
+
+private:
+    std::function<void(const platform::WalkedEntry &)> m_visit;
+};
+
+} // namespace
+
+/// A folder, what in it a rule takes, and whether the folders below belong to it. Where several are
+/// named the first that exists counts.
+struct FirefoxScan::Source {
+    QStringList folders; ///< below the profile or the shared folder; "" is that folder itself
+    bool isTree;
+    bool isShared;
+    QStringList ruleIds;
+    QStringList patterns; ///< empty takes every file
+};
+
+struct FirefoxScan::Taker {
+    std::size_t rule;
+    platform::NameFilter filter;
+};
+
+// The folders that hold one kind of data are taken with what is below them. A profile's own folder
+// is not: the kinds that are kept right in it have names that mean something else further down,
+// such as the saved bookmarks, which end like the saved sessions.
+const std::vector<FirefoxScan::Source> &FirefoxScan::sources()
+{
+    const QString top;
+    static const std::vector<Source> list{
+        {{u"Crash Reports"_s}, true, true, {u"crash_reports"_s}, {u"*.dmp"_s, u"*.extra"_s}},
+        {{top}, false, true, {u"logs"_s}, {u"update.log"_s, u"install.log"_s, u"*.log"_s}},
+        {{u"cache2/entries"_s, u"cache2"_s, u"Cache"_s}, true, false, {u"cache"_s}, {}},
+        {{u"shader-cache"_s}, true, false, {u"shader_cache"_s}, {}},
+        {{u"storage/default"_s}, true, false, {u"local_storage"_s, u"indexeddb"_s}, {}},
+        {{u"thumbnails"_s}, true, false, {u"thumbnails"_s}, {}},
+        {{top}, false, false, {u"session"_s}, {u"sessionstore.jsonlz4"_s, u"*.jsonlz4"_s}},
+        {{u"sessionstore-backups"_s},
+         false,
+         false,
+         {u"session"_s},
+         {u"sessionstore.jsonlz4"_s, u"*.jsonlz4"_s}},
+        {{top},
+         false,
+         false,
+         {u"cookies"_s},
+         {u"cookies.sqlite"_s, u"cookies.sqlite-wal"_s, u"cookies.sqlite-shm"_s}},
+        {{top},
+         false,
+         false,
+         {u"history"_s},
+         {u"places.sqlite"_s, u"places.sqlite-wal"_s, u"places.sqlite-shm"_s}},
+        {{top}, false, false, {u"downloads"_s}, {u"downloads.sqlite"_s, u"downloads.sqlite-wal"_s}},
+        {{top},
+         false,
+         false,
+         {u"form_data"_s},
+         {u"formhistory.sqlite"_s, u"formhistory.sqlite-wal"_s}},
+        {{top},
+         false,
+         false,
+         {u"favicons"_s},
+         {u"favicons.sqlite"_s, u"favicons.sqlite-wal"_s, u"favicons.sqlite-shm"_s}},
+    };
+    return list;
+}
+
+FirefoxScan::FirefoxScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+                         const std::atomic_bool &stopRequested)
+    : m_rules(rules)
+    , m_listed(listed)
+    , m_stopRequested(stopRequested)
+{
+}
+
+void FirefoxScan::scanShared(const QString &root, ItemsByRule &found) const
+{
+    scan(root, true, found);
+}
+
+void FirefoxScan::scanProfile(const QString &profile, ItemsByRule &found) const
+{
+    scan(profile, false, found);
+}
+
+void FirefoxScan::scan(const QString &folder, bool isShared, ItemsByRule &found) const
+{
+    if (m_stopRequested)
+        return;
+    struct Job {
+        QString folder;
+        bool isTree;
+        std::vector<Taker> takers;
+    };
+    std::vector<Job> jobs; // a folder that several rules take from is one
+    for (const Source &source : sources()) {
+        if (source.isShared != isShared)
+            continue;
+        QString path;
+        for (const QString &candidate : source.folders) {
+            path = platform::locate(folder, candidate);
+            if (platform::inspect(path).kind != platform::EntryKind::Missing)
+                break;
+        }
+        auto job = std::find_if(jobs.begin(), jobs.end(),
+                                [&path](const Job &other) { return other.folder == path; });
+        if (job == jobs.end())
+            job = jobs.insert(jobs.end(), Job{path, source.isTree, {}});
+        for (qsizetype i = 0; i < m_rules.size(); ++i) {
+            if (source.ruleIds.contains(m_rules.at(i).id))
+                job->takers.push_back(
+                    {static_cast<std::size_t>(i), platform::NameFilter(source.patterns)});
+        }
+    }
+    for (const Job &job : jobs) {
+        if (m_stopRequested)
+            return;
+        if (!job.takers.empty())
+            scanFolder(job.folder, job.isTree, job.takers, found);
+    }
+}
+
+void FirefoxScan::scanFolder(const QString &folder, bool isTree, const std::vector<Taker> &takers,
+                             ItemsByRule &found) const
+{
+    if (!isScannable(folder))
+        return;
+    if (isTree && platform::holdsProtectedPlace(folder)) {
+        Logger::instance().warning(u"Skipped %1: a rule would take everything in it"_s.arg(folder));
+        return;
+    }
+    const auto take = [&](const QString &name, const QString &path, qint64 size) {
+        for (const Taker &taker : takers) {
+            if (!taker.filter.matches(name))
+                continue;
+            const BrowserRule &rule = m_rules.at(static_cast<qsizetype>(taker.rule));
+            CleanItem &item = found[taker.rule].emplaceBack(name, path, size);
+            item.checked = rule.defaultChecked;
+            item.riskLevel = rule.riskLevel;
+        }
+    };
+    if (isTree) {
+        FilesOnly visitor([&take](const platform::WalkedEntry &entry) {
+            take(entry.name, entry.path, entry.size);
+        });
+        logWalkFailures(folder,
+                        platform::walkEntries(folder, visitor, &m_stopRequested, &m_listed));
+        return;
+    }
+    platform::WalkOptions options;
+    options.recursive = false;
+    options.stopRequested = &m_stopRequested;
+    const platform::WalkReport report = platform::walkFiles(
+        folder, options,
+        [&take](platform::WalkedFile &&file) { take(file.name, file.path, file.size); }, &m_listed);
+    logWalkFailures(folder, report);
+}

@@ -1,0 +1,279 @@
+#include "junkcleaner.h"
+
+#include "appinfo.h"
+#include "fileremove.h"
+#include "filewalk.h"
+#include "logger.h"
+#include "protectedplaces.h"
+#include "rulefolders.h"
+#include "walklog.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <iterator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char utf8ByteOrderMark[] = "\xEF\xBB\xBF";
+
+// The application's own folder with its name taken out again: what is left ends in the
+// organisation's folder.
+QString organisationDataFolder()
+{
+    QString folder =
+        platform::roamingDataFolder() + u'/' + appinfo::organisation + u'/' + appinfo::name;
+    return folder.remove(u'/' + appinfo::name);
+}
+
+// The location's leading folder, which the environment names, and what the rule appends to it.
+struct Location {
+    QString base;
+    QString relative;
+};
+
+Location splitLocation(const QString &location)
+{
+    const auto isSeparator = [](QChar c) { return c == u'\\' || c == u'/'; };
+    const auto separator = std::find_if(location.begin(), location.end(), isSeparator);
+    const QString base(location.constData(), std::distance(location.begin(), separator));
+    return {base.isEmpty() && !location.isEmpty() ? u"/"_s : base, location.mid(base.size())};
+}
+
+} // namespace
+
+JunkCleaner::JunkCleaner(QObject *parent)
+    : CleanEngine(parent)
+{
+}
+
+JunkCleaner::~JunkCleaner()
+{
+    stopAndWait();
+}
+
+void JunkCleaner::loadRules(const QString &path)
+{
+    qDebug() << "[JunkCleaner] ========== Loading Rules ==========";
+    qDebug() << "[JunkCleaner] Path:" << path;
+    qDebug() << "[JunkCleaner] File exists:" << QFile::exists(path);
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        Logger::instance().error("Failed to load junk rules: "_L1 + path);
+        qDebug() << "[JunkCleaner] ✗ Open failed:" << file.errorString();
+        return;
+    }
+    QByteArray data = file.readAll();
+    file.close();
+    qDebug() << "[JunkCleaner] File size:" << data.size() << "bytes";
+    if (data.startsWith(utf8ByteOrderMark)) {
+        data.remove(0, 3);
+        qDebug() << "[JunkCleaner] Removed UTF-8 BOM";
+    }
+    qDebug() << "[JunkCleaner] First 100 chars:" << QString::fromUtf8(data.left(100));
+
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(data, &parseError);
+    if (parseError.error != QJsonParseError::NoError) {
+        Logger::instance().error("JSON parse error: "_L1 + parseError.errorString());
+        qDebug() << "[JunkCleaner] ✗ Parse error:" << parseError.errorString();
+        qDebug() << "[JunkCleaner] Error at offset:" << parseError.offset;
+        return;
+    }
+    if (!document.isObject()) {
+        Logger::instance().error(u"Invalid junk rules format"_s);
+        qDebug() << "[JunkCleaner] ✗ Document is not an object!";
+        qDebug() << "[JunkCleaner] isNull:" << document.isNull();
+        qDebug() << "[JunkCleaner] isArray:" << document.isArray();
+        return;
+    }
+    qDebug() << "[JunkCleaner] ✓ JSON parsed successfully";
+
+    m_rules.clear();
+    const QJsonArray rules = document.object()["rules"_L1].toArray();
+    qDebug() << "[JunkCleaner] Rules array count:" << rules.size();
+    for (const auto &rule : rules)
+        m_rules.append(JunkRule::fromJson(rule.toObject()));
+
+    Logger::instance().info(u"Loaded %1 junk rules"_s.arg(m_rules.size()));
+    qDebug() << "[JunkCleaner] ✓ Loaded" << m_rules.size() << "rules successfully";
+    qDebug() << "[JunkCleaner] ========================================";
+}
+
+QString JunkCleaner::expandPath(const QString &text)
+{
+    QString path = text;
+    // To find some of the folders takes a look into the registry: only for a path that names one.
+    const auto replace = [&path](QLatin1StringView placeholder, QString (*folder)()) {
+        if (path.contains(placeholder))
+            path.replace(placeholder, folder());
+    };
+    replace("%TEMP%"_L1, platform::temporaryFolder);
+    replace("%LOCALAPPDATA%"_L1, platform::localDataFolder);
+    replace("%APPDATA%"_L1, organisationDataFolder);
+    replace("%USERPROFILE%"_L1, platform::homeFolder);
+    replace("%PROGRAMDATA%"_L1, platform::programDataFolder);
+    replace("%WINDIR%"_L1, platform::windowsFolder);
+    replace("%SYSTEMROOT%"_L1, platform::windowsFolder);
+    replace("%SYSTEMDRIVE%"_L1, platform::systemDrive);
+    return QDir::toNativeSeparators(path.replace(u'\\', u'/'));
+}
+
+void JunkCleaner::doScan()
+{
+    Logger::instance().info(u"Starting junk scan..."_s);
+    m_listed.clear();
+    const int ruleCount = static_cast<int>(m_rules.size());
+    for (int i = 1; i <= ruleCount; ++i) {
+        if (isStopRequested()) {
+            setState(State::Cancelled);
+            return;
+        }
+        const JunkRule &rule = m_rules.at(i - 1);
+        Q_EMIT scanProgress(i, ruleCount, rule.name);
+        scanRule(rule);
+    }
+    result().scanTime = QDateTime::currentDateTime();
+    Logger::instance().info(u"Junk scan finished. Found %1 items, %2"_s.arg(
+        QString::number(result().totalCount()), formatSize(result().totalSize())));
+}
+
+void JunkCleaner::scanRule(const JunkRule &rule)
+{
+    CleanCategory category(rule.id, rule.name, rule.description);
+    category.checked = rule.defaultChecked;
+    category.riskLevel = rule.riskLevel;
+    for (const QString &location : rule.paths) {
+        if (isStopRequested())
+            return;
+        scanLocation(location, rule, category.items);
+    }
+    if (category.items.isEmpty())
+        return;
+    category.items.squeeze();
+    result().categories.append(std::move(category));
+}
+
+void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
+                               QList<CleanItem> &items)
+{
+    const Location split = splitLocation(location);
+    const QString base = expandPath(split.base);
+    const QString relative = expandPath(split.relative);
+    QString problem;
+    const QString path = platform::locate(base, relative, &problem);
+    if (!problem.isEmpty())
+        Logger::instance().warning(u"Skipped %1: %2"_s.arg(base + relative, problem));
+    if (path.isEmpty())
+        return;
+    const platform::Entry entry = platform::inspect(path);
+    switch (entry.kind) {
+    case platform::EntryKind::Folder:
+        if (rule.takesWholeTrees() && platform::isProtectedRoot(path)) {
+            Logger::instance().warning(
+                u"Skipped %1: rule %2 would take everything in it"_s.arg(path, rule.id));
+            return;
+        }
+        scanDirectory(path, rule.patterns, items, rule.recursive);
+        return;
+    case platform::EntryKind::File: {
+        // Where the rule means a folder of the environment the file would be somebody's drive.
+        if (relative.isEmpty()) {
+            Logger::instance().warning(u"Skipped %1: it is no folder"_s.arg(path));
+            return;
+        }
+        CleanItem item(QFileInfo(path).fileName(), path, entry.size);
+        item.checked = rule.defaultChecked;
+        item.riskLevel = rule.riskLevel;
+        items.append(item);
+        m_listed.add(platform::folderOf(path), entry.folder);
+        return;
+    }
+    case platform::EntryKind::Link:
+    case platform::EntryKind::Missing:
+    case platform::EntryKind::Other:
+        logSkipped(path, entry);
+        return;
+    }
+}
+
+void JunkCleaner::scanDirectory(const QString &directory, const QStringList &patterns,
+                                QList<CleanItem> &items, bool recursive)
+{
+    const platform::WalkOptions options{patterns, recursive, &stopFlag()};
+    const platform::WalkReport report = platform::walkFiles(
+        directory, options,
+        [&items](platform::WalkedFile &&file) {
+            items.emplaceBack(file.name, file.path, file.size);
+        },
+        &m_listed);
+    logWalkFailures(directory, report);
+}
+
+void JunkCleaner::doClean()
+{
+    Logger::instance().info(u"Starting junk clean..."_s);
+    int cleanedCount = 0;
+    int failedCount = 0;
+    qint64 cleanedSize = 0;
+    const int total = selection().checkedCount();
+    int index = 0;
+    platform::FileRemover remover;
+    remover.setListed(&m_listed);
+    for (const CleanCategory &category : selection().categories) {
+        for (const CleanItem &item : category.items) {
+            if (isStopRequested()) {
+                endClean(State::Cancelled);
+                Q_EMIT cleanFinished(cleanedSize, cleanedCount);
+                return;
+            }
+            ++index;
+            Q_EMIT cleanProgress(index, total, cleanedSize);
+            if (removePath(remover, item.path)) {
+                cleanedSize += item.size;
+                ++cleanedCount;
+            } else {
+                ++failedCount;
+            }
+        }
+    }
+    endClean(State::Finished);
+    Q_EMIT cleanFinished(cleanedSize, cleanedCount);
+    Logger::instance().info(u"Junk clean finished. Cleaned %1 items, %2. Failed: %3 items"_s.arg(
+        QString::number(cleanedCount), formatSize(cleanedSize), QString::number(failedCount)));
+}
+
+bool JunkCleaner::removePath(platform::FileRemover &remover, const QString &path)
+{
+    using Status = platform::FileRemover::Status;
+    const platform::FileRemover::Outcome outcome = remover.remove(path, &stopFlag());
+    QString line;
+    QString reason = outcome.error;
+    switch (outcome.status) {
+    case Status::Removed:
+        return true;
+    case Status::NotFound:
+        line = u"File not found: %1"_s.arg(path);
+        reason = tr("File not found");
+        break;
+    case Status::Replaced:
+        line = u"Failed to remove %1: its folder is not the one that was listed"_s.arg(path);
+        reason = tr("Its folder is not the one that was listed");
+        break;
+    case Status::Failed:
+        line = outcome.wasFolder ? u"Failed to remove directory: %1"_s.arg(path)
+                                 : u"Failed to remove file: %1 - %2"_s.arg(path, outcome.error);
+        break;
+    }
+    Logger::instance().warning(line);
+    addFailure({path, reason});
+    return false;
+}

@@ -1,0 +1,317 @@
+#include "startupmanager.h"
+
+#include "filewalk.h"
+#include "folderlister.h"
+#include "logger.h"
+#include "registrysettings.h"
+#include "windowspaths.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using platform::Hive;
+using platform::Registry;
+
+namespace {
+
+const QString runKey = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+
+// A name alone is none that we could find: it would be looked for in our own current folder.
+bool isWhole(const QString &windowsPath)
+{
+    return platform::isOnDrive(windowsPath) || windowsPath.startsWith("\\\\"_L1);
+}
+
+bool fileExists(const QString &windowsPath)
+{
+    return isWhole(windowsPath) && QFileInfo(platform::localPath(windowsPath)).isFile();
+}
+
+// Parts of the system that nobody starts.
+bool isSystemSoftware(const QString &name)
+{
+    static const std::array parts{"Microsoft Visual C++"_L1, "Microsoft .NET"_L1, "Update for"_L1,
+                                  "Hotfix"_L1, "Security Update"_L1};
+    return name.startsWith("Windows "_L1)
+        || std::any_of(parts.begin(), parts.end(),
+                       [&name](QLatin1StringView part) { return name.contains(part); });
+}
+
+bool isHelperProgram(const QString &fileName)
+{
+    static const std::array parts{"unins"_L1, "uninst"_L1, "remove"_L1,
+                                  "setup"_L1, "update"_L1, "helper"_L1};
+    const QString lower = fileName.toLower();
+    return std::any_of(parts.begin(), parts.end(),
+                       [&lower](QLatin1StringView part) { return lower.contains(part); });
+}
+
+QString normalised(const QString &name)
+{
+    QString letters;
+    for (const QChar c : name) {
+        if (c.unicode() < 0x80 && c.isLetterOrNumber())
+            letters += c.toLower();
+    }
+    return letters;
+}
+
+// Without the icon's number and the quotes around the path.
+QString iconFile(const QString &displayIcon)
+{
+    QString path = displayIcon;
+    if (const qsizetype comma = path.lastIndexOf(u','); comma > 0)
+        path.truncate(comma);
+    if (path.startsWith(u'"'))
+        path.remove(0, 1);
+    if (path.endsWith(u'"'))
+        path.chop(1);
+    return path;
+}
+
+// One spelling for all that mean the same to the system: with backslashes, in small letters, and
+// with what the known placeholders stand for.
+QString oneSpelling(const QString &path)
+{
+    QString result = path;
+    for (qsizetype begin = result.indexOf(u'%'); begin >= 0;
+         begin = result.indexOf(u'%', begin + 1)) {
+        const qsizetype end = result.indexOf(u'%', begin + 1);
+        if (end < 0)
+            break;
+        const QString name = result.mid(begin + 1, end - begin - 1).toUpper();
+        const std::optional<QString> value = platform::windowsVariable(name);
+        if (value && !value->isEmpty())
+            result.replace(begin, end - begin + 1, *value);
+    }
+    return result.replace(u'/', u'\\').toLower();
+}
+
+// Whatever the spelling; without quotes the system tries each blank as the end of the program.
+bool startsProgram(const QString &command, const QString &exePath)
+{
+    const QString program = oneSpelling(exePath);
+    if (command.startsWith(u'"'))
+        return oneSpelling(StartupManager::commandPath(command)) == program;
+    const QString line = oneSpelling(command);
+    return line == program || line.startsWith(program + u' ') || line.startsWith(program + u'\t');
+}
+
+// The programs of one folder, by name, below it with a prefix.
+QStringList programsIn(const QString &folder, const QString &prefix)
+{
+    QStringList names;
+    platform::WalkOptions options;
+    options.nameFilters = QStringList{u"*.exe"_s};
+    options.recursive = false;
+    platform::walkFiles(folder, options,
+                        [&](platform::WalkedFile &&file) { names.append(prefix + file.name); });
+    names.sort(Qt::CaseInsensitive);
+    return names;
+}
+
+} // namespace
+
+StartupManager::StartupManager(QObject *parent)
+    : QObject(parent)
+{
+}
+
+const QList<StartupApp> &StartupManager::apps()
+{
+    if (!m_loaded)
+        loadInstalledApps();
+    return m_apps;
+}
+
+void StartupManager::loadInstalledApps()
+{
+    m_apps.clear();
+    m_loaded = true;
+    const Registry registry;
+    readStartupTable(registry);
+    readUninstallRoot(registry, Hive::LocalMachine,
+                      u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s);
+    readUninstallRoot(registry, Hive::LocalMachine,
+                      u"SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s);
+    readUninstallRoot(registry, Hive::CurrentUser,
+                      u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s);
+    const auto startupCount = std::count_if(m_apps.cbegin(), m_apps.cend(),
+                                            [](const StartupApp &app) { return app.isStartup; });
+    Logger::instance().info(u"Found %1 installed apps, %2 in startup"_s.arg(
+        QString::number(m_apps.size()), QString::number(startupCount)));
+}
+
+void StartupManager::readStartupTable(const Registry &registry)
+{
+    m_startup.clear();
+    for (const QString &name : registry.valueNames(Hive::CurrentUser, runKey)) {
+        const QString command = registry.text(Hive::CurrentUser, runKey, name).trimmed();
+        const QString path = commandPath(command);
+        m_startup.append({name, path, command});
+    }
+}
+
+QList<StartupManager::Entry> StartupManager::entriesOf(const QString &exePath) const
+{
+    QList<Entry> entries;
+    for (const Entry &entry : m_startup) {
+        if (entry.exePath.compare(exePath, Qt::CaseInsensitive) == 0
+            || startsProgram(entry.command, exePath))
+            entries.append(entry);
+    }
+    return entries;
+}
+
+QString StartupManager::commandPath(const QString &command)
+{
+    if (command.startsWith(u'"')) {
+        const qsizetype end = command.indexOf(u'"', 1);
+        return end < 0 ? command : command.mid(1, end - 1);
+    }
+    const qsizetype blank = command.indexOf(u' ');
+    return blank > 0 && !fileExists(command) ? command.first(blank) : command;
+}
+
+void StartupManager::readUninstallRoot(const Registry &registry, Hive hive, const QString &root)
+{
+    for (const QString &id : registry.subkeys(hive, root))
+        readUninstallKey(registry, hive, root, id);
+}
+
+void StartupManager::readUninstallKey(const Registry &registry, Hive hive, const QString &root,
+                                      const QString &id)
+{
+    const QString key = root + u'\\' + id;
+    const auto text = [&](const QString &name) { return registry.text(hive, key, name); };
+    StartupApp app;
+    app.id = id;
+    app.name = text(u"DisplayName"_s);
+    if (app.name.isEmpty() || text(u"SystemComponent"_s).toInt() == 1
+        || !text(u"ParentDisplayName"_s).isEmpty() || isSystemSoftware(app.name))
+        return;
+    app.iconPath = text(u"DisplayIcon"_s);
+    app.publisher = text(u"Publisher"_s);
+    const QString icon = iconFile(app.iconPath);
+    app.exePath = icon.endsWith(".exe"_L1, Qt::CaseInsensitive) && fileExists(icon)
+        ? icon
+        : findExecutable(text(u"InstallLocation"_s), app.name);
+    if (app.exePath.isEmpty())
+        return;
+    const bool isKnown =
+        std::any_of(m_apps.cbegin(), m_apps.cend(), [&app](const StartupApp &other) {
+            return other.exePath.compare(app.exePath, Qt::CaseInsensitive) == 0;
+        });
+    if (isKnown)
+        return;
+    app.isStartup = !entriesOf(app.exePath).isEmpty();
+    m_apps.append(app);
+}
+
+QString StartupManager::findExecutable(const QString &folder, const QString &name)
+{
+    if (!isWhole(folder))
+        return {};
+    const QString local = QFileInfo(platform::localPath(folder)).canonicalFilePath();
+    if (local.isEmpty() || !QFileInfo(local).isDir())
+        return {};
+    // No deeper: an install folder may be a whole drive or a share.
+    QStringList programs = programsIn(local, {});
+    QStringList below;
+    for (const platform::ListedEntry &entry : platform::FolderLister().list(local).entries) {
+        if (entry.kind == platform::ListedKind::Folder && !entry.isHidden)
+            below.append(entry.name);
+    }
+    below.sort(Qt::CaseInsensitive);
+    for (const QString &subfolder : std::as_const(below))
+        programs += programsIn(platform::joinedPath(local, subfolder), subfolder + u'\\');
+    programs.removeIf([](const QString &program) {
+        return isHelperProgram(program.mid(program.lastIndexOf(u'\\') + 1));
+    });
+    if (programs.isEmpty())
+        return {};
+    const QString product = normalised(name);
+    const auto isNamedAlike = [&product](const QString &program) {
+        const QString file = program.mid(program.lastIndexOf(u'\\') + 1);
+        const QString base = file.first(file.indexOf(u'.')).toLower();
+        return product.contains(base) || base.contains(product);
+    };
+    const auto best = std::find_if(programs.cbegin(), programs.cend(), isNamedAlike);
+    QString root = folder;
+    while (root.endsWith(u'\\') || root.endsWith(u'/'))
+        root.chop(1);
+    return root + u'\\' + (best == programs.cend() ? programs.constFirst() : *best);
+}
+
+bool StartupManager::addToStartup(const QString &name, const QString &exePath)
+{
+    const QString command = u'"' + exePath + u'"';
+    readStartupTable(Registry()); // others write there too
+    keepCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
+    const bool isDone =
+        platform::registrysettings::setText(Hive::CurrentUser, runKey, name, command, m_error);
+    if (isDone)
+        Logger::instance().info(u"Added to startup: %1"_s.arg(name));
+    else
+        Logger::instance().error(u"Failed to add startup: %1"_s.arg(name));
+    readStates();
+    return isDone;
+}
+
+bool StartupManager::removeFromStartup(const QString &name)
+{
+    readStartupTable(Registry());
+    return removeEntries({name});
+}
+
+bool StartupManager::setStartup(const StartupApp &app, bool enable)
+{
+    if (enable)
+        return addToStartup(app.name, app.exePath);
+    readStartupTable(Registry());
+    QStringList names;
+    for (const Entry &entry : entriesOf(app.exePath))
+        names.append(entry.valueName);
+    return removeEntries(names.isEmpty() ? QStringList{app.name} : names);
+}
+
+bool StartupManager::removeEntries(const QStringList &valueNames)
+{
+    keepCommands(valueNames, u"Startup command of %1 before it was removed: %2"_s);
+    const bool isDone =
+        platform::registrysettings::remove(Hive::CurrentUser, runKey, valueNames, m_error);
+    const QList<Entry> before = m_startup;
+    readStates();
+    const auto has = [](const QList<Entry> &entries, const QString &name) {
+        return std::any_of(entries.cbegin(), entries.cend(), [&name](const Entry &entry) {
+            return entry.valueName.compare(name, Qt::CaseInsensitive) == 0;
+        });
+    };
+    for (const QString &name : valueNames) {
+        if (isDone || (has(before, name) && !has(m_startup, name)))
+            Logger::instance().info(u"Removed from startup: %1"_s.arg(name));
+        else
+            Logger::instance().error(u"Failed to remove startup: %1"_s.arg(name));
+    }
+    return isDone;
+}
+
+void StartupManager::keepCommands(const QStringList &valueNames, const QString &line) const
+{
+    for (const Entry &entry : m_startup) {
+        if (valueNames.contains(entry.valueName, Qt::CaseInsensitive))
+            Logger::instance().info(line.arg(entry.valueName, entry.command));
+    }
+}
+
+void StartupManager::readStates()
+{
+    readStartupTable(Registry());
+    for (StartupApp &app : m_apps)
+        app.isStartup = !entriesOf(app.exePath).isEmpty();
+}

@@ -1,0 +1,141 @@
+#include "entrywalk.h"
+
+#include "folderlister.h"
+
+#include <utility>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+/// Without recursion: a folder that is being read keeps its listing, the deepest one last. On
+/// Windows, where folders are read by path, one that is exchanged for a link while the walk runs
+/// may have what is behind it listed; the remover's own check keeps that from being removed.
+class EntryWalk
+{
+public:
+    EntryWalk(EntryVisitor &visitor, const std::atomic_bool *stopRequested, ListedFolders *listed)
+        : m_visitor(visitor)
+        , m_stopRequested(stopRequested)
+        , m_listed(listed)
+    {
+    }
+
+    WalkReport run(const QString &root)
+    {
+        if (inspect(root).kind != EntryKind::Folder)
+            return std::move(m_report);
+        FolderListing listing = m_lister.list(root, m_stopRequested);
+        noteFailure(root, listing);
+        m_device = listing.device;
+        record(root, listing);
+        m_visitor.read(listing.entries, true);
+        m_open.push_back(
+            {root.endsWith(u'/') ? root.chopped(1) : root, std::move(listing.entries), 0, 0, true});
+        while (!isStopped()) {
+            if (m_open.back().next < m_open.back().entries.size())
+                step();
+            else if (m_open.size() > 1)
+                leave();
+            else
+                break;
+        }
+        return std::move(m_report);
+    }
+
+private:
+    struct Folder {
+        QString path;
+        std::vector<ListedEntry> entries;
+        std::size_t next;
+        qint64 size;
+        bool isShown; ///< neither hidden nor in a hidden folder
+    };
+
+    bool isStopped() const
+    {
+        return m_stopRequested && m_stopRequested->load(std::memory_order_relaxed);
+    }
+
+    void noteFailure(const QString &path, const FolderListing &listing)
+    {
+        // A folder that is gone since its parent was read is no failure.
+        if (listing.error.isEmpty() || listing.isMissing)
+            return;
+        if (++m_report.failureCount <= WalkReport::maximumFailures)
+            m_report.failures.append({path, listing.error});
+    }
+
+    void record(const QString &path, const FolderListing &listing)
+    {
+        if (m_listed)
+            m_listed->add(path, listing.id);
+    }
+
+    void step()
+    {
+        Folder &folder = m_open.back();
+        ListedEntry entry = std::move(folder.entries[folder.next++]);
+        const bool isShown = folder.isShown && !entry.isHidden;
+        if (entry.kind == ListedKind::File)
+            folder.size += entry.size;
+        const bool isFolder =
+            entry.kind == ListedKind::Folder || entry.kind == ListedKind::FolderLink;
+        if (!isShown && entry.kind != ListedKind::Folder)
+            return;
+        const QString path = joinedPath(folder.path, entry.name);
+        if (isShown)
+            m_visitor.found({std::move(entry.name), path, entry.size, isFolder});
+        if (entry.kind == ListedKind::Folder)
+            enter(path, isShown);
+        else if (isFolder)
+            m_visitor.left(0, false);
+    }
+
+    // Not for use with a reference into the open folders, which it may move.
+    void enter(const QString &path, bool isShown)
+    {
+        FolderListing listing = m_lister.list(path, m_stopRequested);
+        noteFailure(path, listing);
+        if (listing.isMissing || listing.device != m_device) {
+            if (isShown)
+                m_visitor.left(0, false);
+            return;
+        }
+        if (isShown)
+            record(path, listing);
+        m_visitor.read(listing.entries, isShown);
+        m_open.push_back({path, std::move(listing.entries), 0, 0, isShown});
+    }
+
+    void leave()
+    {
+        const qint64 size = m_open.back().size;
+        const bool isShown = m_open.back().isShown;
+        m_open.pop_back();
+        m_open.back().size += size;
+        if (isShown)
+            m_visitor.left(size, true);
+    }
+
+    EntryVisitor &m_visitor;
+    const std::atomic_bool *m_stopRequested;
+    ListedFolders *m_listed;
+    const FolderLister m_lister;
+    std::vector<Folder> m_open; ///< the way down to the current folder
+    quint64 m_device = 0;
+    WalkReport m_report;
+};
+
+} // namespace
+
+void EntryVisitor::read(const std::vector<ListedEntry> &, bool) { }
+
+WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
+                       const std::atomic_bool *stopRequested, ListedFolders *listed)
+{
+    return EntryWalk(visitor, stopRequested, listed).run(root);
+}
+
+} // namespace platform

@@ -1,0 +1,68 @@
+#include "unix/dosattributes.h"
+
+#include "unix/wineprefix.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
+#include <cstdlib>
+
+#include <sys/types.h>
+#include <sys/xattr.h>
+
+namespace platform {
+
+namespace {
+
+constexpr unsigned long hidden = 2;
+constexpr unsigned long system = 4;
+constexpr std::size_t longestPath = 64 + 256; ///< of the open folder, and the name
+
+} // namespace
+
+DosAttributes::DosAttributes()
+{
+    const QString prefix = wineprefix::folder();
+    if (prefix.isEmpty())
+        return;
+    m_tops.append(prefix + u'/');
+    // Wherever that is.
+    if (const QString temporary = wineprefix::temporaryFolder(); !temporary.isEmpty())
+        m_tops.append(QFileInfo(temporary).canonicalFilePath() + u'/');
+    // A drive that is everything there is would have every file of this system asked.
+    for (const QString &drive : wineprefix::drives()) {
+        if (drive != u'/')
+            m_tops.append(drive + u'/');
+    }
+}
+
+bool DosAttributes::mayBeIn(const QString &folder) const
+{
+    return std::any_of(m_tops.begin(), m_tops.end(), [&folder](const QString &top) {
+        return folder.startsWith(top)
+            || (folder.size() + 1 == top.size() && top.startsWith(folder));
+    });
+}
+
+// The value is a text such as "0x6"; others may have written something else there.
+bool DosAttributes::areHidden(int folder, const char *name)
+{
+    char path[longestPath];
+    const int length = std::snprintf(path, sizeof path, "/proc/self/fd/%d/%s", folder, name);
+    if (length < 0 || static_cast<std::size_t>(length) >= sizeof path)
+        return false;
+    char value[64] = {};
+    if (::getxattr(path, "user.DOSATTRIB", value, sizeof value - 1) < 0 || value[0] != '0'
+        || value[1] != 'x')
+        return false;
+    const char *digits = value + 2;
+    if (!std::isxdigit(static_cast<unsigned char>(*digits)))
+        return false;
+    char *end = nullptr;
+    const unsigned long attributes = std::strtoul(digits, &end, 16);
+    return *end == '\0' && (attributes & (hidden | system)) != 0;
+}
+
+} // namespace platform

@@ -1,0 +1,417 @@
+#include "fileremove.h"
+
+#include "fileremove_p.h"
+#include "unix/openfolder.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QList>
+
+#include <cerrno>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <time.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+using Status = FileRemover::Status;
+using Outcome = FileRemover::Outcome;
+
+Outcome failure(int error, bool wasFolder = false)
+{
+    return {Status::Failed, wasFolder,
+            QString::fromStdString(std::generic_category().message(error))};
+}
+
+bool isFolderAt(int folder, const char *name)
+{
+    FileStatus status{};
+    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// Whether the entry @p name is still the file of which a listing told.
+bool isListed(int folder, const char *name, const FileRemover::ListedFile &listed)
+{
+    FileStatus status{};
+    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return true; // the removal will tell
+    return S_ISLNK(status.st_mode) == listed.isLink && (listed.isLink || S_ISREG(status.st_mode))
+        && (listed.number == 0 || listed.number == status.st_ino);
+}
+
+/// Sees to it that entries are removed where they were listed: a folder stays open when somebody
+/// moves it away. Whether it is still at its path is looked up anew for every few entries, and
+/// after every short while.
+class PlaceGuard
+{
+public:
+    /// For each entry of the open @p folder before it is removed; @p path tells where that belongs.
+    template<class Path>
+    [[nodiscard]] bool isInPlace(int folder, const Path &path)
+    {
+        if (--m_left >= 0 && now() - m_checked < longestTrust)
+            return true;
+        confirm();
+        const UniqueFd there = openFolder(path(), Access::PassThrough);
+        return there.isValid() && idOf(folder) == idOf(there.get());
+    }
+    /// The folder has been opened by its path just now.
+    void confirm()
+    {
+        m_left = entriesAtOnce - 1;
+        m_checked = now();
+    }
+
+private:
+    static constexpr int entriesAtOnce = 32;
+    static constexpr qint64 longestTrust = 5'000'000; // nanoseconds
+
+    static qint64 now()
+    {
+        timespec time{};
+        ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+        return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    }
+
+    int m_left = 0;
+    qint64 m_checked = 0;
+};
+
+/// Empties and removes one folder, level by level without recursion. Only the deepest levels are
+/// held open; a level further up is opened anew, link-free from the top of the folder, when the
+/// work comes back to it.
+class FolderRemoval
+{
+public:
+    /// The folder @p name of the open folder @p parent, which is at @p parentPath.
+    FolderRemoval(RightFolders &folders, int parent, const QByteArray &parentPath,
+                  const QByteArray &name, const std::atomic_bool *stopRequested)
+        : m_folders(folders)
+        , m_parent(parent)
+        , m_parentPath(parentPath)
+        , m_name(name)
+        , m_stopRequested(stopRequested)
+    {
+    }
+
+    Outcome run()
+    {
+        m_top = openFolderBelow(m_parent, m_name, Mounts::Stay);
+        if (!m_top.isValid())
+            return failure(errno, true);
+        const QString path = QFile::decodeName(pathOfTop());
+        if (m_folders.isRemoved(path))
+            return {Status::NotFound, false, {}};
+        const EntryId id = idOf(m_top.get());
+        if (!m_folders.isRight(path, id))
+            return {Status::Replaced, true, {}};
+        if (!enter(openFolderBelow(m_top.get(), {}, Mounts::Stay), {}))
+            return failure(m_error, true);
+        while (!m_levels.empty() && !isStopped() && !m_wasMoved)
+            step();
+        if (isStopped())
+            return failure(ECANCELED, true);
+        if (m_wasMoved || m_hasReplaced)
+            return {Status::Replaced, true, {}};
+        if (m_error == 0 && ::unlinkat(m_parent, m_name.constData(), AT_REMOVEDIR) != 0)
+            note(errno);
+        if (m_error == 0)
+            m_folders.noteRemoved(id);
+        return m_error == 0 ? Outcome{Status::Removed, true, {}} : failure(m_error, true);
+    }
+
+private:
+    static constexpr std::size_t levelsHeldOpen = 64;
+
+    struct Level {
+        UniqueFd fd;
+        EntryId id;
+        QByteArray name; ///< in its parent level; empty at the top
+        std::vector<QByteArray> subfolders; ///< still to be removed
+    };
+
+    bool isStopped() const { return m_stopRequested && m_stopRequested->load(); }
+
+    void note(int error)
+    {
+        if (m_error == 0)
+            m_error = error;
+    }
+
+    // Before anything in the level is removed. Once the folder is not where it was, nothing more
+    // is.
+    bool isInPlace(const Level &level)
+    {
+        if (m_wasMoved || m_guard.isInPlace(level.fd.get(), [&] { return pathOf(level); }))
+            return !m_wasMoved;
+        m_wasMoved = true;
+        return false;
+    }
+
+    QByteArray pathOfTop() const
+    {
+        return (m_parentPath == "/" ? QByteArray() : m_parentPath) + '/' + m_name;
+    }
+
+    // Of the deepest level, or of one that is about to become it.
+    QByteArray pathOf(const Level &level) const
+    {
+        QByteArray path = pathOfTop();
+        for (std::size_t i = 1; i < m_levels.size(); ++i)
+            path += '/' + m_levels[i].name;
+        const bool isOnStack = !m_levels.empty() && &m_levels.back() == &level;
+        return isOnStack || level.name.isEmpty() ? path : path + '/' + level.name;
+    }
+
+    // Removes everything in the folder but its subfolders, and puts it on the stack with those.
+    bool enter(UniqueFd fd, const QByteArray &name)
+    {
+        if (!fd.isValid()) {
+            note(errno);
+            return false;
+        }
+        Level level{std::move(fd), {}, name, {}};
+        level.id = idOf(level.fd.get());
+        if (!name.isEmpty() && m_folders.hasListed()
+            && m_folders.wasAnotherListed(QFile::decodeName(pathOf(level)), level.id)) {
+            m_hasReplaced = true;
+            return false;
+        }
+        if (!clear(level))
+            return false;
+        m_levels.push_back(std::move(level));
+        if (m_levels.size() > levelsHeldOpen)
+            m_levels[m_levels.size() - levelsHeldOpen - 1].fd.reset();
+        return true;
+    }
+
+    bool clear(Level &level)
+    {
+        char buffer[32 * 1024];
+        for (;;) {
+            const ssize_t length = ::getdents64(level.fd.get(), buffer, sizeof buffer);
+            if (length == 0)
+                return true;
+            if (length < 0) {
+                note(errno);
+                return false;
+            }
+            for (ssize_t offset = 0; offset < length;) {
+                if (isStopped() || m_wasMoved)
+                    return true;
+                const auto *entry = reinterpret_cast<const dirent64 *>(buffer + offset);
+                offset += entry->d_reclen;
+                if (qstrcmp(entry->d_name, ".") != 0 && qstrcmp(entry->d_name, "..") != 0)
+                    removeEntry(level, *entry);
+            }
+        }
+    }
+
+    void removeEntry(Level &level, const dirent64 &entry)
+    {
+        const int fd = level.fd.get();
+        const bool isFolder =
+            entry.d_type == DT_DIR || (entry.d_type == DT_UNKNOWN && isFolderAt(fd, entry.d_name));
+        if (isFolder) {
+            level.subfolders.emplace_back(entry.d_name);
+        } else if (isInPlace(level) && ::unlinkat(fd, entry.d_name, 0) != 0 && errno != ENOENT) {
+            // A folder that its owner made read-only does not protect what is in it from being
+            // cleaned.
+            const int error = errno;
+            if (error != EACCES || !makeWritable(fd) || ::unlinkat(fd, entry.d_name, 0) != 0)
+                note(error);
+        }
+    }
+
+    static bool makeWritable(int fd)
+    {
+        FileStatus status{};
+        return ::fstat(fd, &status) == 0 && (status.st_mode & S_IWUSR) == 0
+            && ::fchmod(fd, (status.st_mode & 07777) | S_IRWXU) == 0;
+    }
+
+    void step()
+    {
+        Level &level = m_levels.back();
+        if (!level.fd.isValid() && !reopen()) {
+            m_levels.pop_back();
+            return;
+        }
+        if (level.subfolders.empty()) {
+            leave();
+            return;
+        }
+        const QByteArray name = std::move(level.subfolders.back());
+        level.subfolders.pop_back();
+        const int fd = level.fd.get();
+        UniqueFd subfolder = openFolderBelow(fd, name, Mounts::Stay);
+        if (!subfolder.isValid() && (errno == ELOOP || errno == ENOTDIR)) {
+            // It was exchanged for something else since its parent was read: that goes as what it
+            // is.
+            if (isInPlace(level) && ::unlinkat(fd, name.constData(), 0) != 0 && errno != ENOENT)
+                note(errno);
+            return;
+        }
+        if (!subfolder.isValid() && errno == ENOENT)
+            return; // It went by itself.
+        enter(std::move(subfolder), name);
+    }
+
+    // The deepest level is empty: back to its parent, which removes it.
+    void leave()
+    {
+        const QByteArray name = m_levels.back().name;
+        const EntryId id = m_levels.back().id;
+        m_levels.pop_back();
+        if (m_levels.empty())
+            return;
+        Level &parent = m_levels.back();
+        if ((!parent.fd.isValid() && !reopen()) || !isInPlace(parent))
+            return;
+        const int fd = parent.fd.get();
+        if (::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0) {
+            m_folders.noteRemoved(id);
+            return;
+        }
+        const int error = errno;
+        if (error == ENOENT)
+            return;
+        if (error == EACCES && makeWritable(fd)
+            && ::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0)
+            m_folders.noteRemoved(id);
+        else
+            note(error);
+    }
+
+    // Opens the deepest levels anew, as many as are held open: the first from the top, each other
+    // from its parent.
+    bool reopen()
+    {
+        const std::size_t count = m_levels.size();
+        const std::size_t first = count > levelsHeldOpen ? count - levelsHeldOpen : 0;
+        QByteArray path;
+        for (std::size_t i = 1; i <= first; ++i)
+            path += (i == 1 ? QByteArray() : QByteArray("/")) + m_levels[i].name;
+        m_levels[first].fd = openFolderBelow(m_top.get(), path, Mounts::Stay);
+        for (std::size_t i = first + 1; i < count && m_levels[i - 1].fd.isValid(); ++i) {
+            m_levels[i].fd =
+                openFolderBelow(m_levels[i - 1].fd.get(), m_levels[i].name, Mounts::Stay);
+        }
+        const Level &deepest = m_levels.back();
+        if (!deepest.fd.isValid())
+            note(errno);
+        else if (idOf(deepest.fd.get()) != deepest.id)
+            m_wasMoved = true;
+        return deepest.fd.isValid() && !m_wasMoved;
+    }
+
+    RightFolders &m_folders;
+    const int m_parent;
+    const QByteArray m_parentPath;
+    const QByteArray m_name;
+    const std::atomic_bool *const m_stopRequested;
+    UniqueFd m_top;
+    std::vector<Level> m_levels;
+    PlaceGuard m_guard;
+    bool m_wasMoved = false;
+    bool m_hasReplaced = false; ///< a folder inside, which stays
+    int m_error = 0;
+};
+
+} // namespace
+
+class FileRemover::Private
+{
+public:
+    // Opens the folder of the next entry, unless it is the one that is open already and still
+    // there. Otherwise tells what became of the entry.
+    std::optional<Outcome> openParent(const QByteArray &path)
+    {
+        if (isOpen(path) && guard.isInPlace(fd.get(), [&] { return path; }))
+            return {};
+        fd.reset();
+        const QString name = QFile::decodeName(path);
+        if (folders.isRemoved(name))
+            return Outcome{Status::NotFound, false, {}};
+        UniqueFd found = openFolder(path, Access::PassThrough);
+        if (!found.isValid() && errno != ENOENT)
+            return failure(errno);
+        if (!found.isValid())
+            return Outcome{
+                folders.idOf(name).isKnown() ? Status::Replaced : Status::NotFound, false, {}};
+        if (!folders.isRight(name, idOf(found.get())))
+            return Outcome{Status::Replaced, false, {}};
+        fd = std::move(found);
+        folder = path;
+        guard.confirm();
+        return {};
+    }
+    [[nodiscard]] bool isOpen(const QByteArray &path) const
+    {
+        return fd.isValid() && folder == path;
+    }
+
+    RightFolders folders;
+    QByteArray folder;
+    UniqueFd fd;
+    PlaceGuard guard;
+};
+
+FileRemover::FileRemover()
+    : d(std::make_unique<Private>())
+{
+}
+
+FileRemover::~FileRemover() = default;
+
+void FileRemover::setListed(const ListedFolders *listed)
+{
+    d->folders.setListed(listed);
+}
+
+FileRemover::Outcome FileRemover::removeFile(const QString &path,
+                                             const std::optional<ListedFile> &listed)
+{
+    const SplitPath split = splitPath(path);
+    if (split.name.isEmpty())
+        return failure(EINVAL);
+
+    // An open folder may have been removed and made again under the same name: then one fresh look.
+    const bool wasOpen = d->isOpen(split.folder);
+    int error = ENOENT;
+    for (int attempts = wasOpen ? 2 : 1; attempts > 0 && error == ENOENT; --attempts) {
+        if (const std::optional<Outcome> outcome = d->openParent(split.folder))
+            return *outcome;
+        if (listed && !isListed(d->fd.get(), split.name.constData(), *listed))
+            return {Status::Replaced, isFolderAt(d->fd.get(), split.name.constData()), {}};
+        if (::unlinkat(d->fd.get(), split.name.constData(), 0) == 0)
+            return {Status::Removed, false, {}};
+        error = errno;
+        if (error == ENOENT)
+            d->fd.reset();
+    }
+    if (error == ENOENT)
+        return {Status::NotFound, false, {}};
+    return failure(error, isFolderAt(d->fd.get(), split.name.constData()));
+}
+
+FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
+{
+    const Outcome outcome = removeFile(path);
+    if (!outcome.wasFolder)
+        return outcome;
+    const SplitPath split = splitPath(path);
+    return FolderRemoval(d->folders, d->fd.get(), split.folder, split.name, stopRequested).run();
+}
+
+} // namespace platform

@@ -1,0 +1,111 @@
+#include "folderlister.h"
+
+#include "unix/dosattributes.h"
+#include "unix/openfolder.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <memory>
+#include <optional>
+#include <system_error>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace platform {
+
+namespace {
+
+constexpr std::size_t bufferSize = 65'536;
+
+// One look at the entry itself; at what a link leads to when @p flags say so.
+std::optional<struct statx> look(int folder, const char *name, int flags)
+{
+    struct statx status = {};
+    if (::statx(folder, name, flags | AT_NO_AUTOMOUNT, STATX_TYPE | STATX_SIZE, &status) != 0)
+        return {};
+    return status;
+}
+
+std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry, bool mayBeHidden)
+{
+    const QUtf8StringView name(entry.d_name);
+    if (!name.isValidUtf8())
+        return {};
+    const std::optional<struct statx> own = look(folder, entry.d_name, AT_SYMLINK_NOFOLLOW);
+    if (!own || (own->stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
+        return {};
+    const bool isLink = S_ISLNK(own->stx_mode);
+    const std::optional<struct statx> target = isLink ? look(folder, entry.d_name, 0) : own;
+    if (!target)
+        return {};
+    const bool isHidden =
+        entry.d_name[0] == '.' || (mayBeHidden && DosAttributes::areHidden(folder, entry.d_name));
+    if (S_ISDIR(target->stx_mode))
+        return ListedEntry{name.toString(), isLink ? ListedKind::FolderLink : ListedKind::Folder,
+                           isHidden, 0};
+    if (S_ISREG(target->stx_mode))
+        return ListedEntry{name.toString(), isLink ? ListedKind::FileLink : ListedKind::File,
+                           isHidden, static_cast<qint64>(own->stx_size)};
+    return {};
+}
+
+bool isNone(const dirent64 &entry)
+{
+    return qstrcmp(entry.d_name, ".") == 0 || qstrcmp(entry.d_name, "..") == 0;
+}
+
+} // namespace
+
+class FolderLister::Private
+{
+public:
+    DosAttributes attributes;
+};
+
+FolderLister::FolderLister()
+    : d(std::make_unique<const Private>())
+{
+}
+
+FolderLister::~FolderLister() = default;
+
+FolderListing FolderLister::list(const QString &path, const std::atomic_bool *stopRequested) const
+{
+    FolderListing listing;
+    const auto fail = [&listing](int error) {
+        listing.isMissing = error == ENOENT || error == ENOTDIR || error == ELOOP;
+        listing.error = QString::fromStdString(std::generic_category().message(error));
+    };
+    const UniqueFd folder = openFolder(QFile::encodeName(path));
+    FileStatus status{};
+    if (!folder.isValid() || ::fstat(folder.get(), &status) != 0) {
+        fail(errno);
+        return listing;
+    }
+    listing.device = status.st_dev;
+    listing.id = idOf(status);
+    const bool mayBeHidden = d->attributes.mayBeIn(path);
+    const auto buffer = std::make_unique_for_overwrite<char[]>(bufferSize);
+    for (;;) {
+        const ssize_t length = ::getdents64(folder.get(), buffer.get(), bufferSize);
+        if (length < 0)
+            fail(errno);
+        if (length <= 0)
+            return listing;
+        for (ssize_t offset = 0; offset < length;) {
+            if (stopRequested && stopRequested->load(std::memory_order_relaxed))
+                return listing;
+            const auto *entry = reinterpret_cast<const dirent64 *>(buffer.get() + offset);
+            offset += entry->d_reclen;
+            if (isNone(*entry))
+                continue;
+            if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry, mayBeHidden))
+                listing.entries.push_back(std::move(*found));
+        }
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,399 @@
+#include "fileremove.h"
+
+#include "fileremove_p.h"
+#include "windows/openentry.h"
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include <windows.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+using Status = FileRemover::Status;
+using Outcome = FileRemover::Outcome;
+
+// FileDispositionInfoEx by its number, which the compiler's headers give to something else.
+constexpr auto immediateDisposition = static_cast<FILE_INFO_BY_HANDLE_CLASS>(21);
+
+Outcome failure(DWORD error, bool wasFolder = false)
+{
+    return {Status::Failed, wasFolder, reasonOf(error)};
+}
+
+/// An entry that was opened for removal, without following it, and found to be the one that its
+/// path names.
+struct OpenedEntry {
+    UniqueHandle handle;
+    DWORD attributes = 0;
+    EntryNature nature = EntryNature::File;
+
+    [[nodiscard]] bool isFolder() const { return nature == EntryNature::Folder; }
+};
+
+/// Removes single entries by handle: what was looked at is what goes, whatever happens meanwhile to
+/// the folders above.
+class EntryRemover
+{
+public:
+    /// On failure the entry has no handle and error() tells why.
+    [[nodiscard]] OpenedEntry open(const QString &extended, DWORD moreAccess = 0)
+    {
+        OpenedEntry entry;
+        if (const QString root = extended.left(rootLength(extended)); root != m_root) {
+            m_root = root;
+            m_hasImmediateDeletion = true; // until this volume says otherwise
+        }
+        UniqueHandle handle =
+            openEntry(extended, DELETE | FILE_READ_ATTRIBUTES | moreAccess, Links::Open);
+        if (!handle.isValid()) {
+            m_error = ::GetLastError();
+            return entry;
+        }
+        switch (m_check.placeOf(handle, extended)) {
+        case PlaceCheck::Place::AsAsked:
+            break;
+        case PlaceCheck::Place::OtherCase:
+            // Names that differ by case alone are two names to some folders: not the one asked for.
+            m_error = ERROR_FILE_NOT_FOUND;
+            return entry;
+        case PlaceCheck::Place::Elsewhere:
+            m_error = linkOnTheWay;
+            return entry;
+        }
+        const std::optional<EntryAttributes> found = attributesOf(handle);
+        if (!found) {
+            m_error = ::GetLastError();
+            return entry;
+        }
+        entry.attributes = found->attributes;
+        entry.nature = found->nature;
+        entry.handle = std::move(handle);
+        return entry;
+    }
+
+    /// Removes a file, a link or an empty folder; the handle is closed either way.
+    [[nodiscard]] bool remove(OpenedEntry entry)
+    {
+        const bool done = markForDeletion(entry.handle);
+        if (!done)
+            m_error = ::GetLastError();
+        return done;
+    }
+
+    /// The same, with one attempt more for an entry that is read-only.
+    [[nodiscard]] bool removeEvenIfReadOnly(const QString &extended, OpenedEntry entry)
+    {
+        const DWORD attributes = entry.attributes;
+        if (remove(std::move(entry)))
+            return true;
+        const DWORD error = m_error;
+        if (error != ERROR_ACCESS_DENIED || (attributes & FILE_ATTRIBUTE_READONLY) == 0)
+            return false;
+        OpenedEntry again = open(extended, FILE_WRITE_ATTRIBUTES);
+        const bool done = again.handle.isValid() && removeWithoutReadOnly(std::move(again));
+        if (!done)
+            m_error = error;
+        return done;
+    }
+
+    [[nodiscard]] DWORD error() const { return m_error; }
+
+private:
+    bool markForDeletion(const UniqueHandle &handle)
+    {
+        if (m_hasImmediateDeletion) {
+            FILE_DISPOSITION_INFO_EX now{};
+            now.Flags = FILE_DISPOSITION_FLAG_DELETE | FILE_DISPOSITION_FLAG_POSIX_SEMANTICS;
+            if (::SetFileInformationByHandle(handle.get(), immediateDisposition, &now, sizeof now))
+                return true;
+            const DWORD error = ::GetLastError();
+            if (error != ERROR_INVALID_PARAMETER && error != ERROR_INVALID_FUNCTION
+                && error != ERROR_NOT_SUPPORTED)
+                return false;
+            m_hasImmediateDeletion = false;
+        }
+        FILE_DISPOSITION_INFO onClose{};
+        onClose.DeleteFile = TRUE;
+        return ::SetFileInformationByHandle(handle.get(), FileDispositionInfo, &onClose,
+                                            sizeof onClose)
+            != 0;
+    }
+
+    // The attribute belongs to the file, not to the name: with other names left it is not ours.
+    bool removeWithoutReadOnly(OpenedEntry entry)
+    {
+        FILE_STANDARD_INFO standard{};
+        if (!::GetFileInformationByHandleEx(entry.handle.get(), FileStandardInfo, &standard,
+                                            sizeof standard)
+            || standard.NumberOfLinks > 1
+            || !setAttributes(entry.handle, entry.attributes & ~DWORD(FILE_ATTRIBUTE_READONLY)))
+            return false;
+        if (markForDeletion(entry.handle))
+            return true;
+        setAttributes(entry.handle, entry.attributes);
+        return false;
+    }
+
+    static bool setAttributes(const UniqueHandle &handle, DWORD attributes)
+    {
+        FILE_BASIC_INFO basic{}; // a time of 0 is left as it is
+        basic.FileAttributes = attributes == 0 ? FILE_ATTRIBUTE_NORMAL : attributes;
+        return ::SetFileInformationByHandle(handle.get(), FileBasicInfo, &basic, sizeof basic) != 0;
+    }
+
+    PlaceCheck m_check;
+    QString m_root; ///< of the volume that was removed from last
+    bool m_hasImmediateDeletion = true;
+    DWORD m_error = ERROR_SUCCESS;
+};
+
+/// Empties and removes one folder, level by level without recursion. Every entry is opened and
+/// looked at before it is removed or entered.
+class FolderRemoval
+{
+public:
+    FolderRemoval(RightFolders &folders, EntryRemover &remover, const QString &top,
+                  const std::atomic_bool *stopRequested)
+        : m_folders(folders)
+        , m_remover(remover)
+        , m_top(top)
+        , m_stopRequested(stopRequested)
+    {
+    }
+
+    Outcome run()
+    {
+        enter(m_top);
+        while (!m_levels.empty() && !isStopped() && !m_wasMoved) {
+            Level &level = m_levels.back();
+            if (level.subfolders.empty()) {
+                const QString path = std::move(level.path);
+                const EntryId id = level.id;
+                m_levels.pop_back();
+                if (removeEntry(path))
+                    m_folders.noteRemoved(id);
+                continue;
+            }
+            const QString subfolder = level.path + u'\\' + level.subfolders.back();
+            level.subfolders.pop_back();
+            enter(subfolder);
+        }
+        if (isStopped())
+            return failure(ERROR_CANCELLED, true);
+        if (m_wasMoved || m_hasReplaced)
+            return {Status::Replaced, true, {}};
+        return m_error == ERROR_SUCCESS ? Outcome{Status::Removed, true, {}}
+                                        : failure(m_error, true);
+    }
+
+private:
+    struct Level {
+        QString path; ///< extended
+        EntryId id;
+        std::vector<QString> subfolders; ///< still to be removed
+    };
+
+    bool isStopped() const { return m_stopRequested && m_stopRequested->load(); }
+
+    void note(DWORD error)
+    {
+        if (m_error == ERROR_SUCCESS)
+            m_error = error;
+    }
+
+    // Removes everything in the folder but its subfolders, and puts it on the stack with those.
+    void enter(const QString &path)
+    {
+        OpenedEntry entry = m_remover.open(path);
+        if (!entry.handle.isValid()) {
+            noteUnlessMissing(m_remover.error());
+            return;
+        }
+        if (!entry.isFolder()) {
+            // It was exchanged for something else since its parent was read: that goes as what it
+            // is.
+            if (!m_remover.removeEvenIfReadOnly(path, std::move(entry)))
+                note(m_remover.error());
+            return;
+        }
+        const EntryId id = idOf(entry.handle);
+        const QString plain = plainPath(path);
+        if (path == m_top ? !m_folders.isRight(plain, id) : m_folders.wasAnotherListed(plain, id)) {
+            m_hasReplaced = true;
+            return;
+        }
+        entry.handle.reset();
+        Level level{path, id, {}};
+        clear(level);
+        m_levels.push_back(std::move(level));
+    }
+
+    void clear(Level &level)
+    {
+        const QString pattern = level.path + "\\*"_L1;
+        WIN32_FIND_DATAW data{};
+        const HANDLE search =
+            ::FindFirstFileExW(reinterpret_cast<const wchar_t *>(pattern.utf16()), FindExInfoBasic,
+                               &data, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+        if (search == INVALID_HANDLE_VALUE) {
+            noteUnlessMissing(::GetLastError());
+            return;
+        }
+        do {
+            const QString name = QString::fromWCharArray(data.cFileName);
+            if (name == "."_L1 || name == ".."_L1)
+                continue;
+            if (natureOf(data.dwFileAttributes, data.dwReserved0) == EntryNature::Folder)
+                level.subfolders.push_back(name);
+            else if (isInPlace(level))
+                removeEntry(level.path + u'\\' + name);
+        } while (!isStopped() && !m_wasMoved && ::FindNextFileW(search, &data));
+        if (const DWORD error = ::GetLastError();
+            !isStopped() && !m_wasMoved && error != ERROR_NO_MORE_FILES)
+            note(error);
+        ::FindClose(search);
+    }
+
+    // Before each entry of the level, which is opened by its path. Once another folder is there,
+    // nothing more is removed.
+    bool isInPlace(const Level &level)
+    {
+        m_wasMoved = m_wasMoved || idOfFolder(plainPath(level.path)) != level.id;
+        return !m_wasMoved;
+    }
+
+    // A file, a link, or a folder that has been emptied. Whether it was removed.
+    bool removeEntry(const QString &path)
+    {
+        OpenedEntry entry = m_remover.open(path);
+        if (!entry.handle.isValid()) {
+            noteUnlessMissing(m_remover.error());
+            return false;
+        }
+        const bool isRemoved = m_remover.removeEvenIfReadOnly(path, std::move(entry));
+        if (!isRemoved)
+            note(m_remover.error());
+        return isRemoved;
+    }
+
+    void noteUnlessMissing(DWORD error)
+    {
+        if (!isMissing(error))
+            note(error);
+    }
+
+    RightFolders &m_folders;
+    EntryRemover &m_remover;
+    const QString m_top;
+    const std::atomic_bool *const m_stopRequested;
+    std::vector<Level> m_levels;
+    bool m_wasMoved = false;
+    bool m_hasReplaced = false; ///< the folder or one inside, which stays
+    DWORD m_error = ERROR_SUCCESS;
+};
+
+bool isFolderAt(const QString &extended)
+{
+    const DWORD attributes =
+        ::GetFileAttributesW(reinterpret_cast<const wchar_t *>(extended.utf16()));
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0
+        && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+}
+
+} // namespace
+
+class FileRemover::Private
+{
+public:
+    enum class Folders { Leave, Remove };
+
+    void setListed(const ListedFolders *listed) { m_right.setListed(listed); }
+
+    Outcome remove(const QString &path, Folders folders, const std::atomic_bool *stopRequested,
+                   const std::optional<FileRemover::ListedFile> &listed)
+    {
+        const QString extended = extendedPath(path);
+        if (extended.isEmpty() || extended.size() == rootLength(extended))
+            return failure(ERROR_INVALID_NAME);
+        if (const std::optional<Outcome> outcome = checkFolderOf(extended))
+            return *outcome;
+
+        OpenedEntry entry = m_entries.open(extended);
+        if (!entry.handle.isValid()) {
+            const DWORD error = m_entries.error();
+            return isMissing(error) ? Outcome{Status::NotFound, false, {}}
+                                    : failure(error, isFolderAt(extended));
+        }
+        if (entry.isFolder()) {
+            if (folders == Folders::Leave)
+                return failure(ERROR_ACCESS_DENIED, true);
+            entry.handle.reset();
+            if (m_right.isRemoved(plainPath(extended)))
+                return {Status::NotFound, false, {}};
+            return FolderRemoval(m_right, m_entries, extended, stopRequested).run();
+        }
+        if (listed && !isListed(entry, *listed))
+            return {Status::Replaced, false, {}};
+        if (!m_entries.remove(std::move(entry)))
+            return failure(m_entries.error());
+        return {Status::Removed, false, {}};
+    }
+
+private:
+    static bool isListed(const OpenedEntry &entry, const FileRemover::ListedFile &listed)
+    {
+        const auto nature = listed.isLink ? EntryNature::FileLink : EntryNature::File;
+        return entry.nature == nature
+            && (listed.number == 0 || listed.number == idOf(entry.handle).number);
+    }
+
+    // Whether the folder around the entry is the right one; otherwise tells what became of the
+    // entry. It is asked for each entry: they are opened by their path.
+    std::optional<Outcome> checkFolderOf(const QString &extended)
+    {
+        const QString folder = folderOf(plainPath(extended));
+        if (m_right.isRemoved(folder))
+            return Outcome{Status::NotFound, false, {}};
+        const EntryId id = idOfFolder(folder);
+        // Where the folder does not tell, what becomes of the entry does.
+        if (!id.isKnown() && !m_right.idOf(folder).isKnown())
+            return {};
+        if (!m_right.isRight(folder, id))
+            return Outcome{Status::Replaced, false, {}};
+        return {};
+    }
+
+    RightFolders m_right;
+    EntryRemover m_entries;
+};
+
+FileRemover::FileRemover()
+    : d(std::make_unique<Private>())
+{
+}
+
+FileRemover::~FileRemover() = default;
+
+void FileRemover::setListed(const ListedFolders *listed)
+{
+    d->setListed(listed);
+}
+
+FileRemover::Outcome FileRemover::remove(const QString &path, const std::atomic_bool *stopRequested)
+{
+    return d->remove(path, Private::Folders::Remove, stopRequested, {});
+}
+
+FileRemover::Outcome FileRemover::removeFile(const QString &path,
+                                             const std::optional<ListedFile> &listed)
+{
+    return d->remove(path, Private::Folders::Leave, nullptr, listed);
+}
+
+} // namespace platform

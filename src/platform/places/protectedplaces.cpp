@@ -1,0 +1,156 @@
+#include "protectedplaces.h"
+#include "protectedplaces_p.h"
+
+#include "canonicalpath_p.h"
+#include "rulefolders.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+using Extent = ProtectedPlace::Extent;
+
+struct RelativePlace {
+    QLatin1StringView path;
+    Extent extent = Extent::Itself;
+};
+
+constexpr std::array belowWindows{
+    RelativePlace{""_L1, Extent::Itself},
+    RelativePlace{"System32"_L1, Extent::Tree}, // the system itself, and the machine's registry
+    RelativePlace{"SysWOW64"_L1, Extent::Tree}, // the same for 32-bit programs
+    RelativePlace{"WinSxS"_L1, Extent::Tree}, // what the system's files are repaired from
+    RelativePlace{"servicing"_L1, Extent::Tree}, // and updated by
+    RelativePlace{"assembly"_L1, Extent::Tree}, // libraries that programs share
+    RelativePlace{"Fonts"_L1, Extent::Tree},
+    RelativePlace{"Installer"_L1, Extent::Itself}, // without it programs cannot be removed
+    RelativePlace{"SoftwareDistribution"_L1, Extent::Itself}, // the list of installed updates
+};
+
+constexpr std::array belowDrive{
+    RelativePlace{""_L1, Extent::Itself},
+    RelativePlace{"Users"_L1, Extent::Children}, // each profile
+    RelativePlace{"Program Files"_L1, Extent::Tree},
+    RelativePlace{"Program Files (x86)"_L1, Extent::Tree},
+    RelativePlace{"ProgramData"_L1, Extent::Itself}, // what programs keep for all users
+    RelativePlace{"Boot"_L1, Extent::Tree},
+    RelativePlace{"Recovery"_L1, Extent::Tree},
+    RelativePlace{"System Volume Information"_L1, Extent::Tree},
+};
+
+// A temporary folder may well lie in one of them, if its owner says so.
+constexpr std::array belowProfile{
+    RelativePlace{"AppData"_L1, Extent::Children}, // what programs keep for the user
+    RelativePlace{"Desktop"_L1, Extent::Itself}, // from here on: what people made
+    RelativePlace{"Documents"_L1, Extent::Itself},
+    RelativePlace{"My Documents"_L1, Extent::Itself},
+    RelativePlace{"Downloads"_L1, Extent::Itself},
+    RelativePlace{"Pictures"_L1, Extent::Itself},
+    RelativePlace{"Music"_L1, Extent::Itself},
+    RelativePlace{"Videos"_L1, Extent::Itself},
+    RelativePlace{"Saved Games"_L1, Extent::Itself},
+    RelativePlace{"Favorites"_L1, Extent::Itself},
+    RelativePlace{"Contacts"_L1, Extent::Itself},
+    RelativePlace{"OneDrive"_L1, Extent::Itself},
+};
+
+QString asFolder(const QString &path)
+{
+    return path.endsWith(u'/') ? path : path + u'/';
+}
+
+template<class Places>
+void add(QList<ProtectedPlace> &list, const QString &base, const Places &places)
+{
+    for (const RelativePlace &place : places)
+        list.append({locate(base, place.path), place.extent});
+}
+
+// The user's own profile, and those of others beside it.
+void addProfiles(QList<ProtectedPlace> &list)
+{
+    list.append({homeFolder(), Extent::Itself});
+    add(list, homeFolder(), belowProfile);
+    for (const QString &parent : {locate(systemDrive(), u"Users"_s), u"/home"_s}) {
+        if (parent.isEmpty())
+            continue;
+        const QStringList names = QDir(parent).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        for (const QString &name : names)
+            add(list, asFolder(parent) + name, belowProfile);
+    }
+}
+
+// Where the system's settings say that people keep what they made.
+void addPersonalFolders(QList<ProtectedPlace> &list)
+{
+    for (const QStandardPaths::StandardLocation location :
+         {QStandardPaths::DesktopLocation, QStandardPaths::DocumentsLocation,
+          QStandardPaths::DownloadLocation, QStandardPaths::PicturesLocation,
+          QStandardPaths::MusicLocation, QStandardPaths::MoviesLocation})
+        list.append({QStandardPaths::writableLocation(location), Extent::Itself});
+}
+
+QList<ProtectedPlace> protectedPlaces()
+{
+    QList<ProtectedPlace> list = systemPlaces();
+    add(list, windowsFolder(), belowWindows);
+    add(list, systemDrive(), belowDrive);
+    addProfiles(list);
+    addPersonalFolders(list);
+    for (const QString &folder : {localDataFolder(), roamingDataFolder(), programDataFolder()})
+        list.append({folder, Extent::Itself});
+    for (ProtectedPlace &place : list)
+        place.path = canonicalPath(place.path);
+    list.removeIf([](const ProtectedPlace &place) { return place.path.isEmpty(); });
+    return list;
+}
+
+bool isInside(const QString &path, const QString &folder)
+{
+    return path.startsWith(asFolder(folder), pathCase());
+}
+
+bool isKept(const QString &path, const ProtectedPlace &place)
+{
+    if (path.compare(place.path, pathCase()) == 0 || isInside(place.path, path))
+        return true;
+    if (!isInside(path, place.path))
+        return false;
+    const auto depth = QStringView(path).sliced(asFolder(place.path).size()).count(u'/') + 1;
+    return (place.extent == Extent::Children && depth == 1)
+        || (place.extent == Extent::Grandchildren && depth <= 2);
+}
+
+bool isProtected(const QString &path, bool whatLiesInTrees)
+{
+    const QString root = canonicalPath(path);
+    if (root.isEmpty() || isTop(root))
+        return true;
+    const QList<ProtectedPlace> places = protectedPlaces();
+    return std::any_of(places.begin(), places.end(), [&](const ProtectedPlace &place) {
+        return isKept(root, place)
+            || (whatLiesInTrees && place.extent == Extent::Tree && isInside(root, place.path));
+    });
+}
+
+} // namespace
+
+bool isProtectedRoot(const QString &path)
+{
+    return isProtected(path, true);
+}
+
+bool holdsProtectedPlace(const QString &path)
+{
+    return isProtected(path, false);
+}
+
+} // namespace platform

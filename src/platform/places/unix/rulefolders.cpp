@@ -1,0 +1,144 @@
+#include "rulefolders.h"
+#include "canonicalpath_p.h"
+
+#include "unix/wineprefix.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <cerrno>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+// The environment's word first, then the prefix's folder, then whatever the desktop has.
+QString firstSet(const char *variable, const QString &inPrefix, const QString &otherwise)
+{
+    const QString fromEnvironment = qEnvironmentVariable(variable);
+    if (!fromEnvironment.isEmpty())
+        return QDir::fromNativeSeparators(fromEnvironment).replace(u'\\', u'/');
+    return inPrefix.isEmpty() ? otherwise : inPrefix;
+}
+
+QString below(const QString &base, const QString &relative)
+{
+    return base.isEmpty() ? QString() : wineprefix::matchCase(base, relative);
+}
+
+bool startsWithDrive(const QString &path)
+{
+    return path.size() >= 2 && path.at(1) == u':' && path.at(0).isLetter()
+        && (path.size() == 2 || path.at(2) == u'/');
+}
+
+} // namespace
+
+QString temporaryFolder()
+{
+    return firstSet("TMPDIR", wineprefix::temporaryFolder(), QDir::tempPath());
+}
+
+QString localDataFolder()
+{
+    return firstSet("LOCALAPPDATA", below(wineprefix::userFolder(), u"AppData/Local"_s),
+                    QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+}
+
+QString roamingDataFolder()
+{
+    return firstSet("APPDATA", below(wineprefix::userFolder(), u"AppData/Roaming"_s),
+                    QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+}
+
+QString homeFolder()
+{
+    return firstSet("USERPROFILE", wineprefix::userFolder(), QDir::homePath());
+}
+
+QString programDataFolder()
+{
+    return firstSet("PROGRAMDATA", below(wineprefix::systemDrive(), u"ProgramData"_s), {});
+}
+
+QString windowsFolder()
+{
+    return firstSet("WINDIR", below(wineprefix::systemDrive(), u"windows"_s), u"C:/Windows"_s);
+}
+
+QString systemDrive()
+{
+    return firstSet("SYSTEMDRIVE", wineprefix::systemDrive(), u"C:"_s);
+}
+
+QString locate(const QString &base, const QString &relative, QString *problem)
+{
+    QString folder = QDir::fromNativeSeparators(base).replace(u'\\', u'/');
+    if (startsWithDrive(folder)) {
+        const QString drive = wineprefix::drive(folder.at(0));
+        folder = drive.isEmpty() ? QString() : wineprefix::matchCase(drive, folder.mid(2));
+    }
+    const QString asked = folder;
+    folder = canonicalPath(folder);
+    if (folder.isEmpty()) {
+        if (problem)
+            *problem = problemWith(asked);
+        return {};
+    }
+
+    QString rest = relative;
+    rest.replace(u'\\', u'/');
+    const QStringList names = rest.split(u'/', Qt::SkipEmptyParts);
+    if (names.contains(".."_L1) || names.contains("."_L1)) {
+        if (problem)
+            *problem = u"a path with . or .. in it is not followed"_s;
+        return {};
+    }
+    rest = names.join(u'/');
+    if (rest.isEmpty())
+        return folder;
+
+    const QString prefix = wineprefix::folder();
+    if (!prefix.isEmpty() && (folder + u'/').startsWith(prefix + u'/'))
+        return wineprefix::matchCase(folder, rest, problem);
+    return (folder == u'/' ? folder : folder + u'/') + rest;
+}
+
+QString problemWith(const QString &path)
+{
+    struct stat data {
+    };
+    if (!QDir::isAbsolutePath(path) || ::stat(QFile::encodeName(path).constData(), &data) == 0
+        || errno == ENOENT || errno == ENOTDIR)
+        return {};
+    return qt_error_string(errno);
+}
+
+QString canonicalPath(const QString &path)
+{
+    return QDir::isAbsolutePath(path) ? QFileInfo(path).canonicalFilePath() : QString();
+}
+
+QString settingsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+}
+
+bool isTop(const QString &path)
+{
+    return path == u'/';
+}
+
+Qt::CaseSensitivity pathCase()
+{
+    return Qt::CaseSensitive;
+}
+
+} // namespace platform

@@ -1,0 +1,147 @@
+#include "windowspaths.h"
+
+#include "unix/wineprefix.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+QString localPath(const QString &path)
+{
+    QString local = path;
+    local.replace(u'\\', u'/');
+    if (local.startsWith("//?/"_L1))
+        local.remove(0, 4);
+    if (local.size() < 2 || local.at(1) != u':' || !local.at(0).isLetter())
+        return local;
+    const QString drive = wineprefix::drive(local.at(0));
+    if (drive.isEmpty())
+        return path; // with its backslashes it is nothing here
+    const QString exact = drive + u'/' + local.mid(2);
+    if (QFileInfo::exists(exact))
+        return exact;
+    // What ends in a separator is a folder or nothing.
+    return wineprefix::matchCase(drive, local.mid(2)) + (local.endsWith(u'/') ? u"/"_s : QString());
+}
+
+std::optional<QString> windowsVariable(const QString &name)
+{
+    if (wineprefix::folder().isEmpty())
+        return qEnvironmentVariable(name.toLatin1().constData());
+    return wineprefix::variable(name);
+}
+
+namespace {
+
+// What the system says of the path itself, case and all.
+Presence presenceAt(const QString &path)
+{
+    struct stat data {
+    };
+    if (::stat(QFile::encodeName(path).constData(), &data) == 0)
+        return Presence::Present;
+    switch (errno) {
+    case ENOENT:
+    case ENOTDIR:
+    case ELOOP:
+    case ENAMETOOLONG:
+        return Presence::Missing;
+    default:
+        return Presence::Unknown;
+    }
+}
+
+} // namespace
+
+class PathLookup::Private
+{
+public:
+    /// The names in a folder by what they are in one case; nothing when it cannot be listed.
+    using Names = std::optional<QHash<QString, QString>>;
+
+    const Names &namesIn(const QString &folder)
+    {
+        auto listed = m_folders.find(folder);
+        if (listed == m_folders.end())
+            listed = m_folders.insert(folder, list(folder));
+        return *listed;
+    }
+    QString driveAt(QChar letter)
+    {
+        auto drive = m_drives.find(letter.toLower());
+        if (drive == m_drives.end())
+            drive = m_drives.insert(letter.toLower(), wineprefix::drive(letter));
+        return *drive;
+    }
+
+private:
+    static Names list(const QString &folder)
+    {
+        if (::faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), R_OK | X_OK, AT_EACCESS)
+            != 0)
+            return {};
+        QHash<QString, QString> names;
+        const QStringList entries = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden
+                                                           | QDir::System | QDir::NoDotAndDotDot);
+        for (const QString &entry : entries)
+            names.insert(entry.toCaseFolded(), entry);
+        return names;
+    }
+
+    QHash<QString, Names> m_folders;
+    QHash<QChar, QString> m_drives;
+};
+
+PathLookup::PathLookup()
+    : d(std::make_unique<Private>())
+{
+}
+
+PathLookup::~PathLookup() = default;
+
+Presence PathLookup::presenceOf(const QString &path)
+{
+    QString relative = path.mid(2);
+    relative.replace(u'\\', u'/');
+    QString at = d->driveAt(path.at(0));
+    if (at.isEmpty())
+        return Presence::Missing;
+    const Presence exact = presenceAt(at + relative);
+    if (exact != Presence::Missing)
+        return exact;
+    const QStringList names = QDir::cleanPath(relative).split(u'/', Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        const QString next = at + u'/' + name;
+        const Presence presence = presenceAt(next);
+        if (presence == Presence::Unknown)
+            return presence;
+        if (presence == Presence::Present) {
+            at = next;
+            continue;
+        }
+        if (!QFileInfo(at).isDir())
+            return Presence::Missing;
+        const Private::Names &listed = d->namesIn(at);
+        if (!listed)
+            return Presence::Unknown;
+        const auto found = listed->constFind(name.toCaseFolded());
+        if (found == listed->cend())
+            return Presence::Missing;
+        at += u'/' + *found;
+    }
+    // What ends in a separator is a folder or nothing; a link may lead nowhere.
+    return presenceAt(relative.endsWith(u'/') ? at + u'/' : at);
+}
+
+} // namespace platform

@@ -1,0 +1,344 @@
+#include "unix/wineprefix.h"
+
+#include "registry_p.h"
+#include "unix/registryfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QMutex>
+
+#include <array>
+#include <cerrno>
+#include <optional>
+#include <tuple>
+#include <utility>
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform::wineprefix {
+
+namespace {
+
+QString existing(const QString &path)
+{
+    return QFileInfo(path).isDir() ? path : QString();
+}
+
+QString userName()
+{
+    const QString name = qEnvironmentVariable("USER");
+    if (!name.isEmpty())
+        return name;
+    const passwd *entry = ::getpwuid(::getuid());
+    return entry ? QString::fromLocal8Bit(entry->pw_name) : QString();
+}
+
+const QString environmentKey = u"Environment"_s;
+const QString machineEnvironmentKey =
+    u"System\\CurrentControlSet\\Control\\Session Manager\\Environment"_s;
+constexpr std::array environmentNames{"TEMP"_L1, "TMP"_L1};
+
+// Where the user's hive keeps the places of what people make; the second is what the first was
+// worth when it was last asked.
+const std::array folderKeys{
+    u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"_s,
+    u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders"_s};
+constexpr std::array folderNames{
+    "Desktop"_L1,
+    "Personal"_L1, // documents
+    "My Pictures"_L1,
+    "My Music"_L1,
+    "My Video"_L1,
+    "Favorites"_L1,
+    "{374DE290-123F-4565-9164-39C4925E467B}"_L1, // downloads
+    // The same as newer programs know them: documents, pictures, music, videos, downloads.
+    "{F42EE2D3-909F-4907-8871-4C22FC0BF756}"_L1,
+    "{0DDD015D-B06C-45D5-8C4C-F59713854639}"_L1,
+    "{A0C69A99-21C8-4671-8703-7934162FCF1D}"_L1,
+    "{35286A68-3C57-41A1-BBB1-0EAE73D76C95}"_L1,
+    "{7D83EE9B-2244-4E70-B1F5-5393042AF1E4}"_L1,
+};
+
+// Of a text of the registry: its key and its name.
+using Entry = std::pair<QString, QString>;
+
+template<class Keys, class Names>
+QList<Entry> entriesOf(const Keys &keys, const Names &names)
+{
+    QList<Entry> entries;
+    for (const QString &key : keys) {
+        for (const QLatin1StringView name : names)
+            entries.append({key, name});
+    }
+    return entries;
+}
+
+// The few texts that tell where things are, of one hive's file. They are asked for again and again:
+// the file is read once for as long as it stays the same.
+class LaidDown
+{
+public:
+    LaidDown(QLatin1StringView hive, const QList<Entry> &entries)
+        : m_hive(hive)
+        , m_entries(entries)
+    {
+    }
+
+    QString text(const QString &key, const QString &name)
+    {
+        const QMutexLocker locker(&m_mutex);
+        const QByteArray path = QFile::encodeName(folder() + m_hive);
+        struct stat status {
+        };
+        // Opening a pipe would wait for somebody to write into it.
+        if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
+            return {};
+        const Stamp stamp{path,           status.st_dev,         status.st_ino,
+                          status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+        if (m_stamp != stamp) {
+            m_texts = read(QFile::decodeName(path));
+            m_stamp = stamp;
+        }
+        return m_texts.value({key, name});
+    }
+
+private:
+    using Stamp = std::tuple<QByteArray, dev_t, ino_t, off_t, time_t, long>;
+
+    [[nodiscard]] QHash<Entry, QString> read(const QString &path) const
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        QHash<Entry, QString> texts;
+        const std::optional<RegistryFile> registry = RegistryFile::parse(file.readAll());
+        for (const auto &[key, name] : m_entries) {
+            const RegistryFile::Key found = registry ? registry->find(key) : RegistryFile::none;
+            const auto value =
+                found == RegistryFile::none ? std::nullopt : registry->value(found, name);
+            if (value)
+                texts.insert({key, name}, registryText(*value));
+        }
+        return texts;
+    }
+
+    const QString m_hive;
+    const QList<Entry> m_entries;
+    QMutex m_mutex;
+    std::optional<Stamp> m_stamp;
+    QHash<Entry, QString> m_texts;
+};
+
+LaidDown &ofUser()
+{
+    static LaidDown texts("/user.reg"_L1,
+                          entriesOf(QStringList{environmentKey}, environmentNames)
+                              + entriesOf(folderKeys, folderNames));
+    return texts;
+}
+
+// A text of the environment that the prefix's registry lays down: the user's, else the machine's.
+QString environmentValue(const QString &name)
+{
+    static LaidDown ofMachine("/system.reg"_L1,
+                              entriesOf(QStringList{machineEnvironmentKey}, environmentNames));
+    const QString text = ofUser().text(environmentKey, name);
+    return text.isEmpty() ? ofMachine.text(machineEnvironmentKey, name) : text;
+}
+
+// A folder below the C: drive as Windows programs name it; empty for others.
+QString windowsPath(const QString &folder)
+{
+    const QString drive = systemDrive();
+    if (drive.isEmpty() || !(folder + u'/').startsWith(drive + u'/'))
+        return {};
+    return "C:"_L1 + folder.mid(drive.size()).replace(u'/', u'\\');
+}
+
+// What Wine sets for every program.
+std::optional<QString> fixedVariable(const QString &name)
+{
+    static const QHash<QString, QString> values{
+        {u"SYSTEMROOT"_s, u"C:\\windows"_s},
+        {u"WINDIR"_s, u"C:\\windows"_s},
+        {u"PROGRAMFILES"_s, u"C:\\Program Files"_s},
+        {u"PROGRAMFILES(X86)"_s, u"C:\\Program Files (x86)"_s},
+        {u"COMMONPROGRAMFILES"_s, u"C:\\Program Files\\Common Files"_s},
+        {u"COMMONPROGRAMFILES(X86)"_s, u"C:\\Program Files (x86)\\Common Files"_s},
+        {u"PROGRAMDATA"_s, u"C:\\ProgramData"_s},
+        {u"PUBLIC"_s, u"C:\\users\\Public"_s},
+        {u"SYSTEMDRIVE"_s, u"C:"_s},
+        {u"HOMEDRIVE"_s, u"C:"_s},
+    };
+    const auto value = values.constFind(name);
+    return value == values.cend() ? std::nullopt : std::optional(*value);
+}
+
+std::optional<QString> userVariable(const QString &name)
+{
+    const QString user = windowsPath(userFolder());
+    if (user.isEmpty())
+        return {};
+    if (name == "USERPROFILE"_L1)
+        return user;
+    if (name == "HOMEPATH"_L1)
+        return user.mid(2);
+    if (name == "LOCALAPPDATA"_L1)
+        return user + "\\AppData\\Local"_L1;
+    if (name == "APPDATA"_L1)
+        return user + "\\AppData\\Roaming"_L1;
+    return {};
+}
+
+// With the variables in it replaced; nothing when one of them is not known.
+std::optional<QString> expanded(const QString &text)
+{
+    QString result;
+    qsizetype at = 0;
+    for (;;) {
+        const qsizetype begin = text.indexOf(u'%', at);
+        const qsizetype end = begin < 0 ? -1 : text.indexOf(u'%', begin + 1);
+        if (end < 0)
+            return result + text.mid(at);
+        const QString name = text.mid(begin + 1, end - begin - 1).toUpper();
+        const std::optional<QString> fixed = fixedVariable(name);
+        const std::optional<QString> value = fixed ? fixed : userVariable(name);
+        if (!value)
+            return {};
+        result += text.mid(at, begin - at) + *value;
+        at = end + 1;
+    }
+}
+
+} // namespace
+
+QString folder()
+{
+    QString path = qEnvironmentVariable("WINEPREFIX");
+    if (path.isEmpty())
+        path = QDir::homePath() + "/.wine"_L1;
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() || existing(canonical + "/drive_c"_L1).isEmpty() ? QString()
+                                                                                : canonical;
+}
+
+QString systemDrive()
+{
+    const QString prefix = folder();
+    return prefix.isEmpty() ? QString() : QFileInfo(prefix + "/drive_c"_L1).canonicalFilePath();
+}
+
+QString userFolder()
+{
+    const QString drive = systemDrive();
+    if (drive.isEmpty())
+        return {};
+    const QString users = matchCase(drive, u"users"_s);
+    const QString own = existing(matchCase(users, userName()));
+    if (!own.isEmpty() && own != users)
+        return own;
+    // A prefix that somebody else made: only one profile beside the public one leaves no doubt.
+    QStringList profiles = QDir(users).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    profiles.removeIf(
+        [](const QString &name) { return name.compare("Public"_L1, Qt::CaseInsensitive) == 0; });
+    return profiles.size() == 1 ? users + u'/' + profiles.constFirst() : QString();
+}
+
+std::optional<QString> variable(const QString &name)
+{
+    if (folder().isEmpty())
+        return {};
+    if (name == "TEMP"_L1 || name == "TMP"_L1) {
+        const QString laidDown = environmentValue(name);
+        return expanded(laidDown.isEmpty() ? u"%LOCALAPPDATA%\\Temp"_s : laidDown);
+    }
+    const std::optional<QString> fixed = fixedVariable(name);
+    return fixed ? fixed : userVariable(name);
+}
+
+QString temporaryFolder()
+{
+    // In the order in which Windows asks them.
+    for (const QString &name : {u"TMP"_s, u"TEMP"_s}) {
+        const std::optional<QString> path = variable(name);
+        if (const QString local = path ? localPath(*path) : QString(); !local.isEmpty())
+            return local;
+    }
+    const std::optional<QString> otherwise = expanded(u"%LOCALAPPDATA%\\Temp"_s);
+    return otherwise ? localPath(*otherwise) : QString();
+}
+
+QString localPath(const QString &windowsPath)
+{
+    QString path = windowsPath;
+    path.replace(u'\\', u'/');
+    const bool hasDrive = path.size() >= 3 && path.at(1) == u':' && path.at(2) == u'/';
+    const QString top = hasDrive ? drive(path.at(0)) : QString();
+    return top.isEmpty() ? QString() : matchCase(top, path.mid(2));
+}
+
+QStringList personalFolders()
+{
+    QStringList folders;
+    for (const auto &[key, name] : entriesOf(folderKeys, folderNames)) {
+        const std::optional<QString> path = expanded(ofUser().text(key, name));
+        if (const QString local = path ? localPath(*path) : QString(); !local.isEmpty())
+            folders.append(local);
+    }
+    return folders;
+}
+
+QString drive(QChar letter)
+{
+    const QString prefix = folder();
+    if (prefix.isEmpty())
+        return {};
+    return QFileInfo(prefix + "/dosdevices/"_L1 + letter.toLower() + u':').canonicalFilePath();
+}
+
+QStringList drives()
+{
+    QStringList folders;
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        if (const QString target = drive(QLatin1Char(letter)); !target.isEmpty())
+            folders.append(target);
+    }
+    return folders;
+}
+
+QString matchCase(const QString &base, const QString &relative, QString *problem)
+{
+    QString path = base;
+    const QStringList names = relative.split(u'/', Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        const QString exact = path + u'/' + name;
+        const QFileInfo info(exact);
+        QString found = name;
+        if (!info.exists() && !info.isSymLink()) {
+            const QStringList entries = QDir(path).entryList(QDir::AllEntries | QDir::Hidden
+                                                             | QDir::System | QDir::NoDotAndDotDot);
+            for (const QString &entry : entries) {
+                if (entry.compare(name, Qt::CaseInsensitive) == 0) {
+                    found = entry;
+                    break;
+                }
+            }
+            if (problem && problem->isEmpty() && QFileInfo(path).isDir()
+                && ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), R_OK | X_OK,
+                               AT_EACCESS)
+                    != 0)
+                *problem = qt_error_string(errno);
+        }
+        path += u'/' + found;
+    }
+    return path;
+}
+
+} // namespace platform::wineprefix

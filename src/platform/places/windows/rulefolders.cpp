@@ -1,0 +1,167 @@
+#include "rulefolders.h"
+#include "canonicalpath_p.h"
+
+#include "windows/openentry.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+#include <windows.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+QString fromEnvironment(const char *variable, const QString &otherwise = {})
+{
+    const QString value = qEnvironmentVariable(variable);
+    return value.isEmpty() ? otherwise : QDir::fromNativeSeparators(value);
+}
+
+// A bare drive is its top here; to the system it would be whatever folder is current on it.
+QString absolutePath(const QString &path)
+{
+    QString folder = QDir::fromNativeSeparators(path);
+    if (folder.size() == 2 && folder.at(1) == u':')
+        folder += u'/';
+    const QString cleaned = QDir::cleanPath(folder);
+    return extendedPath(cleaned).isEmpty() ? QString() : cleaned;
+}
+
+// The name by which a folder knows an entry, which may differ in case or be the long form of a
+// short one; nothing is opened for it. Empty when there is no such entry.
+QString storedName(const QString &extended)
+{
+    WIN32_FIND_DATAW data{};
+    const HANDLE search =
+        ::FindFirstFileExW(reinterpret_cast<const wchar_t *>(extended.utf16()), FindExInfoBasic,
+                           &data, FindExSearchNameMatch, nullptr, 0);
+    if (search == INVALID_HANDLE_VALUE)
+        return {};
+    ::FindClose(search);
+    return QString::fromWCharArray(data.cFileName);
+}
+
+bool hasWildcard(const QString &name)
+{
+    return std::any_of(name.begin(), name.end(), [](QChar c) { return "*?<>\""_L1.contains(c); });
+}
+
+} // namespace
+
+QString temporaryFolder()
+{
+    return QDir::tempPath();
+}
+
+QString localDataFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+QString roamingDataFolder()
+{
+    // Of the standard locations only this one lies below the roaming root.
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    for (const QString &own :
+         {QCoreApplication::applicationName(), QCoreApplication::organizationName()}) {
+        if (!own.isEmpty() && folder.endsWith(u'/' + own))
+            folder.chop(own.size() + 1);
+    }
+    return folder;
+}
+
+QString homeFolder()
+{
+    return QDir::homePath();
+}
+
+QString programDataFolder()
+{
+    return fromEnvironment("PROGRAMDATA");
+}
+
+QString windowsFolder()
+{
+    return fromEnvironment("WINDIR", u"C:/Windows"_s);
+}
+
+QString systemDrive()
+{
+    return fromEnvironment("SYSTEMDRIVE", u"C:"_s);
+}
+
+QString settingsFolder()
+{
+    return roamingDataFolder();
+}
+
+QString problemWith(const QString &path)
+{
+    const QString extended = extendedPath(path);
+    if (extended.isEmpty() || openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow).isValid()
+        || isMissing(::GetLastError()))
+        return {};
+    return reasonOf(::GetLastError());
+}
+
+QString locate(const QString &base, const QString &relative, QString *problem)
+{
+    QString path = canonicalPath(absolutePath(base));
+    if (path.isEmpty()) {
+        if (problem)
+            *problem = problemWith(absolutePath(base));
+        return {};
+    }
+    QString rest = relative;
+    rest.replace(u'\\', u'/');
+    const QStringList names = rest.split(u'/', Qt::SkipEmptyParts);
+    if (names.contains(".."_L1) || names.contains("."_L1)) {
+        if (problem)
+            *problem = u"a path with . or .. in it is not followed"_s;
+        return {};
+    }
+    bool exists = true;
+    for (const QString &name : names) {
+        if (!path.endsWith(u'/'))
+            path += u'/';
+        const QString stored =
+            exists && !hasWildcard(name) ? storedName(extendedPath(path + name)) : QString();
+        exists = !stored.isEmpty();
+        path += exists ? stored : name;
+    }
+    return path;
+}
+
+QString canonicalPath(const QString &path)
+{
+    const QString extended = extendedPath(path);
+    if (extended.isEmpty())
+        return {};
+    const UniqueHandle entry = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);
+    if (!entry.isValid())
+        return {};
+    const QString canonical = finalPath(entry, PathForm::Drive);
+    // A volume may be known to the system by a name that no path can begin with.
+    if (canonical.isEmpty() || !openEntry(canonical, FILE_READ_ATTRIBUTES, Links::Follow).isValid())
+        return {};
+    return plainPath(canonical);
+}
+
+bool isTop(const QString &path)
+{
+    const QString extended = extendedPath(path);
+    return extended.size() == rootLength(extended);
+}
+
+Qt::CaseSensitivity pathCase()
+{
+    return Qt::CaseInsensitive;
+}
+
+} // namespace platform

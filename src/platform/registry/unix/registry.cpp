@@ -1,0 +1,402 @@
+#include "registry_p.h"
+
+#include "filesync.h"
+#include "unix/registryfile.h"
+#include "unix/registrytext.h"
+#include "unix/wineprefix.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QSet>
+
+#include <algorithm>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+// Tells a file that was written in between from the one that was read.
+struct Stamp {
+    bool exists = false;
+    ino_t inode = 0;
+    off_t size = 0;
+    timespec changed{};
+
+    [[nodiscard]] bool operator==(const Stamp &other) const
+    {
+        return exists == other.exists && inode == other.inode && size == other.size
+            && changed.tv_sec == other.changed.tv_sec && changed.tv_nsec == other.changed.tv_nsec;
+    }
+};
+
+Stamp stampOf(const QString &path)
+{
+    struct stat data {
+    };
+    if (::stat(QFile::encodeName(path).constData(), &data) != 0)
+        return {};
+    return {true, data.st_ino, data.st_size, data.st_mtim};
+}
+
+struct HiveFile {
+    QString path;
+    Stamp stamp;
+    std::optional<RegistryFile> content;
+    QString error; ///< why there is no content; empty when there is no such file
+};
+
+HiveFile readHive(const QString &path)
+{
+    HiveFile hive;
+    hive.path = path;
+    hive.stamp = stampOf(path);
+    QFile file(path);
+    if (!file.exists())
+        return hive;
+    if (!file.open(QIODevice::ReadOnly)) {
+        hive.error = RegistryTexts::tr("%1 cannot be read: %2").arg(path, file.errorString());
+        return hive;
+    }
+    const QByteArray text = file.readAll();
+    // Half a file would be written back as a whole one.
+    if (file.error() != QFileDevice::NoError || text.size() != hive.stamp.size) {
+        hive.error = RegistryTexts::tr("%1 cannot be read: %2").arg(path, file.errorString());
+        return hive;
+    }
+    hive.content = RegistryFile::parse(text);
+    if (!hive.content)
+        hive.error = RegistryTexts::tr("%1 is not a registry file").arg(path);
+    return hive;
+}
+
+// Wine's server works in a folder that is named after the prefix's device and file number.
+bool isPrefixInUse(const QString &prefix)
+{
+    struct stat data {
+    };
+    if (::stat(QFile::encodeName(prefix).constData(), &data) != 0)
+        return false;
+    const QString name =
+        u"/server-%1-%2"_s.arg(QString::number(data.st_dev, 16), QString::number(data.st_ino, 16));
+    const QStringList processes = QDir(u"/proc"_s).entryList({u"[1-9]*"_s}, QDir::Dirs);
+    return std::any_of(processes.begin(), processes.end(), [&name](const QString &process) {
+        return QFile::symLinkTarget("/proc/"_L1 + process + "/cwd"_L1).endsWith(name);
+    });
+}
+
+} // namespace
+
+class Registry::Private
+{
+public:
+    /// The keys that together are the one asked for, the first with precedence.
+    struct Place {
+        RegistryFile *file = nullptr;
+        RegistryFile::Key key = RegistryFile::none;
+    };
+
+    [[nodiscard]] QList<Place> places(Hive hive, const QString &key);
+    [[nodiscard]] HiveFile &file(Hive hive);
+    /// Where a change of an existing key is made; without a file or key the error is set.
+    [[nodiscard]] Place placeToChange(Hive hive, const QString &key);
+    bool refuse(const QString &message)
+    {
+        error = message;
+        return false;
+    }
+    bool isAllowed(Hive hive, const QString &key)
+    {
+        if (hive == Hive::ClassesRoot)
+            return refuse(noChangeOfMergedClasses());
+        return Registry::isKeyPath(key)
+            || refuse(RegistryTexts::tr("'%1' is not the path of a key").arg(key));
+    }
+
+    QString error;
+    QList<Hive> saved;
+
+private:
+    std::optional<HiveFile> m_machine;
+    std::optional<HiveFile> m_user;
+};
+
+HiveFile &Registry::Private::file(Hive hive)
+{
+    const bool isUser = hive == Hive::CurrentUser;
+    std::optional<HiveFile> &file = isUser ? m_user : m_machine;
+    if (!file) {
+        const QString prefix = wineprefix::folder();
+        file = prefix.isEmpty() ? HiveFile()
+                                : readHive(prefix + (isUser ? "/user.reg"_L1 : "/system.reg"_L1));
+    }
+    return *file;
+}
+
+QList<Registry::Private::Place> Registry::Private::places(Hive hive, const QString &key)
+{
+    QList<Place> found;
+    const auto add = [&](Hive where, const QString &path) {
+        HiveFile &content = file(where);
+        const RegistryFile::Key place =
+            content.content ? content.content->find(path) : RegistryFile::none;
+        if (place != RegistryFile::none)
+            found.append({&*content.content, place});
+    };
+    if (hive == Hive::ClassesRoot) {
+        add(Hive::CurrentUser, classPath(key));
+        add(Hive::LocalMachine, classPath(key));
+    } else {
+        add(hive, key);
+    }
+    return found;
+}
+
+Registry::Private::Place Registry::Private::placeToChange(Hive hive, const QString &key)
+{
+    if (!isAllowed(hive, key))
+        return {};
+    const QList<Place> found = places(hive, key);
+    if (found.isEmpty()) {
+        error = RegistryTexts::tr("There is no such key");
+        return {};
+    }
+    if (found.constFirst().file->isLink(found.constFirst().key)) {
+        error = RegistryTexts::tr("The key is a link to another one");
+        return {};
+    }
+    return found.constFirst();
+}
+
+Registry::Registry()
+    : d(std::make_unique<Private>())
+{
+}
+
+Registry::~Registry() = default;
+Registry::Registry(Registry &&other) noexcept = default;
+Registry &Registry::operator=(Registry &&other) noexcept = default;
+
+bool Registry::hasKey(Hive hive, const QString &key) const
+{
+    return !d->places(hive, key).isEmpty();
+}
+
+QStringList Registry::subkeys(Hive hive, const QString &key) const
+{
+    // What the machine's keys have and the user's add to them.
+    const QList<Private::Place> places = d->places(hive, key);
+    QStringList names;
+    QSet<QString> seen;
+    for (auto place = places.crbegin(); place != places.crend(); ++place) {
+        const QStringList more = place->file->subkeys(place->key);
+        if (places.size() == 1)
+            return more;
+        for (const QString &name : more) {
+            const QString folded = registrytext::folded(name);
+            if (!seen.contains(folded))
+                names.append(name);
+            seen.insert(folded);
+        }
+    }
+    return names;
+}
+
+QStringList Registry::valueNames(Hive hive, const QString &key) const
+{
+    const QList<Private::Place> places = d->places(hive, key);
+    if (places.size() == 1)
+        return places.constFirst().file->valueNames(places.constFirst().key);
+    QStringList names;
+    QSet<QString> seen;
+    for (const Private::Place &place : places) {
+        for (const QString &name : place.file->valueNames(place.key)) {
+            const QString folded = registrytext::folded(name);
+            if (!seen.contains(folded))
+                names.append(name);
+            seen.insert(folded);
+        }
+    }
+    return names;
+}
+
+QString Registry::text(Hive hive, const QString &key, const QString &name) const
+{
+    const std::optional<RegistryValue> found = value(hive, key, name);
+    return found ? registryText(*found) : QString();
+}
+
+std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
+                                             const QString &name) const
+{
+    for (const Private::Place &place : d->places(hive, key)) {
+        if (std::optional<RegistryValue> found = place.file->value(place.key, name))
+            return found;
+    }
+    return std::nullopt;
+}
+
+std::optional<QList<RegistryValue>> Registry::values(Hive hive, const QString &key,
+                                                     qsizetype maximumSize) const
+{
+    if (!hasKey(hive, key))
+        return std::nullopt;
+    QList<RegistryValue> all;
+    for (const QString &name : valueNames(hive, key)) {
+        std::optional<RegistryValue> found = value(hive, key, name);
+        if (found && found->data.size() <= maximumSize)
+            all.append(*std::move(found));
+    }
+    return all;
+}
+
+bool Registry::deleteTree(Hive hive, const QString &key)
+{
+    const Private::Place place = d->placeToChange(hive, key);
+    if (place.file)
+        place.file->removeTree(place.key);
+    return place.file;
+}
+
+bool Registry::deleteKey(Hive hive, const QString &key)
+{
+    const Private::Place place = d->placeToChange(hive, key);
+    if (!place.file)
+        return false;
+    if (!place.file->subkeys(place.key).isEmpty())
+        return d->refuse(RegistryTexts::tr("There are keys below it"));
+    place.file->removeTree(place.key);
+    return true;
+}
+
+bool Registry::deleteValue(Hive hive, const QString &key, const QString &name)
+{
+    const Private::Place place = d->placeToChange(hive, key);
+    if (!place.file)
+        return false;
+    return place.file->removeValue(place.key, name)
+        || d->refuse(RegistryTexts::tr("There is no such value"));
+}
+
+bool Registry::createKey(Hive hive, const QString &key)
+{
+    if (!d->isAllowed(hive, key))
+        return false;
+    if (hasKey(hive, key))
+        return true;
+    HiveFile &file = d->file(hive);
+    if (!file.content)
+        return d->refuse(file.error.isEmpty() ? RegistryTexts::tr("There is no registry")
+                                              : file.error);
+    for (qsizetype end = key.indexOf(u'\\'); end >= 0; end = key.indexOf(u'\\', end + 1)) {
+        const RegistryFile::Key above = file.content->find(key.first(end));
+        if (above != RegistryFile::none && file.content->isLink(above))
+            return d->refuse(RegistryTexts::tr("The key is a link to another one"));
+    }
+    file.content->create(key);
+    return true;
+}
+
+bool Registry::setValue(Hive hive, const QString &key, const RegistryValue &value)
+{
+    const Private::Place place = d->placeToChange(hive, key);
+    if (place.file)
+        place.file->setValue(place.key, value);
+    return place.file;
+}
+
+bool Registry::save()
+{
+    struct Change {
+        Hive hive;
+        HiveFile *file;
+        std::unique_ptr<QSaveFile> saver;
+    };
+    std::vector<Change> changes;
+    QList<Hive> saved;
+    for (const Hive hive : {Hive::LocalMachine, Hive::CurrentUser}) {
+        HiveFile &file = d->file(hive);
+        if (file.content && file.content->isChanged())
+            changes.push_back({hive, &file, std::make_unique<QSaveFile>(file.path)});
+        else
+            saved.append(hive);
+    }
+    // What was read is not what the files are any more, or never became it.
+    const auto end = [this, &saved](const QString &error) {
+        *d = Private();
+        d->saved = saved;
+        d->error = error;
+        return error.isEmpty();
+    };
+    if (changes.empty()) {
+        d->saved = saved;
+        return true;
+    }
+    // Each is on the disk under another name before the first takes the place of the old one.
+    for (const Change &change : changes) {
+        QString error;
+        if (!change.saver->open(QIODevice::WriteOnly))
+            error = change.saver->errorString();
+        if (!error.isEmpty() || !writeToDisk(*change.saver, change.file->content->text(), error))
+            return end(RegistryTexts::tr("%1 cannot be written: %2").arg(change.file->path, error));
+    }
+    const QString prefix = wineprefix::folder();
+    if (isPrefixInUse(prefix))
+        return end(RegistryTexts::tr(
+                       "Windows programs are running in the Wine prefix %1; end them and try again")
+                       .arg(prefix));
+    for (const Change &change : changes) {
+        if (!(stampOf(change.file->path) == change.file->stamp))
+            return end(RegistryTexts::tr("%1 was changed by another program; scan again")
+                           .arg(change.file->path));
+    }
+    for (const Change &change : changes) {
+        if (!change.saver->commit())
+            return end(RegistryTexts::tr("%1 cannot be written: %2")
+                           .arg(change.file->path, change.saver->errorString()));
+        saved.append(change.hive);
+    }
+    QString error;
+    if (!syncFolder(prefix, error))
+        return end(RegistryTexts::tr("%1 cannot be written: %2").arg(prefix, error));
+    return end({});
+}
+
+bool Registry::isSaved(Hive hive) const
+{
+    return d->saved.contains(hive);
+}
+
+QString Registry::errorString() const
+{
+    return d->error;
+}
+
+bool isRegistryFile(const QString &path)
+{
+    struct stat asked {
+    };
+    const bool exists = ::stat(QFile::encodeName(path).constData(), &asked) == 0;
+    if (exists && S_ISREG(asked.st_mode) && beginsAsRegistryFile(path))
+        return true;
+    const QString prefix = wineprefix::folder();
+    if (prefix.isEmpty())
+        return false;
+    for (const QLatin1StringView name : {"/system.reg"_L1, "/user.reg"_L1, "/userdef.reg"_L1}) {
+        const QString file = prefix + name;
+        struct stat data {
+        };
+        if (path == file
+            || (exists && ::stat(QFile::encodeName(file).constData(), &data) == 0
+                && data.st_dev == asked.st_dev && data.st_ino == asked.st_ino))
+            return true;
+    }
+    return false;
+}
+
+} // namespace platform

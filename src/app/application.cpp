@@ -17,18 +17,26 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// The key as it comes back from the file.
-QString keyInFile(QLatin1StringView key)
+/// What the application owns. Deleted in the reverse order: the window before its engines.
+class Application::Private
 {
-    QString name = key;
-    if (name.startsWith("general/"_L1))
-        name[0] = u'G';
-    return name;
-}
+public:
+    void stopEngines() const
+    {
+        const std::array<CleanEngine *, 3> engines{junkCleaner.get(), browserCleaner.get(),
+                                                   registryCleaner.get()};
+        for (CleanEngine *engine : engines)
+            engine->cancel();
+        for (CleanEngine *engine : engines)
+            engine->stopAndWait();
+    }
 
-} // namespace
+    std::unique_ptr<JunkCleaner> junkCleaner;
+    std::unique_ptr<BrowserCleaner> browserCleaner;
+    std::unique_ptr<RegistryCleaner> registryCleaner;
+    std::unique_ptr<MainWindow> mainWindow;
+    std::unique_ptr<QSettings> settings;
+};
 
 Application *Application::instance()
 {
@@ -36,15 +44,18 @@ Application *Application::instance()
     return application;
 }
 
-Application::Application() = default;
+Application::Application()
+    : d(std::make_unique<Private>())
+{
+}
 
 Application::~Application() = default;
 
 void Application::initialize()
 {
     setAsideDamagedSettings(appinfo::name + ".ini"_L1);
-    m_settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                             appinfo::organisation, appinfo::name);
+    d->settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                              appinfo::organisation, appinfo::name);
 
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(dataFolder + "/logs"_L1);
@@ -52,40 +63,44 @@ void Application::initialize()
     Logger::instance().init(dataFolder + "/logs"_L1);
     Logger::instance().info(u"Application initializing..."_s);
 
-    m_junkCleaner = std::make_unique<JunkCleaner>();
-    m_browserCleaner = std::make_unique<BrowserCleaner>();
-    m_registryCleaner = std::make_unique<RegistryCleaner>();
-    m_junkCleaner->loadRules(u":/rules/junk_rules.json"_s);
-    m_browserCleaner->loadRules(u":/rules/browser_rules.json"_s);
-    connect(qApp, &QCoreApplication::aboutToQuit, this, &Application::stopEngines);
+    d->junkCleaner = std::make_unique<JunkCleaner>();
+    d->browserCleaner = std::make_unique<BrowserCleaner>();
+    d->registryCleaner = std::make_unique<RegistryCleaner>();
+    d->junkCleaner->loadRules(u":/rules/junk_rules.json"_s);
+    d->browserCleaner->loadRules(u":/rules/browser_rules.json"_s);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { d->stopEngines(); });
 
     Logger::instance().info(u"Application initialized successfully"_s);
 }
 
 void Application::showMainWindow()
 {
-    if (!m_mainWindow)
-        m_mainWindow = std::make_unique<MainWindow>();
-    m_mainWindow->show();
+    if (!d->mainWindow)
+        d->mainWindow = std::make_unique<MainWindow>();
+    d->mainWindow->show();
 }
 
-bool Application::option(QLatin1StringView key, bool otherwise) const
+JunkCleaner *Application::junkCleaner() const
 {
-    return m_settings->value(key, m_settings->value(keyInFile(key), otherwise)).toBool();
+    return d->junkCleaner.get();
 }
 
-void Application::setOption(QLatin1StringView key, bool on)
+BrowserCleaner *Application::browserCleaner() const
 {
-    m_settings->remove(keyInFile(key));
-    m_settings->setValue(key, on);
+    return d->browserCleaner.get();
 }
 
-void Application::stopEngines()
+RegistryCleaner *Application::registryCleaner() const
 {
-    const std::array<CleanEngine *, 3> engines{m_junkCleaner.get(), m_browserCleaner.get(),
-                                               m_registryCleaner.get()};
-    for (CleanEngine *engine : engines)
-        engine->cancel();
-    for (CleanEngine *engine : engines)
-        engine->stopAndWait();
+    return d->registryCleaner.get();
+}
+
+MainWindow *Application::mainWindow() const
+{
+    return d->mainWindow.get();
+}
+
+QSettings *Application::settings() const
+{
+    return d->settings.get();
 }

@@ -12,6 +12,7 @@
 #include "largefilepage.h"
 #include "linkmanager.h"
 #include "navbutton.h"
+#include "options.h"
 #include "registrycleaner.h"
 #include "registrypage.h"
 #include "settingsdialog.h"
@@ -19,6 +20,7 @@
 #include "svgicon.h"
 #include "theme.h"
 #include "titlebar.h"
+#include <QSettings>
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -386,7 +388,8 @@ void MainWindow::showTrayMessage(const QString &title, const QString &text, int 
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    const bool toTray = Application::instance()->option("general/minimizeToTray"_L1, false);
+    const bool toTray =
+        options::isOn(*Application::instance()->settings(), options::minimizeToTray);
     if (toTray && isTrayShown()) {
         hide();
         showTrayMessage(tr("Sweepwise"),

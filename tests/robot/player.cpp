@@ -4,6 +4,7 @@
 #include "dice.h"
 #include "eyes.h"
 #include "mainwindow.h"
+#include "options.h"
 #include "titlebar.h"
 
 #include <QAbstractScrollArea>
@@ -204,7 +205,8 @@ void Player::foreseePress(const QWidget *widget)
             : current()->chosen();
     } else if (button->objectName() == "startCleanBtn"_L1
                || (button->objectName() == "cleanBtn"_L1 && current()->name() != "registry"_L1
-                   && !Application::instance()->option("clean/confirmClean"_L1, true))) {
+                   && !options::isOn(*Application::instance()->settings(),
+                                     options::confirmClean))) {
         m_action.isConfirmation = true;
         m_action.chosen = current()->chosen();
     }

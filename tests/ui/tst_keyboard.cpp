@@ -1,4 +1,5 @@
 #include "application.h"
+#include "options.h"
 
 #include "appinfo.h"
 #include "categorywidget.h"
@@ -248,7 +249,8 @@ private Q_SLOTS:
         dialog.findChild<QPushButton *>(button)->setFocus();
         QTest::keyClick(&dialog, Qt::Key_Return);
         QVERIFY(!dialog.isVisible());
-        QCOMPARE(Application::instance()->option("clean/confirmClean"_L1, true), !saves);
+        QCOMPARE(options::isOn(*Application::instance()->settings(), options::confirmClean),
+                 !saves);
     }
 
     void theDetailsCloseByEnterOnTheirButtonAndByEscape()
@@ -445,7 +447,7 @@ private Q_SLOTS:
         QVERIFY(tabTo(nav(6)));
         press(Qt::Key_Return);
         QVERIFY(!shownDialog<SettingsDialog>());
-        QCOMPARE(Application::instance()->option("clean/confirmClean"_L1, true), false);
+        QCOMPARE(options::isOn(*Application::instance()->settings(), options::confirmClean), false);
     }
 
     void aCardsMenuOpensByItsKey()

@@ -102,6 +102,7 @@ private Q_SLOTS:
     {
         QGuiApplication::setQuitOnLastWindowClosed(false);
         Application::instance()->initialize();
+        Logger::instance().init(m_home.folder(u"logs"_s));
     }
 
     void cleanupTestCase() { QSettings(appinfo::organisation, appinfo::name).clear(); }

@@ -3,6 +3,7 @@
 #include "aboutdialog.h"
 #include "application.h"
 #include "autostart.h"
+#include "options.h"
 #include "theme.h"
 
 #include <QCheckBox>
@@ -16,11 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr QLatin1StringView autoStartKey("general/autoStart");
-constexpr QLatin1StringView minimizeToTrayKey("general/minimizeToTray");
-constexpr QLatin1StringView confirmCleanKey("clean/confirmClean");
-constexpr QLatin1StringView backupRegistryKey("clean/backupRegistry");
 
 } // namespace
 
@@ -101,22 +97,22 @@ void SettingsDialog::buildButtons(QVBoxLayout *layout)
 
 void SettingsDialog::load()
 {
-    const auto *application = Application::instance();
-    m_autoStart->setChecked(application->option(autoStartKey, false));
-    m_minimizeToTray->setChecked(application->option(minimizeToTrayKey, false));
-    m_confirmClean->setChecked(application->option(confirmCleanKey, true));
-    m_backupRegistry->setChecked(application->option(backupRegistryKey, true));
+    const QSettings &settings = *Application::instance()->settings();
+    m_autoStart->setChecked(options::isOn(settings, options::autoStart));
+    m_minimizeToTray->setChecked(options::isOn(settings, options::minimizeToTray));
+    m_confirmClean->setChecked(options::isOn(settings, options::confirmClean));
+    m_backupRegistry->setChecked(options::isOn(settings, options::backupRegistry));
 }
 
 void SettingsDialog::onSaveClicked()
 {
-    auto *application = Application::instance();
-    const bool autoStartBefore = application->option(autoStartKey, false);
-    application->setOption(autoStartKey, m_autoStart->isChecked());
-    application->setOption(minimizeToTrayKey, m_minimizeToTray->isChecked());
-    application->setOption(confirmCleanKey, m_confirmClean->isChecked());
-    application->setOption(backupRegistryKey, m_backupRegistry->isChecked());
-    application->settings()->sync();
+    QSettings &settings = *Application::instance()->settings();
+    const bool autoStartBefore = options::isOn(settings, options::autoStart);
+    options::set(settings, options::autoStart, m_autoStart->isChecked());
+    options::set(settings, options::minimizeToTray, m_minimizeToTray->isChecked());
+    options::set(settings, options::confirmClean, m_confirmClean->isChecked());
+    options::set(settings, options::backupRegistry, m_backupRegistry->isChecked());
+    settings.sync();
     // An entry that the user has removed by other means is not forced back by every save.
     if (m_autoStart->isChecked() != autoStartBefore)
         autostart::set(m_autoStart->isChecked());

@@ -3,6 +3,7 @@
 #include "application.h"
 #include "categorywidget.h"
 #include "cleanengine.h"
+#include "options.h"
 #include "progressdialog.h"
 #include "svglabel.h"
 #include "theme.h"
@@ -237,7 +238,7 @@ void BasePage::startClean()
         showNotice(tr("Notice"), tr("No items selected"));
         return;
     }
-    const bool confirm = Application::instance()->option("clean/confirmClean"_L1, true);
+    const bool confirm = options::isOn(*Application::instance()->settings(), options::confirmClean);
     if (confirm) {
         QMessageBox box(QMessageBox::Question, tr("Confirm Clean"),
                         tr("Are you sure you want to clean %1 selected items?\n"

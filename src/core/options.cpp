@@ -1,0 +1,35 @@
+#include "options.h"
+
+#include <QSettings>
+#include <QString>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The key as it comes back from the file.
+QString keyInFile(QLatin1StringView key)
+{
+    QString name = key;
+    if (name.startsWith("general/"_L1))
+        name[0] = u'G';
+    return name;
+}
+
+} // namespace
+
+namespace options {
+
+bool isOn(const QSettings &settings, const Option &option)
+{
+    const QVariant inFile = settings.value(keyInFile(option.key), option.defaultValue);
+    return settings.value(option.key, inFile).toBool();
+}
+
+void set(QSettings &settings, const Option &option, bool on)
+{
+    settings.remove(keyInFile(option.key));
+    settings.setValue(option.key, on);
+}
+
+} // namespace options

@@ -1,5 +1,18 @@
-# sweepwise_catalogues(<target> <code>...): compiles the catalogues of resources/translations, together with the toolkit's own texts
-# in the same languages, into the resources ":/translations/Sweepwise_<code>.qm" of a library.
+# Reads the languages of the program, and makes languages.h of them.
+set(languages_file "${PROJECT_SOURCE_DIR}/resources/translations/languages.txt")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${languages_file}")
+file(STRINGS "${languages_file}" lines REGEX "^[^#]" ENCODING UTF-8)
+set(SWEEPWISE_LANGUAGES)
+set(SWEEPWISE_LANGUAGE_ROWS "")
+foreach(line IN LISTS lines)
+    string(REGEX MATCH "^([^ ]+) (.+)$" line "${line}")
+    list(APPEND SWEEPWISE_LANGUAGES ${CMAKE_MATCH_1})
+    string(APPEND SWEEPWISE_LANGUAGE_ROWS "    Language{QLatin1StringView(\"${CMAKE_MATCH_1}\"), u\"${CMAKE_MATCH_2}\"},\n")
+endforeach()
+configure_file("${CMAKE_CURRENT_LIST_DIR}/languages.h.in" generated/languages.h @ONLY)
+
+# sweepwise_catalogues(<target>): compiles the catalogues of resources/translations, together with the toolkit's own texts in the same
+# languages, into the resources ":/translations/Sweepwise_<code>.qm" of a library.
 #
 # The toolkit's catalogues come with the distribution; where they lack a language, it is qt_<code>.ts beside ours.
 find_program(LRELEASE NAMES lrelease lrelease-qt6 PATHS /usr/lib/qt6/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
@@ -13,7 +26,7 @@ function(sweepwise_catalogues target)
     set(output "${CMAKE_CURRENT_BINARY_DIR}/translations")
     file(MAKE_DIRECTORY "${output}")
     set(catalogues)
-    foreach(code IN LISTS ARGN)
+    foreach(code IN LISTS SWEEPWISE_LANGUAGES)
         set(ours "${folder}/Sweepwise_${code}.ts")
         set(toolkit "${folder}/qt_${code}.ts")
         if(NOT EXISTS "${toolkit}")

@@ -20,7 +20,8 @@ import xml.etree.ElementTree as ElementTree
 
 project = pathlib.Path(__file__).resolve().parent.parent
 folder = project / "resources" / "translations"
-codes = ["en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it"]
+codes = [line.split()[0] for line in (folder / "languages.txt").read_text(encoding="utf-8").splitlines()
+         if not line.startswith("#")]
 # The texts of the toolkit for a language that its own catalogues do not have.
 toolkit = folder / "qt_pt.ts"
 

@@ -25,6 +25,10 @@ inline constexpr Option confirmClean{QLatin1StringView("clean/confirmClean"), tr
 /// Kept for the user; a registry clean always asks for its backup.
 inline constexpr Option backupRegistry{QLatin1StringView("clean/backupRegistry"), true};
 
+/// The code of the language, a text that is empty by default. Alone in a store of its own:
+/// QSettings(appinfo::organisation, appinfo::name).
+inline constexpr QLatin1StringView language("language");
+
 [[nodiscard]] bool isOn(const QSettings &settings, const Option &option);
 void set(QSettings &settings, const Option &option, bool on);
 

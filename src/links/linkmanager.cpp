@@ -1,6 +1,8 @@
 #include "linkmanager.h"
 
 #include "appinfo.h"
+#include "languages.h"
+#include "options.h"
 
 #include <QDebug>
 #include <QDesktopServices>
@@ -19,14 +21,12 @@ namespace {
 // The language of the pages for a system in @p locale.
 QString pageLanguage(const QString &locale)
 {
-    static const QStringList known{u"en"_s, u"fr"_s, u"de"_s, u"ja"_s, u"es"_s,
-                                   u"ko"_s, u"nl"_s, u"pt"_s, u"it"_s};
     if (locale == "zh_TW"_L1 || locale == "zh_HK"_L1)
         return u"zh_TW"_s;
     // Those who write simplified Chinese read the English pages more easily than the traditional
     // ones.
     const QString code = locale.left(2).toLower();
-    return known.contains(code) ? code : u"en"_s;
+    return languages::contains(code) ? code : u"en"_s;
 }
 
 void tell(QMessageBox::Icon icon, const QString &title, const QString &text, QWidget *parent)
@@ -87,7 +87,7 @@ bool LinkManager::loadTable(const QString &path)
 QString LinkManager::chooseLanguage(const QString &systemLocale) const
 {
     const QString stored =
-        QSettings(appinfo::organisation, appinfo::name).value("language"_L1).toString();
+        QSettings(appinfo::organisation, appinfo::name).value(options::language).toString();
     if (!stored.isEmpty() && m_supportedLanguages.contains(stored)) {
         qDebug() << "[LinkManager] 使用用户设置的语言:" << stored;
         return stored;
@@ -182,7 +182,7 @@ void LinkManager::setLanguage(const QString &code)
     if (code == m_currentLanguage)
         return;
     m_currentLanguage = code;
-    QSettings(appinfo::organisation, appinfo::name).setValue("language"_L1, code);
+    QSettings(appinfo::organisation, appinfo::name).setValue(options::language, code);
     qDebug() << "[LinkManager] 语言已切换为:" << code;
     Q_EMIT languageChanged(code);
 }

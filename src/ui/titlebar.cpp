@@ -1,7 +1,9 @@
 #include "titlebar.h"
 
 #include "appinfo.h"
+#include "languages.h"
 #include "linkmanager.h"
+#include "options.h"
 #include "theme.h"
 
 #include <QActionGroup>
@@ -12,31 +14,7 @@
 #include <QProcess>
 #include <QSettings>
 
-#include <array>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct Language {
-    QLatin1StringView code;
-    QStringView text;
-};
-
-// Each in its own language, so that it is found by those who read no other.
-constexpr std::array languages{
-    Language{QLatin1StringView("en"), u"🇺🇸  English"},
-    Language{QLatin1StringView("fr"), u"🇫🇷  Français"},
-    Language{QLatin1StringView("de"), u"🇩🇪  Deutsch"},
-    Language{QLatin1StringView("ja"), u"🇯🇵  日本語"},
-    Language{QLatin1StringView("es"), u"🇪🇸  Español"},
-    Language{QLatin1StringView("ko"), u"🇰🇷  한국어"},
-    Language{QLatin1StringView("nl"), u"🇳🇱  Nederlands"},
-    Language{QLatin1StringView("pt"), u"🇵🇹  Português"},
-    Language{QLatin1StringView("it"), u"🇮🇹  Italiano"},
-};
-
-} // namespace
 
 TitleBar::TitleBar(QWidget *parent)
     : QWidget(parent)
@@ -44,8 +22,9 @@ TitleBar::TitleBar(QWidget *parent)
     setObjectName("titleBar"_L1);
     setAttribute(Qt::WA_StyledBackground);
     setFixedHeight(48);
-    m_currentLanguage =
-        QSettings(appinfo::organisation, appinfo::name).value("language"_L1, u"en"_s).toString();
+    m_currentLanguage = QSettings(appinfo::organisation, appinfo::name)
+                            .value(options::language, u"en"_s)
+                            .toString();
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 0, 1, 0);
@@ -104,8 +83,8 @@ void TitleBar::buildMenu()
     languageMenu->setStyleSheet(theme::menu());
     m_languages = new QActionGroup(this);
     m_languages->setExclusive(true);
-    for (const Language &language : languages) {
-        QAction *action = languageMenu->addAction(language.text.toString());
+    for (const languages::Language &language : languages::all) {
+        QAction *action = languageMenu->addAction(language.menuText.toString());
         action->setCheckable(true);
         action->setData(QString(language.code));
         action->setChecked(language.code == m_currentLanguage);
@@ -125,7 +104,7 @@ void TitleBar::changeLanguage(const QString &code)
         return;
     m_currentLanguage = code;
     QSettings store(appinfo::organisation, appinfo::name);
-    store.setValue("language"_L1, code);
+    store.setValue(options::language, code);
     store.sync();
     LinkManager::instance()->setLanguage(code);
     Q_EMIT languageChanged(code);

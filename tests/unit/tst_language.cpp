@@ -2,6 +2,7 @@
 
 #include "appinfo.h"
 #include "browsercleaner.h"
+#include "languages.h"
 #include "logcapture.h"
 #include "testhome.h"
 
@@ -29,9 +30,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("system");
         QTest::addColumn<QString>("expected");
-        for (const char *code : {"en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it"})
-            QTest::addRow("system %s", code)
-                << QString() << QString::fromLatin1(code) + "_XX"_L1 << QString::fromLatin1(code);
+        for (const languages::Language &language : languages::all)
+            QTest::addRow("system %s", language.code.data())
+                << QString() << language.code + "_XX"_L1 << QString(language.code);
         QTest::newRow("Brazilian") << QString() << u"pt_BR"_s << u"pt"_s;
         QTest::newRow("simplified Chinese") << QString() << u"zh_CN"_s << u"zh_TW"_s;
         QTest::newRow("traditional Chinese") << QString() << u"zh_TW"_s << u"zh_TW"_s;

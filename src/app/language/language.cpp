@@ -1,17 +1,30 @@
 #include "language.h"
 
 #include "appinfo.h"
+#include "languages.h"
+#include "options.h"
 #include "settingsguard.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
-#include <QHash>
 #include <QLocale>
 #include <QSettings>
 #include <QTranslator>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString catalogueFor(const QString &language)
+{
+    // Every Chinese locale asks for a catalogue that is not there, and so gets the source texts.
+    if (language == "zh"_L1)
+        return u"zh_TW"_s;
+    return languages::contains(language) ? language : u"en"_s;
+}
+
+} // namespace
 
 namespace language {
 
@@ -21,16 +34,9 @@ QString choose(const QString &stored, const QString &systemLocale)
         qDebug() << "[Main] Using user language:" << stored;
         return stored;
     }
-    // Every Chinese locale asks for the one catalogue that is not there, and so gets the source
-    // texts.
-    const QHash<QString, QString> codes{
-        {u"en"_s, u"en"_s}, {u"fr"_s, u"fr"_s},    {u"de"_s, u"de"_s}, {u"ja"_s, u"ja"_s},
-        {u"es"_s, u"es"_s}, {u"ko"_s, u"ko"_s},    {u"nl"_s, u"nl"_s}, {u"pt"_s, u"pt"_s},
-        {u"it"_s, u"it"_s}, {u"zh"_s, u"zh_TW"_s},
-    };
     const QString system = systemLocale.left(2);
     qDebug() << "[Main] System language:" << system;
-    const QString code = codes.value(system, u"en"_s);
+    const QString code = catalogueFor(system);
     qDebug() << "[Main] Auto-detected:" << code;
     return code;
 }
@@ -40,7 +46,7 @@ void install(QTranslator &translator)
     qDebug() << "========== Translation Init ==========";
     setAsideDamagedSettings(appinfo::name + ".conf"_L1);
     const QSettings store(appinfo::organisation, appinfo::name);
-    const QString stored = store.value("language"_L1).toString();
+    const QString stored = store.value(options::language).toString();
     qDebug() << "[Main] Settings path:" << store.fileName();
     qDebug() << "[Main] User language from settings:" << stored;
 

@@ -1083,8 +1083,8 @@ Kopieren Sie den Link und öffnen Sie ihn manuell:
         <translation>Info zu Sweepwise</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise – Bereinigungstool für den PC&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Bereinigen Sie Ihren PC mit einem Klick!&lt;br&gt;Beseitigt Datenmüll, Browserdaten und Registry-Probleme.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Alle Rechte vorbehalten.&lt;/p&gt;</translation>
+        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version %1&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Sweepwise – Bereinigungstool für den PC&lt;/h3&gt;&lt;p&gt;Version %1&lt;/p&gt;&lt;p&gt;Bereinigen Sie Ihren PC mit einem Klick!&lt;br&gt;Beseitigt Datenmüll, Browserdaten und Registry-Probleme.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Alle Rechte vorbehalten.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>

@@ -1080,8 +1080,8 @@ Copie el enlace y ábralo manualmente:
         <translation>Acerca de Sweepwise</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise - Herramienta de limpieza para PC&lt;/h3&gt;&lt;p&gt;Versión 1.0.0&lt;/p&gt;&lt;p&gt;¡Limpie su PC con un solo clic!&lt;br&gt;Elimine basura, datos de navegadores y fallos del Registro.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Todos los derechos reservados.&lt;/p&gt;</translation>
+        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version %1&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Sweepwise - Herramienta de limpieza para PC&lt;/h3&gt;&lt;p&gt;Versión %1&lt;/p&gt;&lt;p&gt;¡Limpie su PC con un solo clic!&lt;br&gt;Elimine basura, datos de navegadores y fallos del Registro.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Todos los derechos reservados.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>

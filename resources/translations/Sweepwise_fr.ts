@@ -1076,8 +1076,8 @@ Copiez le lien et ouvrez-le manuellement&#xa0;:
         <translation>À propos de Sweepwise</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise - Outil de nettoyage pour PC&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Nettoyez votre PC en un clic&#xa0;!&lt;br&gt;Éliminez les fichiers inutiles, les données de navigation et les problèmes du Registre.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Tous droits réservés.&lt;/p&gt;</translation>
+        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version %1&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Sweepwise - Outil de nettoyage pour PC&lt;/h3&gt;&lt;p&gt;Version %1&lt;/p&gt;&lt;p&gt;Nettoyez votre PC en un clic&#xa0;!&lt;br&gt;Éliminez les fichiers inutiles, les données de navigation et les problèmes du Registre.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Tous droits réservés.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>

@@ -1081,8 +1081,8 @@ This action cannot be undone!</source>
         <translation>Sweepwise 정보</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise - PC 정리 도구&lt;/h3&gt;&lt;p&gt;버전 1.0.0&lt;/p&gt;&lt;p&gt;클릭 한 번으로 PC를 정리하세요!&lt;br&gt;정크 파일, 브라우저 데이터 및 레지스트리 문제를 제거합니다.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</translation>
+        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version %1&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Sweepwise - PC 정리 도구&lt;/h3&gt;&lt;p&gt;버전 %1&lt;/p&gt;&lt;p&gt;클릭 한 번으로 PC를 정리하세요!&lt;br&gt;정크 파일, 브라우저 데이터 및 레지스트리 문제를 제거합니다.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>

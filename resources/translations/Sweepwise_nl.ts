@@ -1083,8 +1083,8 @@ Kopieer de koppeling en open deze zelf in een browser:
         <translation>Info over Sweepwise</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version 1.0.0&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Sweepwise – Opruimprogramma voor uw pc&lt;/h3&gt;&lt;p&gt;Versie 1.0.0&lt;/p&gt;&lt;p&gt;Ruim uw pc met één klik op!&lt;br&gt;Verwijder onnodige bestanden en browsergegevens en los registerproblemen op.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Alle rechten voorbehouden.&lt;/p&gt;</translation>
+        <source>&lt;h3&gt;Sweepwise - PC Cleaning Tool&lt;/h3&gt;&lt;p&gt;Version %1&lt;/p&gt;&lt;p&gt;Clean your PC with one click!&lt;br&gt;Remove junk files, browser data, and registry issues.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. All rights reserved.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Sweepwise – Opruimprogramma voor uw pc&lt;/h3&gt;&lt;p&gt;Versie %1&lt;/p&gt;&lt;p&gt;Ruim uw pc met één klik op!&lt;br&gt;Verwijder onnodige bestanden en browsergegevens en los registerproblemen op.&lt;/p&gt;&lt;p&gt;© 2026 Norvak. Alle rechten voorbehouden.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Program minimized to system tray. Double-click the icon to restore.</source>

@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "accessible.h"
+#include "appinfo.h"
 #include "application.h"
 #include "browsercleaner.h"
 #include "browserpage.h"
@@ -311,10 +312,11 @@ void MainWindow::onAboutClicked()
     QMessageBox box(this);
     box.setWindowTitle(tr("About Sweepwise"));
     box.setTextFormat(Qt::RichText);
-    box.setText(tr("<h3>Sweepwise - PC Cleaning Tool</h3><p>Version 1.0.0</p>"
+    box.setText(tr("<h3>Sweepwise - PC Cleaning Tool</h3><p>Version %1</p>"
                    "<p>Clean your PC with one click!<br>"
                    "Remove junk files, browser data, and registry issues.</p>"
-                   "<p>© 2026 Norvak. All rights reserved.</p>"));
+                   "<p>© 2026 Norvak. All rights reserved.</p>")
+                    .arg(appinfo::version));
     const QPixmap icon = svgPixmap(u":/icons/app.svg"_s, {64, 64}, devicePixelRatioF());
     if (!icon.isNull())
         box.setIconPixmap(icon);

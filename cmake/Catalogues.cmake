@@ -15,10 +15,6 @@ configure_file("${CMAKE_CURRENT_LIST_DIR}/languages.h.in" generated/languages.h 
 # languages, into the resources ":/translations/Sweepwise_<code>.qm" of a library.
 #
 # The toolkit's catalogues come with the distribution; where they lack a language, it is qt_<code>.ts beside ours.
-find_program(LRELEASE NAMES lrelease lrelease-qt6 PATHS /usr/lib/qt6/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
-find_program(LCONVERT NAMES lconvert lconvert-qt6 PATHS /usr/lib/qt6/bin NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
-find_program(LRELEASE NAMES lrelease lrelease-qt6 NO_CMAKE_FIND_ROOT_PATH REQUIRED)
-find_program(LCONVERT NAMES lconvert lconvert-qt6 NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 find_path(QT_CATALOGUES qtbase_de.qm PATHS /usr/share/qt6/translations NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 
 function(sweepwise_catalogues target)
@@ -35,8 +31,8 @@ function(sweepwise_catalogues target)
         set(catalogue "${output}/Sweepwise_${code}.qm")
         add_custom_command(
             OUTPUT "${catalogue}"
-            COMMAND "${LCONVERT}" -target-language ${code} -i "${ours}" "${toolkit}" -o "${output}/${code}.ts"
-            COMMAND "${LRELEASE}" -silent "${output}/${code}.ts" -qm "${catalogue}"
+            COMMAND Qt6::lconvert -target-language ${code} -i "${ours}" "${toolkit}" -o "${output}/${code}.ts"
+            COMMAND Qt6::lrelease -silent "${output}/${code}.ts" -qm "${catalogue}"
             DEPENDS "${ours}" "${toolkit}"
             VERBATIM)
         list(APPEND catalogues "${catalogue}")

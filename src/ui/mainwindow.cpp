@@ -3,6 +3,7 @@
 #include "accessible.h"
 #include "appinfo.h"
 #include "application.h"
+#include "ask.h"
 #include "browsercleaner.h"
 #include "browserpage.h"
 #include "dashboardpage.h"
@@ -334,11 +335,8 @@ void MainWindow::onDashboardScanRequested()
         return engine && engine->state() == CleanEngine::State::Cleaning;
     });
     if (isCleaning) {
-        QMessageBox box(QMessageBox::Information, tr("Notice"),
-                        tr("A clean is still running. Start the scan when it is over."),
-                        QMessageBox::Ok, this);
-        box.setStyleSheet(theme::messageBox());
-        box.exec();
+        ask::notice(this, tr("Notice"),
+                    tr("A clean is still running. Start the scan when it is over."));
         return;
     }
     m_dashboardPage->setScanning(true);

@@ -1,6 +1,7 @@
 #include "titlebar.h"
 
 #include "appinfo.h"
+#include "ask.h"
 #include "languages.h"
 #include "linkmanager.h"
 #include "options.h"
@@ -109,24 +110,18 @@ void TitleBar::changeLanguage(const QString &code)
     LinkManager::instance()->setLanguage(code);
     Q_EMIT languageChanged(code);
 
-    tell(QMessageBox::Information, tr("Language Changed"),
-         tr("Language has been changed.\n\nThe application will restart now."));
+    ask::notice(window(), tr("Language Changed"),
+                tr("Language has been changed.\n\nThe application will restart now."));
     restartProgram();
-}
-
-void TitleBar::tell(QMessageBox::Icon icon, const QString &title, const QString &text)
-{
-    QMessageBox box(icon, title, text, QMessageBox::Ok, window());
-    box.setStyleSheet(theme::messageBox());
-    box.exec();
 }
 
 void TitleBar::restartProgram()
 {
     if (!startDetached(QCoreApplication::applicationFilePath(),
                        QCoreApplication::arguments().mid(1))) {
-        tell(QMessageBox::Warning, tr("Language Changed"),
-             tr("The application could not be restarted. Please start it again yourself."));
+        ask::notice(window(), tr("Language Changed"),
+                    tr("The application could not be restarted. Please start it again yourself."),
+                    QMessageBox::Warning);
         return;
     }
     // Not quit(): that asks the window first, which may answer by going to the tray.

@@ -2,7 +2,6 @@
 
 #include "winbutton.h"
 
-#include <QMessageBox>
 #include <QString>
 #include <QWidget>
 
@@ -47,7 +46,6 @@ private:
     void buildMenu();
     void changeLanguage(const QString &code);
     void restartProgram();
-    void tell(QMessageBox::Icon icon, const QString &title, const QString &text);
 
     QString m_currentLanguage;
     bool m_maximized = false;

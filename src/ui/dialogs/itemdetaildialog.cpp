@@ -1,5 +1,6 @@
 #include "itemdetaildialog.h"
 
+#include "ask.h"
 #include "detailitemwidget.h"
 #include "filemanager.h"
 #include "scanresult.h"
@@ -11,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -194,12 +194,9 @@ void ItemDetailDialog::onOpenLocation(const QString &path)
     const bool exists = QFileInfo::exists(path);
     if (exists && platform::revealFile(path))
         return;
-    QMessageBox box(QMessageBox::Information, tr("Notice"),
-                    exists ? tr("The file manager could not be started.")
-                           : tr("This file no longer exists."),
-                    QMessageBox::Ok, this);
-    box.setStyleSheet(theme::messageBox());
-    box.exec();
+    ask::notice(this, tr("Notice"),
+                exists ? tr("The file manager could not be started.")
+                       : tr("This file no longer exists."));
 }
 
 bool ItemDetailDialog::isDragArea(QPoint position) const

@@ -1,5 +1,6 @@
 #include "registrybackupdialog.h"
 
+#include "ask.h"
 #include "registrybackup.h"
 #include "text.h"
 #include "theme.h"
@@ -32,17 +33,6 @@ QString defaultPath()
 QString withSuffix(const QString &path)
 {
     return path.endsWith(".reg"_L1, Qt::CaseInsensitive) ? path : path + ".reg"_L1;
-}
-
-int showBox(RegistryBackupDialog *dialog, QMessageBox::Icon icon, const QString &text)
-{
-    const bool isQuestion = icon == QMessageBox::Question;
-    QMessageBox box(icon, dialog->windowTitle(), text,
-                    isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, dialog);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
-    box.setStyleSheet(theme::messageBox());
-    return box.exec();
 }
 
 } // namespace
@@ -171,14 +161,14 @@ bool RegistryBackupDialog::prepare(const QString &path)
 {
     const QString shown = singleLine(QDir::toNativeSeparators(path)).left(1024);
     if (const QString problem = problemWith(path); !problem.isEmpty()) {
-        showBox(this, QMessageBox::Warning,
-                tr("The backup cannot be written here:\n%1\n\n%2").arg(shown, problem));
+        ask::notice(this, windowTitle(),
+                    tr("The backup cannot be written here:\n%1\n\n%2").arg(shown, problem),
+                    QMessageBox::Warning);
         return false;
     }
     return !QFileInfo::exists(path) || path == m_replaceable
-        || showBox(this, QMessageBox::Question,
-                   tr("There is a file of this name already:\n%1\n\nReplace it?").arg(shown))
-        == QMessageBox::Yes;
+        || ask::question(this, windowTitle(),
+                         tr("There is a file of this name already:\n%1\n\nReplace it?").arg(shown));
 }
 
 QString RegistryBackupDialog::problemWith(const QString &path)

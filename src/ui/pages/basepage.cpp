@@ -1,6 +1,7 @@
 #include "basepage.h"
 
 #include "application.h"
+#include "ask.h"
 #include "categorywidget.h"
 #include "cleanengine.h"
 #include "options.h"
@@ -11,7 +12,6 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSettings>
@@ -235,34 +235,24 @@ void BasePage::startClean()
         return;
     const int count = chosenCount();
     if (count == 0) {
-        showNotice(tr("Notice"), tr("No items selected"));
+        ask::notice(this, tr("Notice"), tr("No items selected"));
         return;
     }
     const bool confirm = options::isOn(*Application::instance()->settings(), options::confirmClean);
-    if (confirm) {
-        QMessageBox box(QMessageBox::Question, tr("Confirm Clean"),
-                        tr("Are you sure you want to clean %1 selected items?\n"
-                           "This action cannot be undone!")
-                            .arg(count),
-                        QMessageBox::Yes | QMessageBox::No, this);
-        box.setDefaultButton(QMessageBox::No);
-        box.setStyleSheet(theme::messageBox());
-        if (box.exec() != QMessageBox::Yes)
-            return;
-    }
+    const auto isConfirmed = [this, count] {
+        return ask::question(this, tr("Confirm Clean"),
+                             tr("Are you sure you want to clean %1 selected items?\n"
+                                "This action cannot be undone!")
+                                 .arg(count));
+    };
+    if (confirm && !isConfirmed())
+        return;
     runClean();
 }
 
 int BasePage::chosenCount() const
 {
     return isResultShown() ? std::as_const(*m_engine).result().checkedCount() : 0;
-}
-
-void BasePage::showNotice(const QString &title, const QString &text)
-{
-    QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok, this);
-    box.setStyleSheet(theme::messageBox());
-    box.exec();
 }
 
 void BasePage::runClean()

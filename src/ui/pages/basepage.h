@@ -78,7 +78,6 @@ protected:
     /// How many items would be cleaned now. Only what is listed can have been chosen: a scan that
     /// was cancelled leaves records that nobody has seen.
     [[nodiscard]] int chosenCount() const;
-    void showNotice(const QString &title, const QString &text);
     /// The end of every way to start a clean: opens the dialog and starts the engine, unless the
     /// list has gone meanwhile.
     void runClean();

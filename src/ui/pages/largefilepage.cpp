@@ -1,5 +1,6 @@
 #include "largefilepage.h"
 
+#include "ask.h"
 #include "filecard.h"
 #include "filecardlist.h"
 #include "filemanager.h"
@@ -28,18 +29,6 @@ namespace {
 constexpr qint64 mebibyte = 1'048'576;
 constexpr qint64 defaultSize = 100 * mebibyte;
 constexpr int patience = 300; // milliseconds
-
-QMessageBox::StandardButton showBox(QWidget *parent, QMessageBox::Icon icon, const QString &title,
-                                    const QString &text)
-{
-    const bool isQuestion = icon == QMessageBox::Question;
-    QMessageBox box(icon, title, text,
-                    isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, parent);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
-    box.setStyleSheet(theme::messageBox());
-    return static_cast<QMessageBox::StandardButton>(box.exec());
-}
 
 } // namespace
 
@@ -103,8 +92,8 @@ void LargeFilePage::onStartScan()
             drives.append(it.key());
     }
     if (drives.isEmpty()) {
-        showBox(this, QMessageBox::Warning, tr("Tip"),
-                tr("Please select at least one drive to scan."));
+        ask::notice(this, tr("Tip"), tr("Please select at least one drive to scan."),
+                    QMessageBox::Warning);
         return;
     }
     const qint64 size = m_selection->sizeCombo()->currentData().toLongLong();
@@ -173,8 +162,8 @@ void LargeFilePage::onScanFinished(int totalFound, qint64 totalSize)
 {
     closeDialog();
     if (totalFound == 0) {
-        showBox(this, QMessageBox::Information, tr("Scan Completed"),
-                tr("No large files found that match the criteria."));
+        ask::notice(this, tr("Scan Completed"),
+                    tr("No large files found that match the criteria."));
         return;
     }
     m_results->setSummary(totalFound, totalSize);
@@ -244,7 +233,7 @@ void LargeFilePage::deleteOne(const LargeFileInfo &file, int row)
     const QString question = tr("Are you sure you want to delete this file?\n\n%1\nSize: %2\n\n"
                                 "This action cannot be undone!")
                                  .arg(singleLine(file.path).left(1024), formatSize(file.size));
-    if (showBox(this, QMessageBox::Question, tr("Confirm Delete"), question) != QMessageBox::Yes)
+    if (!ask::question(this, tr("Confirm Delete"), question))
         return;
     const bool isStillThere =
         row >= 0 && row < m_model.rowCount() && m_model.at(row).path == file.path;
@@ -261,7 +250,7 @@ void LargeFilePage::onDeleteSelected()
         tr("Are you sure you want to delete the selected %1 files?\n\n"
            "Total: %2\n\nThis action cannot be undone!")
             .arg(QString::number(rows.size()), formatSize(m_model.tickedSize()));
-    if (showBox(this, QMessageBox::Question, tr("Confirm Delete"), question) != QMessageBox::Yes)
+    if (!ask::question(this, tr("Confirm Delete"), question))
         return;
     // Exactly those that were asked about, or none.
     if (rows == m_model.tickedRows())
@@ -327,11 +316,12 @@ void LargeFilePage::tellOutcome(Deletion kind, int deleted, int failed)
         QString message = tr("Deleted %1 files successfully.").arg(deleted);
         if (failed > 0)
             message += tr(" %1 files failed to delete.").arg(failed);
-        showBox(this, QMessageBox::Information, tr("Delete Completed"), message);
+        ask::notice(this, tr("Delete Completed"), message);
     } else if (failed > 0) {
-        showBox(this, QMessageBox::Warning, tr("Delete Failed"),
-                tr("Unable to delete this file. It may be in use by another program."));
+        ask::notice(this, tr("Delete Failed"),
+                    tr("Unable to delete this file. It may be in use by another program."),
+                    QMessageBox::Warning);
     } else if (m_model.rowCount() == 0) {
-        showBox(this, QMessageBox::Information, tr("Info"), tr("All files have been deleted"));
+        ask::notice(this, tr("Info"), tr("All files have been deleted"));
     }
 }

@@ -1,6 +1,7 @@
 #include "registrypage.h"
 
 #include "application.h"
+#include "ask.h"
 #include "registrybackupdialog.h"
 #include "registrycleaner.h"
 
@@ -30,7 +31,7 @@ void RegistryPage::startClean()
         return;
     const int count = chosenCount();
     if (count == 0) {
-        showNotice(tr("提示"), tr("没有选中任何项目"));
+        ask::notice(this, tr("提示"), tr("没有选中任何项目"));
         return;
     }
     RegistryBackupDialog dialog(count, this);

@@ -1,5 +1,6 @@
 #include "startuppage.h"
 
+#include "ask.h"
 #include "logger.h"
 #include "startupcard.h"
 #include "theme.h"
@@ -274,8 +275,5 @@ void StartupPage::showStates()
 
 void StartupPage::warn(const QString &text)
 {
-    QMessageBox box(QMessageBox::Warning, tr("Operation Failed"), text, QMessageBox::Ok, this);
-    box.setInformativeText(m_manager.errorString());
-    box.setStyleSheet(theme::messageBox());
-    box.exec();
+    ask::notice(this, tr("Operation Failed"), text, QMessageBox::Warning, m_manager.errorString());
 }

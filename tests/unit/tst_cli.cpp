@@ -1,4 +1,5 @@
 #include "appinfo.h"
+#include "companion.h"
 #include "registrybackup.h"
 #include "registryfixture.h"
 #include "testhome.h"
@@ -19,21 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Run {
-    int exitCode = -1;
-    QByteArray output;
-    QByteArray error;
-};
-
-Run run(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QString::fromLocal8Bit(CLI_PROGRAM), arguments);
-    if (!process.waitForFinished(60'000))
-        qFatal("the companion did not end");
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardOutput(), process.readAllStandardError()};
-}
+using companion::Run;
+using companion::run;
 
 QStringList names(const QJsonObject &object)
 {
@@ -53,17 +41,7 @@ public:
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        m_temp = m_home.folder(u"temp"_s);
-        qputenv("TMPDIR", QFile::encodeName(m_temp));
-        qputenv("TMP", m_temp.toUtf8());
-        qputenv("TEMP", m_temp.toUtf8());
-        QVERIFY(QDir(m_temp).removeRecursively());
-        QVERIFY(QDir().mkpath(m_temp + "/sub"_L1));
-        write(u"a.tmp"_s, 3);
-        write(u"sub/b"_s, 1500);
-    }
+    void init() { m_temp = companion::fillTemporaryFolder(m_home); }
 
     void aScanPrintsCategoriesAndTotals()
     {
@@ -111,15 +89,6 @@ private Q_SLOTS:
         }
         QVERIFY(paths.contains(m_temp + "/a.tmp"_L1));
         QCOMPARE(plain["totalCount"_L1].toInteger(), withItems["totalCount"_L1].toInteger());
-    }
-
-    void cleaningWantsAYes()
-    {
-        const Run clean = run({u"clean"_s, u"junk"_s});
-        QCOMPARE(clean.exitCode, 2);
-        QVERIFY(clean.error.contains("--yes"));
-        QVERIFY(clean.output.isEmpty());
-        QVERIFY(QFile::exists(m_temp + "/a.tmp"_L1));
     }
 
     void cleaningRemovesWhatIsTickedByDefault()
@@ -216,7 +185,7 @@ private Q_SLOTS:
 
     void aLineBreakInANameForgesNoLine()
     {
-        write(u"x\nFound 0 items"_s, 1);
+        companion::writeFile(m_temp, u"x\nFound 0 items"_s, 1);
         const Run scan = run({u"scan"_s, u"junk"_s, u"--items"_s});
         QVERIFY(scan.output.contains(u"x\uFFFDFound 0 items"_s.toUtf8()));
         QCOMPARE(scanJson({u"--items"_s})["totalCount"_L1].toInteger(), 3);
@@ -278,24 +247,12 @@ private Q_SLOTS:
     void startUpProgramsAreListedAndSwitched()
     {
         RegistryFixture fixture(m_home);
-#ifdef Q_OS_WIN
-        const QString folder = m_home.folder(u"Sweepwise Files"_s);
-        const QString path = QDir::toNativeSeparators(folder) + "\\player.exe"_L1;
-#else
-        const QString folder = m_home.folder(u"prefix/drive_c/Sweepwise Files"_s);
-        const QString path = u"C:\\Sweepwise Files\\player.exe"_s;
-#endif
-        QFile program(folder + "/player.exe"_L1);
-        QVERIFY(program.open(QIODevice::WriteOnly));
-        const QString list =
-            u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"_s;
-        fixture.addText(list + "Sweepwise cli"_L1, u"DisplayName"_s, u"Sweepwise Player"_s);
-        fixture.addText(list + "Sweepwise cli"_L1, u"DisplayIcon"_s, path);
+        const QString path = companion::addProgram(fixture, m_home, u"Sweepwise Player"_s);
         fixture.write();
         const QString run =
             u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
         const auto startup = [](const QStringList &words) {
-            return ::run(QStringList{u"startup"_s} + words);
+            return companion::run(QStringList{u"startup"_s} + words);
         };
         QVERIFY(startup({u"list"_s}).output.contains("[ ] Sweepwise Player  "));
         QCOMPARE(startup({u"enable"_s, u"sweepwise player"_s}).exitCode, 0);
@@ -389,66 +346,6 @@ private Q_SLOTS:
     }
 #endif
 
-    void wrongUseIsRefused_data()
-    {
-        QTest::addColumn<QString>("arguments");
-        QTest::newRow("nothing") << QString();
-        QTest::newRow("no engine") << u"scan"_s;
-        QTest::newRow("unknown command") << u"burn junk"_s;
-        QTest::newRow("unknown engine") << u"scan attic"_s;
-        QTest::newRow("unknown option") << u"scan junk --now"_s;
-        QTest::newRow("unknown category") << u"clean junk --yes --category attic"_s;
-        QTest::newRow("too many words") << u"scan junk junk"_s;
-        QTest::newRow("scan does not delete") << u"scan junk --yes"_s;
-        QTest::newRow("clean lists no items") << u"clean junk --yes --items"_s;
-        QTest::newRow("registry without a word on a backup") << u"clean registry --yes"_s;
-        QTest::newRow("registry with two words on it")
-            << u"clean registry --yes --no-backup --backup b.reg"_s;
-        QTest::newRow("registry without a yes") << u"clean registry --no-backup"_s;
-        QTest::newRow("unknown registry category")
-            << u"clean registry --yes --no-backup --category temp_files"_s;
-        QTest::newRow("browser without a yes") << u"clean browser"_s;
-        QTest::newRow("unknown browser") << u"scan browser --browser netscape"_s;
-        QTest::newRow("unknown browser category") << u"clean browser --yes --category temp_files"_s;
-        QTest::newRow("browser of junk") << u"scan junk --browser chrome"_s;
-        QTest::newRow("backup of junk") << u"clean junk --yes --backup b.reg"_s;
-        QTest::newRow("startup alone") << u"startup"_s;
-        QTest::newRow("startup with an unknown word") << u"startup fly x"_s;
-        QTest::newRow("startup of nothing") << u"startup enable"_s;
-        QTest::newRow("startup list with a name") << u"startup list x"_s;
-        QTest::newRow("startup says no yes") << u"startup list --yes"_s;
-        QTest::newRow("no file to restore") << u"restore"_s;
-        QTest::newRow("missing file to restore") << u"restore missing.reg"_s;
-        QTest::newRow("restore says no yes") << u"restore missing.reg --yes"_s;
-    }
-
-    void wrongUseIsRefused()
-    {
-        QFETCH(QString, arguments);
-        const Run refused = run(arguments.split(u' ', Qt::SkipEmptyParts));
-        QCOMPARE(refused.exitCode, 2);
-        QVERIFY(refused.output.isEmpty());
-        QVERIFY(refused.error.startsWith("sweepwise-cli: "));
-        QVERIFY(QFile::exists(m_temp + "/a.tmp"_L1));
-    }
-
-    void helpNamesTheExitStatuses()
-    {
-        const Run help = run({u"--help"_s});
-        QCOMPARE(help.exitCode, 0);
-        for (const char *word :
-             {"scan ENGINE", "clean ENGINE", "restore FILE", "Engines: junk, browser", "--browser",
-              "--items", "--json", "--yes", "--category", "--backup", "--no-backup", "Exit status"})
-            QVERIFY2(help.output.contains(word), word);
-    }
-
-    void theVersionIsTheProgramsOwn()
-    {
-        const Run version = run({u"--version"_s});
-        QCOMPARE(version.exitCode, 0);
-        QVERIFY(version.output.contains(QString(appinfo::version).toUtf8()));
-    }
-
     void largeFilesAreListedLargestFirst()
     {
         const QString folder = m_home.folder(u"big"_s);
@@ -487,38 +384,7 @@ private Q_SLOTS:
         QVERIFY(none.output.contains("Found 0 large files"));
     }
 
-    void largeFilesRefusesWhatItCannotUse_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("no folder") << QStringList{u"large-files"_s};
-        QTest::newRow("a missing folder") << QStringList{u"large-files"_s, u"/no/such/folder"_s};
-        for (const QString &size : {u"0"_s, u"-1"_s, u"M"_s, u"1.5G"_s, u"1T"_s, u"9999999999G"_s,
-                                    u"99999999999999999999"_s})
-            QTest::newRow(qPrintable("size "_L1 + size))
-                << QStringList{u"large-files"_s, m_home.path(), u"--min-size="_s + size};
-        QTest::newRow("an option of the others")
-            << QStringList{u"large-files"_s, m_home.path(), u"--yes"_s};
-        QTest::newRow("a size for the others")
-            << QStringList{u"scan"_s, u"junk"_s, u"--min-size=5M"_s};
-    }
-
-    void largeFilesRefusesWhatItCannotUse()
-    {
-        QFETCH(QStringList, arguments);
-        const Run refused = run(arguments);
-        QCOMPARE(refused.exitCode, 2);
-        QVERIFY(refused.output.isEmpty());
-        QVERIFY(refused.error.startsWith("sweepwise-cli: "));
-    }
-
 private:
-    void write(const QString &name, int size) const
-    {
-        QFile file(m_temp + u'/' + name);
-        if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(size, 'x')) != size)
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-    }
-
     static QJsonObject scanJson(const QStringList &more)
     {
         const Run scan = run(QStringList{u"scan"_s, u"junk"_s, u"--json"_s} + more);

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -17,16 +18,51 @@ namespace cli {
 
 namespace {
 
-/// Runs the engine's scan to its end.
-void scan(CleanEngine &engine)
+/// An engine that is ready to scan, with what the command line and the report call its parts.
+struct Target {
+    CleanEngine &engine;
+    report::Subject subject;
+    QStringList categories; ///< the ids of all that it can find
+    /// What went wrong in a clean beside the engine's failures; stands before them.
+    std::function<QList<CleanFailure>()> otherFailures = {};
+};
+
+/// scan() or clean().
+using Action = ExitStatus (*)(const Target &target, const Invocation &invocation);
+
+void runScan(CleanEngine &engine)
 {
     QObject::connect(&engine, &CleanEngine::scanFinished, qApp, &QCoreApplication::quit);
     engine.startScan();
     QCoreApplication::exec();
 }
 
-report::CleanOutcome clean(CleanEngine &engine)
+ExitStatus scan(const Target &target, const Invocation &invocation)
 {
+    runScan(target.engine);
+    const auto items = invocation.has(Option::Items) ? report::Items::Listed : report::Items::Left;
+    const ScanResult &result = std::as_const(target.engine).result();
+    return finish(invocation.has(Option::Json)
+                      ? report::scanAsJson(target.subject, result, items)
+                      : report::scanAsText(target.subject, result, items).toLocal8Bit(),
+                  Success);
+}
+
+/// Every clean starts here, so that this is the one place that asks whether the user wants it.
+ExitStatus clean(const Target &target, const Invocation &invocation)
+{
+    if (!invocation.has(Option::Yes))
+        return refuse(u"cleaning deletes for good: say so with --yes"_s);
+    const QStringList wanted = invocation.values(Option::Category);
+    for (const QString &id : wanted) {
+        if (!target.categories.contains(id))
+            return refuse(u"there is no category '%1'"_s.arg(id));
+    }
+    CleanEngine &engine = target.engine;
+    runScan(engine);
+    for (CleanCategory &category : engine.result().categories)
+        category.checked = category.checked && (wanted.isEmpty() || wanted.contains(category.id));
+
     report::CleanOutcome outcome;
     QObject::connect(&engine, &CleanEngine::cleanFinished, qApp,
                      [&outcome](qint64 totalCleaned, int itemsCleaned) {
@@ -37,60 +73,25 @@ report::CleanOutcome clean(CleanEngine &engine)
     engine.startClean();
     QCoreApplication::exec();
     engine.stopAndWait();
-    outcome.failures = engine.failures();
-    return outcome;
-}
-
-int runScan(CleanEngine &engine, const report::Subject &subject, const EngineOptions &options)
-{
-    scan(engine);
-    const auto items = options.items ? report::Items::Listed : report::Items::Left;
-    const ScanResult &result = std::as_const(engine).result();
-    return finish(options.json ? report::scanAsJson(subject, result, items)
-                               : report::scanAsText(subject, result, items).toLocal8Bit(),
-                  Success);
-}
-
-report::CleanOutcome runClean(CleanEngine &engine, const EngineOptions &options)
-{
-    scan(engine);
-    if (!options.categories.isEmpty()) {
-        for (CleanCategory &category : engine.result().categories)
-            category.checked = category.checked && options.categories.contains(category.id);
-    }
-    return clean(engine);
-}
-
-int reportClean(const report::Subject &subject, const report::CleanOutcome &outcome, bool asJson)
-{
-    return finish(asJson ? report::cleanAsJson(subject, outcome)
-                         : report::cleanAsText(subject, outcome).toLocal8Bit(),
+    if (target.otherFailures)
+        outcome.failures = target.otherFailures();
+    outcome.failures += engine.failures();
+    return finish(invocation.has(Option::Json)
+                      ? report::cleanAsJson(target.subject, outcome)
+                      : report::cleanAsText(target.subject, outcome).toLocal8Bit(),
                   outcome.failures.isEmpty() ? Success : SomeFailed);
 }
 
-// Empty when all of them are known.
-QString unknownCategory(const QStringList &wanted, const QStringList &known)
-{
-    const auto unknown = std::find_if(wanted.begin(), wanted.end(),
-                                      [&known](const QString &id) { return !known.contains(id); });
-    return unknown == wanted.end() ? QString() : u"there is no category '%1'"_s.arg(*unknown);
-}
-
-int runJunk(const QString &command, const EngineOptions &options)
+ExitStatus withJunk(Action action, const Invocation &invocation)
 {
     JunkCleaner cleaner;
     cleaner.loadRules(u":/rules/junk_rules.json"_s);
     if (cleaner.rules().isEmpty())
         return refuse(u"the junk rules could not be read"_s);
-    QStringList known;
+    QStringList categories;
     for (const JunkRule &rule : cleaner.rules())
-        known.append(rule.id);
-    if (const QString error = unknownCategory(options.categories, known); !error.isEmpty())
-        return refuse(error);
-    const report::Subject subject{u"junk"_s, report::Unit::Bytes};
-    if (command == "scan"_L1)
-        return runScan(cleaner, subject, options);
-    return reportClean(subject, runClean(cleaner, options), options.json);
+        categories.append(rule.id);
+    return action({cleaner, {u"junk"_s, report::Unit::Bytes}, categories}, invocation);
 }
 
 // By its id ("google_chrome"), its name ("Google Chrome") or a word of that ("chrome").
@@ -100,14 +101,15 @@ bool isCalled(const Browser &browser, const QString &name)
     return browser.id == id || browser.id.split(u'_').contains(id);
 }
 
-int runBrowser(const QString &command, const EngineOptions &options)
+ExitStatus withBrowsers(Action action, const Invocation &invocation)
 {
     BrowserCleaner cleaner;
     cleaner.loadRules(u":/rules/browser_rules.json"_s);
     if (cleaner.rules().isEmpty())
         return refuse(u"the browser rules could not be read"_s);
     const QList<Browser> browsers = cleaner.browsers();
-    for (const QString &name : options.browsers) {
+    const QStringList wanted = invocation.values(Option::Browser);
+    for (const QString &name : wanted) {
         const auto browser =
             std::find_if(browsers.begin(), browsers.end(),
                          [&name](const Browser &candidate) { return isCalled(candidate, name); });
@@ -115,62 +117,66 @@ int runBrowser(const QString &command, const EngineOptions &options)
             return refuse(u"there is no browser '%1'"_s.arg(name));
         cleaner.setBrowserEnabled(browser->type, true);
     }
-    QStringList known;
+    QStringList categories;
     for (const Browser &browser : browsers) {
         for (const BrowserRule &rule : cleaner.rules())
-            known.append(browser.id + u'_' + rule.id);
+            categories.append(browser.id + u'_' + rule.id);
     }
-    if (const QString error = unknownCategory(options.categories, known); !error.isEmpty())
-        return refuse(error);
-    const report::Subject subject{u"browser"_s, report::Unit::Bytes};
-    if (command == "scan"_L1)
-        return runScan(cleaner, subject, options);
-    return reportClean(subject, runClean(cleaner, options), options.json);
+    return action({cleaner, {u"browser"_s, report::Unit::Bytes}, categories}, invocation);
 }
 
-int runRegistry(const QString &command, const EngineOptions &options)
+Target registryTarget(RegistryCleaner &cleaner)
 {
-    RegistryCleaner cleaner;
-    if (const QString error = unknownCategory(options.categories, cleaner.categoryIds());
-        !error.isEmpty())
-        return refuse(error);
-    const report::Subject subject{u"registry"_s, report::Unit::Entries};
-    if (command == "scan"_L1)
-        return runScan(cleaner, subject, options);
-    if (options.backup.isEmpty() == !options.noBackup)
-        return refuse(u"say where the removed entries are to be kept with --backup FILE, or "
-                      "--no-backup"_s);
-    const QFileInfo backup(options.backup);
-    if (backup.isFile() && !backup.isSymLink())
-        return refuse(u"there is a file of this name already: %1"_s.arg(options.backup));
-    cleaner.setBackupPath(options.backup);
-    report::CleanOutcome outcome = runClean(cleaner, options);
-    if (cleaner.backupError())
-        outcome.failures.prepend(
-            {options.backup, u"the backup could not be written: %1"_s.arg(*cleaner.backupError())});
-    return reportClean(subject, outcome, options.json);
+    return {cleaner, {u"registry"_s, report::Unit::Entries}, cleaner.categoryIds()};
 }
 
 } // namespace
 
-int runEngine(const QString &command, const QString &engine, const EngineOptions &options)
+ExitStatus scanJunk(const Invocation &invocation)
 {
-    if (command == "scan"_L1 && (options.yes || !options.categories.isEmpty()))
-        return refuse(u"--yes and --category go with 'clean'"_s);
-    if (command == "clean"_L1 && options.items)
-        return refuse(u"--items goes with 'scan'"_s);
-    if ((options.noBackup || !options.backup.isEmpty())
-        && (command != "clean"_L1 || engine != "registry"_L1))
-        return refuse(u"--backup and --no-backup go with 'clean registry'"_s);
-    if (!options.browsers.isEmpty() && engine != "browser"_L1)
-        return refuse(u"--browser goes with 'scan browser' and 'clean browser'"_s);
-    if (engine != "junk"_L1 && engine != "browser"_L1 && engine != "registry"_L1)
-        return refuse(u"there is no engine '%1'"_s.arg(engine));
-    if (command == "clean"_L1 && !options.yes)
-        return refuse(u"cleaning deletes for good: say so with --yes"_s);
-    if (engine == "junk"_L1)
-        return runJunk(command, options);
-    return engine == "browser"_L1 ? runBrowser(command, options) : runRegistry(command, options);
+    return withJunk(scan, invocation);
+}
+
+ExitStatus scanBrowser(const Invocation &invocation)
+{
+    return withBrowsers(scan, invocation);
+}
+
+ExitStatus scanRegistry(const Invocation &invocation)
+{
+    RegistryCleaner cleaner;
+    return scan(registryTarget(cleaner), invocation);
+}
+
+ExitStatus cleanJunk(const Invocation &invocation)
+{
+    return withJunk(clean, invocation);
+}
+
+ExitStatus cleanBrowser(const Invocation &invocation)
+{
+    return withBrowsers(clean, invocation);
+}
+
+ExitStatus cleanRegistry(const Invocation &invocation)
+{
+    // An empty name is none: with it no backup would be written.
+    const QString backup = invocation.value(Option::Backup);
+    if (backup.isEmpty() == !invocation.has(Option::NoBackup))
+        return refuse(u"say where the removed entries are to be kept with --backup FILE, or "
+                      "--no-backup"_s);
+    const QFileInfo file(backup);
+    if (file.isFile() && !file.isSymLink())
+        return refuse(u"there is a file of this name already: %1"_s.arg(backup));
+    RegistryCleaner cleaner;
+    cleaner.setBackupPath(backup);
+    Target target = registryTarget(cleaner);
+    target.otherFailures = [&cleaner, &backup]() -> QList<CleanFailure> {
+        if (!cleaner.backupError())
+            return {};
+        return {{backup, u"the backup could not be written: %1"_s.arg(*cleaner.backupError())}};
+    };
+    return clean(target, invocation);
 }
 
 } // namespace cli

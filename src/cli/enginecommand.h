@@ -1,21 +1,17 @@
 #pragma once
 
-#include <QStringList>
+#include "invocation.h"
+#include "output.h"
 
+/// "scan ENGINE" and "clean ENGINE". All of them run the application's event loop.
 namespace cli {
 
-struct EngineOptions {
-    bool items = false;
-    bool json = false;
-    bool yes = false;
-    QStringList categories;
-    QString backup; ///< the file to write; empty when the option was not given
-    bool noBackup = false;
-    QStringList browsers; ///< names as the user gave them; empty means all
-};
+[[nodiscard]] ExitStatus scanJunk(const Invocation &invocation);
+[[nodiscard]] ExitStatus scanBrowser(const Invocation &invocation);
+[[nodiscard]] ExitStatus scanRegistry(const Invocation &invocation);
 
-/// "scan ENGINE" and "clean ENGINE"; returns the exit status.
-[[nodiscard]] int runEngine(const QString &command, const QString &engine,
-                            const EngineOptions &options);
+[[nodiscard]] ExitStatus cleanJunk(const Invocation &invocation);
+[[nodiscard]] ExitStatus cleanBrowser(const Invocation &invocation);
+[[nodiscard]] ExitStatus cleanRegistry(const Invocation &invocation);
 
 } // namespace cli

@@ -79,16 +79,15 @@ std::optional<qint64> parseSize(const QString &text)
 
 } // namespace
 
-int runLargeFiles(const QStringList &paths, const QString &minSize, bool json)
+ExitStatus listLargeFiles(const Invocation &invocation)
 {
-    if (paths.isEmpty())
-        return refuse(u"large-files wants to know where to look"_s);
-    for (const QString &path : paths) {
+    for (const QString &path : invocation.arguments()) {
         if (!QFileInfo(path).isDir())
             return refuse(u"there is no folder '%1'"_s.arg(path));
     }
     LargeFileScanner scanner;
-    scanner.setDrives(paths);
+    scanner.setDrives(invocation.arguments());
+    const QString minSize = invocation.value(Option::MinSize);
     if (!minSize.isEmpty()) {
         const std::optional<qint64> size = parseSize(minSize);
         if (!size)
@@ -104,7 +103,8 @@ int runLargeFiles(const QStringList &paths, const QString &minSize, bool json)
               [](const LargeFileInfo &left, const LargeFileInfo &right) {
                   return left.size != right.size ? left.size > right.size : left.path < right.path;
               });
-    return finish(json ? asJson(scanner, files) : asText(scanner, files), Success);
+    return finish(invocation.has(Option::Json) ? asJson(scanner, files) : asText(scanner, files),
+                  Success);
 }
 
 } // namespace cli

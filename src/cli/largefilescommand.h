@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QStringList>
+#include "invocation.h"
+#include "output.h"
 
 namespace cli {
 
-/// Lists the files from @p minSize on below @p paths, largest first, and returns the exit status.
-/// The size is a text such as "500", "64K", "100M" or "2G", in binary units; empty for 100 MiB.
-/// Runs the application's event loop.
-[[nodiscard]] int runLargeFiles(const QStringList &paths, const QString &minSize, bool json);
+/// "large-files PATH...": lists the files from a size on below the folders, largest first. The size
+/// is a text such as "500", "64K", "100M" or "2G", in binary units; without one 100 MiB. Runs the
+/// application's event loop.
+[[nodiscard]] ExitStatus listLargeFiles(const Invocation &invocation);
 
 } // namespace cli

@@ -48,8 +48,9 @@ QByteArray asJson(const QList<RegistryRestore::Outcome> &outcomes, qsizetype res
 
 } // namespace
 
-int runRestore(const QString &path, bool asJsonObject)
+ExitStatus restore(const Invocation &invocation)
 {
+    const QString path = invocation.arguments().constFirst();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return refuse(u"%1 cannot be read: %2"_s.arg(path, file.errorString()));
@@ -64,7 +65,8 @@ int runRestore(const QString &path, bool asJsonObject)
     const auto restored =
         std::count_if(outcomes.begin(), outcomes.end(),
                       [](const RegistryRestore::Outcome &outcome) { return outcome.isRestored; });
-    return finish(asJsonObject ? asJson(outcomes, restored) : asText(outcomes, restored),
+    return finish(invocation.has(Option::Json) ? asJson(outcomes, restored)
+                                               : asText(outcomes, restored),
                   restored == outcomes.size() ? Success : SomeFailed);
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QString>
+#include "invocation.h"
+#include "output.h"
 
 namespace cli {
 
-/// "restore FILE": puts the registry entries of a backup back; returns the exit status.
-[[nodiscard]] int runRestore(const QString &path, bool asJson);
+/// "restore FILE": puts the registry entries of a backup back.
+[[nodiscard]] ExitStatus restore(const Invocation &invocation);
 
 } // namespace cli

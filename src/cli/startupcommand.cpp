@@ -26,31 +26,10 @@ QJsonObject asObject(const StartupApp &app)
             {u"isStartup"_s, app.isStartup}};
 }
 
-int list(StartupManager &manager, bool asJson)
+ExitStatus switchStartup(const Invocation &invocation, bool enable)
 {
-    if (asJson) {
-        QJsonArray apps;
-        for (const StartupApp &app : manager.apps())
-            apps.append(asObject(app));
-        return finish(QJsonDocument(QJsonObject{{u"apps"_s, apps}}).toJson(), Success);
-    }
-    QString text;
-    for (const StartupApp &app : manager.apps())
-        text += (app.isStartup ? "[x] "_L1 : "[ ] "_L1) + singleLine(app.name) + "  "_L1
-            + singleLine(app.exePath) + u'\n';
-    return finish(text.toLocal8Bit(), Success);
-}
-
-} // namespace
-
-int runStartup(const QString &action, const QString &name, bool asJson)
-{
+    const QString name = invocation.arguments().constFirst();
     StartupManager manager;
-    if (action == "list"_L1 && name.isEmpty())
-        return list(manager, asJson);
-    const bool enable = action == "enable"_L1;
-    if (name.isEmpty() || (!enable && action != "disable"_L1))
-        return refuse(u"'list', 'enable NAME' or 'disable NAME' is wanted after 'startup'"_s);
     const QList<StartupApp> &apps = manager.apps();
     const auto hasName = [&name](const StartupApp &other) {
         return other.name.compare(name, Qt::CaseInsensitive) == 0;
@@ -70,7 +49,37 @@ int runStartup(const QString &action, const QString &name, bool asJson)
     const QString line = (enable ? u"%1 starts with the session now.\n"_s
                                  : u"%1 does not start with the session any more.\n"_s)
                              .arg(singleLine(app.name));
-    return finish(asJson ? QJsonDocument(asObject(changed)).toJson() : line.toLocal8Bit(), Success);
+    return finish(invocation.has(Option::Json) ? QJsonDocument(asObject(changed)).toJson()
+                                               : line.toLocal8Bit(),
+                  Success);
+}
+
+} // namespace
+
+ExitStatus listStartup(const Invocation &invocation)
+{
+    StartupManager manager;
+    if (invocation.has(Option::Json)) {
+        QJsonArray apps;
+        for (const StartupApp &app : manager.apps())
+            apps.append(asObject(app));
+        return finish(QJsonDocument(QJsonObject{{u"apps"_s, apps}}).toJson(), Success);
+    }
+    QString text;
+    for (const StartupApp &app : manager.apps())
+        text += (app.isStartup ? "[x] "_L1 : "[ ] "_L1) + singleLine(app.name) + "  "_L1
+            + singleLine(app.exePath) + u'\n';
+    return finish(text.toLocal8Bit(), Success);
+}
+
+ExitStatus enableStartup(const Invocation &invocation)
+{
+    return switchStartup(invocation, true);
+}
+
+ExitStatus disableStartup(const Invocation &invocation)
+{
+    return switchStartup(invocation, false);
 }
 
 } // namespace cli

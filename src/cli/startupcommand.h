@@ -1,10 +1,13 @@
 #pragma once
 
-#include <QString>
+#include "invocation.h"
+#include "output.h"
 
+/// "startup list", "startup enable NAME" and "startup disable NAME".
 namespace cli {
 
-/// "startup list", "startup enable NAME" and "startup disable NAME"; returns the exit status.
-[[nodiscard]] int runStartup(const QString &action, const QString &name, bool asJson);
+[[nodiscard]] ExitStatus listStartup(const Invocation &invocation);
+[[nodiscard]] ExitStatus enableStartup(const Invocation &invocation);
+[[nodiscard]] ExitStatus disableStartup(const Invocation &invocation);
 
 } // namespace cli

@@ -1,10 +1,17 @@
 #include "appinfo.h"
 #include "companion.h"
+#include "registrybackup.h"
+#include "registryfixture.h"
 #include "testhome.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QMetaType>
+#include <QScopeGuard>
 #include <QTest>
+
+#include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +20,37 @@ namespace {
 using companion::Run;
 using companion::run;
 
+/// What a use of the companion would change in the registry.
+struct RegistryEffect {
+    QString key; ///< empty for none
+    QString value; ///< whose presence tells; empty for the default value
+    bool isThere = false; ///< before
+};
+
+/// A complete use of one command, which does something, and every option that goes with it.
+struct Use {
+    QString command;
+    QStringList line; ///< after the command's name
+    QStringList options; ///< with values that fit
+    RegistryEffect effect;
+};
+
+// "--browser" of "--browser=chrome".
+QString nameOf(const QString &option)
+{
+    return option.section(u'=', 0, 0);
+}
+
+const QString currentVersion =
+    u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\"_s;
+const QString deadProgram =
+    u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\"
+    "Sweepwise use.exe"_s;
+const QString restoredKey = u"HKEY_CURRENT_USER\\Software\\Sweepwise use"_s;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Use)
 
 /// Which uses of the companion's commands and options are taken and which are refused.
 class TestCommandLine : public QObject
@@ -26,15 +63,93 @@ public:
     }
 
 private Q_SLOTS:
-    void init() { m_temp = companion::fillTemporaryFolder(m_home); }
-
-    void cleaningWantsAYes()
+    void init()
     {
-        const Run clean = run({u"clean"_s, u"junk"_s});
-        QCOMPARE(clean.exitCode, 2);
-        QVERIFY(clean.error.contains("--yes"));
-        QVERIFY(clean.output.isEmpty());
-        QVERIFY(QFile::exists(m_temp + "/a.tmp"_L1));
+        m_temp = companion::fillTemporaryFolder(m_home);
+        companion::writeFile(m_home.folder(u"big"_s), u"film.mp4"_s, 9);
+#ifdef Q_OS_UNIX
+        m_home.point("LOCALAPPDATA", u"local"_s);
+#endif
+        const QString cache = m_home.folder(u"local/Google/Chrome/User Data/Default/GPUCache"_s);
+        companion::writeFile(cache, u"data_0"_s, 2);
+        m_files = {m_temp + "/a.tmp"_L1, m_temp + "/sub/b"_L1, cache + "/data_0"_L1};
+    }
+
+    void anOptionOfOtherCommandsIsRefused_data()
+    {
+        QTest::addColumn<Use>("use");
+        QTest::addColumn<QString>("option");
+        const QStringList all{u"--items"_s,
+                              u"--json"_s,
+                              u"--yes"_s,
+                              u"--category=temp_files"_s,
+                              u"--backup="_s + backupToWrite(),
+                              u"--no-backup"_s,
+                              u"--browser=chrome"_s,
+                              u"--min-size=1M"_s};
+        for (const Use &use : uses()) {
+            for (const QString &option : all) {
+                const bool isOwn = std::any_of(
+                    use.options.begin(), use.options.end(),
+                    [&option](const QString &own) { return nameOf(own) == nameOf(option); });
+                if (!isOwn)
+                    QTest::addRow("%s %s", qPrintable(use.command), qPrintable(nameOf(option)))
+                        << use << option;
+            }
+        }
+    }
+
+    void anOptionOfOtherCommandsIsRefused()
+    {
+        QFETCH(Use, use);
+        QFETCH(QString, option);
+        nothingIsDoneBy(use, use.line + QStringList{option}, nameOf(option));
+    }
+
+    void noCleanStartsWithoutAYes_data()
+    {
+        QTest::addColumn<Use>("use");
+        for (const Use &use : uses()) {
+            if (use.options.contains("--yes"_L1))
+                QTest::newRow(qPrintable(use.command)) << use;
+        }
+    }
+
+    void noCleanStartsWithoutAYes()
+    {
+        QFETCH(Use, use);
+        QStringList line = use.line;
+        QCOMPARE(line.removeAll("--yes"_L1), 1);
+        nothingIsDoneBy(use, line, u"--yes"_s);
+    }
+
+    void anOptionOfItsOwnIsTaken_data()
+    {
+        QTest::addColumn<Use>("use");
+        QTest::addColumn<QString>("option");
+        for (const Use &use : uses()) {
+            for (const QString &option : use.options)
+                QTest::addRow("%s %s", qPrintable(use.command), qPrintable(nameOf(option)))
+                    << use << option;
+        }
+    }
+
+    void anOptionOfItsOwnIsTaken()
+    {
+        QFETCH(Use, use);
+        QFETCH(QString, option);
+        const auto fixture = registryFor(use);
+        const auto remove = qScopeGuard([this] { QFile::remove(backupToWrite()); });
+        QStringList line = use.line;
+        // The one or the other.
+        if (nameOf(option) == "--backup"_L1)
+            line.removeAll("--no-backup"_L1);
+        if (!line.contains(option))
+            line.append(option);
+        const Run taken = run(use.command.split(u' ') + line);
+        QVERIFY2(taken.exitCode == 0 || taken.exitCode == 1, taken.error.constData());
+        QVERIFY2(taken.error.isEmpty(), taken.error.constData());
+        QCOMPARE(taken.output.startsWith('{'), option == "--json"_L1);
     }
 
     void wrongUseIsRefused_data()
@@ -52,6 +167,7 @@ private Q_SLOTS:
         QTest::newRow("registry without a word on a backup") << u"clean registry --yes"_s;
         QTest::newRow("registry with two words on it")
             << u"clean registry --yes --no-backup --backup b.reg"_s;
+        QTest::newRow("registry with a backup of no name") << u"clean registry --yes --backup="_s;
         QTest::newRow("registry without a yes") << u"clean registry --no-backup"_s;
         QTest::newRow("unknown registry category")
             << u"clean registry --yes --no-backup --category temp_files"_s;
@@ -90,6 +206,22 @@ private Q_SLOTS:
             QVERIFY2(help.output.contains(word), word);
     }
 
+    void helpNamesEveryCommandAndOption()
+    {
+        const Run help = run({u"--help"_s});
+        for (const char *text :
+             {"\n  scan ENGINE ", "\n  clean ENGINE ", "\n  restore FILE ", "\n  startup list ",
+              "\n  startup enable NAME ", "\n  startup disable NAME ", "\n  large-files PATH... ",
+              "Engines: junk, browser, registry.", "\n  --items ", "\n  --json ", "\n  --yes ",
+              "\n  --category <ID> ", "\n  --backup <FILE> ", "\n  --no-backup ",
+              "\n  --browser <NAME> ", "\n  --min-size <SIZE> ",
+              " clean registry: ", " scan browser, clean browser: ", " large-files: "})
+            QVERIFY2(help.output.contains(text), text);
+        const QList<QByteArray> lines = help.output.split('\n').sliced(1); // after the path
+        for (const QByteArray &line : lines)
+            QVERIFY2(line.size() <= 84, line.constData());
+    }
+
     void theVersionIsTheProgramsOwn()
     {
         const Run version = run({u"--version"_s});
@@ -122,8 +254,96 @@ private Q_SLOTS:
     }
 
 private:
+    /// Every command with every option that goes with it, written down once more.
+    [[nodiscard]] QList<Use> uses() const
+    {
+        const QString run = currentVersion + "Run"_L1;
+        const RegistryEffect none;
+        return {
+            {u"scan junk"_s, {}, {u"--items"_s, u"--json"_s}, none},
+            {u"scan browser"_s, {}, {u"--items"_s, u"--json"_s, u"--browser=chrome"_s}, none},
+            {u"scan registry"_s, {}, {u"--items"_s, u"--json"_s}, none},
+            {u"clean junk"_s,
+             {u"--yes"_s},
+             {u"--json"_s, u"--yes"_s, u"--category=temp_files"_s},
+             none},
+            {u"clean browser"_s,
+             {u"--yes"_s},
+             {u"--json"_s, u"--yes"_s, u"--category=google_chrome_gpu_cache"_s,
+              u"--browser=chrome"_s},
+             none},
+            {u"clean registry"_s,
+             {u"--yes"_s, u"--no-backup"_s, u"--category=invalid_software"_s},
+             {u"--json"_s, u"--yes"_s, u"--category=invalid_software"_s,
+              u"--backup="_s + backupToWrite(), u"--no-backup"_s},
+             {deadProgram, {}, true}},
+            {u"restore"_s, {backupToRestore()}, {u"--json"_s}, {restoredKey, u"back"_s, false}},
+            {u"startup list"_s, {}, {u"--json"_s}, none},
+            {u"startup enable"_s,
+             {u"Sweepwise Player"_s},
+             {u"--json"_s},
+             {run, u"Sweepwise Player"_s, false}},
+            {u"startup disable"_s,
+             {u"Sweepwise Radio"_s},
+             {u"--json"_s},
+             {run, u"Sweepwise Radio"_s, true}},
+            {u"large-files"_s, {m_home.folder(u"big"_s)}, {u"--json"_s, u"--min-size=1"_s}, none},
+        };
+    }
+
+    [[nodiscard]] QString backupToWrite() const
+    {
+        return m_home.folder(u"backups"_s) + "/new.reg"_L1;
+    }
+
+    /// Writes it, too.
+    [[nodiscard]] QString backupToRestore() const
+    {
+        const QString path = m_home.folder(u"backups"_s) + "/kept.reg"_L1;
+        QString error;
+        if (!RegistryBackup::write(path,
+                                   u"Windows Registry Editor Version 5.00\r\n\r\n[%1]\r\n"
+                                   "\"back\"=\"again\"\r\n\r\n"_s.arg(restoredKey),
+                                   error))
+            qFatal("%s", qPrintable(error));
+        return path;
+    }
+
+    /// A registry in which the use has something to do.
+    [[nodiscard]] std::unique_ptr<RegistryFixture> registryFor(const Use &use) const
+    {
+        if (use.effect.key.isEmpty())
+            return nullptr;
+        auto fixture = std::make_unique<RegistryFixture>(m_home);
+        fixture->addText(deadProgram, {}, u"C:\\Sweepwise Missing\\use.exe"_s);
+        fixture->addText(restoredKey, u"here"_s, u"before"_s);
+        companion::addProgram(*fixture, m_home, u"Sweepwise Player"_s);
+        const QString radio = companion::addProgram(*fixture, m_home, u"Sweepwise Radio"_s);
+        fixture->addText(currentVersion + "Run"_L1, u"Sweepwise Radio"_s, radio);
+        fixture->write();
+        return fixture;
+    }
+
+    /// Runs the command with @p line and requires that it is refused with a message that has
+    /// @p word in it, and that it changes nothing.
+    void nothingIsDoneBy(const Use &use, const QStringList &line, const QString &word) const
+    {
+        const auto fixture = registryFor(use);
+        const Run refused = run(use.command.split(u' ') + line);
+        for (const QString &file : m_files)
+            QVERIFY2(QFile::exists(file), qPrintable(file));
+        QVERIFY(!QFile::exists(backupToWrite()));
+        if (fixture)
+            QCOMPARE(fixture->hasValue(use.effect.key, use.effect.value), use.effect.isThere);
+        QCOMPARE(refused.exitCode, 2);
+        QVERIFY2(refused.output.isEmpty(), refused.output.constData());
+        QVERIFY(refused.error.startsWith("sweepwise-cli: "));
+        QVERIFY2(refused.error.contains(word.toUtf8()), refused.error.constData());
+    }
+
     const TestHome &m_home;
     QString m_temp;
+    QStringList m_files; ///< that only a clean removes
 };
 
 SWEEPWISE_TEST_MAIN(TestCommandLine, QCoreApplication)

@@ -1,0 +1,152 @@
+#include "commandline.h"
+
+#include "commands.h"
+#include "logger.h"
+
+#include <QCommandLineParser>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace cli {
+
+namespace {
+
+QStringList wordsOf(const Command &command)
+{
+    return QString(command.name).split(u' ');
+}
+
+QStringList firstWords()
+{
+    QStringList words;
+    for (const Command &command : commands())
+        words.append(wordsOf(command).constFirst());
+    words.removeDuplicates();
+    return words;
+}
+
+/// The second words of the commands that begin with @p first.
+QStringList wordsAfter(const QString &first)
+{
+    QStringList words;
+    for (const Command &command : commands()) {
+        if (wordsOf(command).constFirst() == first)
+            words += wordsOf(command).sliced(1);
+    }
+    return words;
+}
+
+/// The commands that the option goes with. Where it goes with all that begin with the same word,
+/// this word stands for them.
+QStringList takersOf(Option option)
+{
+    QStringList takers;
+    for (const Command &command : commands()) {
+        if (!command.options.testFlag(option))
+            continue;
+        const QString first = wordsOf(command).constFirst();
+        const bool isForAll = std::all_of(
+            commands().begin(), commands().end(), [&first, option](const Command &other) {
+                return wordsOf(other).constFirst() != first || other.options.testFlag(option);
+            });
+        takers.append(isForAll ? first : QString(command.name));
+    }
+    takers.removeDuplicates();
+    return takers;
+}
+
+QString programHelp()
+{
+    QList<CommandHelp> lines;
+    qsizetype width = 0;
+    for (const Command &command : commands()) {
+        if (!lines.isEmpty() && lines.constLast().form == command.help.form)
+            continue;
+        lines.append(command.help);
+        width = std::max(width, command.help.form.size());
+    }
+    QString text = u"Finds clutter and removes it, without a window.\n\n"_s;
+    for (const CommandHelp &line : lines)
+        text += "  "_L1 + QString(line.form).leftJustified(width) + "  "_L1 + line.text + u'\n';
+    text += "\nEngines: "_L1 + wordsAfter(u"scan"_s).join(", "_L1) + ".\n"_L1;
+    return text + "Exit status: "_L1 + exitStatusHelp() + u'.';
+}
+
+QString optionHelp(const OptionInfo &option)
+{
+    const QStringList takers = takersOf(option.option);
+    return (takers == firstWords() ? QString() : takers.join(", "_L1) + ": "_L1) + option.help;
+}
+
+/// Null when there is none of this name.
+const Command *findCommand(const QStringList &words)
+{
+    const auto command =
+        std::find_if(commands().begin(), commands().end(), [&words](const Command &candidate) {
+            const QStringList name = wordsOf(candidate);
+            return words.first(std::min(name.size(), words.size())) == name;
+        });
+    return command == commands().end() ? nullptr : &*command;
+}
+
+ExitStatus refuseCommand(const QStringList &words)
+{
+    if (words.isEmpty())
+        return refuse(u"a command is wanted, such as 'scan junk'"_s);
+    const QStringList following = wordsAfter(words.constFirst());
+    if (following.isEmpty())
+        return refuse(u"there is no command '%1'"_s.arg(words.constFirst()));
+    return refuse(u"one of these words is wanted after '%1': %2"_s.arg(words.constFirst(),
+                                                                       following.join(", "_L1)));
+}
+
+ExitStatus runCommand(const QCommandLineParser &parser)
+{
+    const QStringList words = parser.positionalArguments();
+    const Command *command = findCommand(words);
+    if (!command)
+        return refuseCommand(words);
+    QMap<Option, QStringList> given;
+    for (const OptionInfo &option : options()) {
+        if (!parser.isSet(option.name))
+            continue;
+        if (!command->options.testFlag(option.option))
+            return refuse(u"--%1 goes with '%2'"_s.arg(option.name,
+                                                       takersOf(option.option).join("' and '"_L1)));
+        given.insert(option.option, parser.values(option.name));
+    }
+    const QStringList arguments = words.sliced(wordsOf(*command).size());
+    if (arguments.size() < command->arguments.least || arguments.size() > command->arguments.most)
+        return refuse(u"what is wanted is '%1'"_s.arg(command->help.form));
+    return command->run({arguments, given});
+}
+
+} // namespace
+
+ExitStatus runCommandLine(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(programHelp());
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    for (const OptionInfo &option : options())
+        parser.addOption({option.name, optionHelp(option), option.value});
+    parser.addPositionalArgument(u"command"_s, firstWords().join(", "_L1));
+    parser.addPositionalArgument(u"argument"_s, u"an engine, a file, folders, or what to do"_s);
+
+    if (!parser.parse(arguments))
+        return refuse(parser.errorText());
+    if (parser.isSet(help))
+        parser.showHelp(Success);
+    if (parser.isSet(version))
+        parser.showVersion();
+
+    const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    Logger::instance().init(dataFolder + "/logs"_L1);
+    return runCommand(parser);
+}
+
+} // namespace cli

@@ -42,10 +42,9 @@ ExitStatus scan(const Target &target, const Invocation &invocation)
     runScan(target.engine);
     const auto items = invocation.has(Option::Items) ? report::Items::Listed : report::Items::Left;
     const ScanResult &result = std::as_const(target.engine).result();
-    return finish(invocation.has(Option::Json)
-                      ? report::scanAsJson(target.subject, result, items)
-                      : report::scanAsText(target.subject, result, items).toLocal8Bit(),
-                  Success);
+    return finish(
+        invocation, [&] { return report::scanAsJson(target.subject, result, items); },
+        [&] { return report::scanAsText(target.subject, result, items); });
 }
 
 /// Every clean starts here, so that this is the one place that asks whether the user wants it.
@@ -76,10 +75,10 @@ ExitStatus clean(const Target &target, const Invocation &invocation)
     if (target.otherFailures)
         outcome.failures = target.otherFailures();
     outcome.failures += engine.failures();
-    return finish(invocation.has(Option::Json)
-                      ? report::cleanAsJson(target.subject, outcome)
-                      : report::cleanAsText(target.subject, outcome).toLocal8Bit(),
-                  outcome.failures.isEmpty() ? Success : SomeFailed);
+    return finish(
+        invocation, [&] { return report::cleanAsJson(target.subject, outcome); },
+        [&] { return report::cleanAsText(target.subject, outcome); },
+        outcome.failures.isEmpty() ? Success : SomeFailed);
 }
 
 ExitStatus withJunk(Action action, const Invocation &invocation)

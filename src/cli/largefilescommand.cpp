@@ -7,9 +7,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTextStream>
 
 #include <algorithm>
@@ -22,29 +19,29 @@ namespace cli {
 
 namespace {
 
-QByteArray asJson(const LargeFileScanner &scanner, const QList<LargeFileInfo> &files)
+QJsonObject asObject(const LargeFileInfo &file)
 {
-    QJsonArray list;
-    for (const LargeFileInfo &file : files) {
-        list.append(QJsonObject{
-            {u"path"_s, file.path},
-            {u"name"_s, file.name},
-            {u"directory"_s, file.directory},
-            {u"size"_s, file.size},
-            {u"modified"_s, file.modified.toUTC().toString(Qt::ISODate)},
-            {u"type"_s, file.type},
-        });
-    }
-    return QJsonDocument(QJsonObject{
-                             {u"filesScanned"_s, scanner.filesScanned()},
-                             {u"totalCount"_s, files.size()},
-                             {u"totalSize"_s, scanner.totalSize()},
-                             {u"files"_s, list},
-                         })
-        .toJson();
+    return {
+        {u"path"_s, file.path},
+        {u"name"_s, file.name},
+        {u"directory"_s, file.directory},
+        {u"size"_s, file.size},
+        {u"modified"_s, file.modified.toUTC().toString(Qt::ISODate)},
+        {u"type"_s, file.type},
+    };
 }
 
-QByteArray asText(const LargeFileScanner &scanner, const QList<LargeFileInfo> &files)
+QJsonObject asJson(const LargeFileScanner &scanner, const QList<LargeFileInfo> &files)
+{
+    return {
+        {u"filesScanned"_s, scanner.filesScanned()},
+        {u"totalCount"_s, files.size()},
+        {u"totalSize"_s, scanner.totalSize()},
+        {u"files"_s, jsonArray(files, asObject)},
+    };
+}
+
+QString asText(const LargeFileScanner &scanner, const QList<LargeFileInfo> &files)
 {
     QString text;
     QTextStream out(&text);
@@ -53,8 +50,7 @@ QByteArray asText(const LargeFileScanner &scanner, const QList<LargeFileInfo> &f
     out << "Found %1 large files, %2, among %3 files\n"_L1.arg(
         QString::number(files.size()), formatSize(scanner.totalSize()),
         QString::number(scanner.filesScanned()));
-    out.flush();
-    return text.toLocal8Bit();
+    return text;
 }
 
 // Nothing for what is no size, or less than one byte.
@@ -103,8 +99,8 @@ ExitStatus listLargeFiles(const Invocation &invocation)
               [](const LargeFileInfo &left, const LargeFileInfo &right) {
                   return left.size != right.size ? left.size > right.size : left.path < right.path;
               });
-    return finish(invocation.has(Option::Json) ? asJson(scanner, files) : asText(scanner, files),
-                  Success);
+    return finish(
+        invocation, [&] { return asJson(scanner, files); }, [&] { return asText(scanner, files); });
 }
 
 } // namespace cli

@@ -1,5 +1,6 @@
 #include "output.h"
 
+#include <QJsonDocument>
 #include <QStringList>
 
 #include <cstdio>
@@ -27,21 +28,26 @@ void complain(const QString &text)
     std::fputs(qPrintable(text), stderr);
 }
 
-bool print(const QByteArray &report)
-{
-    const auto size = static_cast<std::size_t>(report.size());
-    return std::fwrite(report.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-}
-
 ExitStatus refuse(const QString &message)
 {
     complain("sweepwise-cli: "_L1 + message + "\nSee sweepwise-cli --help.\n"_L1);
     return WrongUse;
 }
 
-ExitStatus finish(const QByteArray &report, ExitStatus status)
+ExitStatus finish(const Invocation &invocation, const std::function<QJsonObject()> &asJson,
+                  const std::function<QString()> &asText, ExitStatus status)
 {
-    return print(report) ? status : refuse(u"the report could not be written"_s);
+    const QByteArray report =
+        invocation.has(Option::Json) ? QJsonDocument(asJson()).toJson() : asText().toLocal8Bit();
+    const auto size = static_cast<std::size_t>(report.size());
+    if (std::fwrite(report.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        return refuse(u"the report could not be written"_s);
+    return status;
+}
+
+QString tickMark(Qt::CheckState state)
+{
+    return state == Qt::Checked ? u"[x] "_s : state == Qt::Unchecked ? u"[ ] "_s : u"[-] "_s;
 }
 
 } // namespace cli

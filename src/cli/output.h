@@ -1,7 +1,12 @@
 #pragma once
 
-#include <QByteArray>
+#include "invocation.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QString>
+
+#include <functional>
 
 /// What every command says and how it ends.
 namespace cli {
@@ -13,13 +18,27 @@ enum ExitStatus { Success = 0, SomeFailed = 1, WrongUse = 2 };
 
 void complain(const QString &text);
 
-/// Writes a whole report; false when it did not get out, for instance because the disk is full.
-[[nodiscard]] bool print(const QByteArray &report);
-
 /// Tells on standard error why the command does not go on; returns WrongUse.
 ExitStatus refuse(const QString &message);
 
-/// Prints the report and returns @p status, or refuses because it could not be written.
-[[nodiscard]] ExitStatus finish(const QByteArray &report, ExitStatus status);
+/// Prints what the command found or did: as one JSON object with --json, else as text. Returns
+/// @p status, or refuses when the report did not get out, for instance because the disk is full.
+[[nodiscard]] ExitStatus finish(const Invocation &invocation,
+                                const std::function<QJsonObject()> &asJson,
+                                const std::function<QString()> &asText,
+                                ExitStatus status = Success);
+
+/// The box before a line of a list, with a blank after it.
+[[nodiscard]] QString tickMark(Qt::CheckState state);
+
+/// @p asObject of each in @p list.
+template<typename List, typename AsObject>
+[[nodiscard]] QJsonArray jsonArray(const List &list, AsObject asObject)
+{
+    QJsonArray array;
+    for (const auto &entry : list)
+        array.append(asObject(entry));
+    return array;
+}
 
 } // namespace cli

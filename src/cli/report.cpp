@@ -1,11 +1,8 @@
 #include "report.h"
 
+#include "output.h"
 #include "text.h"
 
-#include <QCoreApplication>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -40,23 +37,19 @@ QJsonObject categoryAsJson(const CleanCategory &category, Items items)
         {u"totalSize"_s, category.totalSize()},
         {u"checkedCount"_s, category.checkedCount()},
     };
-    if (items == Items::Listed) {
-        QJsonArray list;
-        for (const CleanItem &item : category.items)
-            list.append(itemAsJson(item));
-        object.insert("items"_L1, list);
-    }
+    if (items == Items::Listed)
+        object.insert("items"_L1, cli::jsonArray(category.items, itemAsJson));
     return object;
+}
+
+QJsonObject failureAsJson(const CleanFailure &failure)
+{
+    return {{u"path"_s, failure.path}, {u"reason"_s, failure.reason}};
 }
 
 QString timeStamp(const QDateTime &time)
 {
     return time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);
-}
-
-QString mark(Qt::CheckState state)
-{
-    return state == Qt::Checked ? u"[x] "_s : state == Qt::Unchecked ? u"[ ] "_s : u"[-] "_s;
 }
 
 QString riskWord(int level)
@@ -81,21 +74,20 @@ void writeItem(QTextStream &stream, const CleanItem &item, const CleanCategory &
 
 } // namespace
 
-QByteArray scanAsJson(const Subject &subject, const ScanResult &result, Items items)
+QJsonObject scanAsJson(const Subject &subject, const ScanResult &result, Items items)
 {
-    QJsonArray categories;
-    for (const CleanCategory &category : result.categories)
-        categories.append(categoryAsJson(category, items));
-    const QJsonObject object{
+    const auto category = [items](const CleanCategory &found) {
+        return categoryAsJson(found, items);
+    };
+    return {
         {u"engine"_s, subject.engine},
         {u"scanTime"_s, timeStamp(result.scanTime)},
         {u"totalCount"_s, result.totalCount()},
         {u"totalSize"_s, result.totalSize()},
         {u"checkedCount"_s, result.checkedCount()},
         {u"checkedSize"_s, result.checkedSize()},
-        {u"categories"_s, categories},
+        {u"categories"_s, cli::jsonArray(result.categories, category)},
     };
-    return QJsonDocument(object).toJson();
 }
 
 QString scanAsText(const Subject &subject, const ScanResult &result, Items items)
@@ -105,7 +97,7 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
     const bool hasSizes = subject.unit == Unit::Bytes;
     for (const CleanCategory &category : result.categories) {
         const Qt::CheckState state = category.checkState();
-        stream << mark(state);
+        stream << cli::tickMark(state);
         stream << qSetFieldWidth(32) << Qt::left << singleLine(category.name);
         stream << qSetFieldWidth(9) << Qt::right << category.items.size() << qSetFieldWidth(0)
                << " items  ";
@@ -122,7 +114,8 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
             // Which ones are meant has to be said of each only where it is not the same for all.
             const bool isPartial = state == Qt::PartiallyChecked;
             stream << (isPartial ? "  " : "      ")
-                   << (isPartial ? mark(item.checked ? Qt::Checked : Qt::Unchecked) : QString());
+                   << (isPartial ? cli::tickMark(item.checked ? Qt::Checked : Qt::Unchecked)
+                                 : QString());
             writeItem(stream, item, category, subject.unit);
         }
     }
@@ -139,19 +132,15 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
     return text;
 }
 
-QByteArray cleanAsJson(const Subject &subject, const CleanOutcome &outcome)
+QJsonObject cleanAsJson(const Subject &subject, const CleanOutcome &outcome)
 {
-    QJsonArray failures;
-    for (const CleanFailure &failure : outcome.failures)
-        failures.append(QJsonObject{{u"path"_s, failure.path}, {u"reason"_s, failure.reason}});
-    const QJsonObject object{
+    return {
         {u"engine"_s, subject.engine},
         {u"cleanedCount"_s, outcome.cleanedCount},
         {u"cleanedSize"_s, outcome.cleanedSize},
         {u"failedCount"_s, outcome.failures.size()},
-        {u"failures"_s, failures},
+        {u"failures"_s, cli::jsonArray(outcome.failures, failureAsJson)},
     };
-    return QJsonDocument(object).toJson();
 }
 
 QString cleanAsText(const Subject &subject, const CleanOutcome &outcome)

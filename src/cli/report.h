@@ -3,7 +3,7 @@
 #include "cleanengine.h"
 #include "scanresult.h"
 
-#include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 
 /// How a scan and a clean are told on standard output: the same shape for every engine.
@@ -18,9 +18,8 @@ struct Subject {
     Unit unit = Unit::Bytes;
 };
 
-/// @p result as one JSON object whose members are named as the records' fields are; ends with a
-/// line feed.
-[[nodiscard]] QByteArray scanAsJson(const Subject &subject, const ScanResult &result, Items items);
+/// @p result with members that are named as the records' fields are.
+[[nodiscard]] QJsonObject scanAsJson(const Subject &subject, const ScanResult &result, Items items);
 /// @p result as text for people, one line a category and, when listed, one an item.
 [[nodiscard]] QString scanAsText(const Subject &subject, const ScanResult &result, Items items);
 
@@ -30,7 +29,7 @@ struct CleanOutcome {
     QList<CleanFailure> failures;
 };
 
-[[nodiscard]] QByteArray cleanAsJson(const Subject &subject, const CleanOutcome &outcome);
+[[nodiscard]] QJsonObject cleanAsJson(const Subject &subject, const CleanOutcome &outcome);
 [[nodiscard]] QString cleanAsText(const Subject &subject, const CleanOutcome &outcome);
 
 } // namespace report

@@ -6,9 +6,6 @@
 #include "text.h"
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 
@@ -18,7 +15,7 @@ namespace cli {
 
 namespace {
 
-QByteArray asText(const QList<RegistryRestore::Outcome> &outcomes, qsizetype restored)
+QString asText(const QList<RegistryRestore::Outcome> &outcomes, qsizetype restored)
 {
     QString text;
     for (const RegistryRestore::Outcome &outcome : outcomes) {
@@ -30,20 +27,21 @@ QByteArray asText(const QList<RegistryRestore::Outcome> &outcomes, qsizetype res
     }
     text += u"Restored %1 keys and values; %2 failed.\n"_s.arg(
         QString::number(restored), QString::number(outcomes.size() - restored));
-    return text.toLocal8Bit();
+    return text;
 }
 
-QByteArray asJson(const QList<RegistryRestore::Outcome> &outcomes, qsizetype restored)
+QJsonObject asObject(const RegistryRestore::Outcome &outcome)
 {
-    QJsonArray entries;
-    for (const RegistryRestore::Outcome &outcome : outcomes)
-        entries.append(QJsonObject{{u"entry"_s, outcome.entry},
-                                   {u"restored"_s, outcome.isRestored},
-                                   {u"error"_s, outcome.error}});
-    return QJsonDocument(QJsonObject{{u"restoredCount"_s, restored},
-                                     {u"failedCount"_s, outcomes.size() - restored},
-                                     {u"entries"_s, entries}})
-        .toJson();
+    return {{u"entry"_s, outcome.entry},
+            {u"restored"_s, outcome.isRestored},
+            {u"error"_s, outcome.error}};
+}
+
+QJsonObject asJson(const QList<RegistryRestore::Outcome> &outcomes, qsizetype restored)
+{
+    return {{u"restoredCount"_s, restored},
+            {u"failedCount"_s, outcomes.size() - restored},
+            {u"entries"_s, jsonArray(outcomes, asObject)}};
 }
 
 } // namespace
@@ -65,9 +63,10 @@ ExitStatus restore(const Invocation &invocation)
     const auto restored =
         std::count_if(outcomes.begin(), outcomes.end(),
                       [](const RegistryRestore::Outcome &outcome) { return outcome.isRestored; });
-    return finish(invocation.has(Option::Json) ? asJson(outcomes, restored)
-                                               : asText(outcomes, restored),
-                  restored == outcomes.size() ? Success : SomeFailed);
+    return finish(
+        invocation, [&] { return asJson(outcomes, restored); },
+        [&] { return asText(outcomes, restored); },
+        restored == outcomes.size() ? Success : SomeFailed);
 }
 
 } // namespace cli

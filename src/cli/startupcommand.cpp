@@ -4,10 +4,6 @@
 #include "startupmanager.h"
 #include "text.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -46,12 +42,22 @@ ExitStatus switchStartup(const Invocation &invocation, bool enable)
     const StartupApp changed = *std::find_if(apps.cbegin(), apps.cend(), hasName);
     if (changed.isStartup != enable)
         return refuse(u"'%1' was changed by another program meanwhile"_s.arg(app.name));
-    const QString line = (enable ? u"%1 starts with the session now.\n"_s
-                                 : u"%1 does not start with the session any more.\n"_s)
-                             .arg(singleLine(app.name));
-    return finish(invocation.has(Option::Json) ? QJsonDocument(asObject(changed)).toJson()
-                                               : line.toLocal8Bit(),
-                  Success);
+    return finish(
+        invocation, [&] { return asObject(changed); },
+        [&] {
+            return (enable ? u"%1 starts with the session now.\n"_s
+                           : u"%1 does not start with the session any more.\n"_s)
+                .arg(singleLine(app.name));
+        });
+}
+
+QString asText(const QList<StartupApp> &apps)
+{
+    QString text;
+    for (const StartupApp &app : apps)
+        text += tickMark(app.isStartup ? Qt::Checked : Qt::Unchecked) + singleLine(app.name)
+            + "  "_L1 + singleLine(app.exePath) + u'\n';
+    return text;
 }
 
 } // namespace
@@ -59,17 +65,13 @@ ExitStatus switchStartup(const Invocation &invocation, bool enable)
 ExitStatus listStartup(const Invocation &invocation)
 {
     StartupManager manager;
-    if (invocation.has(Option::Json)) {
-        QJsonArray apps;
-        for (const StartupApp &app : manager.apps())
-            apps.append(asObject(app));
-        return finish(QJsonDocument(QJsonObject{{u"apps"_s, apps}}).toJson(), Success);
-    }
-    QString text;
-    for (const StartupApp &app : manager.apps())
-        text += (app.isStartup ? "[x] "_L1 : "[ ] "_L1) + singleLine(app.name) + "  "_L1
-            + singleLine(app.exePath) + u'\n';
-    return finish(text.toLocal8Bit(), Success);
+    const QList<StartupApp> &apps = manager.apps();
+    return finish(
+        invocation,
+        [&] {
+            return QJsonObject{{u"apps"_s, jsonArray(apps, asObject)}};
+        },
+        [&] { return asText(apps); });
 }
 
 ExitStatus enableStartup(const Invocation &invocation)

@@ -26,7 +26,6 @@
 #endif
 
 using namespace Qt::StringLiterals;
-using platform::EntryKind;
 using platform::WalkOptions;
 using platform::WalkReport;
 
@@ -831,28 +830,6 @@ private Q_SLOTS:
                  platform::FileRemover::Status::Removed);
     }
 #endif
-
-    void inspectTellsWhatTheEntryItselfIs()
-    {
-        const TestTree tree;
-        tree.file(u"folder/file"_s, "123");
-        QCOMPARE(platform::inspect(tree.path(u"folder/file"_s)).kind, EntryKind::File);
-        QCOMPARE(platform::inspect(tree.path(u"folder/file"_s)).size, 3);
-        QCOMPARE(platform::inspect(tree.path(u"folder"_s)).kind, EntryKind::Folder);
-        QCOMPARE(platform::inspect(tree.path(u"nothing"_s)).kind, EntryKind::Missing);
-        QCOMPARE(platform::inspect(tree.path(u"nothing/below"_s)).kind, EntryKind::Missing);
-        QCOMPARE(platform::inspect(tree.path(u"folder/file/below"_s)).kind, EntryKind::Missing);
-        QCOMPARE(platform::inspect(u"relative"_s).kind, EntryKind::Missing);
-        QCOMPARE(platform::inspect(QString()).kind, EntryKind::Missing);
-#ifdef Q_OS_UNIX
-        tree.link(tree.path(u"folder"_s), u"link"_s);
-        tree.link(u"nowhere"_s, u"broken"_s);
-        QCOMPARE(platform::inspect(tree.path(u"link"_s)).kind, EntryKind::Link);
-        QCOMPARE(platform::inspect(tree.path(u"broken"_s)).kind, EntryKind::Link);
-        QCOMPARE(platform::inspect(tree.path(u"link/file"_s)).kind, EntryKind::Link);
-        QCOMPARE(platform::inspect(u"/dev/null"_s).kind, EntryKind::Other);
-#endif
-    }
 };
 
 QTEST_GUILESS_MAIN(TestFileWalk)

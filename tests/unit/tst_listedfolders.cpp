@@ -52,14 +52,6 @@ private Q_SLOTS:
         QVERIFY((listed.idOf(u"/a"_s) != EntryId{1, 3}));
     }
 
-    void theFolderOfAPathIsWhatStandsBeforeItsName()
-    {
-        QCOMPARE(platform::folderOf(u"/a/b"_s), u"/a"_s);
-        QCOMPARE(platform::folderOf(u"/a"_s), QString());
-        QCOMPARE(platform::folderOf(u"C:/a"_s), u"C:"_s);
-        QCOMPARE(platform::folderOf(u"a"_s), QString());
-    }
-
     void aWalkRecordsTheFoldersThatItListsFrom()
     {
         const TestTree tree;
@@ -95,17 +87,6 @@ private Q_SLOTS:
             tree.path(), {}, [](platform::WalkedFile &&) {}, &after);
         QVERIFY(before.idOf(tree.path(u"a"_s)) != after.idOf(tree.path(u"a"_s)));
         QCOMPARE(after.idOf(tree.path(u"away"_s)), before.idOf(tree.path(u"a"_s)));
-    }
-
-    void aFileIsToldWithItsFolder()
-    {
-        const TestTree tree;
-        const platform::Entry entry = platform::inspect(tree.file(u"a/f"_s));
-        ListedFolders listed;
-        platform::walkFiles(
-            tree.path(), {}, [](platform::WalkedFile &&) {}, &listed);
-        QVERIFY(entry.folder.isKnown());
-        QCOMPARE(entry.folder, listed.idOf(tree.path(u"a"_s)));
     }
 };
 

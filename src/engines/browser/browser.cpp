@@ -1,6 +1,6 @@
 #include "browser.h"
 
-#include "filewalk.h"
+#include "entry.h"
 #include "folderlister.h"
 #include "inifile.h"
 #include "logger.h"

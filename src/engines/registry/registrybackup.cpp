@@ -1,7 +1,7 @@
 #include "registrybackup.h"
 
 #include "filesync.h"
-#include "filewalk.h"
+#include "entry.h"
 #include "rulefolders.h"
 #include "text.h"
 

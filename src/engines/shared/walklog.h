@@ -1,5 +1,6 @@
 #pragma once
 
+#include "entry.h"
 #include "filewalk.h"
 
 #include <QString>

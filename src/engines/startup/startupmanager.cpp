@@ -1,5 +1,6 @@
 #include "startupmanager.h"
 
+#include "entry.h"
 #include "filewalk.h"
 #include "folderlister.h"
 #include "logger.h"

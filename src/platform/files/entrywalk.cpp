@@ -1,5 +1,6 @@
 #include "entrywalk.h"
 
+#include "entry.h"
 #include "folderlister.h"
 
 #include <utility>

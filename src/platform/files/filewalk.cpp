@@ -1,5 +1,7 @@
 #include "filewalk.h"
 
+#include "entry.h"
+
 #include <utility>
 
 namespace platform {
@@ -48,17 +50,6 @@ WalkReport walkFiles(const QString &root, const WalkOptions &options, const File
 {
     Lister lister(visit, listed);
     return walkTree(root, options, {&lister});
-}
-
-QString joinedPath(const QString &folder, const QString &name)
-{
-    QString path;
-    path.reserve(folder.size() + 1 + name.size());
-    path += folder;
-    if (!folder.endsWith(u'/')) // only the top of a file system does
-        path += u'/';
-    path += name;
-    return path;
 }
 
 } // namespace platform

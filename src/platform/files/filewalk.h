@@ -12,25 +12,6 @@
 
 namespace platform {
 
-/// What a path itself is, never what a link at it leads to.
-enum class EntryKind {
-    Missing, ///< nothing is there
-    File, ///< a regular file
-    Folder, ///< a real folder
-    Link, ///< a symbolic link, junction or mount point; also a path that passes through one
-    Other, ///< a pipe, socket, device, or something that cannot be looked at
-};
-
-struct Entry {
-    EntryKind kind = EntryKind::Missing;
-    qint64 size = 0; ///< bytes, for files only
-    QString error; ///< for people; why it cannot be looked at, with EntryKind::Other
-    EntryId folder; ///< the folder that holds it, for files only
-};
-
-/// Looks at the entry at an absolute path without following a link anywhere on the way.
-[[nodiscard]] Entry inspect(const QString &path);
-
 /// One file that a walk found.
 struct WalkedFile {
     QString name; ///< without its folder
@@ -141,8 +122,5 @@ public:
 /// one after the other, but the order of folders is free. Returns when all of them are done.
 WalkReport walkTree(const QString &root, const WalkOptions &options,
                     const QList<TreeVisitor *> &visitors);
-
-/// The path of the entry @p name of a folder.
-[[nodiscard]] QString joinedPath(const QString &folder, const QString &name);
 
 } // namespace platform

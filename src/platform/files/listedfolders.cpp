@@ -38,9 +38,4 @@ void ListedFolders::clear()
     m_ids.clear();
 }
 
-QString folderOf(const QString &path)
-{
-    return path.left(qMax<qsizetype>(path.lastIndexOf(u'/'), 0));
-}
-
 } // namespace platform

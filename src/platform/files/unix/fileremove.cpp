@@ -9,8 +9,6 @@
 
 #include <cerrno>
 #include <optional>
-#include <string>
-#include <system_error>
 #include <vector>
 
 #include <dirent.h>
@@ -29,8 +27,7 @@ using Outcome = FileRemover::Outcome;
 
 Outcome failure(int error, bool wasFolder = false)
 {
-    return {Status::Failed, wasFolder,
-            QString::fromStdString(std::generic_category().message(error))};
+    return {Status::Failed, wasFolder, reasonOf(error)};
 }
 
 bool isFolderAt(int folder, const char *name)

@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <memory>
 #include <optional>
-#include <system_error>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -77,7 +76,7 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
     FolderListing listing;
     const auto fail = [&listing](int error) {
         listing.isMissing = error == ENOENT || error == ENOTDIR || error == ELOOP;
-        listing.error = QString::fromStdString(std::generic_category().message(error));
+        listing.error = reasonOf(error);
     };
     const UniqueFd folder = openFolder(QFile::encodeName(path));
     FileStatus status{};

@@ -3,6 +3,8 @@
 #include <QFile>
 
 #include <cerrno>
+#include <string>
+#include <system_error>
 
 #include <fcntl.h>
 #include <linux/openat2.h>
@@ -119,6 +121,11 @@ UniqueFd openFolder(const QByteArray &path, Access access)
     while (begin < path.size() && path.at(begin) == '/')
         ++begin;
     return openFolderBelow(root.get(), path.mid(begin), Mounts::Cross, access);
+}
+
+QString reasonOf(int error)
+{
+    return QString::fromStdString(std::generic_category().message(error));
 }
 
 SplitPath splitPath(const QString &path)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "listedfolders.h"
+#include "entry.h"
 
 #include <QByteArray>
 #include <QString>
@@ -76,6 +76,9 @@ enum class Access { Read, PassThrough };
 
 /// The same for an absolute path, from the root of the file system down; mount points are crossed.
 [[nodiscard]] UniqueFd openFolder(const QByteArray &path, Access access = Access::Read);
+
+/// What the system says of an errno, for people.
+[[nodiscard]] QString reasonOf(int error);
 
 /// An absolute path split into its folder and the name of its last entry.
 struct SplitPath {

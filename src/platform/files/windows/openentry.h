@@ -1,6 +1,6 @@
 #pragma once
 
-#include "listedfolders.h"
+#include "entry.h"
 
 #include <QString>
 

@@ -1,0 +1,21 @@
+#include "entry.h"
+
+namespace platform {
+
+QString joinedPath(const QString &folder, const QString &name)
+{
+    QString path;
+    path.reserve(folder.size() + 1 + name.size());
+    path += folder;
+    if (!folder.endsWith(u'/')) // only the top of a file system does
+        path += u'/';
+    path += name;
+    return path;
+}
+
+QString folderOf(const QString &path)
+{
+    return path.left(qMax<qsizetype>(path.lastIndexOf(u'/'), 0));
+}
+
+} // namespace platform

@@ -1,6 +1,7 @@
 #include "fileremove.h"
 
 #include "fileremove_p.h"
+#include "unix/folderreader.h"
 #include "unix/openfolder.h"
 
 #include <QByteArray>
@@ -11,7 +12,6 @@
 #include <optional>
 #include <vector>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <time.h>
@@ -98,6 +98,7 @@ public:
         , m_parentPath(parentPath)
         , m_name(name)
         , m_stopRequested(stopRequested)
+        , m_reader(stopRequested)
     {
     }
 
@@ -194,32 +195,18 @@ private:
 
     bool clear(Level &level)
     {
-        char buffer[32 * 1024];
-        for (;;) {
-            const ssize_t length = ::getdents64(level.fd.get(), buffer, sizeof buffer);
-            if (length == 0)
-                return true;
-            if (length < 0) {
-                note(errno);
-                return false;
-            }
-            for (ssize_t offset = 0; offset < length;) {
-                if (isStopped() || m_wasMoved)
-                    return true;
-                const auto *entry = reinterpret_cast<const dirent64 *>(buffer + offset);
-                offset += entry->d_reclen;
-                if (qstrcmp(entry->d_name, ".") != 0 && qstrcmp(entry->d_name, "..") != 0)
-                    removeEntry(level, *entry);
-            }
-        }
+        m_reader.begin(level.fd.get());
+        while (const dirent64 *entry = m_wasMoved ? nullptr : m_reader.next())
+            removeEntry(level, *entry);
+        if (m_reader.error() != 0)
+            note(m_reader.error());
+        return m_reader.error() == 0;
     }
 
     void removeEntry(Level &level, const dirent64 &entry)
     {
         const int fd = level.fd.get();
-        const bool isFolder =
-            entry.d_type == DT_DIR || (entry.d_type == DT_UNKNOWN && isFolderAt(fd, entry.d_name));
-        if (isFolder) {
+        if (m_reader.typeOf(entry) == DT_DIR) {
             level.subfolders.emplace_back(entry.d_name);
         } else if (isInPlace(level) && ::unlinkat(fd, entry.d_name, 0) != 0 && errno != ENOENT) {
             // A folder that its owner made read-only does not protect what is in it from being
@@ -317,6 +304,7 @@ private:
     const QByteArray m_parentPath;
     const QByteArray m_name;
     const std::atomic_bool *const m_stopRequested;
+    FolderReader m_reader;
     UniqueFd m_top;
     std::vector<Level> m_levels;
     PlaceGuard m_guard;

@@ -2,6 +2,7 @@
 
 #include "namefilter.h"
 #include "unix/dosattributes.h"
+#include "unix/folderreader.h"
 #include "unix/openfolder.h"
 
 #include <QFile>
@@ -24,9 +25,6 @@
 namespace platform {
 
 namespace {
-
-// Large enough that a folder of a thousand files needs one call, small enough to stay in the cache.
-constexpr std::size_t bufferSize = 65'536;
 
 using SharedFd = std::shared_ptr<const UniqueFd>;
 
@@ -185,7 +183,7 @@ public:
         : m_shared(shared)
         , m_filter(shared.options.nameFilters)
         , m_visitor(visitor)
-        , m_buffer(std::make_unique_for_overwrite<char[]>(bufferSize))
+        , m_reader(shared.options.stopRequested)
     {
     }
 
@@ -306,47 +304,31 @@ private:
         const bool isAsked = m_visitor.enterFolder(path) == TreeVisitor::Wanted::SizesAndTimes;
         m_mayBeHidden = m_shared.attributes.mayBeIn(path);
         std::shared_ptr<Level> level;
-        while (!m_shared.queue.isStopped()) {
-            const ssize_t length = ::getdents64(fd->get(), m_buffer.get(), bufferSize);
-            if (length < 0)
-                addFailure(path, errno);
-            if (length <= 0)
-                break;
-            for (ssize_t offset = 0; offset < length;) {
-                if (m_shared.queue.isStopped())
-                    return;
-                const auto *entry = reinterpret_cast<const dirent64 *>(m_buffer.get() + offset);
-                offset += entry->d_reclen;
-                readEntry(fd->get(), path, *entry, isAsked);
+        m_reader.begin(fd->get());
+        while (const dirent64 *entry = m_reader.next()) {
+            readEntry(fd->get(), path, *entry, isAsked);
+            if (!m_subfolders.empty() && !m_subfolders.back().parent) {
+                if (!level) {
+                    level = std::make_shared<Level>(Level{base, path, id.volume, nullptr});
+                    m_shared.levels.keep(level, fd);
+                }
+                m_subfolders.back().parent = level;
             }
-            if (!m_subfolders.empty() && !level) {
-                level = std::make_shared<Level>(Level{base, path, id.volume, nullptr});
-                m_shared.levels.keep(level, fd);
-            }
-            for (std::size_t i = m_levelled; i < m_subfolders.size(); ++i)
-                m_subfolders[i].parent = level;
-            m_levelled = m_subfolders.size();
-            if (!m_shared.hasOneWalker)
-                passOnSubfolders(); // somebody may be waiting for them
+            if (!m_shared.hasOneWalker && m_reader.isBufferRead())
+                m_shared.queue.add(m_subfolders); // somebody may be waiting for them
         }
-        passOnSubfolders();
-    }
-
-    void passOnSubfolders()
-    {
+        if (m_reader.error() != 0)
+            addFailure(path, m_reader.error());
         m_shared.queue.add(m_subfolders);
-        m_levelled = 0;
     }
 
     void readEntry(int folderFd, const QString &folder, const dirent64 &entry, bool isAsked)
     {
-        // A leading dot is what hides an entry here; it also covers "." and "..".
+        // A leading dot is what hides an entry here.
         if (entry.d_name[0] == '.')
             return;
         const QUtf8StringView name(entry.d_name);
-        unsigned char type = entry.d_type;
-        if (type == DT_UNKNOWN)
-            type = typeOf(folderFd, entry.d_name);
+        const unsigned char type = m_reader.typeOf(entry);
         if (type == DT_REG) {
             if (name.isValidUtf8() && isMatch(name) && isShown(folderFd, entry.d_name))
                 readFile(folderFd, entry.d_name, isAsked);
@@ -368,14 +350,6 @@ private:
     bool isMatch(QUtf8StringView name) const
     {
         return m_filter.matchesEverything() || m_filter.matches(name.toString());
-    }
-
-    static unsigned char typeOf(int folderFd, const char *name)
-    {
-        FileStatus status{};
-        if (::fstatat(folderFd, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
-            return DT_UNKNOWN;
-        return static_cast<unsigned char>(IFTODT(status.st_mode));
     }
 
     static constexpr unsigned fileMask = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_MTIME;
@@ -426,9 +400,8 @@ private:
     Shared &m_shared;
     const NameFilter m_filter;
     TreeVisitor &m_visitor;
-    const std::unique_ptr<char[]> m_buffer;
+    FolderReader m_reader;
     std::vector<Folder> m_subfolders; ///< of the folder that is being read
-    std::size_t m_levelled = 0; ///< how many of them know their parent
     WalkedFolder m_folder; ///< that is being read
     bool m_mayBeHidden = false; ///< what is in it, though it has no dot in front
 };

@@ -1,6 +1,7 @@
 #include "folderlister.h"
 
 #include "unix/dosattributes.h"
+#include "unix/folderreader.h"
 #include "unix/openfolder.h"
 
 #include <QFile>
@@ -16,8 +17,6 @@
 namespace platform {
 
 namespace {
-
-constexpr std::size_t bufferSize = 65'536;
 
 // One look at the entry itself; at what a link leads to when @p flags say so.
 std::optional<struct statx> look(int folder, const char *name, int flags)
@@ -51,11 +50,6 @@ std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry, bool 
     return {};
 }
 
-bool isNone(const dirent64 &entry)
-{
-    return qstrcmp(entry.d_name, ".") == 0 || qstrcmp(entry.d_name, "..") == 0;
-}
-
 } // namespace
 
 class FolderLister::Private
@@ -87,24 +81,15 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
     listing.device = status.st_dev;
     listing.id = idOf(status);
     const bool mayBeHidden = d->attributes.mayBeIn(path);
-    const auto buffer = std::make_unique_for_overwrite<char[]>(bufferSize);
-    for (;;) {
-        const ssize_t length = ::getdents64(folder.get(), buffer.get(), bufferSize);
-        if (length < 0)
-            fail(errno);
-        if (length <= 0)
-            return listing;
-        for (ssize_t offset = 0; offset < length;) {
-            if (stopRequested && stopRequested->load(std::memory_order_relaxed))
-                return listing;
-            const auto *entry = reinterpret_cast<const dirent64 *>(buffer.get() + offset);
-            offset += entry->d_reclen;
-            if (isNone(*entry))
-                continue;
-            if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry, mayBeHidden))
-                listing.entries.push_back(std::move(*found));
-        }
+    FolderReader reader(stopRequested);
+    reader.begin(folder.get());
+    while (const dirent64 *entry = reader.next()) {
+        if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry, mayBeHidden))
+            listing.entries.push_back(std::move(*found));
     }
+    if (reader.error() != 0)
+        fail(reader.error());
+    return listing;
 }
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #include "fileremove.h"
 
 #include "fileremove_p.h"
+#include "windows/folderreader.h"
 #include "windows/openentry.h"
 
 #include <optional>
@@ -8,8 +9,6 @@
 #include <vector>
 
 #include <windows.h>
-
-using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -236,28 +235,20 @@ private:
 
     void clear(Level &level)
     {
-        const QString pattern = level.path + "\\*"_L1;
-        WIN32_FIND_DATAW data{};
-        const HANDLE search =
-            ::FindFirstFileExW(reinterpret_cast<const wchar_t *>(pattern.utf16()), FindExInfoBasic,
-                               &data, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
-        if (search == INVALID_HANDLE_VALUE) {
-            noteUnlessMissing(::GetLastError());
+        FolderReader reader(m_stopRequested);
+        if (!reader.begin(level.path)) {
+            noteUnlessMissing(reader.error());
             return;
         }
-        do {
-            const QString name = QString::fromWCharArray(data.cFileName);
-            if (name == "."_L1 || name == ".."_L1)
-                continue;
-            if (natureOf(data.dwFileAttributes, data.dwReserved0) == EntryNature::Folder)
+        while (const WIN32_FIND_DATAW *entry = m_wasMoved ? nullptr : reader.next()) {
+            const QString name = QString::fromWCharArray(entry->cFileName);
+            if (natureOf(*entry) == EntryNature::Folder)
                 level.subfolders.push_back(name);
             else if (isInPlace(level))
                 removeEntry(level.path + u'\\' + name);
-        } while (!isStopped() && !m_wasMoved && ::FindNextFileW(search, &data));
-        if (const DWORD error = ::GetLastError();
-            !isStopped() && !m_wasMoved && error != ERROR_NO_MORE_FILES)
-            note(error);
-        ::FindClose(search);
+        }
+        if (reader.error() != ERROR_SUCCESS)
+            note(reader.error());
     }
 
     // Before each entry of the level, which is opened by its path. Once another folder is there,

@@ -1,7 +1,7 @@
 #include "filewalk_p.h"
 
 #include "namefilter.h"
-#include "windows/foldersearch.h"
+#include "windows/folderreader.h"
 #include "windows/openentry.h"
 
 #include <QSet>
@@ -21,12 +21,11 @@ namespace platform {
 
 namespace {
 
-constexpr DWORD hiddenOrSystem = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-
 // The system counts in steps of 100 nanoseconds from 1601 on.
-qint64 millisecondsSince1970(qint64 fileTime)
+qint64 millisecondsSince1970(const FILETIME &time)
 {
-    return (fileTime - 116'444'736'000'000'000) / 10'000;
+    const quint64 steps = (static_cast<quint64>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
+    return (static_cast<qint64>(steps) - 116'444'736'000'000'000) / 10'000;
 }
 
 /// The root of the walk or a folder that a link leads to: from here down no link is passed.
@@ -100,8 +99,7 @@ private:
             const DWORD attributes =
                 ::GetFileAttributesW(reinterpret_cast<const wchar_t *>(extendedPath(path).utf16()));
             const qsizetype slash = path.lastIndexOf(u'/', -2);
-            if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & hiddenOrSystem) != 0
-                || slash < 2)
+            if (attributes == INVALID_FILE_ATTRIBUTES || isHidden(attributes) || slash < 2)
                 return false;
             path.truncate(slash);
             if (path.endsWith(u':'))
@@ -139,6 +137,7 @@ public:
         : m_shared(shared)
         , m_filter(shared.options.nameFilters)
         , m_visitor(visitor)
+        , m_reader(shared.options.stopRequested)
     {
     }
 
@@ -223,31 +222,26 @@ private:
         // The files' sizes and times come with their names, wanted or not.
         Q_UNUSED(m_visitor.enterFolder(folder.path))
         m_folder = WalkedFolder(folder.path);
-        QString pattern = extendedPath(folder.path);
-        pattern += pattern.endsWith(u'\\') ? "*"_L1 : "\\*"_L1;
-        FolderSearch search(pattern);
-        for (; search.hasEntry(); search.next()) {
-            if (m_shared.queue.isStopped())
-                return;
-            readEntry(folder, search.entry());
+        m_reader.begin(extendedPath(folder.path));
+        while (const WIN32_FIND_DATAW *entry = m_reader.next()) {
+            readEntry(folder, *entry);
             if (!m_shared.hasOneWalker && m_subfolders.size() >= subfoldersAtOnce)
                 m_shared.queue.add(m_subfolders); // somebody may be waiting for them
         }
         // A folder that is gone since its parent was read is no failure, nor is an empty drive.
-        const DWORD error = ::GetLastError();
-        if (error != ERROR_NO_MORE_FILES && !isMissing(error))
-            addFailure(folder.path, error);
+        if (m_reader.error() != ERROR_SUCCESS && !isMissing(m_reader.error()))
+            addFailure(folder.path, m_reader.error());
         m_shared.queue.add(m_subfolders);
     }
 
     void readEntry(const Folder &folder, const WIN32_FIND_DATAW &entry)
     {
-        if ((entry.dwFileAttributes & hiddenOrSystem) != 0)
+        if (isHidden(entry.dwFileAttributes))
             return;
         const QStringView name(entry.cFileName);
-        switch (natureOf(entry.dwFileAttributes, entry.dwReserved0)) {
+        switch (natureOf(entry)) {
         case EntryNature::Folder:
-            if (m_shared.options.recursive && name != "."_L1 && name != ".."_L1)
+            if (m_shared.options.recursive)
                 m_subfolders.push_back({joinedPath(folder.path, name.toString()), folder.base});
             return;
         case EntryNature::File:
@@ -271,9 +265,7 @@ private:
     // Of a link, too, these are its own size and time.
     void meet(QStringView name, const WIN32_FIND_DATAW &entry, bool isLink)
     {
-        m_visitor.meetFile({name, sizeOf(entry.nFileSizeHigh, entry.nFileSizeLow),
-                            millisecondsSince1970(sizeOf(entry.ftLastWriteTime.dwHighDateTime,
-                                                         entry.ftLastWriteTime.dwLowDateTime)),
+        m_visitor.meetFile({name, sizeOf(entry), millisecondsSince1970(entry.ftLastWriteTime),
                             isLink, 0, &m_folder});
     }
 
@@ -282,6 +274,7 @@ private:
     Shared &m_shared;
     const NameFilter m_filter;
     TreeVisitor &m_visitor;
+    FolderReader m_reader;
     WalkedFolder m_folder; ///< that is being read
     std::vector<Folder> m_subfolders; ///< of that folder
 };

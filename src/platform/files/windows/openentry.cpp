@@ -101,6 +101,11 @@ EntryNature natureOf(quint32 attributes, quint32 reparseTag)
     return isFolder ? EntryNature::Folder : EntryNature::File;
 }
 
+bool isHidden(quint32 attributes)
+{
+    return (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+}
+
 std::optional<EntryAttributes> attributesOf(const UniqueHandle &entry)
 {
     FILE_ATTRIBUTE_TAG_INFO tagged{};

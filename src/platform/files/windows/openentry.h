@@ -52,6 +52,10 @@ enum class EntryNature {
 };
 [[nodiscard]] EntryNature natureOf(quint32 attributes, quint32 reparseTag);
 
+/// Whether the attributes are those of a hidden entry or of one of the system's own. Neither is
+/// shown to people.
+[[nodiscard]] bool isHidden(quint32 attributes);
+
 /// What an open entry says of itself.
 struct EntryAttributes {
     quint32 attributes = 0;

@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <QStringView>
+#include <QUtf8StringView>
 
 namespace platform {
 
@@ -20,6 +21,10 @@ public:
     explicit NameFilter(const QStringList &wildcards);
 
     [[nodiscard]] bool matches(QStringView name) const;
+    [[nodiscard]] bool matches(QUtf8StringView name) const
+    {
+        return m_everything || matches(name.toString()); // most walks take every name as it comes
+    }
     [[nodiscard]] bool matchesEverything() const { return m_everything; }
 
 private:

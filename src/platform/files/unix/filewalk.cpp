@@ -1,6 +1,5 @@
-#include "filewalk_p.h"
+#include "walker_p.h"
 
-#include "namefilter.h"
 #include "unix/dosattributes.h"
 #include "unix/folderreader.h"
 #include "unix/openfolder.h"
@@ -12,7 +11,8 @@
 #include <climits>
 #include <deque>
 #include <memory>
-#include <thread>
+#include <mutex>
+#include <optional>
 #include <vector>
 
 #include <dirent.h>
@@ -116,22 +116,139 @@ private:
     QSet<EntryId> m_ids;
 };
 
-/// What the walkers of one walk share.
+/// What all walkers of one walk share here.
 struct Shared {
-    explicit Shared(const WalkOptions &walkOptions)
-        : options(walkOptions)
-        , queue(walkOptions.stopRequested)
+    const WalkOptions &options;
+    SharedReport &report;
+    OpenLevels levels = {};
+    VisitedFolders visited = {};
+    const DosAttributes attributes = {};
+    dev_t device = 0; ///< of the root
+
+    [[nodiscard]] bool isEverywhere() const { return options.reach == Reach::Everywhere; }
+};
+
+/// The folder that a walker is reading.
+class OpenFolder
+{
+public:
+    OpenFolder(Shared &shared, const QString &path, const SharedFd &fd, const EntryId &id,
+               const std::shared_ptr<const Base> &base)
+        : m_shared(shared)
+        , m_path(path)
+        , m_fd(fd)
+        , m_id(id)
+        , m_base(base)
+        , m_mayBeHidden(shared.attributes.mayBeIn(path))
     {
     }
 
-    const WalkOptions &options;
-    WalkQueue<Folder, Link> queue;
-    OpenLevels levels;
-    VisitedFolders visited;
-    SharedReport report;
-    const DosAttributes attributes;
-    dev_t device = 0; ///< of the root
-    bool hasOneWalker = true;
+    const QString &path() const { return m_path; }
+    EntryId id() const { return m_id; }
+    int place() const { return m_fd->get(); }
+
+    static QString failureOf(int error) { return error != 0 ? reasonOf(error) : QString(); }
+    static bool isTimeToPassOn(const FolderReader &reader, std::size_t)
+    {
+        return reader.isBufferRead();
+    }
+
+    static QUtf8StringView nameOf(const dirent64 &entry) { return {entry.d_name}; }
+
+    static WalkedKind kindOf(const dirent64 &entry, const FolderReader &reader)
+    {
+        // A leading dot is what hides an entry here.
+        if (entry.d_name[0] == '.' || !nameOf(entry).isValidUtf8())
+            return WalkedKind::Nothing;
+        return kindOf(reader.typeOf(entry));
+    }
+
+    bool isShown(const dirent64 &entry) const
+    {
+        return !m_mayBeHidden || !DosAttributes::areHidden(m_fd->get(), entry.d_name);
+    }
+
+    Folder subfolderAt(const dirent64 &entry)
+    {
+        if (!m_level) {
+            m_level = std::make_shared<Level>(Level{m_base, m_path, m_id.volume, nullptr});
+            m_shared.levels.keep(m_level, m_fd);
+        }
+        return {joinedPath(m_path, nameOf(entry).toString()), m_level};
+    }
+
+    std::optional<MetFile> fileAt(const dirent64 &entry, bool isLink,
+                                  TreeVisitor::Wanted wanted) const
+    {
+        MetFile file;
+        file.name = nameOf(entry);
+        if (!isLink && wanted == TreeVisitor::Wanted::Names)
+            return file;
+        struct statx status = {};
+        if (!look(entry, AT_SYMLINK_NOFOLLOW, status))
+            return {};
+        // A single file can be a mount point as well.
+        const bool isMounted = (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
+        if (!isLink && (!S_ISREG(status.stx_mode) || (isMounted && !m_shared.isEverywhere())))
+            return {};
+        file.size = static_cast<qint64>(status.stx_size);
+        file.modified = status.stx_mtime.tv_sec * 1000 + status.stx_mtime.tv_nsec / 1'000'000;
+        file.isLink = S_ISLNK(status.stx_mode);
+        file.number = status.stx_ino;
+        return file;
+    }
+
+    /// Where a link leads.
+    struct Target {
+        WalkedKind kind = WalkedKind::Nothing;
+        EntryId id;
+    };
+
+    Target targetOf(const dirent64 &link) const
+    {
+        struct statx status = {};
+        if (!look(link, 0, status))
+            return {};
+        const EntryId id{makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino};
+        const WalkedKind kind = kindOf(IFTODT(status.stx_mode));
+        if (kind == WalkedKind::Folder && m_shared.visited.contains(id))
+            return {};
+        return {kind, id};
+    }
+
+    Link linkAt(const dirent64 &link, const Target &target) const
+    {
+        return {joinedPath(m_path, nameOf(link).toString()), target.id};
+    }
+
+private:
+    static WalkedKind kindOf(unsigned type)
+    {
+        switch (type) {
+        case DT_REG:
+            return WalkedKind::File;
+        case DT_DIR:
+            return WalkedKind::Folder;
+        case DT_LNK:
+            return WalkedKind::Link;
+        default:
+            return WalkedKind::Nothing;
+        }
+    }
+
+    bool look(const dirent64 &entry, int flags, struct statx &status) const
+    {
+        constexpr unsigned mask = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_MTIME;
+        return ::statx(m_fd->get(), entry.d_name, flags | AT_NO_AUTOMOUNT, mask, &status) == 0;
+    }
+
+    Shared &m_shared;
+    QString m_path;
+    SharedFd m_fd;
+    EntryId m_id;
+    std::shared_ptr<const Base> m_base;
+    std::shared_ptr<Level> m_level; ///< made for the first subfolder
+    bool m_mayBeHidden; ///< what is in it, though it has no dot in front
 };
 
 // What the kernel tells of itself in the form of files takes no room on any disk; one such file
@@ -174,57 +291,82 @@ QString realPath(int fd)
     return QUtf8StringView(buffer).isValidUtf8() ? QFile::decodeName(buffer) : QString();
 }
 
-/// One of the walkers of a walk, without recursion. Folders still to be read are kept as paths, so
-/// that the breadth of the tree is not bound by the number of files a process may hold open.
-class Walker
+/// The system's part of a walk, see Walker. Folders that wait are kept as paths, so that the
+/// breadth of the tree is not bound by the number of files that a process may hold open.
+class UnixWalk final
 {
+    Q_DISABLE_COPY_MOVE(UnixWalk)
 public:
-    Walker(Shared &shared, TreeVisitor &visitor)
-        : m_shared(shared)
-        , m_filter(shared.options.nameFilters)
-        , m_visitor(visitor)
-        , m_reader(shared.options.stopRequested)
+    using Folder = platform::Folder;
+    using Link = platform::Link;
+    using OpenFolder = platform::OpenFolder;
+    using Reader = FolderReader;
+
+    UnixWalk(const WalkOptions &options, SharedReport &report)
+        : m_shared{options, report}
     {
     }
 
-    void run()
+    std::optional<OpenFolder> openRoot(const QString &path)
     {
-        m_shared.queue.process([this](auto work) { read(work); });
-    }
-
-    /// Opens the root of the walk; nothing for one that cannot be walked.
-    [[nodiscard]] SharedFd openRoot(const QString &root)
-    {
-        const bool isFollowed = isEverywhere() && root.startsWith(u'/');
-        auto fd = std::make_shared<const UniqueFd>(
+        const QString root = path.size() > 1 && path.endsWith(u'/') ? path.chopped(1) : path;
+        const bool isFollowed = m_shared.isEverywhere() && root.startsWith(u'/');
+        const auto fd = std::make_shared<const UniqueFd>(
             isFollowed ? openFollowed(root) : openFolder(QFile::encodeName(root)));
         FileStatus status{};
         if (!fd->isValid() || ::fstat(fd->get(), &status) != 0) {
             if (errno != ENOENT)
                 addFailure(root, errno);
-            return nullptr;
+            return {};
         }
         m_shared.device = status.st_dev;
-        return fd;
+        return baseAt(root, fd, status);
     }
 
-    void readRoot(const QString &root, const SharedFd &fd)
+    std::optional<OpenFolder> open(const Link &link)
     {
+        if (m_shared.visited.contains(link.target))
+            return {};
+        const auto fd = std::make_shared<const UniqueFd>(openFollowed(link.path));
         FileStatus status{};
-        if (::fstat(fd->get(), &status) == 0)
-            readBase(root, fd, status);
+        if (!fd->isValid() || ::fstat(fd->get(), &status) != 0) {
+            addFailureUnlessChanged(link.path, errno);
+            return {};
+        }
+        if (status.st_dev != m_shared.device && holdsNoFiles(fd->get()))
+            return {};
+        return baseAt(link.path, fd, status);
+    }
+
+    std::optional<OpenFolder> open(const Folder &folder)
+    {
+        const auto fd = std::make_shared<const UniqueFd>(openFromParent(folder));
+        FileStatus status{};
+        if (!fd->isValid() || ::fstat(fd->get(), &status) != 0) {
+            addFailureUnlessChanged(folder.path, errno);
+            return {};
+        }
+        const EntryId id = idOf(status);
+        if (m_shared.isEverywhere()) {
+            const bool isMounted = status.st_dev != folder.parent->device;
+            if ((isMounted && holdsNoFiles(fd->get())) || !m_shared.visited.insert(id))
+                return {};
+        } else if (status.st_dev != m_shared.device) {
+            return {};
+        }
+        return OpenFolder(m_shared, folder.path, fd, id, folder.parent->base);
     }
 
 private:
-    bool isEverywhere() const { return m_shared.options.reach == Reach::Everywhere; }
-    Mounts mounts() const { return isEverywhere() ? Mounts::Cross : Mounts::Stay; }
+    Mounts mounts() const { return m_shared.isEverywhere() ? Mounts::Cross : Mounts::Stay; }
 
     void addFailure(const QString &path, int error)
     {
         m_shared.report.addFailure(path, reasonOf(error));
     }
 
-    // Gone, turned into a link or a mount point since its parent was read: nothing of ours.
+    // What is gone, or has become a link or a mount point since its parent was read, is not for
+    // this walk: that is no failure.
     void addFailureUnlessChanged(const QString &path, int error)
     {
         if (error != ENOENT && error != ELOOP && error != EXDEV && error != ENOTDIR)
@@ -237,49 +379,22 @@ private:
             ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     }
 
-    void read(const Link &link)
+    // The root, or the folder behind a link.
+    std::optional<OpenFolder> baseAt(const QString &path, const SharedFd &fd,
+                                     const FileStatus &status)
     {
-        if (m_shared.visited.contains(link.target))
-            return;
-        const auto fd = std::make_shared<const UniqueFd>(openFollowed(link.path));
-        FileStatus status{};
-        if (!fd->isValid() || ::fstat(fd->get(), &status) != 0)
-            addFailureUnlessChanged(link.path, errno);
-        else if (status.st_dev == m_shared.device || !holdsNoFiles(fd->get()))
-            readBase(link.path, fd, status);
-    }
-
-    void readBase(const QString &path, const SharedFd &fd, const FileStatus &status)
-    {
-        if (isEverywhere()) {
+        if (m_shared.isEverywhere()) {
             if (!m_shared.visited.insert(idOf(status)))
-                return;
+                return {};
             if (const QString target = realPath(fd->get()); !target.isEmpty() && target != path)
                 m_shared.report.addFollowed({path, target});
         }
-        readFolder(path, std::make_shared<const Base>(Base{fd, path}), fd, idOf(status));
+        return OpenFolder(m_shared, path, fd, idOf(status),
+                          std::make_shared<const Base>(Base{fd, path}));
     }
 
-    void read(const Folder &folder)
-    {
-        const auto fd = std::make_shared<const UniqueFd>(open(folder));
-        FileStatus status{};
-        if (!fd->isValid() || ::fstat(fd->get(), &status) != 0) {
-            addFailureUnlessChanged(folder.path, errno);
-            return;
-        }
-        if (isEverywhere()) {
-            const bool isMounted = status.st_dev != folder.parent->device;
-            if ((isMounted && holdsNoFiles(fd->get())) || !m_shared.visited.insert(idOf(status)))
-                return;
-        } else if (status.st_dev != m_shared.device) {
-            return;
-        }
-        readFolder(folder.path, folder.parent->base, fd, idOf(status));
-    }
-
-    // From its parent, which is opened from the base when it is not open any more.
-    UniqueFd open(const Folder &folder)
+    // The parent is opened from the base when it is not open any more.
+    UniqueFd openFromParent(const Folder &folder)
     {
         Level &parent = *folder.parent;
         SharedFd fd = m_shared.levels.fdOf(parent);
@@ -297,113 +412,7 @@ private:
         return openFolderBelow(fd->get(), QFile::encodeName(name), mounts());
     }
 
-    void readFolder(const QString &path, const std::shared_ptr<const Base> &base,
-                    const SharedFd &fd, const EntryId &id)
-    {
-        m_folder = WalkedFolder(path, id);
-        const bool isAsked = m_visitor.enterFolder(path) == TreeVisitor::Wanted::SizesAndTimes;
-        m_mayBeHidden = m_shared.attributes.mayBeIn(path);
-        std::shared_ptr<Level> level;
-        m_reader.begin(fd->get());
-        while (const dirent64 *entry = m_reader.next()) {
-            readEntry(fd->get(), path, *entry, isAsked);
-            if (!m_subfolders.empty() && !m_subfolders.back().parent) {
-                if (!level) {
-                    level = std::make_shared<Level>(Level{base, path, id.volume, nullptr});
-                    m_shared.levels.keep(level, fd);
-                }
-                m_subfolders.back().parent = level;
-            }
-            if (!m_shared.hasOneWalker && m_reader.isBufferRead())
-                m_shared.queue.add(m_subfolders); // somebody may be waiting for them
-        }
-        if (m_reader.error() != 0)
-            addFailure(path, m_reader.error());
-        m_shared.queue.add(m_subfolders);
-    }
-
-    void readEntry(int folderFd, const QString &folder, const dirent64 &entry, bool isAsked)
-    {
-        // A leading dot is what hides an entry here.
-        if (entry.d_name[0] == '.')
-            return;
-        const QUtf8StringView name(entry.d_name);
-        const unsigned char type = m_reader.typeOf(entry);
-        if (type == DT_REG) {
-            if (name.isValidUtf8() && isMatch(name) && isShown(folderFd, entry.d_name))
-                readFile(folderFd, entry.d_name, isAsked);
-        } else if (type == DT_DIR) {
-            if (m_shared.options.recursive && name.isValidUtf8() && isShown(folderFd, entry.d_name))
-                m_subfolders.push_back({joinedPath(folder, name.toString()), nullptr});
-        } else if (type == DT_LNK) {
-            if (name.isValidUtf8() && (isEverywhere() || isMatch(name))
-                && isShown(folderFd, entry.d_name))
-                readLink(folderFd, folder, entry.d_name);
-        }
-    }
-
-    bool isShown(int folderFd, const char *name) const
-    {
-        return !m_mayBeHidden || !DosAttributes::areHidden(folderFd, name);
-    }
-
-    bool isMatch(QUtf8StringView name) const
-    {
-        return m_filter.matchesEverything() || m_filter.matches(name.toString());
-    }
-
-    static constexpr unsigned fileMask = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_MTIME;
-
-    void readFile(int folderFd, const char *name, bool isAsked)
-    {
-        if (!isAsked) {
-            m_visitor.meetFile({QUtf8StringView(name), 0, 0, false, 0, &m_folder});
-            return;
-        }
-        struct statx status = {};
-        constexpr int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
-        if (::statx(folderFd, name, flags, fileMask, &status) != 0 || !S_ISREG(status.stx_mode))
-            return;
-        // A single file can be a mount point as well.
-        if (!isEverywhere() && (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
-            return;
-        meet(name, status);
-    }
-
-    void readLink(int folderFd, const QString &folder, const char *name)
-    {
-        struct statx status = {};
-        if (::statx(folderFd, name, AT_NO_AUTOMOUNT, fileMask, &status) != 0)
-            return;
-        if (S_ISREG(status.stx_mode)) {
-            // What would go is the link.
-            if (isMatch(name)
-                && ::statx(folderFd, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, fileMask, &status)
-                    == 0)
-                meet(name, status);
-        } else if (S_ISDIR(status.stx_mode) && isEverywhere() && m_shared.options.recursive) {
-            const EntryId target{makedev(status.stx_dev_major, status.stx_dev_minor),
-                                 status.stx_ino};
-            if (!m_shared.visited.contains(target))
-                m_shared.queue.addLink({joinedPath(folder, QString::fromUtf8(name)), target});
-        }
-    }
-
-    void meet(const char *name, const struct statx &status)
-    {
-        const qint64 modified =
-            qint64(status.stx_mtime.tv_sec) * 1000 + qint64(status.stx_mtime.tv_nsec) / 1'000'000;
-        m_visitor.meetFile({QUtf8StringView(name), static_cast<qint64>(status.stx_size), modified,
-                            S_ISLNK(status.stx_mode), status.stx_ino, &m_folder});
-    }
-
-    Shared &m_shared;
-    const NameFilter m_filter;
-    TreeVisitor &m_visitor;
-    FolderReader m_reader;
-    std::vector<Folder> m_subfolders; ///< of the folder that is being read
-    WalkedFolder m_folder; ///< that is being read
-    bool m_mayBeHidden = false; ///< what is in it, though it has no dot in front
+    Shared m_shared;
 };
 
 } // namespace
@@ -416,20 +425,7 @@ EntryId WalkedFolder::id() const
 WalkReport walkTree(const QString &root, const WalkOptions &options,
                     const QList<TreeVisitor *> &visitors)
 {
-    Shared shared(options);
-    shared.hasOneWalker = visitors.size() == 1;
-    Walker first(shared, *visitors.constFirst());
-    const QString path = root.size() > 1 && root.endsWith(u'/') ? root.chopped(1) : root;
-    if (const SharedFd fd = first.openRoot(path)) {
-        std::vector<std::jthread> others;
-        shared.queue.begin();
-        for (TreeVisitor *visitor : visitors.sliced(1))
-            others.emplace_back([&shared, visitor] { Walker(shared, *visitor).run(); });
-        first.readRoot(path, fd);
-        shared.queue.end();
-        first.run();
-    }
-    return shared.report.take();
+    return walkTreeBy<UnixWalk>(root, options, visitors);
 }
 
 } // namespace platform

@@ -1,6 +1,5 @@
-#include "filewalk_p.h"
+#include "walker_p.h"
 
-#include "namefilter.h"
 #include "windows/folderreader.h"
 #include "windows/openentry.h"
 
@@ -8,10 +7,8 @@
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 #include <optional>
-#include <thread>
-#include <utility>
-#include <vector>
 
 #include <windows.h>
 
@@ -113,41 +110,101 @@ private:
     std::atomic_bool m_hasSeveral = false;
 };
 
-/// What the walkers of one walk share.
-struct Shared {
-    explicit Shared(const WalkOptions &walkOptions)
-        : options(walkOptions)
-        , queue(walkOptions.stopRequested)
-    {
-    }
-
-    const WalkOptions &options;
-    WalkQueue<Folder, Link> queue;
-    Bases bases;
-    SharedReport report;
-    bool hasOneWalker = true;
-};
-
-/// One of the walkers of a walk. A folder that is exchanged for a link while the walk runs may have
-/// what is behind it listed; the remover's own check keeps that from being removed.
-class Walker
+/// The folder that a walker is reading.
+class OpenFolder
 {
 public:
-    Walker(Shared &shared, TreeVisitor &visitor)
-        : m_shared(shared)
-        , m_filter(shared.options.nameFilters)
-        , m_visitor(visitor)
-        , m_reader(shared.options.stopRequested)
+    explicit OpenFolder(Folder folder)
+        : m_folder(std::move(folder))
     {
     }
 
-    void run()
+    const QString &path() const { return m_folder.path; }
+    static EntryId id() { return {}; } // a listing does not tell
+    QString place() const { return extendedPath(m_folder.path); }
+
+    // A folder that is gone since its parent was read is no failure, nor is an empty drive.
+    static QString failureOf(DWORD error)
     {
-        m_shared.queue.process([this](const auto &work) { read(work); });
+        return error == ERROR_SUCCESS || isMissing(error) ? QString() : reasonOf(error);
+    }
+    static bool isTimeToPassOn(const FolderReader &, std::size_t count) { return count >= 64; }
+
+    static QStringView nameOf(const WIN32_FIND_DATAW &entry) { return {entry.cFileName}; }
+
+    static WalkedKind kindOf(const WIN32_FIND_DATAW &entry, const FolderReader &)
+    {
+        switch (natureOf(entry)) {
+        case EntryNature::File:
+            return WalkedKind::File;
+        case EntryNature::Folder:
+            return WalkedKind::Folder;
+        case EntryNature::FileLink:
+        case EntryNature::FolderLink:
+            return WalkedKind::Link;
+        case EntryNature::Special:
+            break;
+        }
+        return WalkedKind::Nothing;
     }
 
-    /// The folder to start with; nothing for one that cannot be walked.
-    [[nodiscard]] std::optional<Folder> openRoot(const QString &root)
+    static bool isShown(const WIN32_FIND_DATAW &entry) { return !isHidden(entry.dwFileAttributes); }
+
+    Folder subfolderAt(const WIN32_FIND_DATAW &entry) const
+    {
+        return {pathAt(entry), m_folder.base};
+    }
+
+    // The size and time come with the name, wanted or not; of a link they are its own.
+    std::optional<MetFile> fileAt(const WIN32_FIND_DATAW &entry, bool isLink,
+                                  TreeVisitor::Wanted) const
+    {
+        if (isLink && !leadsToFile(extendedPath(pathAt(entry))))
+            return {};
+        return MetFile{
+            nameOf(entry), sizeOf(entry), millisecondsSince1970(entry.ftLastWriteTime), isLink, 0,
+            nullptr};
+    }
+
+    /// What a link says that it leads to.
+    struct Target {
+        WalkedKind kind;
+    };
+
+    static Target targetOf(const WIN32_FIND_DATAW &link)
+    {
+        return {natureOf(link) == EntryNature::FolderLink ? WalkedKind::Folder : WalkedKind::File};
+    }
+
+    Link linkAt(const WIN32_FIND_DATAW &link, const Target &) const { return {pathAt(link)}; }
+
+private:
+    QString pathAt(const WIN32_FIND_DATAW &entry) const
+    {
+        return joinedPath(m_folder.path, nameOf(entry).toString());
+    }
+
+    Folder m_folder;
+};
+
+/// The system's part of a walk, see Walker. A folder that is exchanged for a link while the walk
+/// runs may have what is behind it listed; the remover's own check keeps that from being removed.
+class WindowsWalk final
+{
+    Q_DISABLE_COPY_MOVE(WindowsWalk)
+public:
+    using Folder = platform::Folder;
+    using Link = platform::Link;
+    using OpenFolder = platform::OpenFolder;
+    using Reader = FolderReader;
+
+    WindowsWalk(const WalkOptions &options, SharedReport &report)
+        : m_options(options)
+        , m_report(report)
+    {
+    }
+
+    std::optional<OpenFolder> openRoot(const QString &root)
     {
         QString top = root.size() > 1 && root.endsWith(u'/') ? root.chopped(1) : root;
         // Without its slash a drive would be whatever folder is current on it.
@@ -160,123 +217,67 @@ public:
             return {};
         }
         const bool isLink = inspect(top).kind == EntryKind::Link;
-        if (!isEverywhere()) {
+        if (m_options.reach != Reach::Everywhere) {
             if (!isLink)
-                return Folder{top, nullptr};
+                return OpenFolder({top, nullptr});
             addFailure(root, linkOnTheWay);
             return {};
         }
-        const UniqueHandle folder = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);
-        if (!folder.isValid()) {
-            if (!isMissing(::GetLastError()))
-                addFailure(root, ::GetLastError());
+        const UniqueHandle folder = openFollowed(root, extended);
+        if (!folder.isValid())
             return {};
-        }
         const FolderIdentity identity = identityOf(folder, top);
-        if (isLink)
-            top = identity.path;
-        if (!m_shared.bases.insert(identity))
-            return {};
-        return Folder{top, std::make_shared<const Base>(Base{top, identity.path})};
+        return baseAt(isLink ? identity.path : top, identity);
     }
 
-    void read(const Folder &folder)
+    std::optional<OpenFolder> open(const Folder &folder)
     {
-        if (m_shared.bases.hasSeveral() && folder.path != folder.base->path) {
+        if (m_bases.hasSeveral() && folder.path != folder.base->path) {
             const QString relative =
                 folder.path.mid(joinedPath(folder.base->path, QString()).size());
-            if (m_shared.bases.contains(joinedPath(folder.base->target, relative)))
-                return;
+            if (m_bases.contains(joinedPath(folder.base->target, relative)))
+                return {};
         }
-        readFolder(folder);
+        return OpenFolder(folder);
+    }
+
+    std::optional<OpenFolder> open(const Link &link)
+    {
+        const UniqueHandle target = openFollowed(link.path, extendedPath(link.path));
+        if (!target.isValid())
+            return {};
+        const std::optional<EntryAttributes> attributes = attributesOf(target);
+        if (!attributes || attributes->nature != EntryNature::Folder)
+            return {};
+        const FolderIdentity identity = identityOf(target, link.path);
+        return baseAt(identity.path, identity);
     }
 
 private:
-    bool isEverywhere() const { return m_shared.options.reach == Reach::Everywhere; }
-
     void addFailure(const QString &path, DWORD error)
     {
-        m_shared.report.addFailure(path, reasonOf(error));
+        m_report.addFailure(path, reasonOf(error));
     }
 
-    void read(const Link &link)
+    UniqueHandle openFollowed(const QString &path, const QString &extended)
     {
-        const UniqueHandle target =
-            openEntry(extendedPath(link.path), FILE_READ_ATTRIBUTES, Links::Follow);
-        if (!target.isValid()) {
-            if (!isMissing(::GetLastError()))
-                addFailure(link.path, ::GetLastError());
-            return;
-        }
-        const std::optional<EntryAttributes> attributes = attributesOf(target);
-        if (!attributes || attributes->nature != EntryNature::Folder)
-            return;
-        const FolderIdentity identity = identityOf(target, link.path);
-        if (m_shared.bases.insert(identity))
-            readFolder(
-                {identity.path, std::make_shared<const Base>(Base{identity.path, identity.path})});
+        UniqueHandle handle = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);
+        if (!handle.isValid() && !isMissing(::GetLastError()))
+            addFailure(path, ::GetLastError());
+        return handle;
     }
 
-    void readFolder(const Folder &folder)
+    // The root, or the folder that a link leads to.
+    std::optional<OpenFolder> baseAt(const QString &path, const FolderIdentity &identity)
     {
-        // The files' sizes and times come with their names, wanted or not.
-        Q_UNUSED(m_visitor.enterFolder(folder.path))
-        m_folder = WalkedFolder(folder.path);
-        m_reader.begin(extendedPath(folder.path));
-        while (const WIN32_FIND_DATAW *entry = m_reader.next()) {
-            readEntry(folder, *entry);
-            if (!m_shared.hasOneWalker && m_subfolders.size() >= subfoldersAtOnce)
-                m_shared.queue.add(m_subfolders); // somebody may be waiting for them
-        }
-        // A folder that is gone since its parent was read is no failure, nor is an empty drive.
-        if (m_reader.error() != ERROR_SUCCESS && !isMissing(m_reader.error()))
-            addFailure(folder.path, m_reader.error());
-        m_shared.queue.add(m_subfolders);
+        if (!m_bases.insert(identity))
+            return {};
+        return OpenFolder({path, std::make_shared<const Base>(Base{path, identity.path})});
     }
 
-    void readEntry(const Folder &folder, const WIN32_FIND_DATAW &entry)
-    {
-        if (isHidden(entry.dwFileAttributes))
-            return;
-        const QStringView name(entry.cFileName);
-        switch (natureOf(entry)) {
-        case EntryNature::Folder:
-            if (m_shared.options.recursive)
-                m_subfolders.push_back({joinedPath(folder.path, name.toString()), folder.base});
-            return;
-        case EntryNature::File:
-            if (m_filter.matches(name))
-                meet(name, entry, false);
-            return;
-        case EntryNature::FileLink:
-            if (m_filter.matches(name)
-                && leadsToFile(extendedPath(joinedPath(folder.path, name.toString()))))
-                meet(name, entry, true);
-            return;
-        case EntryNature::FolderLink:
-            if (isEverywhere() && m_shared.options.recursive)
-                m_shared.queue.addLink({joinedPath(folder.path, name.toString())});
-            return;
-        case EntryNature::Special:
-            return;
-        }
-    }
-
-    // Of a link, too, these are its own size and time.
-    void meet(QStringView name, const WIN32_FIND_DATAW &entry, bool isLink)
-    {
-        m_visitor.meetFile({name, sizeOf(entry), millisecondsSince1970(entry.ftLastWriteTime),
-                            isLink, 0, &m_folder});
-    }
-
-    static constexpr std::size_t subfoldersAtOnce = 64;
-
-    Shared &m_shared;
-    const NameFilter m_filter;
-    TreeVisitor &m_visitor;
-    FolderReader m_reader;
-    WalkedFolder m_folder; ///< that is being read
-    std::vector<Folder> m_subfolders; ///< of that folder
+    const WalkOptions &m_options;
+    SharedReport &m_report;
+    Bases m_bases;
 };
 
 } // namespace
@@ -292,19 +293,7 @@ EntryId WalkedFolder::id() const
 WalkReport walkTree(const QString &root, const WalkOptions &options,
                     const QList<TreeVisitor *> &visitors)
 {
-    Shared shared(options);
-    shared.hasOneWalker = visitors.size() == 1;
-    Walker first(shared, *visitors.constFirst());
-    if (const std::optional<Folder> top = first.openRoot(root)) {
-        std::vector<std::jthread> others;
-        shared.queue.begin();
-        for (TreeVisitor *visitor : visitors.sliced(1))
-            others.emplace_back([&shared, visitor] { Walker(shared, *visitor).run(); });
-        first.read(*top);
-        shared.queue.end();
-        first.run();
-    }
-    return shared.report.take();
+    return walkTreeBy<WindowsWalk>(root, options, visitors);
 }
 
 } // namespace platform

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "filewalk.h"
+#include <QtGlobal>
 
-#include <algorithm>
+#include <atomic>
 #include <condition_variable>
+#include <iterator>
 #include <mutex>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -26,11 +26,6 @@ public:
     {
     }
 
-    [[nodiscard]] bool isStopped() const
-    {
-        return m_stopRequested && m_stopRequested->load(std::memory_order_relaxed);
-    }
-
     /// Takes over @p folders, which come next and in their order, and leaves the list empty.
     void add(std::vector<Folder> &folders)
     {
@@ -49,8 +44,8 @@ public:
         m_links.push_back(std::move(link));
     }
 
-    /// Between these two the others wait for what a walker will add that reads what never was in
-    /// here.
+    /// The first walker reads the root, which never was in this queue, between begin() and end():
+    /// meanwhile the others do not end, but wait for the subfolders that it will add.
     void begin()
     {
         const std::lock_guard lock(m_mutex);
@@ -59,7 +54,7 @@ public:
     void end()
     {
         const std::lock_guard lock(m_mutex);
-        leave();
+        endOne();
     }
 
     /// Has @p read called with one folder or link after the other until none is left or the walk is
@@ -87,6 +82,11 @@ public:
     }
 
 private:
+    bool isStopped() const
+    {
+        return m_stopRequested && m_stopRequested->load(std::memory_order_relaxed);
+    }
+
     template<class Read, class Work>
     void run(std::unique_lock<std::mutex> &lock, const Read &read, Work work)
     {
@@ -94,10 +94,10 @@ private:
         lock.unlock();
         read(std::move(work));
         lock.lock();
-        leave();
+        endOne();
     }
 
-    void leave()
+    void endOne()
     {
         if (--m_busy == 0)
             m_changed.notify_all();
@@ -109,34 +109,6 @@ private:
     std::vector<Folder> m_folders;
     std::vector<Link> m_links;
     int m_busy = 0; ///< walkers that are reading
-};
-
-/// The report of a walk, written by all its walkers.
-class SharedReport final
-{
-    Q_DISABLE_COPY_MOVE(SharedReport)
-public:
-    SharedReport() = default;
-
-    void addFailure(const QString &path, const QString &reason)
-    {
-        const std::lock_guard lock(m_mutex);
-        if (++m_report.failureCount <= WalkReport::maximumFailures)
-            m_report.failures.append({path, reason});
-    }
-
-    void addFollowed(const FollowedLink &link)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_report.followed.append(link);
-    }
-
-    /// The report, once all walkers are done.
-    [[nodiscard]] WalkReport take() { return std::move(m_report); }
-
-private:
-    std::mutex m_mutex;
-    WalkReport m_report;
 };
 
 } // namespace platform

@@ -24,7 +24,7 @@ namespace {
 class Record final : public platform::EntryVisitor
 {
 public:
-    void read(const std::vector<platform::ListedEntry> &entries, bool isShown) override
+    void takeListing(const std::vector<platform::ListedEntry> &entries, bool isShown) override
     {
         QStringList names;
         for (const platform::ListedEntry &entry : entries)
@@ -36,7 +36,7 @@ public:
         reads.append((isShown ? "shown: "_L1 : "hidden: "_L1) + names.join(u' '));
     }
 
-    void found(platform::WalkedEntry &&entry) override
+    void meetEntry(platform::WalkedEntry &&entry) override
     {
         QVERIFY(m_open.isEmpty() || entry.path.startsWith(m_open.constLast() + u'/'));
         QVERIFY(entry.path.endsWith(u'/' + entry.name));
@@ -49,7 +49,7 @@ public:
             stop = true;
     }
 
-    void left(qint64 size, bool wasRead) override
+    void leaveFolder(qint64 size, bool wasRead) override
     {
         QVERIFY(!m_open.isEmpty());
         if (!wasRead)

@@ -39,12 +39,12 @@ public:
         : m_paths(paths)
     {
     }
-    void found(platform::WalkedEntry &&entry) override
+    void meetEntry(platform::WalkedEntry &&entry) override
     {
         if (!entry.isFolder)
             m_paths.append(entry.path);
     }
-    void left(qint64, bool) override { }
+    void leaveFolder(qint64, bool) override { }
 
 private:
     QStringList &m_paths;

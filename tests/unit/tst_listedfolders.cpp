@@ -16,8 +16,8 @@ namespace {
 class Ignoring final : public platform::EntryVisitor
 {
 public:
-    void found(platform::WalkedEntry &&) override { }
-    void left(qint64, bool) override { }
+    void meetEntry(platform::WalkedEntry &&) override { }
+    void leaveFolder(qint64, bool) override { }
 };
 
 } // namespace

@@ -79,7 +79,7 @@ public:
     {
     }
 
-    void read(const std::vector<platform::ListedEntry> &entries, bool isShown) override
+    void takeListing(const std::vector<platform::ListedEntry> &entries, bool isShown) override
     {
         const Unit unit = unitOf(entries);
         if (unit == Unit::None)
@@ -96,7 +96,7 @@ public:
             m_open.back().isUnit = true;
     }
 
-    void found(platform::WalkedEntry &&entry) override
+    void meetEntry(platform::WalkedEntry &&entry) override
     {
         OpenFolder folder{entry.path, m_active.size(), {}, false};
         for (const std::size_t rule : m_active) {
@@ -112,7 +112,7 @@ public:
         m_open.push_back(std::move(folder));
     }
 
-    void left(qint64 size, bool wasRead) override
+    void leaveFolder(qint64 size, bool wasRead) override
     {
         const OpenFolder folder = std::move(m_open.back());
         m_open.pop_back();

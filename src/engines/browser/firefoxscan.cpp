@@ -1,6 +1,7 @@
 #include "browserscan.h"
 
 #include "entrywalk.h"
+#include "filewalk.h"
 #include "logger.h"
 #include "protectedplaces.h"
 #include "rulefolders.h"
@@ -24,12 +25,12 @@ public:
     {
     }
 
-    void found(platform::WalkedEntry &&entry) override
+    void meetEntry(platform::WalkedEntry &&entry) override
     {
         if (!entry.isFolder)
             m_visit(entry);
     }
-    void left(qint64, bool) override { }
+    void leaveFolder(qint64, bool) override { }
 
 private:
     std::function<void(const platform::WalkedEntry &)> m_visit;

@@ -1,6 +1,7 @@
 #include "junkcleaner.h"
 
 #include "appinfo.h"
+#include "entry.h"
 #include "fileremove.h"
 #include "filewalk.h"
 #include "logger.h"

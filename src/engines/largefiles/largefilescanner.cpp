@@ -1,9 +1,10 @@
 #include "largefilescanner.h"
 
+#include "entry.h"
 #include "fileremove.h"
-#include "filewalk.h"
 #include "logger.h"
 #include "scanresult.h"
+#include "treewalk.h"
 
 #include <QDir>
 #include <QElapsedTimer>

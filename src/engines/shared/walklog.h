@@ -1,7 +1,7 @@
 #pragma once
 
 #include "entry.h"
-#include "filewalk.h"
+#include "walkreport.h"
 
 #include <QString>
 

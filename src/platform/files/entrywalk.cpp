@@ -10,9 +10,10 @@ namespace platform {
 
 namespace {
 
-/// Without recursion: a folder that is being read keeps its listing, the deepest one last. On
-/// Windows, where folders are read by path, one that is exchanged for a link while the walk runs
-/// may have what is behind it listed; the remover's own check keeps that from being removed.
+/// One call of walkEntries(), on its thread. Works without recursion: each folder on the way down
+/// keeps its listing until all of it is told. On Windows folders are read by path: if one becomes a
+/// link while the walk runs, what is behind the link may be listed. The remover's own check keeps
+/// that from being removed.
 class EntryWalk
 {
 public:
@@ -31,14 +32,14 @@ public:
         noteFailure(root, listing);
         m_device = listing.device;
         record(root, listing);
-        m_visitor.read(listing.entries, true);
+        m_visitor.takeListing(listing.entries, true);
         m_open.push_back(
             {root.endsWith(u'/') ? root.chopped(1) : root, std::move(listing.entries), 0, 0, true});
         while (!isStopped()) {
             if (m_open.back().next < m_open.back().entries.size())
                 step();
             else if (m_open.size() > 1)
-                leave();
+                leaveFolder();
             else
                 break;
         }
@@ -64,8 +65,7 @@ private:
         // A folder that is gone since its parent was read is no failure.
         if (listing.error.isEmpty() || listing.isMissing)
             return;
-        if (++m_report.failureCount <= WalkReport::maximumFailures)
-            m_report.failures.append({path, listing.error});
+        m_report.addFailure(path, listing.error);
     }
 
     void record(const QString &path, const FolderListing &listing)
@@ -87,37 +87,37 @@ private:
             return;
         const QString path = joinedPath(folder.path, entry.name);
         if (isShown)
-            m_visitor.found({std::move(entry.name), path, entry.size, isFolder});
+            m_visitor.meetEntry({std::move(entry.name), path, entry.size, isFolder});
         if (entry.kind == ListedKind::Folder)
-            enter(path, isShown);
+            enterFolder(path, isShown);
         else if (isFolder)
-            m_visitor.left(0, false);
+            m_visitor.leaveFolder(0, false);
     }
 
-    // Not for use with a reference into the open folders, which it may move.
-    void enter(const QString &path, bool isShown)
+    // Adds to m_open, so that references into it no longer hold.
+    void enterFolder(const QString &path, bool isShown)
     {
         FolderListing listing = m_lister.list(path, m_stopRequested);
         noteFailure(path, listing);
         if (listing.isMissing || listing.device != m_device) {
             if (isShown)
-                m_visitor.left(0, false);
+                m_visitor.leaveFolder(0, false);
             return;
         }
         if (isShown)
             record(path, listing);
-        m_visitor.read(listing.entries, isShown);
+        m_visitor.takeListing(listing.entries, isShown);
         m_open.push_back({path, std::move(listing.entries), 0, 0, isShown});
     }
 
-    void leave()
+    void leaveFolder()
     {
         const qint64 size = m_open.back().size;
         const bool isShown = m_open.back().isShown;
         m_open.pop_back();
         m_open.back().size += size;
         if (isShown)
-            m_visitor.left(size, true);
+            m_visitor.leaveFolder(size, true);
     }
 
     EntryVisitor &m_visitor;
@@ -131,7 +131,7 @@ private:
 
 } // namespace
 
-void EntryVisitor::read(const std::vector<ListedEntry> &, bool) { }
+void EntryVisitor::takeListing(const std::vector<ListedEntry> &, bool) { }
 
 WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
                        const std::atomic_bool *stopRequested, ListedFolders *listed)

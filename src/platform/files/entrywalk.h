@@ -1,9 +1,11 @@
 #pragma once
 
-#include "filewalk.h"
+#include "listedfolders.h"
+#include "walkreport.h"
 
 #include <QString>
 
+#include <atomic>
 #include <vector>
 
 namespace platform {
@@ -26,17 +28,17 @@ public:
     EntryVisitor() = default;
     virtual ~EntryVisitor() = default;
 
-    /// A folder has been read, and none of its entries found yet: at first the root, then each one
-    /// right after it was found. Of the hidden folders that are read for their size this is all
-    /// that is told, with @p isShown false.
-    virtual void read(const std::vector<ListedEntry> &entries, bool isShown);
-    /// An entry of the folder that was found last and not yet left; at first, of the root.
-    virtual void found(WalkedEntry &&entry) = 0;
-    /// The folder that was found last and not yet left is over. @p size is the bytes of all files
-    /// below it, hidden ones included, what links lead to not. @p wasRead is false for a link,
-    /// for a folder that is gone by now, and for what lies on another device; one that may not be
-    /// read counts as an empty one.
-    virtual void left(qint64 size, bool wasRead) = 0;
+    /// A folder has been read, and none of its entries met yet: at first the root, then each one
+    /// right after it was met. Of the hidden folders that are read for their size this is all that
+    /// is told, with @p isShown false.
+    virtual void takeListing(const std::vector<ListedEntry> &entries, bool isShown);
+    /// An entry of the folder that was met last and not yet left; at first, of the root.
+    virtual void meetEntry(WalkedEntry &&entry) = 0;
+    /// The folder, or link to one, that was met last and not yet left is done. @p size is the bytes
+    /// of all files below it, hidden ones included, what links lead to not. @p wasRead is false for
+    /// a link, for a folder that is gone by now, and for what lies on another device; one that may
+    /// not be read counts as an empty one.
+    virtual void leaveFolder(qint64 size, bool wasRead) = 0;
 };
 
 /// Lists the files and folders below @p root, each folder right before what is in it.
@@ -45,8 +47,8 @@ public:
 /// QDirIterator's recursive QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot listing, order
 /// included, except that nothing mounted below the root is listed or entered and that a junction
 /// counts as a link. Hidden folders are entered only for their size. When @p stopRequested is set
-/// the walk ends, and folders are not left any more. Each folder that is read and not hidden is
-/// recorded in @p listed.
+/// the walk ends, without leaveFolder() for the folders that it is in. Each folder that is read and
+/// not hidden is recorded in @p listed.
 WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
                        const std::atomic_bool *stopRequested = nullptr,
                        ListedFolders *listed = nullptr);

@@ -16,12 +16,12 @@ namespace platform {
 /// relative to its folder, which is opened link-free from the top down; entries of one folder that
 /// follow each other share the open folder, so that the care costs nothing. On Windows the entry is
 /// opened without being followed, its final path is compared with the one asked for, and it is
-/// removed through that handle. Whatever stands at the path now is taken as it is: a link goes as a
-/// link, a real folder with its contents, but never with what is mounted below it.
+/// removed through that handle. Whatever stands at the path now is removed as what it is: a link as
+/// a link, a real folder with its contents, but never with what is mounted below it.
 ///
-/// What is taken is taken from the folder that was listed, and from none that has come to its path
-/// since, be it by a rename or a mount. A folder that nobody listed is held to what it was when
-/// this remover met it first.
+/// An entry is removed only from the folder that it was listed from, not from another one that has
+/// come to the path since, by a rename or a mount. A folder that nobody listed must be the one that
+/// this remover met at its path first.
 ///
 /// Lives on one thread. Keep one object for a run and drop it at the end: it holds a folder open.
 class FileRemover final
@@ -54,9 +54,8 @@ public:
     void setListed(const ListedFolders *listed);
 
     /// Removes the entry at the absolute @p path. A folder is emptied first; that ends early, as a
-    /// failure, once
-    /// @p stopRequested is set. What could not be removed inside a folder stays, everything else
-    /// goes.
+    /// failure, once @p stopRequested is set. What could not be removed inside a folder stays,
+    /// everything else is removed.
     [[nodiscard]] Outcome remove(const QString &path,
                                  const std::atomic_bool *stopRequested = nullptr);
 

@@ -22,14 +22,14 @@ struct ListedEntry {
 
 struct FolderListing {
     std::vector<ListedEntry> entries; ///< in the file system's order
-    quint64 device =
-        0; ///< where the folder lies, for comparing; 0 where links alone lead elsewhere
+    /// Where the folder lies, for comparing; 0 where links alone lead elsewhere.
+    quint64 device = 0;
     EntryId id; ///< of the folder
     bool isMissing = false; ///< gone, or no folder, or (on Linux) reached through a link
     QString error; ///< why it could not be read; what was read before is kept
 };
 
-/// Reads folders. One object a walk.
+/// Reads whole folders. A walk owns one; list() may be called on any thread.
 class FolderLister final
 {
     Q_DISABLE_COPY_MOVE(FolderLister)

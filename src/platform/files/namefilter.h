@@ -10,11 +10,10 @@ namespace platform {
 
 /// Decides whether a file name matches any of a list of wildcards, ignoring case.
 ///
-/// The wildcards are those of QDir's name filters ("*", "?", "[...]"). Every entry of every folder
-/// passes through here: those without sets are compared directly. The others become a regular
-/// expression, which besides leaves something to each thread that some run-time libraries of
-/// Windows do not clean up in time: a program then waits at its end for ever. An empty list matches
-/// every name.
+/// The wildcards are those of QDir's name filters ("*", "?", "[...]"). An empty list matches every
+/// name. Every file of a walk is asked here, so wildcards without sets are compared directly. Only
+/// the others become regular expressions, which are slow and keep data of each thread that uses
+/// them: with some run-time libraries of Windows a program then waits at its end for ever.
 class NameFilter
 {
 public:
@@ -23,7 +22,7 @@ public:
     [[nodiscard]] bool matches(QStringView name) const;
     [[nodiscard]] bool matches(QUtf8StringView name) const
     {
-        return m_everything || matches(name.toString()); // most walks take every name as it comes
+        return m_everything || matches(name.toString()); // no string for those who take all
     }
     [[nodiscard]] bool matchesEverything() const { return m_everything; }
 

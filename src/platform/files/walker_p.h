@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filewalk.h"
 #include "namefilter.h"
+#include "treewalk.h"
 #include "walkqueue_p.h"
 
 #include <mutex>
@@ -24,8 +24,7 @@ public:
     void addFailure(const QString &path, const QString &reason)
     {
         const std::lock_guard lock(m_mutex);
-        if (++m_report.failureCount <= WalkReport::maximumFailures)
-            m_report.failures.append({path, reason});
+        m_report.addFailure(path, reason);
     }
 
     void addFollowed(const FollowedLink &link)

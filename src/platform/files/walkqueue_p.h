@@ -13,9 +13,9 @@ namespace platform {
 
 /// The folders that the walkers of one walk still have to read. Any walker's thread.
 ///
-/// The folders that were added last come first, so that what waits stays little. Links come last,
-/// when nothing else waits and no walker may add anything: a folder that can be reached by its own
-/// path has then been read by it.
+/// The folders that were added last are read first, which keeps the queue short. Links are read
+/// when nothing else waits and no walker can add anything: by then each folder that can be reached
+/// by its own path has been read by that path. walkTree() owns the queue of a walk.
 template<class Folder, class Link>
 class WalkQueue final
 {

@@ -28,10 +28,10 @@ DosAttributes::DosAttributes()
     if (prefix.isEmpty())
         return;
     m_tops.append(prefix + u'/');
-    // Wherever that is.
+    // It need not lie in the prefix.
     if (const QString temporary = wineprefix::temporaryFolder(); !temporary.isEmpty())
         m_tops.append(QFileInfo(temporary).canonicalFilePath() + u'/');
-    // A drive that is everything there is would have every file of this system asked.
+    // Not of the drive that is the whole system: each of its files would have to be asked.
     for (const QString &drive : wineprefix::drives()) {
         if (drive != u'/')
             m_tops.append(drive + u'/');

@@ -1,6 +1,6 @@
 #include "fileremove.h"
 
-#include "fileremove_p.h"
+#include "rightfolders_p.h"
 #include "unix/folderreader.h"
 #include "unix/openfolder.h"
 
@@ -46,9 +46,10 @@ bool isListed(int folder, const char *name, const FileRemover::ListedFile &liste
         && (listed.number == 0 || listed.number == status.st_ino);
 }
 
-/// Sees to it that entries are removed where they were listed: a folder stays open when somebody
-/// moves it away. Whether it is still at its path is looked up anew for every few entries, and
-/// after every short while.
+/// Sees to it that entries are removed only where they were listed. An open folder stays usable
+/// when somebody moves it away, so the guard looks again, every few entries and after every short
+/// while, whether it is still at its path. A FileRemover owns one for the folder of its entries, a
+/// FolderRemoval one for its levels.
 class PlaceGuard
 {
 public:
@@ -56,7 +57,7 @@ public:
     template<class Path>
     [[nodiscard]] bool isInPlace(int folder, const Path &path)
     {
-        if (--m_left >= 0 && now() - m_checked < longestTrust)
+        if (--m_entriesUntilCheck >= 0 && now() - m_checked < longestTrust)
             return true;
         confirm();
         const UniqueFd there = openFolder(path(), Access::PassThrough);
@@ -65,7 +66,7 @@ public:
     /// The folder has been opened by its path just now.
     void confirm()
     {
-        m_left = entriesAtOnce - 1;
+        m_entriesUntilCheck = entriesAtOnce - 1;
         m_checked = now();
     }
 
@@ -80,7 +81,7 @@ private:
         return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
     }
 
-    int m_left = 0;
+    int m_entriesUntilCheck = 0;
     qint64 m_checked = 0;
 };
 
@@ -146,8 +147,8 @@ private:
             m_error = error;
     }
 
-    // Before anything in the level is removed. Once the folder is not where it was, nothing more
-    // is.
+    // Asked before anything in the level is removed. Once the folder is not at its path any more,
+    // nothing else is removed.
     bool isInPlace(const Level &level)
     {
         if (m_wasMoved || m_guard.isInPlace(level.fd.get(), [&] { return pathOf(level); }))
@@ -209,8 +210,7 @@ private:
         if (m_reader.typeOf(entry) == DT_DIR) {
             level.subfolders.emplace_back(entry.d_name);
         } else if (isInPlace(level) && ::unlinkat(fd, entry.d_name, 0) != 0 && errno != ENOENT) {
-            // A folder that its owner made read-only does not protect what is in it from being
-            // cleaned.
+            // In a folder that is removed whole, entries go although its owner made it read-only.
             const int error = errno;
             if (error != EACCES || !makeWritable(fd) || ::unlinkat(fd, entry.d_name, 0) != 0)
                 note(error);
@@ -232,7 +232,7 @@ private:
             return;
         }
         if (level.subfolders.empty()) {
-            leave();
+            leaveLevel();
             return;
         }
         const QByteArray name = std::move(level.subfolders.back());
@@ -240,19 +240,19 @@ private:
         const int fd = level.fd.get();
         UniqueFd subfolder = openFolderBelow(fd, name, Mounts::Stay);
         if (!subfolder.isValid() && (errno == ELOOP || errno == ENOTDIR)) {
-            // It was exchanged for something else since its parent was read: that goes as what it
-            // is.
+            // Something else has come to its path since its parent was read: it is removed as what
+            // it is.
             if (isInPlace(level) && ::unlinkat(fd, name.constData(), 0) != 0 && errno != ENOENT)
                 note(errno);
             return;
         }
         if (!subfolder.isValid() && errno == ENOENT)
-            return; // It went by itself.
+            return; // somebody else has removed it
         enter(std::move(subfolder), name);
     }
 
     // The deepest level is empty: back to its parent, which removes it.
-    void leave()
+    void leaveLevel()
     {
         const QByteArray name = m_levels.back().name;
         const EntryId id = m_levels.back().id;

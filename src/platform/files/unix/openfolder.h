@@ -83,8 +83,8 @@ enum class Access { Read, PassThrough };
 /// An absolute path split into its folder and the name of its last entry.
 struct SplitPath {
     QByteArray folder; ///< "/" or without a slash at the end
-    QByteArray
-        name; ///< empty when the path names no entry: relative, the root, or with "." or ".."
+    /// Empty when the path names no entry: relative, the root, or with "." or "..".
+    QByteArray name;
 };
 [[nodiscard]] SplitPath splitPath(const QString &path);
 

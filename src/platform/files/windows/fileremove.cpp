@@ -1,6 +1,6 @@
 #include "fileremove.h"
 
-#include "fileremove_p.h"
+#include "rightfolders_p.h"
 #include "windows/folderreader.h"
 #include "windows/openentry.h"
 
@@ -35,8 +35,8 @@ struct OpenedEntry {
     [[nodiscard]] bool isFolder() const { return nature == EntryNature::Folder; }
 };
 
-/// Removes single entries by handle: what was looked at is what goes, whatever happens meanwhile to
-/// the folders above.
+/// Removes single entries by handle: what was looked at is what is removed, whatever happens
+/// meanwhile to the folders above. A FileRemover owns one and uses it on its thread.
 class EntryRemover
 {
 public:
@@ -124,7 +124,7 @@ private:
             != 0;
     }
 
-    // The attribute belongs to the file, not to the name: with other names left it is not ours.
+    // The attribute belongs to the file, not to the name: a file that has other names keeps it.
     bool removeWithoutReadOnly(OpenedEntry entry)
     {
         FILE_STANDARD_INFO standard{};
@@ -215,8 +215,8 @@ private:
             return;
         }
         if (!entry.isFolder()) {
-            // It was exchanged for something else since its parent was read: that goes as what it
-            // is.
+            // Something else has come to its path since its parent was read: it is removed as what
+            // it is.
             if (!m_remover.removeEvenIfReadOnly(path, std::move(entry)))
                 note(m_remover.error());
             return;

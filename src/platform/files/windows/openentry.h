@@ -94,8 +94,8 @@ enum class Links { Follow, Open };
 enum class PathForm { Drive, Device };
 [[nodiscard]] QString finalPath(const UniqueHandle &entry, PathForm form);
 
-/// The same in a form of our own, the volume's number and the path on it, for volumes and paths of
-/// which the system tells no more than that.
+/// The same in a form of this program's own, the volume's number and the path on it, for volumes
+/// and paths of which the system tells no more than that.
 [[nodiscard]] QString pathOnVolume(const UniqueHandle &entry);
 
 /// Tells whether an open entry is the one that its path names, or whether a link on the way led

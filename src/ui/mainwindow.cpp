@@ -19,6 +19,7 @@
 #include "registrypage.h"
 #include "settingsdialog.h"
 #include "startuppage.h"
+#include "styletemplate.h"
 #include "svgicon.h"
 #include "theme.h"
 #include "titlebar.h"
@@ -85,7 +86,7 @@ void MainWindow::buildLayout()
     container->setObjectName("mainContainer"_L1);
     auto *shadow = new QGraphicsDropShadowEffect(container);
     shadow->setBlurRadius(20);
-    shadow->setColor(theme::color(theme::black, 50));
+    shadow->setColor(theme::color(theme::shadow, 50));
     shadow->setOffset(0, 5);
     container->setGraphicsEffect(shadow);
     outer->addWidget(container);
@@ -127,21 +128,17 @@ QWidget *MainWindow::buildLogo()
     auto *broom = new QLabel(u"🧹"_s, box);
     broom->setGeometry(10, 10, 52, 52);
     broom->setAlignment(Qt::AlignCenter);
-    broom->setStyleSheet(
-        u"font-size: 28px;background-color: white;border-radius: 12px;border: none;"_s);
+    broom->setStyleSheet(theme::logoBox());
     auto *badge = new QLabel(u"✨"_s, box);
     badge->setGeometry(48, 0, 24, 24);
     badge->setAlignment(Qt::AlignCenter);
-    badge->setStyleSheet(
-        u"font-size: 14px;background-color: %1;border-radius: 12px;border: none;"_s.arg(
-            theme::sparkle));
+    badge->setStyleSheet(theme::logoBadge());
     layout->addWidget(box, 0, Qt::AlignCenter);
 
     auto *label = new QLabel(u"Sweepwise 5.0"_s, logo);
     label->setObjectName("logoLabel"_L1);
     label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(
-        u"font-size: 20px;font-weight: 700;color: white;background: transparent;border: none;"_s);
+    label->setStyleSheet(theme::logoText());
     layout->addWidget(label);
     return logo;
 }
@@ -161,8 +158,7 @@ void MainWindow::buildNavigation()
     auto *separator = new QFrame(m_navWidget);
     separator->setObjectName("navSeparator"_L1);
     separator->setFrameShape(QFrame::HLine);
-    separator->setStyleSheet(
-        u"background-color: rgba(255,255,255,0.2); max-height: 1px; border: none;"_s);
+    separator->setStyleSheet(theme::navSeparator());
 
     auto *layout = new QVBoxLayout(m_navWidget);
     layout->setContentsMargins(16, 20, 16, 20);
@@ -244,7 +240,7 @@ void MainWindow::applyStyleSheet()
 {
     QFile file(u":/styles/style.qss"_s);
     if (file.open(QIODevice::ReadOnly | QIODevice::Text))
-        setStyleSheet(QString::fromUtf8(file.readAll()));
+        setStyleSheet(theme::fill(QString::fromUtf8(file.readAll())));
 }
 
 void MainWindow::switchToPage(int index)

@@ -115,7 +115,7 @@ void NavButton::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     if (m_checked || m_hovered) {
         painter.setBrush(m_checked ? theme::color(theme::white) : theme::color(theme::white, 38));
-        painter.drawRoundedRect(rect(), 12, 12);
+        painter.drawRoundedRect(rect(), theme::cardRadius, theme::cardRadius);
     }
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
@@ -129,11 +129,6 @@ void NavButton::updateLook()
     const QColor iconColour =
         m_checked ? theme::color(theme::accent) : theme::color(theme::white, 217);
     m_icon->setSvg(m_iconPath, m_icon->size(), iconColour);
-    m_text->setStyleSheet(
-        m_checked
-            ? u"font-size: 14px; font-weight: 600; color: %1; background: transparent; border: none;"_s
-                  .arg(theme::accent)
-            : u"font-size: 14px; font-weight: 500; color: rgba(255,255,255,230); "
-              "background: transparent; border: none;"_s);
+    m_text->setStyleSheet(theme::navText(m_checked));
     update();
 }

@@ -49,9 +49,7 @@ AboutDialog::AboutDialog(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(32, 32, 32, 32);
     layout->setSpacing(16);
-    QLabel *icon = addLabel(
-        layout, u"🧹"_s,
-        u"background-color: %1; border-radius: 16px; font-size: 36px;"_s.arg(theme::accent));
+    QLabel *icon = addLabel(layout, u"🧹"_s, theme::aboutIcon());
     icon->setFixedSize(72, 72);
     layout->setAlignment(icon, Qt::AlignHCenter);
     addLabel(layout, u"Sweepwise"_s, theme::label(theme::text, 24, 700));
@@ -72,7 +70,10 @@ AboutDialog::AboutDialog(QWidget *parent)
     ok->setObjectName("okBtn"_L1);
     ok->setFixedSize(100, 36);
     ok->setCursor(Qt::PointingHandCursor);
-    ok->setStyleSheet(theme::dialogButton(theme::accent, theme::white, theme::accentHover, 14));
+    ok->setStyleSheet(theme::dialogButton({.background = theme::accent,
+                                           .colour = theme::onColour,
+                                           .hovered = theme::accentHover,
+                                           .fontSize = 14}));
     ok->setDefault(true);
     layout->addWidget(ok, 0, Qt::AlignCenter);
     connect(ok, &QPushButton::clicked, this, &AboutDialog::accept);

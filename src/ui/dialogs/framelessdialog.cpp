@@ -52,7 +52,7 @@ void FramelessDialog::paintShadowedGround(int radius)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(theme::color(theme::black, 30));
+    painter.setBrush(theme::color(theme::shadow, 30));
     painter.drawRoundedRect(rect().adjusted(4, 4, -4, -4), radius, radius);
     painter.setBrush(theme::color(theme::white));
     painter.drawRoundedRect(rect().adjusted(0, 0, -8, -8), radius, radius);

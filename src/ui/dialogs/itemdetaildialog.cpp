@@ -34,8 +34,7 @@ ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *paren
 {
     setObjectName("itemDetailDialog"_L1);
     setWindowTitle(singleLine(category->name));
-    setStyleSheet(u"#itemDetailDialog { background-color: %1; border: 1px solid %2; }"_s.arg(
-        QString(theme::white), QString(theme::border)));
+    setStyleSheet(theme::detailDialog());
     resize(760, 540);
 
     auto *layout = new QVBoxLayout(this);
@@ -50,12 +49,12 @@ ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *paren
     m_scrollArea->setObjectName("detailScrollArea"_L1);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
-    m_scrollArea->setStyleSheet(theme::scrolledList());
+    m_scrollArea->setStyleSheet(theme::detailScrollArea());
     m_scrollArea->setAccessibleName(windowTitle());
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *list = new QWidget(m_scrollArea);
     list->setObjectName("detailList"_L1);
-    list->setStyleSheet(u"#detailList { background-color: %1; }"_s.arg(theme::white));
+    list->setStyleSheet(theme::detailRows());
     m_rows = new QVBoxLayout(list);
     m_rows->setContentsMargins(0, 0, 0, 0);
     m_rows->setSpacing(0);
@@ -81,9 +80,7 @@ QWidget *ItemDetailDialog::buildTitleBar()
     auto *bar = new QWidget(this);
     bar->setObjectName("detailTitleBar"_L1);
     bar->setAttribute(Qt::WA_StyledBackground);
-    bar->setStyleSheet(
-        u"#detailTitleBar { background-color: %1; } QLabel { background: transparent; color: white; }"_s
-            .arg(theme::accent));
+    bar->setStyleSheet(theme::detailTitleBar());
     bar->setFixedHeight(60);
     auto *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(12, 0, 20, 0);
@@ -98,10 +95,7 @@ QWidget *ItemDetailDialog::buildTitleBar()
     back->setToolTip(tr("Back"));
     back->setAccessibleName(tr("Back"));
     back->setAutoDefault(false);
-    back->setStyleSheet(u"QPushButton { background: transparent; border: 2px solid transparent; "
-                        u"border-radius: 8px; }"
-                        "QPushButton:hover { background-color: %1; }"
-                        "QPushButton:focus { border-color: white; }"_s.arg(theme::accentHover));
+    back->setStyleSheet(theme::detailBackButton());
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
     layout->addWidget(back);
 
@@ -126,9 +120,7 @@ QWidget *ItemDetailDialog::buildColumnHeader()
     auto *header = new QWidget(this);
     header->setObjectName("detailHeader"_L1);
     header->setAttribute(Qt::WA_StyledBackground);
-    header->setStyleSheet(
-        u"#detailHeader { background-color: %1; border-bottom: 1px solid %2; }"_s.arg(
-            QString(theme::hover), QString(theme::border)));
+    header->setStyleSheet(theme::detailColumnHeader());
     header->setFixedHeight(38);
     auto *layout = new QHBoxLayout(header);
     layout->setContentsMargins(columnMargin + listBorder, 0, columnMargin + listBorder, 0);

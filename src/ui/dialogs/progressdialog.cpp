@@ -75,10 +75,14 @@ ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
     m_percentage->setText(tr("%1%").arg(0));
     layout->addStretch();
 
-    m_cancelButton = addButton(layout, u"cancelBtn"_s, tr("Cancel"), theme::quietButton(10, 14));
-    m_closeButton =
-        addButton(layout, u"closeBtn"_s, tr("Close"),
-                  theme::filledButton(theme::accent, theme::accentHover, 10, 14, u"0 16px"_s));
+    m_cancelButton = addButton(layout, u"cancelBtn"_s, tr("Cancel"),
+                               theme::quietButton({.radius = theme::buttonRadius, .fontSize = 14}));
+    m_closeButton = addButton(layout, u"closeBtn"_s, tr("Close"),
+                              theme::filledButton({.background = theme::accent,
+                                                   .hovered = theme::accentHover,
+                                                   .radius = theme::buttonRadius,
+                                                   .fontSize = 14,
+                                                   .padding = u"0 16px"_s}));
     m_closeButton->hide();
     connect(m_cancelButton, &QPushButton::clicked, this, &ProgressDialog::cancelRequested);
     connect(m_closeButton, &QPushButton::clicked, this, &ProgressDialog::accept);
@@ -139,13 +143,12 @@ void ProgressDialog::reject()
         Q_EMIT cancelRequested();
 }
 
-void ProgressDialog::setIconColour(QLatin1StringView colour)
+void ProgressDialog::setIconColour(theme::Colour colour)
 {
-    m_icon->setStyleSheet(
-        u"background-color: %1; border-radius: 32px; font-size: 30px; color: white;"_s.arg(colour));
+    m_icon->setStyleSheet(theme::resultIcon(colour));
 }
 
 void ProgressDialog::paintEvent(QPaintEvent *)
 {
-    paintGround(16);
+    paintGround(theme::windowRadius);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framelessdialog.h"
+#include "tokens.h"
 
 class QLabel;
 class QProgressBar;
@@ -41,7 +42,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void setIconColour(QLatin1StringView colour);
+    void setIconColour(theme::Colour colour);
 
     bool m_finished = false;
     QString m_cleanedSize;

@@ -87,14 +87,15 @@ QLayout *RegistryBackupDialog::buildPathRow()
     m_pathEdit = new QLineEdit(defaultPath(), this);
     m_pathEdit->setObjectName("backupPathEdit"_L1);
     m_pathEdit->setAccessibleName(tr("Backup file"));
-    m_pathEdit->setStyleSheet(theme::lineEdit(13, 6));
+    m_pathEdit->setStyleSheet(theme::lineEdit(theme::smallRadius));
     m_pathEdit->setMinimumHeight(34);
     m_pathEdit->setCursorPosition(0);
     label->setBuddy(m_pathEdit);
     m_browseButton = new QPushButton(tr("Browse..."), this);
     m_browseButton->setObjectName("browseBtn"_L1);
     m_browseButton->setFixedSize(70, 34);
-    m_browseButton->setStyleSheet(theme::quietButton(6, 12));
+    m_browseButton->setStyleSheet(
+        theme::quietButton({.radius = theme::smallRadius, .fontSize = 12}));
     m_browseButton->setCursor(Qt::PointingHandCursor);
     m_browseButton->setAutoDefault(false);
     connect(m_browseButton, &QPushButton::clicked, this, &RegistryBackupDialog::browse);
@@ -112,12 +113,16 @@ QLayout *RegistryBackupDialog::buildButtonRow()
     auto *cancel = new QPushButton(tr("Cancel"), this);
     cancel->setObjectName("cancelBtn"_L1);
     cancel->setFixedSize(90, 38);
-    cancel->setStyleSheet(theme::quietButton(8, 13));
+    cancel->setStyleSheet(theme::quietButton({.radius = theme::controlRadius, .fontSize = 13}));
     cancel->setDefault(true);
     auto *start = new QPushButton(tr("Start Cleaning"), this);
     start->setObjectName("startCleanBtn"_L1);
     start->setFixedSize(100, 38);
-    start->setStyleSheet(theme::filledButton(theme::dangerHover, theme::danger, 8, 12, u"0"_s));
+    start->setStyleSheet(theme::filledButton({.background = theme::dangerHover,
+                                              .hovered = theme::danger,
+                                              .radius = theme::controlRadius,
+                                              .fontSize = 12,
+                                              .padding = u"0"_s}));
     start->setAutoDefault(false);
     for (QPushButton *button : {cancel, start}) {
         button->setCursor(Qt::PointingHandCursor);
@@ -197,5 +202,5 @@ void RegistryBackupDialog::keyPressEvent(QKeyEvent *event)
 
 void RegistryBackupDialog::paintEvent(QPaintEvent *)
 {
-    paintGround(12);
+    paintGround(theme::cardRadius);
 }

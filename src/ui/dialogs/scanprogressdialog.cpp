@@ -5,7 +5,6 @@
 #include "theme.h"
 
 #include <QLabel>
-#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -45,7 +44,7 @@ ScanProgressDialog::ScanProgressDialog(QWidget *parent)
     bar->setRange(0, 0);
     bar->setTextVisible(false);
     bar->setFixedHeight(6);
-    bar->setStyleSheet(theme::thinBar(theme::accent, 3));
+    bar->setStyleSheet(theme::thinProgressBar(theme::accent, 3));
     bar->setAccessibleName(title->text());
     layout->addWidget(bar);
 
@@ -60,7 +59,8 @@ ScanProgressDialog::ScanProgressDialog(QWidget *parent)
     cancel->setObjectName("cancelBtn"_L1);
     cancel->setFixedSize(100, 36);
     cancel->setCursor(Qt::PointingHandCursor);
-    cancel->setStyleSheet(theme::dangerButton(8, 14, u"0 6px"_s));
+    cancel->setStyleSheet(
+        theme::dangerButton({.radius = theme::controlRadius, .padding = u"0 6px"_s}));
     layout->addWidget(cancel, 0, Qt::AlignCenter);
     connect(cancel, &QPushButton::clicked, this, &ScanProgressDialog::cancelRequested);
 }
@@ -81,9 +81,5 @@ void ScanProgressDialog::reject()
 
 void ScanProgressDialog::paintEvent(QPaintEvent *)
 {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(theme::color(theme::border));
-    painter.setBrush(theme::color(theme::white));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 16, 16);
+    paintGround(theme::windowRadius);
 }

@@ -82,12 +82,16 @@ void SettingsDialog::buildButtons(QVBoxLayout *layout)
     };
     const QPushButton *about = add(u"aboutBtn"_s, tr("About"), theme::framedButton());
     row->addStretch();
-    const QPushButton *cancel =
-        add(u"cancelBtn"_s, tr("Cancel"),
-            theme::dialogButton(theme::button, theme::text, theme::border, 13));
-    QPushButton *save =
-        add(u"saveBtn"_s, tr("Save"),
-            theme::dialogButton(theme::accent, theme::white, theme::accentHover, 13));
+    const QPushButton *cancel = add(u"cancelBtn"_s, tr("Cancel"),
+                                    theme::dialogButton({.background = theme::buttonGround,
+                                                         .colour = theme::text,
+                                                         .hovered = theme::border,
+                                                         .fontSize = 13}));
+    QPushButton *save = add(u"saveBtn"_s, tr("Save"),
+                            theme::dialogButton({.background = theme::accent,
+                                                 .colour = theme::onColour,
+                                                 .hovered = theme::accentHover,
+                                                 .fontSize = 13}));
     save->setDefault(true);
     connect(about, &QPushButton::clicked, this, &SettingsDialog::onAboutClicked);
     connect(cancel, &QPushButton::clicked, this, &SettingsDialog::onCancelClicked);
@@ -131,5 +135,5 @@ void SettingsDialog::onAboutClicked()
 
 void SettingsDialog::paintEvent(QPaintEvent *)
 {
-    paintShadowedGround(16);
+    paintShadowedGround(theme::windowRadius);
 }

@@ -160,12 +160,18 @@ void BasePage::setupFooter()
 
     m_scanButton = new QPushButton(this);
     m_scanButton->setObjectName("scanBtn"_L1);
-    m_scanButton->setStyleSheet(
-        theme::filledButton(theme::accent, theme::accentHover, 10, 14, u"0 22px"_s));
+    m_scanButton->setStyleSheet(theme::filledButton({.background = theme::accent,
+                                                     .hovered = theme::accentHover,
+                                                     .radius = theme::buttonRadius,
+                                                     .fontSize = 14,
+                                                     .padding = u"0 22px"_s}));
     m_cleanButton = new QPushButton(this);
     m_cleanButton->setObjectName("cleanBtn"_L1);
-    m_cleanButton->setStyleSheet(
-        theme::filledButton(theme::danger, theme::dangerHover, 10, 14, u"0 22px"_s));
+    m_cleanButton->setStyleSheet(theme::filledButton({.background = theme::danger,
+                                                      .hovered = theme::dangerHover,
+                                                      .radius = theme::buttonRadius,
+                                                      .fontSize = 14,
+                                                      .padding = u"0 22px"_s}));
     m_cleanButton->setEnabled(false);
     for (QPushButton *button : {m_scanButton, m_cleanButton}) {
         button->setMinimumHeight(44);

@@ -60,7 +60,7 @@ QString sizeText(qint64 bytes)
 DashboardStartPanel::DashboardStartPanel(QWidget *parent)
     : QWidget(parent)
     , m_startButton(makeButton(u"startFullScanBtn"_s, tr("🔍  Start Full Scan"), {200, 50},
-                               theme::gradientButton(12, 16), this))
+                               theme::gradientButton({.radius = 12, .fontSize = 16}), this))
 {
     QLabel *emblem = makeLabel(u"🧹"_s, theme::emblem(), this);
     emblem->setFixedSize(120, 120);
@@ -149,8 +149,7 @@ DashboardResultsPanel::DashboardResultsPanel(QWidget *parent)
     titles->setSpacing(2);
     QLabel *title = makeLabel(u"Sweepwise 5.0"_s, theme::label(theme::text, 24, 600), this);
     QLabel *header =
-        makeLabel(tr("Keep Your PC Running at Peak Performance"),
-                  u"font-size: 14px;color: %1;background: transparent;"_s.arg(theme::muted), this);
+        makeLabel(tr("Keep Your PC Running at Peak Performance"), theme::dashboardSubtitle(), this);
     for (QLabel *label : {title, header}) {
         label->setAlignment(Qt::AlignLeft);
         titles->addWidget(label);
@@ -165,7 +164,7 @@ QWidget *DashboardResultsPanel::buildMainCard()
 {
     auto *card = new QFrame(this);
     card->setObjectName("circleCard"_L1);
-    card->setStyleSheet(theme::plainCard(card->objectName()));
+    card->setStyleSheet(theme::circleCard(card->objectName()));
     auto *layout = new QVBoxLayout(card);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(14);
@@ -182,7 +181,7 @@ QLayout *DashboardResultsPanel::buildStatusRow()
     m_dot = new QLabel(this);
     m_dot->setObjectName("statusDot"_L1);
     m_dot->setFixedSize(10, 10);
-    m_status = makeLabel({}, theme::clearLabel(theme::muted, 13), this);
+    m_status = makeLabel({}, theme::transparentLabel(theme::muted, 13), this);
     m_status->setObjectName("statusLabel"_L1);
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
@@ -195,10 +194,12 @@ QLayout *DashboardResultsPanel::buildStatusRow()
 
 QLayout *DashboardResultsPanel::buildButtonRow()
 {
-    m_scanButton = makeButton(u"dashboardScanBtn"_s, tr("🔍 Start Scan"), {145, 44},
-                              theme::gradientButton(10, 14), this);
-    m_cleanButton = makeButton(u"dashboardCleanBtn"_s, tr("🗑️ Clean All"), {145, 44},
-                               theme::dangerOutlineButton(10, 14), this);
+    m_scanButton =
+        makeButton(u"dashboardScanBtn"_s, tr("🔍 Start Scan"), {145, 44},
+                   theme::gradientButton({.radius = theme::buttonRadius, .fontSize = 14}), this);
+    m_cleanButton = makeButton(
+        u"dashboardCleanBtn"_s, tr("🗑️ Clean All"), {145, 44},
+        theme::dangerOutlineButton({.radius = theme::buttonRadius, .fontSize = 14}), this);
     auto *row = new QHBoxLayout;
     row->setSpacing(12);
     row->addStretch();
@@ -212,13 +213,12 @@ QLayout *DashboardResultsPanel::buildButtonRow()
 QLayout *DashboardResultsPanel::buildCards()
 {
     m_junkCard = new StatCard(tr("Junk Files"),
-                              {u":/icons/trash.svg"_s, theme::junkBar, theme::startupTint}, this);
-    m_browserCard =
-        new StatCard(tr("Browser Data"),
-                     {u":/icons/browser.svg"_s, theme::browserBar, theme::browserTint}, this);
+                              {u":/icons/trash.svg"_s, theme::junk, theme::goodTint}, this);
+    m_browserCard = new StatCard(
+        tr("Browser Data"), {u":/icons/browser.svg"_s, theme::browser, theme::browserTint}, this);
     m_registryCard =
         new StatCard(tr("Registry Issues"),
-                     {u":/icons/registry.svg"_s, theme::warning, theme::mediumRiskTint}, this);
+                     {u":/icons/registry.svg"_s, theme::warning, theme::warningTint}, this);
     m_registryCard->setBarWidth(fixedRegistryBar);
     auto *row = new QHBoxLayout;
     row->setSpacing(14);
@@ -235,7 +235,7 @@ QWidget *DashboardResultsPanel::buildTip()
     tip->setStyleSheet(theme::tipBox(tip->objectName()));
     QLabel *text = makeLabel(tr("<span style='font-weight:600;'>Tip:</span> Regular cleaning can "
                                 "improve your PC performance by up to 30%"),
-                             theme::clearLabel(theme::startupText, 13), tip);
+                             theme::transparentLabel(theme::goodText, 13), tip);
     text->setTextFormat(Qt::RichText);
     text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     text->setWordWrap(true);

@@ -68,9 +68,14 @@ LargeFileSelectionView::LargeFileSelectionView(const QList<DriveInfo> &drives, Q
     layout->addLayout(buildDriveGrid(drives, content));
     layout->addLayout(buildSizeRow(content));
 
-    m_startButton = makeButton(
-        u"startScanBtn"_s, tr("🔍 Start Scan"),
-        theme::filledButton(theme::accent, theme::accentHover, 12, 16, u"0"_s, 600), content);
+    m_startButton = makeButton(u"startScanBtn"_s, tr("🔍 Start Scan"),
+                               theme::filledButton({.background = theme::accent,
+                                                    .hovered = theme::accentHover,
+                                                    .radius = 12,
+                                                    .fontSize = 16,
+                                                    .padding = u"0"_s,
+                                                    .weight = 600}),
+                               content);
     m_startButton->setFixedSize(140, 48);
     layout->addWidget(m_startButton);
     layout->addStretch();
@@ -124,9 +129,12 @@ LargeFileResultsView::LargeFileResultsView(LargeFileModel *model, QWidget *paren
     : QWidget(parent)
     , m_summary(makeLabel(QString(), theme::label(theme::muted, 14), this))
     , m_selected(makeLabel(QString(), theme::label(theme::muted, 14), this))
-    , m_backButton(makeButton(u"backBtn"_s, tr("← Back"), theme::quietButton(10, 14), this))
-    , m_deleteButton(makeButton(u"deleteBtn"_s, tr("🗑️ Delete Selected"),
-                                theme::dangerButton(10, 14, u"0 16px"_s), this))
+    , m_backButton(makeButton(u"backBtn"_s, tr("← Back"),
+                              theme::quietButton({.radius = theme::buttonRadius, .fontSize = 14}),
+                              this))
+    , m_deleteButton(makeButton(
+          u"deleteBtn"_s, tr("🗑️ Delete Selected"),
+          theme::dangerButton({.radius = theme::buttonRadius, .padding = u"0 16px"_s}), this))
     , m_list(new FileCardList(model, this))
 {
     setObjectName("resultsView"_L1);

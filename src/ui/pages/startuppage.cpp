@@ -75,16 +75,15 @@ QLayout *StartupPage::buildHeader()
     auto *titles = new QVBoxLayout;
     titles->setSpacing(4);
     auto *title = new QLabel(tr("Startup Manager"), this);
-    title->setStyleSheet(u"font-size: 24px; font-weight: 700; color: %1;"_s.arg(theme::text));
+    title->setStyleSheet(theme::labelSizeFirst(theme::text, 24, 700));
     auto *subtitle = new QLabel(tr("Check programs to enable auto-start at boot"), this);
-    subtitle->setStyleSheet(u"font-size: 14px; color: %1;"_s.arg(theme::muted));
+    subtitle->setStyleSheet(theme::labelSizeFirst(theme::muted, 14));
     titles->addWidget(title);
     titles->addWidget(subtitle);
     header->addLayout(titles, 1);
     m_counts = new QLabel(tr("%1 programs").arg(0), this);
     m_counts->setObjectName("countsLabel"_L1);
-    m_counts->setStyleSheet(u"background-color: %1;color: white;padding: 6px 12px;border-radius: "
-                            "12px;font-size: 13px;font-weight: 500;"_s.arg(theme::accent));
+    m_counts->setStyleSheet(theme::countBadge());
     header->addWidget(m_counts, 0, Qt::AlignTop);
     return header;
 }
@@ -99,18 +98,18 @@ QLayout *StartupPage::buildTools()
     m_search->setPlaceholderText(tr("Search programs..."));
     m_search->setAccessibleName(tr("Search programs"));
     m_search->setClearButtonEnabled(true);
-    m_search->setStyleSheet(theme::lineEdit(13, 8));
+    m_search->setStyleSheet(theme::lineEdit(theme::controlRadius));
     connect(m_search, &QLineEdit::textChanged, this, &StartupPage::onSearchChanged);
     tools->addWidget(m_search);
     auto *refresh = new QPushButton(tr("Refresh"), this);
     refresh->setObjectName("refreshBtn"_L1);
     refresh->setFixedSize(90, 36);
     refresh->setCursor(Qt::PointingHandCursor);
-    refresh->setStyleSheet(theme::quietButton(8, 13));
+    refresh->setStyleSheet(theme::quietButton({.radius = theme::controlRadius, .fontSize = 13}));
     connect(refresh, &QPushButton::clicked, this, &StartupPage::onRefreshClicked);
     tools->addWidget(refresh);
     auto *hint = new QLabel(tr("Checked programs will run automatically at startup"), this);
-    hint->setStyleSheet(u"font-size: 12px; color: %1;"_s.arg(theme::faint));
+    hint->setStyleSheet(theme::labelSizeFirst(theme::faint, 12));
     hint->setWordWrap(true);
     tools->addWidget(hint, 1);
     return tools;
@@ -123,17 +122,17 @@ QWidget *StartupPage::buildLoadingPanel()
     auto *layout = new QVBoxLayout(m_loadingPanel);
     layout->setContentsMargins(0, 40, 0, 40);
     layout->setSpacing(8);
-    const auto add = [&](const QString &text, const QString &style, QLatin1StringView colour) {
+    const auto add = [&](const QString &text, const QString &style) {
         auto *label = new QLabel(text, m_loadingPanel);
         label->setAlignment(Qt::AlignCenter);
-        label->setStyleSheet(style.arg(colour));
+        label->setStyleSheet(style);
         layout->addWidget(label);
         return label;
     };
-    m_loadingSymbol = add({}, u"font-size: 36px; color: %1;"_s, theme::accent);
+    m_loadingSymbol = add({}, theme::labelSizeFirst(theme::accent, 36));
     m_loadingSymbol->setObjectName("loadingSymbol"_L1);
-    add(tr("Scanning installed programs..."), u"font-size: 15px; color: %1;"_s, theme::muted);
-    add(tr("First load may take a few seconds"), u"font-size: 13px; color: %1;"_s, theme::faint);
+    add(tr("Scanning installed programs..."), theme::labelSizeFirst(theme::muted, 15));
+    add(tr("First load may take a few seconds"), theme::labelSizeFirst(theme::faint, 13));
     m_loadingPanel->hide();
     return m_loadingPanel;
 }

@@ -76,7 +76,8 @@ void BrowserGroupWidget::buildHeader(const QString &name)
 
     m_count = new QLabel(m_header);
     m_count->setObjectName("browserItemCount"_L1);
-    m_count->setStyleSheet(theme::badge(theme::text, theme::button, 10, 12));
+    m_count->setStyleSheet(theme::badge(
+        {.colour = theme::text, .background = theme::buttonGround, .radius = 10, .fontSize = 12}));
     m_count->hide();
     layout->addWidget(m_count, 0, Qt::AlignVCenter);
     layout->addStretch();

@@ -90,8 +90,7 @@ void CategoryWidget::buildHeader()
     auto *icon = new SvgLabel(m_header);
     icon->setObjectName("categoryIcon"_L1);
     icon->setFixedSize(32, 32);
-    icon->setStyleSheet(
-        u"background-color: %1; border-radius: 6px; padding: 4px;"_s.arg(theme::accent));
+    icon->setStyleSheet(theme::categoryIcon());
     icon->setSvg(iconPath(m_category->id), {22, 22});
     layout->addWidget(icon);
 
@@ -102,7 +101,7 @@ void CategoryWidget::buildHeader()
 
     m_count = new QPushButton(m_header);
     m_count->setObjectName("itemCount"_L1);
-    m_count->setStyleSheet(theme::badgeButton(theme::muted, theme::button, 10, 12));
+    m_count->setStyleSheet(theme::badgeButton());
     m_count->setCursor(Qt::PointingHandCursor);
     m_count->setToolTip(tr("View Details"));
     connect(m_count, &QPushButton::clicked, this, &CategoryWidget::showDetails);

@@ -141,5 +141,5 @@ void CleanItemWidget::paintEvent(QPaintEvent *)
     if (!m_hovered)
         return;
     QPainter painter(this);
-    painter.fillRect(rect(), theme::color(theme::hover));
+    painter.fillRect(rect(), theme::color(theme::pageGround));
 }

@@ -26,9 +26,7 @@ DetailItemWidget::DetailItemWidget(const CleanItem &item, bool striped, QWidget 
 {
     setObjectName("detailItem"_L1);
     setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(
-        u"#detailItem { background-color: %1; } #detailItem:hover { background-color: %2; }"_s.arg(
-            QString(striped ? theme::stripe : theme::white), QString(theme::button)));
+    setStyleSheet(theme::detailRow(striped));
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(20, 6, 20, 6);
     layout->setSpacing(12);
@@ -71,7 +69,7 @@ void DetailItemWidget::addFileColumns(const CleanItem &item)
     button->setIconSize({18, 18});
     button->setCursor(Qt::PointingHandCursor);
     button->setFixedWidth(actionColumn);
-    button->setStyleSheet(theme::quietButton(6, 12));
+    button->setStyleSheet(theme::quietButton({.radius = theme::smallRadius, .fontSize = 12}));
     button->setMinimumHeight(30);
     button->setAutoDefault(false);
     button->setAccessibleName(tr("Open file location of %1").arg(singleLine(item.name)));

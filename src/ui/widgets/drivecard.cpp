@@ -63,7 +63,7 @@ DriveCard::DriveCard(const DriveInfo &drive, QWidget *parent)
     setObjectName("driveCard"_L1);
     setFixedSize(140, 110);
     setCursor(Qt::PointingHandCursor);
-    setStyleSheet(theme::card(objectName(), 2, false));
+    setStyleSheet(theme::card({.objectName = objectName(), .borderWidth = 2}));
     setProperty("checkBox", QVariant::fromValue<QWidget *>(m_checkBox));
 
     auto *layout = new QVBoxLayout(this);
@@ -113,9 +113,9 @@ void DriveCard::addUsage(const DriveInfo &drive, QLayout *layout)
     bar->setFixedHeight(4);
     bar->setTextVisible(false);
     bar->setAccessibleName(tr("Used: %1%").arg(percent));
-    bar->setStyleSheet(theme::thinBar(percent < nearlyFull ? theme::accent
-                                          : percent < full ? theme::warning
-                                                           : theme::danger,
-                                      2));
+    bar->setStyleSheet(theme::thinProgressBar(percent < nearlyFull ? theme::accent
+                                                  : percent < full ? theme::warning
+                                                                   : theme::danger,
+                                              2));
     layout->addWidget(bar);
 }

@@ -40,8 +40,10 @@ QString iconOf(const QString &type)
 
 QString badgeStyle(bool isHuge)
 {
-    return isHuge ? theme::sizeBadge(theme::dangerHover, theme::dangerTint)
-                  : theme::sizeBadge(theme::text, theme::button);
+    return isHuge
+        ? theme::pill(
+            {.colour = theme::dangerHover, .background = theme::dangerTint, .weight = 600})
+        : theme::pill({.colour = theme::text, .background = theme::buttonGround, .weight = 600});
 }
 
 QLabel *makeLabel(const QString &name, const QString &style, QWidget *parent)
@@ -58,9 +60,7 @@ QLabel *makeLabel(const QString &name, const QString &style, QWidget *parent)
 FileCard::FileCard(QWidget *parent)
     : QFrame(parent)
     , m_checkBox(new QCheckBox(this))
-    , m_icon(makeLabel(
-          u"fileIcon"_s,
-          u"background-color: %1; border-radius: 8px; font-size: 16px;"_s.arg(theme::button), this))
+    , m_icon(makeLabel(u"fileIcon"_s, theme::emojiBox(theme::buttonGround), this))
     , m_name(new ElidedLabel({}, this))
     , m_folder(makeLabel(u"fileFolder"_s, theme::label(theme::faint, 11), this))
     , m_badge(makeLabel(u"sizeBadge"_s, badgeStyle(false), this))

@@ -37,7 +37,7 @@ FileCardList::FileCardList(LargeFileModel *model, QWidget *parent)
     setFocusPolicy(Qt::NoFocus); // its rows take it
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setStyleSheet("QAbstractScrollArea { background: transparent; }"_L1
-                  + theme::card(u"fileCard"_s, 1, true));
+                  + theme::card({.objectName = u"fileCard"_s, .isHoverable = true}));
     viewport()->setAutoFillBackground(false);
     verticalScrollBar()->setSingleStep(1);
     connect(model, &LargeFileModel::filesReplaced, this, &FileCardList::onFilesReplaced);

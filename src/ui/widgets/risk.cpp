@@ -8,6 +8,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QString badge(theme::Colour colour, theme::Colour background)
+{
+    return theme::badge({.colour = colour, .background = background, .radius = 4, .fontSize = 11});
+}
+
+} // namespace
+
 QString risk::text(int level)
 {
     switch (level) {
@@ -24,11 +33,11 @@ QString risk::style(int level)
 {
     switch (level) {
     case HighRisk:
-        return theme::badge(theme::danger, theme::highRiskTint, 4, 11);
+        return badge(theme::danger, theme::dangerTint);
     case MediumRisk:
-        return theme::badge(theme::warning, theme::mediumRiskTint, 4, 11);
+        return badge(theme::warning, theme::warningTint);
     default:
-        return theme::badge(theme::accent, theme::lowRiskTint, 4, 11);
+        return badge(theme::accent, theme::accentTint);
     }
 }
 

@@ -28,7 +28,7 @@ StartupCard::StartupCard(const StartupApp &app, const QIcon &icon, QWidget *pare
     setProperty("appName", app.name);
     setProperty("appExePath", app.exePath);
     setFixedHeight(70);
-    setStyleSheet(theme::card(u"startupCard"_s, 1, false));
+    setStyleSheet(theme::card({.objectName = u"startupCard"_s}));
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 10, 16, 10);
@@ -45,9 +45,8 @@ StartupCard::StartupCard(const StartupApp &app, const QIcon &icon, QWidget *pare
 
     m_status = new QLabel(tr("Enabled"), this);
     m_status->setObjectName("statusLabel"_L1);
-    m_status->setStyleSheet(u"background-color: %1;color: %2;padding: 4px 10px;border-radius: 6px;"
-                            "font-size: 12px;font-weight: 500;"_s.arg(QString(theme::startupTint),
-                                                                      QString(theme::startupText)));
+    m_status->setStyleSheet(
+        theme::pill({.colour = theme::goodText, .background = theme::goodTint, .weight = 500}));
     layout->addWidget(m_status, 0, Qt::AlignVCenter);
     showState(app.isStartup);
 }
@@ -95,10 +94,8 @@ void StartupCard::showState(bool isStartup)
     if (m_isShown == isStartup)
         return;
     m_isShown = isStartup;
-    const QString ground(isStartup ? theme::startupTint : theme::button);
-    m_icon->setStyleSheet((m_icon->property("hasRealIcon").toBool()
-                               ? u"background-color: %1; border-radius: 8px; padding: 2px;"_s
-                               : u"background-color: %1; border-radius: 8px; font-size: 16px;"_s)
-                              .arg(ground));
+    const theme::Colour ground = isStartup ? theme::goodTint : theme::buttonGround;
+    m_icon->setStyleSheet(m_icon->property("hasRealIcon").toBool() ? theme::pictureBox(ground)
+                                                                   : theme::emojiBox(ground));
     m_status->setVisible(isStartup);
 }

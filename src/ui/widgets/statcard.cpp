@@ -27,8 +27,8 @@ QLabel *makeLabel(const QString &text, const QString &style, QWidget *parent)
 
 StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     : QFrame(parent)
-    , m_title(makeLabel(title, theme::clearLabel(theme::muted, 13), this))
-    , m_value(makeLabel({}, theme::clearLabel(theme::text, 15, 700), this))
+    , m_title(makeLabel(title, theme::transparentLabel(theme::muted, 13), this))
+    , m_value(makeLabel({}, theme::transparentLabel(theme::text, 15, 700), this))
 {
     setObjectName("statCard"_L1);
     setStyleSheet(theme::statCard(objectName()));
@@ -46,7 +46,7 @@ StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     auto *track = new QWidget(this);
     track->setAttribute(Qt::WA_StyledBackground);
     track->setFixedSize(100, barHeight);
-    track->setStyleSheet(theme::bar(theme::button, barHeight / 2));
+    track->setStyleSheet(theme::bar(theme::buttonGround, barHeight / 2));
     m_bar = new QWidget(track);
     m_bar->setObjectName("statBar"_L1);
     m_bar->setAttribute(Qt::WA_StyledBackground);
@@ -65,10 +65,7 @@ StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     layout->setSpacing(12);
     layout->addWidget(icon);
     layout->addLayout(texts, 1);
-    layout->addWidget(makeLabel(
-        u"›"_s,
-        u"font-size:14px; color: %1; background: transparent; border: none;"_s.arg(theme::faint),
-        this));
+    layout->addWidget(makeLabel(u"›"_s, theme::cardArrow(), this));
 }
 
 void StatCard::setValue(const QString &value)

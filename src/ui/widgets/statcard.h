@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tokens.h"
+
 #include <QFrame>
-#include <QLatin1StringView>
 
 class QLabel;
 
@@ -15,8 +16,8 @@ class StatCard final : public QFrame
 public:
     struct Look {
         QString iconPath;
-        QLatin1StringView accent;
-        QLatin1StringView iconBackground;
+        theme::Colour accent;
+        theme::Colour iconBackground;
     };
 
     StatCard(const QString &title, const Look &look, QWidget *parent = nullptr);

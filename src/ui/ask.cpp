@@ -1,6 +1,6 @@
 #include "ask.h"
 
-#include "theme.h"
+#include "boxes.h"
 
 namespace {
 

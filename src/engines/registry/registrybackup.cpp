@@ -1,7 +1,8 @@
 #include "registrybackup.h"
 
-#include "filesync.h"
 #include "entry.h"
+#include "filesync.h"
+#include "itemhive.h"
 #include "rulefolders.h"
 #include "text.h"
 
@@ -27,29 +28,6 @@ constexpr int longestLine = 70; ///< characters of a list of bytes before it is 
 struct Text {
     Q_DECLARE_TR_FUNCTIONS(RegistryBackup)
 };
-
-// A hive as the file names it, and where its keys are read.
-struct NamedHive {
-    QString name;
-    Hive hive;
-    bool isClass = false;
-    bool isUserClass = false;
-
-    [[nodiscard]] QString stored(const QString &key) const
-    {
-        return isClass ? Registry::classPath(key) : key;
-    }
-};
-
-NamedHive hiveOf(const CleanItem &item)
-{
-    if (item.registryRoot == "HKCU"_L1 || item.registryRoot == "HKEY_CURRENT_USER"_L1)
-        return {u"HKEY_CURRENT_USER"_s, Hive::CurrentUser};
-    if (item.registryRoot == "HKCR"_L1 || item.registryRoot == "HKEY_CLASSES_ROOT"_L1)
-        return {u"HKEY_CLASSES_ROOT"_s, item.isUserClass ? Hive::CurrentUser : Hive::LocalMachine,
-                true, item.isUserClass};
-    return {u"HKEY_LOCAL_MACHINE"_s, Hive::LocalMachine};
-}
 
 QString escaped(QString text)
 {
@@ -86,10 +64,11 @@ QString storedText(const QByteArray &data)
     return text;
 }
 
-QString keyLine(const NamedHive &hive, const QString &key)
+QString keyLine(const ItemHive &hive, const QString &key)
 {
-    const QString mark = hive.isUserClass ? RegistryBackup::userClassMark + "\r\n"_L1 : QString();
-    return mark + u'[' + hive.name + u'\\' + key + "]\r\n"_L1;
+    const bool isUserClass = hive.isClass() && hive.stored == Hive::CurrentUser;
+    const QString mark = isUserClass ? RegistryBackup::userClassMark + "\r\n"_L1 : QString();
+    return mark + u'[' + hiveName(hive.named) + u'\\' + key + "]\r\n"_L1;
 }
 
 bool breaksLine(const QString &text)
@@ -103,17 +82,17 @@ bool canBeWritten(const QString &key)
     return !breaksLine(key) && Registry::isKeyPath(key);
 }
 
-QString warning(const NamedHive &hive, const QString &path, QLatin1StringView what)
+QString warning(const ItemHive &hive, const QString &path, QLatin1StringView what)
 {
-    return "; WARNING: Could not read registry "_L1 + what + ": "_L1 + hive.name + u'\\'
+    return "; WARNING: Could not read registry "_L1 + what + ": "_L1 + hiveName(hive.named) + u'\\'
         + singleLine(path) + "\r\n"_L1;
 }
 
 // Empty when the key cannot be opened.
-QString exportKey(const Registry &registry, const NamedHive &hive, const QString &key)
+QString exportKey(const Registry &registry, const ItemHive &hive, const QString &key)
 {
     const auto values = canBeWritten(key)
-        ? registry.values(hive.hive, hive.stored(key), longestListedValue)
+        ? registry.values(hive.stored, hive.storedPath(key), longestListedValue)
         : std::nullopt;
     if (!values)
         return {};
@@ -125,11 +104,11 @@ QString exportKey(const Registry &registry, const NamedHive &hive, const QString
 }
 
 // Empty when the value cannot be read.
-QString exportValue(const Registry &registry, const NamedHive &hive, const QString &key,
+QString exportValue(const Registry &registry, const ItemHive &hive, const QString &key,
                     const QString &name)
 {
     std::optional<RegistryValue> value = canBeWritten(key) && !breaksLine(name)
-        ? registry.value(hive.hive, hive.stored(key), name)
+        ? registry.value(hive.stored, hive.storedPath(key), name)
         : std::nullopt;
     if (!value)
         return {};
@@ -139,7 +118,7 @@ QString exportValue(const Registry &registry, const NamedHive &hive, const QStri
 
 QString exportItem(const Registry &registry, const CleanItem &item)
 {
-    const NamedHive hive = hiveOf(item);
+    const ItemHive hive = ItemHive::forBackup(item);
     const QString &path = item.registryKey;
     const qsizetype separator = path.lastIndexOf(u'\\');
     QString block;

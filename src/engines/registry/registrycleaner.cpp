@@ -1,5 +1,6 @@
 #include "registrycleaner.h"
 
+#include "itemhive.h"
 #include "logger.h"
 #include "pathcheck.h"
 #include "registrybackup.h"
@@ -69,20 +70,30 @@ QString fileName(const QString &path)
     return path.mid(std::max(path.lastIndexOf(u'\\'), path.lastIndexOf(u'/')) + 1);
 }
 
-CleanItem makeItem(RegistryEntry entry, const QString &name, const QString &path,
-                   const QString &description, const QString &root, const QString &key)
+CleanItem makeItem(RegistryEntry entry, const QString &name, const QString &description, Hive hive,
+                   const QString &key)
 {
-    CleanItem item(name, path, 0);
+    CleanItem item(name, platform::shortHiveName(hive) + u'\\' + key, 0);
     item.registryEntry = entry;
     item.description = description;
-    item.registryRoot = root;
+    item.registryRoot = platform::hiveName(hive);
     item.registryKey = key;
     return item;
 }
 
-const QString machineHive = u"HKEY_LOCAL_MACHINE"_s;
-const QString userHive = u"HKEY_CURRENT_USER"_s;
-const QString classesHive = u"HKEY_CLASSES_ROOT"_s;
+CleanItem keyItem(const QString &name, const QString &description, Hive hive, const QString &key)
+{
+    return makeItem(RegistryEntry::Key, name, description, hive, key);
+}
+
+// Of a value the location that is shown is its key's.
+CleanItem valueItem(const QString &name, const QString &description, Hive hive, const QString &key,
+                    const QString &value)
+{
+    CleanItem item = makeItem(RegistryEntry::Value, name, description, hive, key);
+    item.registryKey += u'\\' + value;
+    return item;
+}
 
 // Keys whose entries the scans list value by value. What a value's name makes of such a key's path
 // may be the path of a key below it, or, without a name, of the key itself: neither was shown.
@@ -126,14 +137,10 @@ struct RegistryCleaner::Place {
 
     [[nodiscard]] static Place of(const CleanItem &item)
     {
-        if (item.registryRoot == machineHive || item.registryRoot == "HKLM"_L1)
-            return {Hive::LocalMachine, item.registryKey};
-        if (item.registryRoot == userHive || item.registryRoot == "HKCU"_L1)
-            return {Hive::CurrentUser, item.registryKey};
+        const ItemHive hive = ItemHive::forClean(item);
         // Without a name it would be the key that holds all classes.
-        return {item.isUserClass ? Hive::CurrentUser : Hive::LocalMachine,
-                Registry::isKeyPath(item.registryKey) ? Registry::classPath(item.registryKey)
-                                                      : QString()};
+        const bool isNoClass = hive.isClass() && !Registry::isKeyPath(item.registryKey);
+        return {hive.stored, isNoClass ? QString() : hive.storedPath(item.registryKey)};
     }
 };
 
@@ -238,8 +245,7 @@ void RegistryCleaner::checkAppPaths(Scan &scan)
         const QString key = appPaths + u'\\' + name;
         const QString value = scan.registry.text(Hive::LocalMachine, key, {});
         if (!value.isEmpty() && !scan.paths.exists(value))
-            scan.items.append(makeItem(RegistryEntry::Key, name, "HKLM\\"_L1 + key,
-                                       tr("Path: %1").arg(value), machineHive, key));
+            scan.items.append(keyItem(name, tr("Path: %1").arg(value), Hive::LocalMachine, key));
     }
 }
 
@@ -259,8 +265,8 @@ void RegistryCleaner::checkUninstall(Scan &scan)
         if (!isInvalid)
             continue;
         const QString displayName = text(u"DisplayName"_s);
-        scan.items.append(makeItem(RegistryEntry::Key, displayName.isEmpty() ? name : displayName,
-                                   "HKLM\\"_L1 + key, {}, machineHive, key));
+        scan.items.append(
+            keyItem(displayName.isEmpty() ? name : displayName, {}, Hive::LocalMachine, key));
     }
 }
 
@@ -278,9 +284,8 @@ void RegistryCleaner::checkFileAssociations(Scan &scan)
             scan.registry.classText(type.text + "\\shell\\open\\command"_L1, {}).text;
         if (command.isEmpty() || scan.paths.exists(PathCheck::programPath(command)))
             continue;
-        scan.items.append(makeItem(RegistryEntry::Key, extension + " -> "_L1 + type.text,
-                                   "HKCR\\"_L1 + extension, tr("Command: %1").arg(command),
-                                   classesHive, extension));
+        scan.items.append(keyItem(extension + " -> "_L1 + type.text, tr("Command: %1").arg(command),
+                                  Hive::ClassesRoot, extension));
         scan.items.last().isUserClass = type.hive == Hive::CurrentUser;
     }
 }
@@ -294,8 +299,8 @@ void RegistryCleaner::checkCom(Scan &scan)
         const QString key = "CLSID\\"_L1 + id;
         const auto add = [&](const QString &description, Hive hive) {
             const QString name = scan.registry.classText(key, {}).text;
-            scan.items.append(makeItem(RegistryEntry::Key, name.isEmpty() ? id : name,
-                                       "HKCR\\"_L1 + key, description, classesHive, key));
+            scan.items.append(
+                keyItem(name.isEmpty() ? id : name, description, Hive::ClassesRoot, key));
             scan.items.last().isUserClass = hive == Hive::CurrentUser;
         };
         const auto [library, libraryHive] =
@@ -323,25 +328,23 @@ void RegistryCleaner::checkFonts(Scan &scan)
             file = *windows + "\\Fonts\\"_L1 + file;
         }
         if (!scan.paths.exists(file))
-            scan.items.append(makeItem(RegistryEntry::Value, name, "HKLM\\"_L1 + fonts,
-                                       tr("Font file: %1").arg(file), machineHive,
-                                       fonts + u'\\' + name));
+            scan.items.append(
+                valueItem(name, tr("Font file: %1").arg(file), Hive::LocalMachine, fonts, name));
     }
 }
 
 void RegistryCleaner::checkStartup(Scan &scan)
 {
     for (const Hive hive : {Hive::LocalMachine, Hive::CurrentUser}) {
-        const QString label = hive == Hive::LocalMachine ? u"HKLM"_s : u"HKCU"_s;
         for (const QString &key : {runKey, runOnceKey}) {
             for (const QString &name : scan.registry.valueNames(hive, key)) {
                 if (isStopRequested())
                     return;
                 const QString command = scan.registry.text(hive, key, name);
-                if (!command.isEmpty() && !scan.paths.exists(PathCheck::programPath(command)))
-                    scan.items.append(makeItem(RegistryEntry::Value, name, label + u'\\' + key,
-                                               tr("Command: %1").arg(command), label,
-                                               key + u'\\' + name));
+                if (command.isEmpty() || scan.paths.exists(PathCheck::programPath(command)))
+                    continue;
+                scan.items.append(valueItem(name, tr("Command: %1").arg(command), hive, key, name));
+                scan.items.last().registryRoot = platform::shortHiveName(hive);
             }
         }
     }
@@ -353,9 +356,8 @@ void RegistryCleaner::checkSharedDlls(Scan &scan)
         if (isStopRequested())
             return;
         if (!scan.paths.exists(name))
-            scan.items.append(makeItem(RegistryEntry::Value, fileName(name),
-                                       "HKLM\\"_L1 + sharedDlls, tr("DLL path: %1").arg(name),
-                                       machineHive, sharedDlls + u'\\' + name));
+            scan.items.append(valueItem(fileName(name), tr("DLL path: %1").arg(name),
+                                        Hive::LocalMachine, sharedDlls, name));
     }
 }
 
@@ -369,8 +371,7 @@ void RegistryCleaner::checkMuiCache(Scan &scan)
             name.endsWith(".FriendlyAppName"_L1) || name.endsWith(".ApplicationCompany"_L1);
         const QString path = dot > 0 && hasSuffix ? name.first(dot) : name;
         if (!scan.paths.exists(path))
-            scan.items.append(makeItem(RegistryEntry::Value, fileName(path), "HKCU\\"_L1 + muiCache,
-                                       name, userHive, muiCache + u'\\' + name));
+            scan.items.append(valueItem(fileName(path), name, Hive::CurrentUser, muiCache, name));
     }
 }
 

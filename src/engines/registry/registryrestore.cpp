@@ -5,8 +5,6 @@
 #include <QCoreApplication>
 #include <QtEndian>
 
-#include <array>
-#include <tuple>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -108,21 +106,15 @@ private:
         const QString name = line.sliced(1, line.size() - 2);
         const Hive classes =
             std::exchange(m_isUserClass, false) ? Hive::CurrentUser : Hive::LocalMachine;
-        const std::array hives{
-            std::tuple("HKEY_LOCAL_MACHINE\\"_L1, Hive::LocalMachine, false),
-            std::tuple("HKEY_CURRENT_USER\\"_L1, Hive::CurrentUser, false),
-            std::tuple("HKEY_CLASSES_ROOT\\"_L1, classes, true),
-        };
-        for (const auto &[prefix, hive, isClass] : hives) {
-            if (name.startsWith(prefix)) {
-                const QString key = name.mid(prefix.size());
-                if (!Registry::isKeyPath(key))
-                    return fail(Text::tr("the key's path is not complete"));
-                m_keys.append({hive, isClass ? Registry::classPath(key) : key, name, {}});
-                return;
-            }
-        }
-        fail(Text::tr("the key lies in no known hive"));
+        const std::optional<platform::HivePath> path = platform::hivePath(name);
+        if (!path)
+            return fail(Text::tr("the key lies in no known hive"));
+        if (!Registry::isKeyPath(path->key))
+            return fail(Text::tr("the key's path is not complete"));
+        if (path->hive == Hive::ClassesRoot)
+            m_keys.append({classes, Registry::classPath(path->key), name, {}});
+        else
+            m_keys.append({path->hive, path->key, name, {}});
     }
 
     void readValue()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hive.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -9,10 +11,6 @@
 #include <optional>
 
 namespace platform {
-
-/// ClassesRoot is the view that merges the user's classes with the machine's: it can be read, but
-/// every change names the hive that it means.
-enum class Hive { LocalMachine, CurrentUser, ClassesRoot };
 
 /// The types of a value that this program tells apart; any other number may occur.
 enum RegistryType : quint32 {

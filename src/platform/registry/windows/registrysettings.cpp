@@ -17,14 +17,6 @@ bool fail(QString &error, const QString &reason)
     return false;
 }
 
-QString rootPath(Hive hive, const QString &key)
-{
-    const QString root = hive == Hive::LocalMachine ? u"HKEY_LOCAL_MACHINE\\"_s
-        : hive == Hive::CurrentUser                 ? u"HKEY_CURRENT_USER\\"_s
-                                                    : u"HKEY_CLASSES_ROOT\\"_s;
-    return root + key;
-}
-
 // The settings class splits a name at slashes and turns backslashes into them: a slash is written
 // as the one that it turns, and a name with a backslash cannot be written at all. Two names mean
 // the key's default value to it, and texts that begin with "@" something else than themselves.
@@ -55,7 +47,7 @@ bool setText(Hive hive, const QString &key, const QString &name, const QString &
     }
     bool isTaken = false;
     if (canBeWritten(name, text)) {
-        QSettings settings(rootPath(hive, key), QSettings::NativeFormat);
+        QSettings settings(hiveName(hive) + u'\\' + key, QSettings::NativeFormat);
         settings.setFallbacksEnabled(false);
         settings.setValue(escapedName(name), text);
         settings.sync();

@@ -1,0 +1,25 @@
+#include "itemhive.h"
+
+using platform::Hive;
+
+namespace {
+
+ItemHive hiveOf(const CleanItem &item, Hive unknown)
+{
+    const Hive named = platform::hiveNamed(item.registryRoot).value_or(unknown);
+    if (named != Hive::ClassesRoot)
+        return {named, named};
+    return {named, item.isUserClass ? Hive::CurrentUser : Hive::LocalMachine};
+}
+
+} // namespace
+
+ItemHive ItemHive::forClean(const CleanItem &item)
+{
+    return hiveOf(item, Hive::ClassesRoot);
+}
+
+ItemHive ItemHive::forBackup(const CleanItem &item)
+{
+    return hiveOf(item, Hive::LocalMachine);
+}

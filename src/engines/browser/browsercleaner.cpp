@@ -5,10 +5,7 @@
 #include "fileremove.h"
 #include "logger.h"
 #include "processes.h"
-
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
+#include "rulefile.h"
 
 #include <algorithm>
 
@@ -33,23 +30,16 @@ BrowserCleaner::~BrowserCleaner()
 
 void BrowserCleaner::loadRules(const QString &path)
 {
-    m_rules.clear();
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        Logger::instance().error("Failed to load browser rules: "_L1 + file.errorString());
+    const rulefile::Content file = rulefile::read(path);
+    m_rules = rulefile::rulesOf<BrowserRule>(file);
+    if (file.problem == rulefile::Problem::NotOpened) {
+        Logger::instance().error("Failed to load browser rules: "_L1 + file.error);
         return;
     }
-    QByteArray data = file.readAll();
-    if (data.startsWith("\xEF\xBB\xBF"))
-        data.remove(0, 3);
-    const QJsonDocument document = QJsonDocument::fromJson(data);
-    if (!document.isObject()) {
+    if (file.problem != rulefile::Problem::None) {
         Logger::instance().error(u"Invalid browser rules format"_s);
         return;
     }
-    const QJsonArray rules = document.object()["rules"_L1].toArray();
-    for (const auto &rule : rules)
-        m_rules.append(BrowserRule::fromJson(rule.toObject()));
     Logger::instance().info(u"Loaded %1 browser rules"_s.arg(m_rules.size()));
 }
 

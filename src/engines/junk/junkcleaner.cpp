@@ -6,6 +6,7 @@
 #include "filewalk.h"
 #include "logger.h"
 #include "protectedplaces.h"
+#include "rulefile.h"
 #include "rulefolders.h"
 #include "walklog.h"
 
@@ -13,8 +14,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <iterator>
@@ -22,8 +21,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr char utf8ByteOrderMark[] = "\xEF\xBB\xBF";
 
 // The application's own folder with its name taken out again: what is left ends in the
 // organisation's folder.
@@ -66,43 +63,33 @@ void JunkCleaner::loadRules(const QString &path)
     qDebug() << "[JunkCleaner] Path:" << path;
     qDebug() << "[JunkCleaner] File exists:" << QFile::exists(path);
 
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const rulefile::Content file = rulefile::read(path);
+    if (file.problem == rulefile::Problem::NotOpened) {
         Logger::instance().error("Failed to load junk rules: "_L1 + path);
-        qDebug() << "[JunkCleaner] ✗ Open failed:" << file.errorString();
+        qDebug() << "[JunkCleaner] ✗ Open failed:" << file.error;
         return;
     }
-    QByteArray data = file.readAll();
-    file.close();
-    qDebug() << "[JunkCleaner] File size:" << data.size() << "bytes";
-    if (data.startsWith(utf8ByteOrderMark)) {
-        data.remove(0, 3);
+    qDebug() << "[JunkCleaner] File size:" << file.size << "bytes";
+    if (file.hasByteOrderMark)
         qDebug() << "[JunkCleaner] Removed UTF-8 BOM";
-    }
-    qDebug() << "[JunkCleaner] First 100 chars:" << QString::fromUtf8(data.left(100));
-
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(data, &parseError);
-    if (parseError.error != QJsonParseError::NoError) {
-        Logger::instance().error("JSON parse error: "_L1 + parseError.errorString());
-        qDebug() << "[JunkCleaner] ✗ Parse error:" << parseError.errorString();
-        qDebug() << "[JunkCleaner] Error at offset:" << parseError.offset;
+    qDebug() << "[JunkCleaner] First 100 chars:" << file.start;
+    if (file.problem == rulefile::Problem::NoJson) {
+        Logger::instance().error("JSON parse error: "_L1 + file.error);
+        qDebug() << "[JunkCleaner] ✗ Parse error:" << file.error;
+        qDebug() << "[JunkCleaner] Error at offset:" << file.errorOffset;
         return;
     }
-    if (!document.isObject()) {
+    if (file.problem == rulefile::Problem::NoObject) {
         Logger::instance().error(u"Invalid junk rules format"_s);
         qDebug() << "[JunkCleaner] ✗ Document is not an object!";
-        qDebug() << "[JunkCleaner] isNull:" << document.isNull();
-        qDebug() << "[JunkCleaner] isArray:" << document.isArray();
+        qDebug() << "[JunkCleaner] isNull:" << file.document.isNull();
+        qDebug() << "[JunkCleaner] isArray:" << file.document.isArray();
         return;
     }
     qDebug() << "[JunkCleaner] ✓ JSON parsed successfully";
 
-    m_rules.clear();
-    const QJsonArray rules = document.object()["rules"_L1].toArray();
-    qDebug() << "[JunkCleaner] Rules array count:" << rules.size();
-    for (const auto &rule : rules)
-        m_rules.append(JunkRule::fromJson(rule.toObject()));
+    m_rules = rulefile::rulesOf<JunkRule>(file);
+    qDebug() << "[JunkCleaner] Rules array count:" << m_rules.size();
 
     Logger::instance().info(u"Loaded %1 junk rules"_s.arg(m_rules.size()));
     qDebug() << "[JunkCleaner] ✓ Loaded" << m_rules.size() << "rules successfully";

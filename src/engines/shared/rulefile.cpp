@@ -1,11 +1,49 @@
 #include "rulefile.h"
 
 #include <QCoreApplication>
-#include <QJsonArray>
+#include <QFile>
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace rulefile {
+
+namespace {
+
+constexpr QByteArrayView utf8ByteOrderMark("\xEF\xBB\xBF");
+
+Content failed(Content content, Problem problem, const QString &error)
+{
+    content.problem = problem;
+    content.error = error;
+    return content;
+}
+
+} // namespace
+
+Content read(const QString &path)
+{
+    Content content;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return failed(content, Problem::NotOpened, file.errorString());
+    QByteArray text = file.readAll();
+    content.size = text.size();
+    content.hasByteOrderMark = text.startsWith(utf8ByteOrderMark);
+    if (content.hasByteOrderMark)
+        text.remove(0, utf8ByteOrderMark.size());
+    content.start = QString::fromUtf8(text.left(100));
+    QJsonParseError parsing;
+    content.document = QJsonDocument::fromJson(text, &parsing);
+    if (parsing.error != QJsonParseError::NoError) {
+        content.errorOffset = parsing.offset;
+        return failed(content, Problem::NoJson, parsing.errorString());
+    }
+    if (!content.document.isObject())
+        content.problem = Problem::NoObject;
+    return content;
+}
 
 QString text(const char *context, const QJsonValue &value)
 {

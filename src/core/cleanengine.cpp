@@ -87,6 +87,44 @@ void CleanEngine::endClean(State end)
         Q_EMIT stateChanged(end);
 }
 
+CleanEngine::CleanTotals CleanEngine::cleanSelection(const RemoveItem &remove,
+                                                     const EnterCategory &enter)
+{
+    CleanTotals totals;
+    const int count = m_selection.checkedCount();
+    int index = 0;
+    for (const CleanCategory &category : std::as_const(m_selection.categories)) {
+        if (enter)
+            enter(category);
+        for (const CleanItem &item : category.items) {
+            totals.isStopped = isStopRequested();
+            if (totals.isStopped)
+                return totals;
+            Q_EMIT cleanProgress(++index, count, totals.freed);
+            const Removal removal = remove(item);
+            switch (removal.result) {
+            case Removal::Cleaned:
+                totals.freed += removal.freed;
+                ++totals.cleaned;
+                break;
+            case Removal::Failed:
+                ++totals.failed;
+                addFailure(removal.failure);
+                break;
+            case Removal::NotCounted:
+                break;
+            }
+        }
+    }
+    return totals;
+}
+
+void CleanEngine::reportClean(const CleanTotals &totals)
+{
+    endClean(totals.isStopped ? State::Cancelled : State::Finished);
+    Q_EMIT cleanFinished(totals.freed, totals.cleaned);
+}
+
 void CleanEngine::startWorker(std::unique_ptr<QThread> worker)
 {
     m_worker = std::move(worker);

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 class QThread;
@@ -87,8 +88,8 @@ Q_SIGNALS:
 protected:
     /// Fills the result's categories; on the worker.
     virtual void doScan() = 0;
-    /// Removes selection(), then calls endClean() and emits cleanFinished(), cancelled or not; on
-    /// the worker.
+    /// Removes selection(), as a rule with cleanSelection(), and then tells of it with
+    /// reportClean(), cancelled or not; on the worker.
     virtual void doClean() = 0;
 
     void setState(State state);
@@ -98,6 +99,32 @@ protected:
     [[nodiscard]] const std::atomic_bool &stopFlag() const { return m_stopRequested; }
     /// The checked items as they were when the clean was started.
     [[nodiscard]] const ScanResult &selection() const { return m_selection; }
+
+    /// What became of one item of a clean.
+    struct Removal {
+        enum Result { Cleaned, Failed, NotCounted };
+        Result result = Cleaned;
+        qint64 freed = 0; ///< bytes; where it was cleaned
+        CleanFailure failure; ///< where it failed
+    };
+    /// What a clean has done so far.
+    struct CleanTotals {
+        qint64 freed = 0; ///< bytes
+        int cleaned = 0;
+        int failed = 0;
+        bool isStopped = false; ///< before its end
+    };
+    using RemoveItem = std::function<Removal(const CleanItem &)>;
+    using EnterCategory = std::function<void(const CleanCategory &)>;
+
+    /// Hands each item of selection() to @p remove, after telling of its turn with cleanProgress(),
+    /// and each category to @p enter before its items. Keeps the failures. A stop that is requested
+    /// ends it before the next item.
+    [[nodiscard]] CleanTotals cleanSelection(const RemoveItem &remove,
+                                             const EnterCategory &enter = {});
+    /// Sets the state in which the clean ends and emits cleanFinished(). What the log says of the
+    /// end is each engine's own, and so is whether it says it before or after.
+    void reportClean(const CleanTotals &totals);
     void addFailure(const CleanFailure &failure) { m_failures.append(failure); }
 
 private:

@@ -10,6 +10,7 @@
 #include "testhome.h"
 #include "testtree.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -1059,6 +1060,27 @@ private Q_SLOTS:
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(100), 20}));
         QCOMPARE(cleaner.state(), State::Cancelled);
         QVERIFY(!log.contains(u"Browser clean finished"_s));
+    }
+
+    void theLogTellsOfTheEndBeforeTheSignal()
+    {
+        const TestTree tree;
+        tree.file(chromeProfile() + "/GPUCache/a"_L1, "22");
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        connect(
+            &cleaner, &CleanEngine::cleanFinished, &cleaner,
+            [&cleaner] { qDebug() << "told of state" << int(cleaner.state()); },
+            Qt::DirectConnection);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        const QStringList lines = log.lines();
+        QCOMPARE(lines.size(), 3);
+        QVERIFY(lines.at(0).contains("Starting browser clean..."_L1));
+        QVERIFY(lines.at(1).contains("Browser clean finished. Cleaned 1 items, 2 B. Failed: 0"_L1));
+        QCOMPARE(lines.at(2), u"told of state %1"_s.arg(int(State::Finished)));
     }
 
     void rulesDoNotLeaveTheProfile()

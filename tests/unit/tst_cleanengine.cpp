@@ -32,7 +32,11 @@ public:
     std::function<void()> onScan = [] {};
     std::function<void()> onClean = [this] { finishClean(0, 0); };
 
+    using CleanEngine::cleanSelection;
+    using CleanEngine::CleanTotals;
     using CleanEngine::isStopRequested;
+    using CleanEngine::Removal;
+    using CleanEngine::reportClean;
     using CleanEngine::selection;
     using CleanEngine::setState;
 
@@ -153,6 +157,80 @@ private Q_SLOTS:
         QCOMPARE(selected, 0);
         QCOMPARE(engine.state(), State::Finished);
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
+    }
+
+    void aCleanGoesThroughTheSelectionItemByItem()
+    {
+        ScriptedEngine engine;
+        engine.add(category(u"a"_s, 4));
+        engine.add(category(u"left out"_s, 2));
+        engine.add(category(u"b"_s, 1));
+        engine.result().categories[0].items[1].checked = false;
+        engine.result().categories[1].checked = false;
+        QStringList calls;
+        ScriptedEngine::CleanTotals totals;
+        const auto remove = [&calls](const CleanItem &item) -> ScriptedEngine::Removal {
+            calls.append(item.path);
+            if (item.name == "2"_L1)
+                return {ScriptedEngine::Removal::Failed, 100, {item.path, u"busy"_s}};
+            if (item.name == "3"_L1)
+                return {ScriptedEngine::Removal::NotCounted, 100, {}};
+            return {ScriptedEngine::Removal::Cleaned, 7, {}};
+        };
+        engine.onClean = [&] {
+            totals = engine.cleanSelection(
+                remove, [&calls](const CleanCategory &entered) { calls.append(entered.id); });
+            engine.reportClean(totals);
+        };
+        // In the worker, in the order in which things happen.
+        connect(
+            &engine, &CleanEngine::cleanProgress, &engine,
+            [&calls](int current, int total, qint64 freed) {
+                calls.append(u"%1/%2 %3"_s.arg(current).arg(total).arg(freed));
+            },
+            Qt::DirectConnection);
+        SignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        engine.startClean();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        engine.stopAndWait();
+        QCOMPARE(calls,
+                 (QStringList{u"a"_s, u"1/4 0"_s, u"/x/0"_s, u"2/4 7"_s, u"/x/2"_s, u"3/4 7"_s,
+                              u"/x/3"_s, u"b"_s, u"4/4 7"_s, u"/x/0"_s}));
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(14), 2}));
+        QCOMPARE(engine.state(), State::Finished);
+        QCOMPARE(totals.failed, 1);
+        QVERIFY(!totals.isStopped);
+        QCOMPARE(engine.failures().size(), 1);
+        QCOMPARE(engine.failures().constFirst().path, u"/x/2"_s);
+        QCOMPARE(engine.failures().constFirst().reason, u"busy"_s);
+    }
+
+    void aStopEndsACleanBeforeTheNextItem()
+    {
+        ScriptedEngine engine;
+        engine.add(category(u"a"_s, 3));
+        int handed = 0;
+        int told = 0;
+        engine.onClean = [&] {
+            const auto totals = engine.cleanSelection([&](const CleanItem &) {
+                if (++handed == 2)
+                    engine.cancel();
+                return ScriptedEngine::Removal{ScriptedEngine::Removal::Cleaned, 7, {}};
+            });
+            QVERIFY(totals.isStopped);
+            engine.reportClean(totals);
+        };
+        connect(
+            &engine, &CleanEngine::cleanProgress, &engine, [&told] { ++told; },
+            Qt::DirectConnection);
+        SignalSpy finished(&engine, &CleanEngine::cleanFinished);
+        engine.startClean();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+        engine.stopAndWait();
+        QCOMPARE(handed, 2);
+        QCOMPARE(told, 2);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(14), 2}));
+        QCOMPARE(engine.state(), State::Cancelled);
     }
 
     void cancelWhileIdleIsSignalledOnce()

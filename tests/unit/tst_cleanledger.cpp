@@ -35,6 +35,33 @@ const platform::FileRemover::Outcome replaced{Status::Replaced, false, {}};
 const platform::FileRemover::Outcome replacedFolder{Status::Replaced, true, {}};
 const platform::FileRemover::Outcome partly{Status::Failed, true, QStringLiteral("busy")};
 
+/// A ledger and what a clean counts with it.
+class Clean
+{
+public:
+    explicit Clean(const ScanResult &selection)
+        : m_ledger(selection)
+    {
+    }
+
+    bool enter(const CleanItem &item, const platform::FileRemover::Outcome &outcome)
+    {
+        const std::optional<qint64> freed = m_ledger.enter(item, outcome);
+        ++(freed ? m_cleanedCount : m_failedCount);
+        m_cleanedSize += freed.value_or(0);
+        return freed.has_value();
+    }
+    [[nodiscard]] qint64 cleanedSize() const { return m_cleanedSize; }
+    [[nodiscard]] int cleanedCount() const { return m_cleanedCount; }
+    [[nodiscard]] int failedCount() const { return m_failedCount; }
+
+private:
+    CleanLedger m_ledger;
+    qint64 m_cleanedSize = 0;
+    int m_cleanedCount = 0;
+    int m_failedCount = 0;
+};
+
 } // namespace
 
 class TestCleanLedger : public QObject
@@ -43,7 +70,7 @@ class TestCleanLedger : public QObject
 private Q_SLOTS:
     void filesAreCountedOneByOne()
     {
-        CleanLedger ledger(selectionOf({}));
+        Clean ledger(selectionOf({}));
         QVERIFY(ledger.enter(file(u"/p/a"_s, 3), removed));
         QVERIFY(ledger.enter(file(u"/p/b"_s, 4), removed));
         QVERIFY(!ledger.enter(file(u"/p/c"_s, 5), stuck));
@@ -55,7 +82,7 @@ private Q_SLOTS:
     {
         const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
                                      folder(u"/p/f/g"_s, 6), file(u"/p/f/g/b"_s, 6)};
-        CleanLedger ledger(selectionOf(items));
+        Clean ledger(selectionOf(items));
         QVERIFY(ledger.enter(items.at(0), removed));
         for (int i = 1; i < 4; ++i)
             QVERIFY(ledger.enter(items.at(i), missing));
@@ -66,7 +93,7 @@ private Q_SLOTS:
     {
         const QList<CleanItem> items{file(u"/p/f/g/b"_s, 6), folder(u"/p/f/g"_s, 7),
                                      folder(u"/p/f"_s, 10)};
-        CleanLedger ledger(selectionOf(items));
+        Clean ledger(selectionOf(items));
         for (const CleanItem &item : items)
             QVERIFY(ledger.enter(item, removed));
         expect(ledger, 10, 3, 0);
@@ -74,7 +101,7 @@ private Q_SLOTS:
 
     void aFileThatTwoRulesTakeIsCountedOnce()
     {
-        CleanLedger ledger(selectionOf({}));
+        Clean ledger(selectionOf({}));
         QVERIFY(ledger.enter(file(u"/p/History"_s, 9), removed));
         QVERIFY(ledger.enter(file(u"/p/History"_s, 9), missing));
         QVERIFY(ledger.enter(file(u"/p/History"_s, 9), removed));
@@ -85,7 +112,7 @@ private Q_SLOTS:
     {
         const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
                                      folder(u"/p/f/g"_s, 6), file(u"/p/f/g/b"_s, 6)};
-        CleanLedger ledger(selectionOf(items));
+        Clean ledger(selectionOf(items));
         QVERIFY(!ledger.enter(items.at(0), partly));
         QVERIFY(ledger.enter(items.at(1), missing));
         QVERIFY(!ledger.enter(items.at(2), partly));
@@ -97,7 +124,7 @@ private Q_SLOTS:
     {
         const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
                                      file(u"/p/f/b"_s, 6)};
-        CleanLedger ledger(selectionOf(items));
+        Clean ledger(selectionOf(items));
         QVERIFY(!ledger.enter(items.at(0), replacedFolder));
         QVERIFY(!ledger.enter(items.at(1), replaced));
         QVERIFY(!ledger.enter(items.at(2), missing));
@@ -108,7 +135,7 @@ private Q_SLOTS:
     {
         const QList<CleanItem> items{folder(u"/p/f"_s, 10), folder(u"/p/f/g"_s, 6),
                                      file(u"/p/f/g/b"_s, 6)};
-        CleanLedger ledger(selectionOf(items));
+        Clean ledger(selectionOf(items));
         QVERIFY(!ledger.enter(items.at(0), partly));
         QVERIFY(!ledger.enter(items.at(1), replacedFolder));
         QVERIFY(!ledger.enter(items.at(2), replaced));
@@ -117,14 +144,14 @@ private Q_SLOTS:
 
     void aNeighbourWithALikeNameIsNotBelow()
     {
-        CleanLedger ledger(selectionOf({folder(u"C:/p/f"_s, 1)}));
+        Clean ledger(selectionOf({folder(u"C:/p/f"_s, 1)}));
         QVERIFY(ledger.enter(folder(u"C:/p/f"_s, 1), removed));
         QVERIFY(!ledger.enter(file(u"C:/p/f2/a"_s, 1), missing));
         QVERIFY(!ledger.enter(file(u"f"_s, 1), missing));
     }
 
 private:
-    static void expect(const CleanLedger &ledger, qint64 size, int cleaned, int failed)
+    static void expect(const Clean &ledger, qint64 size, int cleaned, int failed)
     {
         QCOMPARE(ledger.cleanedSize(), size);
         QCOMPARE(ledger.cleanedCount(), cleaned);

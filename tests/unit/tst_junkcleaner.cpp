@@ -7,6 +7,7 @@
 #include "testhome.h"
 #include "testtree.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -888,6 +889,46 @@ private Q_SLOTS:
         QCOMPARE(cleaner.state(), State::Cancelled);
         QVERIFY(!log.contains(u"Junk clean finished"_s));
         QCOMPARE(QDir(tree.path(u"d"_s)).entryList(QDir::Files).size(), 150);
+    }
+
+    // Also for a stop that comes with the last item, which is removed all the same.
+    void theLogTellsOfTheEndAfterTheSignal_data()
+    {
+        QTest::addColumn<int>("cancelledAt");
+        QTest::addColumn<int>("state");
+        QTest::newRow("to the end") << 0 << int(State::Finished);
+        QTest::newRow("stopped at the last item") << 2 << int(State::Cancelled);
+    }
+    void theLogTellsOfTheEndAfterTheSignal()
+    {
+        QFETCH(int, cancelledAt);
+        QFETCH(int, state);
+        const TestTree tree;
+        tree.file(u"d/a"_s, "1");
+        tree.file(u"d/b"_s, "22");
+        JunkCleaner cleaner;
+        load(cleaner, "{\"rules\": [" + rule(tree.path(u"d"_s)) + "]}");
+        scan(cleaner);
+        connect(
+            &cleaner, &CleanEngine::cleanProgress, &cleaner,
+            [&](int current) {
+                if (current == cancelledAt)
+                    cleaner.cancel();
+            },
+            Qt::DirectConnection);
+        connect(
+            &cleaner, &CleanEngine::cleanFinished, &cleaner,
+            [&cleaner] { qDebug() << "told of state" << int(cleaner.state()); },
+            Qt::DirectConnection);
+        SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
+        const LogCapture log;
+        clean(cleaner, finished);
+        QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(3), 2}));
+        const QStringList lines = log.lines();
+        QCOMPARE(lines.size(), 3);
+        QVERIFY(lines.at(0).contains("Starting junk clean..."_L1));
+        QCOMPARE(lines.at(1), u"told of state %1"_s.arg(state));
+        QVERIFY(lines.at(2).contains("Junk clean finished. Cleaned 2 items, 3 B. Failed: 0"_L1));
     }
 
 private:

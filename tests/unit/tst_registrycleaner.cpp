@@ -10,6 +10,7 @@
 #include "testtree.h"
 #include "windowspaths.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -599,6 +600,29 @@ private Q_SLOTS:
         QCOMPARE(m_cleaner->state(), State::Cancelled);
         QVERIFY(!m_fixture->hasValue(user + key, u"b"_s));
         QVERIFY(m_fixture->hasValue(user + key, u"c"_s));
+    }
+
+    void theLogTellsOfTheEndAfterTheSignal()
+    {
+        const QString key = u"Software\\Sweepwise Test"_s;
+        m_fixture->addText(user + key, u"a"_s, u"x"_s);
+        m_fixture->write();
+        choose({item(u"HKCU"_s, key + "\\a"_L1)});
+        const SignalSpy progress(m_cleaner.get(), &CleanEngine::cleanProgress);
+        connect(
+            m_cleaner.get(), &CleanEngine::cleanFinished, m_cleaner.get(),
+            [this] { qDebug() << "told of state" << int(m_cleaner->state()); },
+            Qt::DirectConnection);
+        const LogCapture log;
+        clean();
+        QCOMPARE(progress.size(), 1);
+        QCOMPARE(progress.constFirst(), (QList<QVariant>{1, 1, qint64(0)}));
+        const QStringList lines = log.lines();
+        QCOMPARE(lines.size(), 4);
+        QVERIFY(lines.at(0).contains("Starting registry clean..."_L1));
+        QVERIFY(lines.at(1).contains("Registry backup skipped"_L1));
+        QCOMPARE(lines.at(2), u"told of state %1"_s.arg(int(State::Finished)));
+        QVERIFY(lines.at(3).contains("Registry clean finished. Cleaned 1 items"_L1));
     }
 
     // --- the backup

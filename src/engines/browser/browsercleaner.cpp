@@ -132,33 +132,20 @@ void BrowserCleaner::scanBrowser(const Browser &browser)
 void BrowserCleaner::doClean()
 {
     Logger::instance().info(u"Starting browser clean..."_s);
-    const int total = selection().checkedCount();
-    int index = 0;
     CleanLedger ledger(selection());
     platform::FileRemover remover;
     remover.setListed(&m_listed);
-    for (const CleanCategory &category : selection().categories) {
-        warnIfRunning(category);
-        for (const CleanItem &item : category.items) {
-            if (isStopRequested()) {
-                endClean(State::Cancelled);
-                Q_EMIT cleanFinished(ledger.cleanedSize(), ledger.cleanedCount());
-                return;
-            }
-            Q_EMIT cleanProgress(++index, total, ledger.cleanedSize());
-            removeItem(remover, item, ledger);
-        }
-    }
-    if (isStopRequested()) {
-        endClean(State::Cancelled);
-        Q_EMIT cleanFinished(ledger.cleanedSize(), ledger.cleanedCount());
-        return;
-    }
-    Logger::instance().info(u"Browser clean finished. Cleaned %1 items, %2. Failed: %3 items"_s.arg(
-        QString::number(ledger.cleanedCount()), formatSize(ledger.cleanedSize()),
-        QString::number(ledger.failedCount())));
-    endClean(State::Finished);
-    Q_EMIT cleanFinished(ledger.cleanedSize(), ledger.cleanedCount());
+    CleanTotals totals =
+        cleanSelection([&](const CleanItem &item) { return removeItem(remover, item, ledger); },
+                       [this](const CleanCategory &category) { warnIfRunning(category); });
+    // A stop leaves the last folder in the middle.
+    totals.isStopped = isStopRequested();
+    if (!totals.isStopped)
+        Logger::instance().info(
+            u"Browser clean finished. Cleaned %1 items, %2. Failed: %3 items"_s.arg(
+                QString::number(totals.cleaned), formatSize(totals.freed),
+                QString::number(totals.failed)));
+    reportClean(totals);
 }
 
 void BrowserCleaner::warnIfRunning(const CleanCategory &category) const
@@ -171,20 +158,20 @@ void BrowserCleaner::warnIfRunning(const CleanCategory &category) const
         Logger::instance().warning(browser->name + " is running, some files may not be deleted"_L1);
 }
 
-void BrowserCleaner::removeItem(platform::FileRemover &remover, const CleanItem &item,
-                                CleanLedger &ledger)
+CleanEngine::Removal BrowserCleaner::removeItem(platform::FileRemover &remover,
+                                                const CleanItem &item, CleanLedger &ledger)
 {
     using Status = platform::FileRemover::Status;
     const platform::FileRemover::Outcome outcome = remover.remove(item.path, &stopFlag());
     if (outcome.status == Status::Failed && outcome.wasFolder && isStopRequested())
-        return; // left in the middle, not failed
-    if (ledger.enter(item, outcome))
-        return;
+        return {Removal::NotCounted, 0, {}}; // left in the middle, not failed
+    if (const std::optional<qint64> freed = ledger.enter(item, outcome))
+        return {Removal::Cleaned, *freed, {}};
     Logger::instance().warning(u"Failed to delete: %1"_s.arg(item.path));
     QString reason = outcome.error;
     if (outcome.status == Status::NotFound)
         reason = tr("File not found");
     else if (outcome.status == Status::Replaced)
         reason = tr("Its folder is not the one that was listed");
-    addFailure({item.path, reason});
+    return {Removal::Failed, 0, {item.path, reason}};
 }

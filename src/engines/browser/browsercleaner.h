@@ -59,8 +59,8 @@ protected:
 private:
     void scanBrowser(const Browser &browser);
     void warnIfRunning(const CleanCategory &category) const;
-    /// Removes one item; the reason of a failure is in the log and among failures().
-    void removeItem(platform::FileRemover &remover, const CleanItem &item, CleanLedger &ledger);
+    /// A failure is in the log as well.
+    Removal removeItem(platform::FileRemover &remover, const CleanItem &item, CleanLedger &ledger);
 
     const browsers::DataFolders m_folders;
     QList<BrowserRule> m_rules;

@@ -20,42 +20,36 @@ CleanLedger::CleanLedger(const ScanResult &selection)
     }
 }
 
-bool CleanLedger::enter(const CleanItem &item, const platform::FileRemover::Outcome &outcome)
+std::optional<qint64> CleanLedger::enter(const CleanItem &item,
+                                         const platform::FileRemover::Outcome &outcome)
 {
     using Status = platform::FileRemover::Status;
     if (outcome.status == Status::Removed) {
         const bool isAgain = m_removed.contains(item.path);
-        addCleaned(item.path,
-                   isAgain ? 0 : qMax<qint64>(0, item.size - m_countedBelow.value(item.path)));
-        return true;
+        return addCleaned(
+            item.path, isAgain ? 0 : qMax<qint64>(0, item.size - m_countedBelow.value(item.path)));
     }
     if (outcome.status == Status::NotFound) {
-        if (m_removed.contains(item.path) || isBelow(m_removed, item.path)) {
-            addCleaned(item.path, 0);
-            return true;
-        }
-        if (isBelow(m_partlyRemoved, item.path)) {
-            addCleaned(item.path, item.isDirectory ? 0 : item.size);
-            return true;
-        }
+        if (m_removed.contains(item.path) || isBelow(m_removed, item.path))
+            return addCleaned(item.path, 0);
+        if (isBelow(m_partlyRemoved, item.path))
+            return addCleaned(item.path, item.isDirectory ? 0 : item.size);
     } else if (outcome.status == Status::Failed && outcome.wasFolder) {
         m_partlyRemoved.insert(item.path);
     }
-    ++m_failedCount;
-    return false;
+    return std::nullopt;
 }
 
-void CleanLedger::addCleaned(const QString &path, qint64 size)
+qint64 CleanLedger::addCleaned(const QString &path, qint64 size)
 {
     m_removed.insert(path);
-    ++m_cleanedCount;
-    m_cleanedSize += size;
     if (size == 0 || m_countedBelow.isEmpty())
-        return;
+        return size;
     for (QString folder = parentOf(path); !folder.isEmpty(); folder = parentOf(folder)) {
         if (const auto counted = m_countedBelow.find(folder); counted != m_countedBelow.end())
             *counted += size;
     }
+    return size;
 }
 
 bool CleanLedger::isBelow(const QSet<QString> &folders, const QString &path) const

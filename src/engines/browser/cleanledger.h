@@ -7,8 +7,10 @@
 #include <QSet>
 #include <QString>
 
-/// Counts what a clean has removed, each byte once, where the items overlap: a folder and the files
-/// in it, or one file that two rules take.
+#include <optional>
+
+/// Says of each item that a clean removes how many bytes that has freed, each byte once where the
+/// items overlap: a folder and the files in it, or one file that two rules take.
 ///
 /// What is gone because this clean removed the folder around it, or the same path before, is
 /// cleaned and no failure, but its bytes have been counted. What is gone because somebody else
@@ -19,21 +21,16 @@ class CleanLedger final
 public:
     explicit CleanLedger(const ScanResult &selection);
 
-    /// Enters what became of @p item; false when that is a failure.
-    bool enter(const CleanItem &item, const platform::FileRemover::Outcome &outcome);
-
-    [[nodiscard]] qint64 cleanedSize() const { return m_cleanedSize; } ///< bytes
-    [[nodiscard]] int cleanedCount() const { return m_cleanedCount; }
-    [[nodiscard]] int failedCount() const { return m_failedCount; }
+    /// Enters what became of @p item; the bytes that were freed, or nothing when it is a failure.
+    [[nodiscard]] std::optional<qint64> enter(const CleanItem &item,
+                                              const platform::FileRemover::Outcome &outcome);
 
 private:
-    void addCleaned(const QString &path, qint64 size);
+    /// Returns @p size.
+    qint64 addCleaned(const QString &path, qint64 size);
     [[nodiscard]] bool isBelow(const QSet<QString> &folders, const QString &path) const;
 
     QHash<QString, qint64> m_countedBelow; ///< bytes already counted, by folder item
     QSet<QString> m_removed;
     QSet<QString> m_partlyRemoved; ///< folders in which something stayed
-    qint64 m_cleanedSize = 0;
-    int m_cleanedCount = 0;
-    int m_failedCount = 0;
 };

@@ -209,59 +209,40 @@ void JunkCleaner::scanDirectory(const QString &directory, const QStringList &pat
 void JunkCleaner::doClean()
 {
     Logger::instance().info(u"Starting junk clean..."_s);
-    int cleanedCount = 0;
-    int failedCount = 0;
-    qint64 cleanedSize = 0;
-    const int total = selection().checkedCount();
-    int index = 0;
     platform::FileRemover remover;
     remover.setListed(&m_listed);
-    for (const CleanCategory &category : selection().categories) {
-        for (const CleanItem &item : category.items) {
-            if (isStopRequested()) {
-                endClean(State::Cancelled);
-                Q_EMIT cleanFinished(cleanedSize, cleanedCount);
-                return;
-            }
-            ++index;
-            Q_EMIT cleanProgress(index, total, cleanedSize);
-            if (removePath(remover, item.path)) {
-                cleanedSize += item.size;
-                ++cleanedCount;
-            } else {
-                ++failedCount;
-            }
-        }
-    }
-    endClean(State::Finished);
-    Q_EMIT cleanFinished(cleanedSize, cleanedCount);
+    const CleanTotals totals =
+        cleanSelection([&](const CleanItem &item) { return removeItem(remover, item); });
+    reportClean(totals);
+    if (totals.isStopped)
+        return;
     Logger::instance().info(u"Junk clean finished. Cleaned %1 items, %2. Failed: %3 items"_s.arg(
-        QString::number(cleanedCount), formatSize(cleanedSize), QString::number(failedCount)));
+        QString::number(totals.cleaned), formatSize(totals.freed), QString::number(totals.failed)));
 }
 
-bool JunkCleaner::removePath(platform::FileRemover &remover, const QString &path)
+CleanEngine::Removal JunkCleaner::removeItem(platform::FileRemover &remover, const CleanItem &item)
 {
     using Status = platform::FileRemover::Status;
-    const platform::FileRemover::Outcome outcome = remover.remove(path, &stopFlag());
+    const platform::FileRemover::Outcome outcome = remover.remove(item.path, &stopFlag());
     QString line;
     QString reason = outcome.error;
     switch (outcome.status) {
     case Status::Removed:
-        return true;
+        return {Removal::Cleaned, item.size, {}};
     case Status::NotFound:
-        line = u"File not found: %1"_s.arg(path);
+        line = u"File not found: %1"_s.arg(item.path);
         reason = tr("File not found");
         break;
     case Status::Replaced:
-        line = u"Failed to remove %1: its folder is not the one that was listed"_s.arg(path);
+        line = u"Failed to remove %1: its folder is not the one that was listed"_s.arg(item.path);
         reason = tr("Its folder is not the one that was listed");
         break;
     case Status::Failed:
-        line = outcome.wasFolder ? u"Failed to remove directory: %1"_s.arg(path)
-                                 : u"Failed to remove file: %1 - %2"_s.arg(path, outcome.error);
+        line = outcome.wasFolder
+            ? u"Failed to remove directory: %1"_s.arg(item.path)
+            : u"Failed to remove file: %1 - %2"_s.arg(item.path, outcome.error);
         break;
     }
     Logger::instance().warning(line);
-    addFailure({path, reason});
-    return false;
+    return {Removal::Failed, 0, {item.path, reason}};
 }

@@ -42,8 +42,8 @@ private:
     void scanLocation(const QString &location, const JunkRule &rule, QList<CleanItem> &items);
     void scanDirectory(const QString &directory, const QStringList &patterns,
                        QList<CleanItem> &items, bool recursive);
-    /// True when @p path is gone now; otherwise the reason is in the log and among failures().
-    bool removePath(platform::FileRemover &remover, const QString &path);
+    /// Why an item could not be removed is in the log as well.
+    Removal removeItem(platform::FileRemover &remover, const CleanItem &item);
 
     QList<JunkRule> m_rules;
     platform::ListedFolders m_listed; ///< by the last scan

@@ -145,7 +145,7 @@ struct RegistryCleaner::Place {
 };
 
 /// An entry that was removed, until that is saved.
-struct RegistryCleaner::Removal {
+struct RegistryCleaner::Unsaved {
     Hive hive;
     QString entry; ///< for people
 };
@@ -388,36 +388,24 @@ void RegistryCleaner::doClean()
         category.items.removeIf(hasChanged);
     backUp(due, registry);
 
-    const int total = selection().checkedCount();
-    int index = 0;
-    QList<Removal> removals;
+    QList<Unsaved> removals;
     std::set<Place> gone;
-    for (const CleanCategory &category : selection().categories) {
-        for (const CleanItem &item : category.items) {
-            if (isStopRequested()) {
-                const int count = saveChanges(registry, removals);
-                endClean(State::Cancelled);
-                Q_EMIT cleanFinished(0, count);
-                return;
-            }
-            Q_EMIT cleanProgress(++index, total, 0);
-            const Place place = Place::of(item);
-            if (gone.contains(place))
-                continue; // a class may stand in the list twice
-            const QString entry = item.registryRoot + u'\\' + item.registryKey;
-            QString reason = tr("It has changed since the scan");
-            if (!hasChanged(item) && removeEntry(registry, item, reason)) {
-                removals.append({place.hive, entry});
-                gone.insert(place);
-            } else {
-                addFailure({entry, reason});
-            }
-        }
-    }
-    const int count = saveChanges(registry, removals);
-    endClean(State::Finished);
-    Q_EMIT cleanFinished(0, count);
-    Logger::instance().info(u"Registry clean finished. Cleaned %1 items"_s.arg(count));
+    CleanTotals totals = cleanSelection([&](const CleanItem &item) -> Removal {
+        const Place place = Place::of(item);
+        if (gone.contains(place)) // a class may stand in the list twice
+            return {Removal::NotCounted, 0, {}};
+        const QString entry = item.registryRoot + u'\\' + item.registryKey;
+        QString reason = tr("It has changed since the scan");
+        if (hasChanged(item) || !removeEntry(registry, item, reason))
+            return {Removal::Failed, 0, {entry, reason}};
+        removals.append({place.hive, entry});
+        gone.insert(place);
+        return {};
+    });
+    totals.cleaned = saveChanges(registry, removals);
+    reportClean(totals);
+    if (!totals.isStopped)
+        Logger::instance().info(u"Registry clean finished. Cleaned %1 items"_s.arg(totals.cleaned));
 }
 
 // What is not what it was would be another entry than the one that was shown.
@@ -494,14 +482,14 @@ bool RegistryCleaner::removeEntry(Registry &registry, const CleanItem &item, QSt
     return !isListed && item.registryEntry != RegistryEntry::Value && deleteKey();
 }
 
-int RegistryCleaner::saveChanges(Registry &registry, const QList<Removal> &removals)
+int RegistryCleaner::saveChanges(Registry &registry, const QList<Unsaved> &removals)
 {
     if (removals.isEmpty())
         return 0;
     if (!registry.save())
         Logger::instance().error("Failed to save the registry: "_L1 + registry.errorString());
     int count = 0;
-    for (const Removal &removal : removals) {
+    for (const Unsaved &removal : removals) {
         if (registry.isSaved(removal.hive))
             ++count;
         else

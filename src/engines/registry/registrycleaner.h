@@ -53,7 +53,7 @@ private:
         bool checked = true;
     };
     struct Place;
-    struct Removal;
+    struct Unsaved;
 
     void runCheck(const Category &category, Scan &scan);
     void checkSoftware(Scan &scan);
@@ -72,7 +72,7 @@ private:
     /// True when the entry is gone now; otherwise @p reason says why not.
     static bool removeEntry(platform::Registry &registry, const CleanItem &item, QString &reason);
     /// Makes the removals last and returns how many of them did.
-    int saveChanges(platform::Registry &registry, const QList<Removal> &removals);
+    int saveChanges(platform::Registry &registry, const QList<Unsaved> &removals);
 
     QList<Category> m_categories;
     QString m_backupPath;

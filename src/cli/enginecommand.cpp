@@ -93,35 +93,24 @@ ExitStatus withJunk(Action action, const Invocation &invocation)
     return action({cleaner, {u"junk"_s, report::Unit::Bytes}, categories}, invocation);
 }
 
-// By its id ("google_chrome"), its name ("Google Chrome") or a word of that ("chrome").
-bool isCalled(const Browser &browser, const QString &name)
-{
-    const QString id = name.toLower().replace(u' ', u'_');
-    return browser.id == id || browser.id.split(u'_').contains(id);
-}
-
 ExitStatus withBrowsers(Action action, const Invocation &invocation)
 {
     BrowserCleaner cleaner;
     cleaner.loadRules(u":/rules/browser_rules.json"_s);
     if (cleaner.rules().isEmpty())
         return refuse(u"the browser rules could not be read"_s);
-    const QList<Browser> browsers = cleaner.browsers();
-    const QStringList wanted = invocation.values(Option::Browser);
-    for (const QString &name : wanted) {
+    const QList<Browser> known = cleaner.browsers();
+    for (const QString &name : invocation.values(Option::Browser)) {
         const auto browser =
-            std::find_if(browsers.begin(), browsers.end(),
-                         [&name](const Browser &candidate) { return isCalled(candidate, name); });
-        if (browser == browsers.end())
+            std::find_if(known.begin(), known.end(), [&name](const Browser &candidate) {
+                return browsers::isCalled(candidate, name);
+            });
+        if (browser == known.end())
             return refuse(u"there is no browser '%1'"_s.arg(name));
         cleaner.setBrowserEnabled(browser->type, true);
     }
-    QStringList categories;
-    for (const Browser &browser : browsers) {
-        for (const BrowserRule &rule : cleaner.rules())
-            categories.append(browser.id + u'_' + rule.id);
-    }
-    return action({cleaner, {u"browser"_s, report::Unit::Bytes}, categories}, invocation);
+    return action({cleaner, {u"browser"_s, report::Unit::Bytes}, cleaner.categoryIds()},
+                  invocation);
 }
 
 Target registryTarget(RegistryCleaner &cleaner)

@@ -97,9 +97,9 @@ ScanResult ScanResult::checkedOnly() const
     for (const CleanCategory &category : categories) {
         if (!category.checked)
             continue;
-        CleanCategory chosen(category.id, category.name, category.description);
-        chosen.icon = category.icon;
-        chosen.riskLevel = category.riskLevel;
+        CleanCategory chosen = category;
+        chosen.expanded = false;
+        chosen.items = {};
         chosen.items.reserve(category.items.size());
         std::copy_if(category.items.begin(), category.items.end(), std::back_inserter(chosen.items),
                      [](const CleanItem &item) { return item.checked; });

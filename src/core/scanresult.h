@@ -62,6 +62,9 @@ struct CleanCategory {
     bool expanded = false;
     int riskLevel = LowRisk;
     QList<CleanItem> items; ///< in the order in which the scan found them
+    QString browserId; ///< whose data it is; empty for what is no browser's
+    QString ruleId; ///< of a browser's data: the rule, the same for every browser
+    QString ruleName; ///< of a browser's data: the name without the browser's
 };
 
 /// What a scan found, and with its check marks what a clean is to remove.

@@ -89,10 +89,26 @@ QImage image(const QString &path, QSize size)
     return svgPixmap(path, size, 1.0).toImage();
 }
 
-CleanCategory category(const QString &id, const QString &name, int count)
+QString capitalised(const QString &id)
 {
-    CleanCategory made = scriptedCategory(id, count);
-    made.name = name;
+    QStringList words = id.split(u'_');
+    for (QString &word : words)
+        word[0] = word.at(0).toUpper();
+    return words.join(u' ');
+}
+
+/// As the engine lists it, with @p count items: of "opera" and "cache" it is called "Opera -
+/// Cache".
+CleanCategory category(const QString &browserId, const QString &ruleId, int count)
+{
+    Browser browser;
+    browser.id = browserId;
+    browser.name = capitalised(browserId);
+    BrowserRule rule;
+    rule.id = ruleId;
+    rule.name = capitalised(ruleId);
+    CleanCategory made = BrowserCleaner::categoryOf(browser, rule);
+    made.items = scriptedCategory(made.id, count).items;
     return made;
 }
 
@@ -182,10 +198,8 @@ private Q_SLOTS:
     void leavingABrowserOutTakesWhatIsListedOfItOutOfTheClean()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3),
-                        category(u"opera_cookies"_s, u"Opera - Cookies"_s, 2),
-                        category(u"opera_logs"_s, u"Opera - Logs"_s, 4),
-                        category(u"brave_cache"_s, u"Brave - Cache"_s, 5)};
+        engine.found = {category(u"opera"_s, u"cache"_s, 3), category(u"opera"_s, u"cookies"_s, 2),
+                        category(u"opera"_s, u"logs"_s, 4), category(u"brave"_s, u"cache"_s, 5)};
         engine.found[1].checked = false;
         engine.found[2].items[1].checked = false;
         BrowserPage page;
@@ -233,8 +247,7 @@ private Q_SLOTS:
     void aBrowserThatIsLeftOutWhileTheScanRunsIsLeftOutOfTheList()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3),
-                        category(u"brave_cache"_s, u"Brave - Cache"_s, 5)};
+        engine.found = {category(u"opera"_s, u"cache"_s, 3), category(u"brave"_s, u"cache"_s, 5)};
         engine.hold = true;
         BrowserPage page;
         page.setEngine(&engine);
@@ -252,7 +265,7 @@ private Q_SLOTS:
     void whileACleanRunsNoBrowserIsLeftOut()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3)};
+        engine.found = {category(u"opera"_s, u"cache"_s, 3)};
         BrowserPage page;
         show(page, engine);
         Application::instance()->settings()->setValue(u"clean/confirmClean"_s, false);
@@ -300,8 +313,8 @@ private Q_SLOTS:
     void firefoxAloneIsOneGroupWithItsIcon()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"mozilla_firefox_cache"_s, u"Mozilla Firefox - Cache"_s, 2),
-                        category(u"mozilla_firefox_cookies"_s, u"Mozilla Firefox - Cookies"_s, 3)};
+        engine.found = {category(u"mozilla_firefox"_s, u"cache"_s, 2),
+                        category(u"mozilla_firefox"_s, u"cookies"_s, 3)};
         BrowserPage page;
         show(page, engine);
         QCOMPARE(groups(page).size(), 1);
@@ -315,8 +328,11 @@ private Q_SLOTS:
     void anUnknownPrefixIsOtherWithTheGenericIcon()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"netscape_cache"_s, u"Cache of something"_s, 1),
-                        category(u"brave_cache"_s, u"Brave - Cache - more"_s, 1)};
+        CleanCategory unknown = scriptedCategory(u"netscape_cache"_s, 1);
+        unknown.name = u"Cache of something"_s;
+        CleanCategory more = category(u"brave"_s, u"cache"_s, 1);
+        more.ruleName = u"Cache - more"_s;
+        engine.found = {unknown, more};
         BrowserPage page;
         show(page, engine);
         QCOMPARE(groups(page).size(), 2);
@@ -328,11 +344,10 @@ private Q_SLOTS:
     void groupsStandInTheOrderOfTheBrowsersAndKeepThatOfTheResult()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cookies"_s, u"Opera - Cookies"_s, 1),
-                        category(u"google_chrome_history"_s, u"Google Chrome - History"_s, 1),
-                        category(u"opera_cache"_s, u"Opera - Cache"_s, 1),
-                        category(u"microsoft_edge_cache"_s, u"Microsoft Edge - Cache"_s, 1),
-                        category(u"google_chrome_cache"_s, u"Google Chrome - Cache"_s, 1)};
+        engine.found = {
+            category(u"opera"_s, u"cookies"_s, 1), category(u"google_chrome"_s, u"history"_s, 1),
+            category(u"opera"_s, u"cache"_s, 1), category(u"microsoft_edge"_s, u"cache"_s, 1),
+            category(u"google_chrome"_s, u"cache"_s, 1)};
         BrowserPage page;
         show(page, engine);
         QList<QStringList> list;
@@ -342,6 +357,16 @@ private Q_SLOTS:
                  (QList<QStringList>{{u"Google Chrome"_s, u"History"_s, u"Cache"_s},
                                      {u"Microsoft Edge"_s, u"Cache"_s},
                                      {u"Opera"_s, u"Cookies"_s, u"Cache"_s}}));
+    }
+
+    void everyBrowserThatIsCleanedHasAnIconOfItsOwn()
+    {
+        QStringList paths{u":/icons/browser.svg"_s};
+        for (const Browser &browser : m_cleaner->browsers()) {
+            paths.append(BrowserGroupWidget::iconPath(browser.name));
+            QVERIFY2(!image(paths.constLast(), {28, 28}).isNull(), qPrintable(paths.constLast()));
+        }
+        QCOMPARE(paths.removeDuplicates(), 0);
     }
 
     void eachBrowserHasItsIcon_data()
@@ -370,8 +395,8 @@ private Q_SLOTS:
 
     void theCountIsHiddenWhileThereIsNothingToCount()
     {
-        CleanCategory empty = category(u"opera_cache"_s, u"Opera - Cache"_s, 0);
-        CleanCategory full = category(u"opera_logs"_s, u"Opera - Logs"_s, 4);
+        CleanCategory empty = category(u"opera"_s, u"cache"_s, 0);
+        CleanCategory full = category(u"opera"_s, u"logs"_s, 4);
         BrowserGroupWidget group(u"Opera"_s);
         auto *count = group.findChild<QLabel *>(u"browserItemCount"_s);
         QVERIFY(count->isHidden());
@@ -443,7 +468,7 @@ private Q_SLOTS:
 
     void anUnselectedCategoryStartsUnticked()
     {
-        CleanCategory record = category(u"opera_cookies"_s, u"Opera - Cookies"_s, 2);
+        CleanCategory record = category(u"opera"_s, u"cookies"_s, 2);
         record.checked = false;
         record.riskLevel = HighRisk;
         BrowserGroupWidget group(u"Opera"_s);
@@ -554,8 +579,7 @@ private Q_SLOTS:
     void thePagesTotalsLeaveOutWhatIsNotTicked()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 2),
-                        category(u"opera_logs"_s, u"Opera - Logs"_s, 3)};
+        engine.found = {category(u"opera"_s, u"cache"_s, 2), category(u"opera"_s, u"logs"_s, 3)};
         engine.found[1].items[0].checked = false;
         BrowserPage page;
         show(page, engine);
@@ -569,8 +593,7 @@ private Q_SLOTS:
     void ticksChangeThePagesTotals()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 2),
-                        category(u"opera_logs"_s, u"Opera - Logs"_s, 3)};
+        engine.found = {category(u"opera"_s, u"cache"_s, 2), category(u"opera"_s, u"logs"_s, 3)};
         BrowserPage page;
         show(page, engine);
         const auto *selection = page.findChild<QLabel *>(u"selectionLabel"_s);
@@ -616,7 +639,7 @@ private Q_SLOTS:
     void viewDetailsListsTheItemsInAModalDialog()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 7)};
+        engine.found = {category(u"opera"_s, u"cache"_s, 7)};
         BrowserPage page;
         show(page, engine);
         groups(page).constFirst()->toggleExpanded();
@@ -637,7 +660,8 @@ private Q_SLOTS:
 
     void namesFromOutsideAreShownAsTheyStand()
     {
-        CleanCategory record = category(u"x"_s, u"Some - <b>bold</b>\nsecond & third"_s, 1);
+        CleanCategory record = category(u"opera"_s, u"x"_s, 1);
+        record.ruleName = u"<b>bold</b>\nsecond & third"_s;
         record.description = u"<img src=x>"_s;
         BrowserGroupWidget group(u"<i>Name</i>"_s);
         group.addCategory(&record);
@@ -651,8 +675,7 @@ private Q_SLOTS:
     void theFocusGoesDownTheList()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 1),
-                        category(u"brave_cache"_s, u"Brave - Cache"_s, 1)};
+        engine.found = {category(u"opera"_s, u"cache"_s, 1), category(u"brave"_s, u"cache"_s, 1)};
         BrowserPage page;
         show(page, engine);
         for (BrowserGroupWidget *group : groups(page))
@@ -674,7 +697,7 @@ private Q_SLOTS:
     void everyControlHasAName()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 1)};
+        engine.found = {category(u"opera"_s, u"cache"_s, 1)};
         BrowserPage page;
         show(page, engine);
         for (const QAbstractButton *control : page.findChildren<QAbstractButton *>())
@@ -690,7 +713,7 @@ private:
             : group(u"Opera"_s)
         {
             for (int i = 0; i < count; ++i)
-                categories.append(category(u"opera_%1"_s.arg(i), u"Opera - %1"_s.arg(i), 3));
+                categories.append(category(u"opera"_s, QString::number(i), 3));
             for (int i = 0; i < unticked; ++i)
                 categories[0].items[i].checked = false;
             for (CleanCategory &record : categories)

@@ -643,6 +643,28 @@ private Q_SLOTS:
             QVERIFY2(list.contains(QLatin1StringView(id)), id);
     }
 
+    void aCategoryKnowsItsBrowserAndItsRule()
+    {
+        const TestTree tree;
+        browserprofiles::makeAll(tree);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        QSet<QString> browsers;
+        for (const CleanCategory &category : cleaner.result().checkedOnly().categories) {
+            const auto browser = std::find_if(
+                cleaner.browsers().cbegin(), cleaner.browsers().cend(),
+                [&](const Browser &candidate) { return candidate.id == category.browserId; });
+            QVERIFY2(browser != cleaner.browsers().cend(), qPrintable(category.id));
+            QCOMPARE(category.id, category.browserId + u'_' + category.ruleId);
+            QCOMPARE(category.name, browser->name + " - "_L1 + category.ruleName);
+            QVERIFY(cleaner.categoryIds().contains(category.id));
+            browsers.insert(browser->id);
+        }
+        QCOMPARE(browsers.size(), cleaner.browsers().size());
+        QCOMPARE(cleaner.categoryIds().size(), cleaner.browsers().size() * cleaner.rules().size());
+    }
+
     void aProfileSweepsUpNoNeighbour()
     {
         const TestTree tree;

@@ -28,25 +28,30 @@ namespace {
 enum class DataFolder { Local, Roaming };
 
 struct Description {
-    Browser::Type type = Browser::Chrome;
-    const char *name = nullptr; ///< as the uninstall lists know it
+    const char *name = nullptr; ///< as the uninstall lists know it; the id is made of it
     DataFolder folder = DataFolder::Local;
     QLatin1StringView root; ///< below the folder
     QLatin1StringView process;
+    QLatin1StringView icon; ///< what the icon's name ends in: a word of the browser's name
 };
 
+// All that is known of a browser. The order is that of Browser::Type, and the one in which they are
+// scanned and shown.
 constexpr std::array descriptions{
-    Description{Browser::Chrome, QT_TRANSLATE_NOOP("BrowserCleaner", "Google Chrome"),
-                DataFolder::Local, "Google/Chrome/User Data"_L1, "chrome.exe"_L1},
-    Description{Browser::Edge, QT_TRANSLATE_NOOP("BrowserCleaner", "Microsoft Edge"),
-                DataFolder::Local, "Microsoft/Edge/User Data"_L1, "msedge.exe"_L1},
-    Description{Browser::Firefox, QT_TRANSLATE_NOOP("BrowserCleaner", "Mozilla Firefox"),
-                DataFolder::Roaming, "Mozilla/Firefox/Profiles"_L1, "firefox.exe"_L1},
-    Description{Browser::Opera, QT_TRANSLATE_NOOP("BrowserCleaner", "Opera"), DataFolder::Roaming,
-                "Opera Software/Opera Stable"_L1, "opera.exe"_L1},
-    Description{Browser::Brave, QT_TRANSLATE_NOOP("BrowserCleaner", "Brave"), DataFolder::Local,
-                "BraveSoftware/Brave-Browser/User Data"_L1, "brave.exe"_L1},
+    Description{QT_TRANSLATE_NOOP("BrowserCleaner", "Google Chrome"), DataFolder::Local,
+                "Google/Chrome/User Data"_L1, "chrome.exe"_L1, "chrome"_L1},
+    Description{QT_TRANSLATE_NOOP("BrowserCleaner", "Microsoft Edge"), DataFolder::Local,
+                "Microsoft/Edge/User Data"_L1, "msedge.exe"_L1, "edge"_L1},
+    Description{QT_TRANSLATE_NOOP("BrowserCleaner", "Mozilla Firefox"), DataFolder::Roaming,
+                "Mozilla/Firefox/Profiles"_L1, "firefox.exe"_L1, "firefox"_L1},
+    Description{QT_TRANSLATE_NOOP("BrowserCleaner", "Opera"), DataFolder::Roaming,
+                "Opera Software/Opera Stable"_L1, "opera.exe"_L1, "opera"_L1},
+    Description{QT_TRANSLATE_NOOP("BrowserCleaner", "Brave"), DataFolder::Local,
+                "BraveSoftware/Brave-Browser/User Data"_L1, "brave.exe"_L1, "brave"_L1},
 };
+
+// There is an icon for it, though it is not cleaned.
+constexpr QLatin1StringView otherIcon = "safari"_L1;
 
 constexpr qint64 longestProfilesIni = 1'048'576;
 
@@ -106,7 +111,7 @@ private:
 };
 
 // To be installed a browser's folder may well be a link, which is then not scanned.
-bool hasData(const DataFolders &folders, const Description &browser, const QString &dataRoot)
+bool hasData(const DataFolders &folders, int type, const QString &dataRoot)
 {
     const auto isThere = [](const QString &path) {
         if (path.isEmpty())
@@ -116,7 +121,7 @@ bool hasData(const DataFolders &folders, const Description &browser, const QStri
             logSkipped(path, entry);
         return QFileInfo(path).isDir();
     };
-    if (browser.type != Browser::Firefox)
+    if (type != Browser::Firefox)
         return isThere(dataRoot);
     return QFileInfo::exists(below(folders, DataFolder::Roaming, u"Mozilla/Firefox/profiles.ini"_s))
         || isThere(dataRoot)
@@ -167,6 +172,11 @@ QString profileFolder(const IniGroup &group, const QString &root)
     return platform::locate(located.isEmpty() ? root + u'/' + path : located, {});
 }
 
+QString idOf(const QString &name)
+{
+    return name.toLower().replace(u' ', u'_');
+}
+
 } // namespace
 
 DataFolders dataFolders()
@@ -185,16 +195,33 @@ QList<Browser> detect(const DataFolders &folders)
     for (const Description &description : descriptions) {
         Browser browser;
         const QString name = QString::fromLatin1(description.name);
-        browser.type = description.type;
-        browser.id = name.toLower().replace(u' ', u'_');
+        browser.type = static_cast<int>(list.size());
+        browser.id = idOf(name);
         browser.name = QCoreApplication::translate("BrowserCleaner", description.name);
         browser.dataRoot = dataRoot(folders, description);
         browser.processName = description.process;
         browser.installed =
-            hasData(folders, description, browser.dataRoot) || programs.hasNameWith(name);
+            hasData(folders, browser.type, browser.dataRoot) || programs.hasNameWith(name);
         list.append(browser);
     }
     return list;
+}
+
+bool isCalled(const Browser &browser, const QString &name)
+{
+    const QString id = idOf(name);
+    return browser.id == id || browser.id.split(u'_').contains(id);
+}
+
+QString iconName(const QString &name)
+{
+    for (const Description &description : descriptions) {
+        if (name.contains(description.icon, Qt::CaseInsensitive))
+            return "browser-"_L1 + description.icon;
+    }
+    if (name.contains(otherIcon, Qt::CaseInsensitive))
+        return "browser-"_L1 + otherIcon;
+    return u"browser"_s;
 }
 
 QStringList chromiumProfiles(const QString &dataRoot)

@@ -5,7 +5,8 @@
 
 /// A browser that can be cleaned, and whether it is here.
 struct Browser {
-    /// The values are fixed: pages keep them in a property.
+    /// The browser's place in the list of those that are known. The values are fixed: pages keep
+    /// them in a property.
     enum Type { Chrome = 0, Edge = 1, Firefox = 2, Opera = 3, Brave = 4 };
 
     int type = Chrome;
@@ -30,6 +31,14 @@ struct DataFolders {
 
 /// The five browsers in their fixed order, with what the system says of them now.
 [[nodiscard]] QList<Browser> detect(const DataFolders &folders);
+
+/// Whether a user who writes @p name means @p browser: by its id ("google_chrome"), its name
+/// ("Google Chrome") or a word of that ("chrome").
+[[nodiscard]] bool isCalled(const Browser &browser, const QString &name);
+
+/// The icon of the browser that @p name names in any case, such as "browser-chrome"; "browser" for
+/// any other name.
+[[nodiscard]] QString iconName(const QString &name);
 
 /// The profile folders of a Chromium browser, absolute and link-free, in the order in which they
 /// are scanned. A folder that is a link is left out, with a warning in the log.

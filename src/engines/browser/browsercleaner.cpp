@@ -56,6 +56,28 @@ void BrowserCleaner::detectBrowsers()
     }
 }
 
+CleanCategory BrowserCleaner::categoryOf(const Browser &browser, const BrowserRule &rule)
+{
+    CleanCategory category(u"%1_%2"_s.arg(browser.id, rule.id),
+                           u"%1 - %2"_s.arg(browser.name, rule.name), rule.description);
+    category.checked = rule.defaultChecked;
+    category.riskLevel = rule.riskLevel;
+    category.browserId = browser.id;
+    category.ruleId = rule.id;
+    category.ruleName = rule.name;
+    return category;
+}
+
+QStringList BrowserCleaner::categoryIds() const
+{
+    QStringList ids;
+    for (const Browser &browser : m_browsers) {
+        for (const BrowserRule &rule : m_rules)
+            ids.append(categoryOf(browser, rule).id);
+    }
+    return ids;
+}
+
 void BrowserCleaner::setBrowserEnabled(int type, bool enabled)
 {
     m_enabled.insert(type, enabled);
@@ -118,11 +140,7 @@ void BrowserCleaner::scanBrowser(const Browser &browser)
         QList<CleanItem> &items = found[static_cast<std::size_t>(i)];
         if (items.isEmpty())
             continue;
-        const BrowserRule &rule = m_rules.at(i);
-        CleanCategory category(u"%1_%2"_s.arg(browser.id, rule.id),
-                               u"%1 - %2"_s.arg(browser.name, rule.name), rule.description);
-        category.checked = rule.defaultChecked;
-        category.riskLevel = rule.riskLevel;
+        CleanCategory category = categoryOf(browser, m_rules.at(i));
         items.squeeze();
         category.items = std::move(items);
         result().categories.append(std::move(category));
@@ -152,7 +170,7 @@ void BrowserCleaner::warnIfRunning(const CleanCategory &category) const
 {
     const auto browser =
         std::find_if(m_scanned.begin(), m_scanned.end(), [&category](const Browser &candidate) {
-            return category.id.startsWith(candidate.id + u'_');
+            return candidate.id == category.browserId;
         });
     if (browser != m_scanned.end() && platform::runningPrograms().contains(browser->processName))
         Logger::instance().warning(browser->name + " is running, some files may not be deleted"_L1);

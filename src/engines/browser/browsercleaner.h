@@ -44,6 +44,11 @@ public:
     /// The five browsers in their fixed order.
     [[nodiscard]] const QList<Browser> &browsers() const { return m_browsers; }
 
+    /// What a scan calls that which @p rule finds of @p browser, without the items.
+    [[nodiscard]] static CleanCategory categoryOf(const Browser &browser, const BrowserRule &rule);
+    /// The ids of all categories that a scan can find.
+    [[nodiscard]] QStringList categoryIds() const;
+
     /// Records whether a browser is to be scanned, from the next scan on. As long as nothing is
     /// recorded every installed browser is; afterwards only those that are recorded as enabled.
     void setBrowserEnabled(int type, bool enabled);

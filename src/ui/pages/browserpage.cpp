@@ -11,35 +11,8 @@
 #include <QLabel>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr std::array browserIds{"google_chrome"_L1, "microsoft_edge"_L1, "mozilla_firefox"_L1,
-                                "opera"_L1, "brave"_L1};
-
-/// Which of the ids above the category belongs to; their number when to none.
-std::size_t browserOf(const CleanCategory &category)
-{
-    const auto *const id =
-        std::find_if(browserIds.begin(), browserIds.end(), [&category](QLatin1StringView browser) {
-            return category.id.startsWith(browser);
-        });
-    return static_cast<std::size_t>(id - browserIds.begin());
-}
-
-// "google_chrome" is Google Chrome.
-QString displayName(QLatin1StringView id)
-{
-    QStringList words = QString(id).split(u'_');
-    for (QString &word : words)
-        word[0] = word.at(0).toUpper();
-    return words.join(u' ');
-}
-
-} // namespace
 
 BrowserPage::BrowserPage(QWidget *parent)
     : BasePage(parent)
@@ -109,16 +82,20 @@ QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categ
                                                      QWidget *parent)
 {
     m_groups.clear();
-    std::array<BrowserGroupWidget *, browserIds.size() + 1> groups{};
+    const QList<Browser> &browsers = m_cleaner->browsers();
+    // In the order of the browsers; the last is for what is no browser's that is known.
+    QList<BrowserGroupWidget *> groups(browsers.size() + 1);
     for (CleanCategory &category : categories) {
-        const std::size_t browser = browserOf(category);
-        BrowserGroupWidget *&group = groups.at(browser);
+        const auto browser =
+            std::find_if(browsers.cbegin(), browsers.cend(), [&category](const Browser &candidate) {
+                return candidate.id == category.browserId;
+            });
+        const bool isKnown = browser != browsers.cend();
+        BrowserGroupWidget *&group = groups[browser - browsers.cbegin()];
         if (!group) {
-            const QString name =
-                browser < browserIds.size() ? displayName(browserIds.at(browser)) : tr("Other");
-            group = new BrowserGroupWidget(name, parent);
-            if (browser < browserIds.size())
-                m_groups.insert(browserIds.at(browser), group);
+            group = new BrowserGroupWidget(isKnown ? browser->name : tr("Other"), parent);
+            if (isKnown)
+                m_groups.insert(browser->id, group);
         }
         group->addCategory(&category);
     }

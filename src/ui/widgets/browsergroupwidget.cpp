@@ -1,5 +1,6 @@
 #include "browsergroupwidget.h"
 
+#include "browser.h"
 #include "browsersubitem.h"
 #include "scanresult.h"
 #include "svgicon.h"
@@ -46,13 +47,7 @@ BrowserGroupWidget::BrowserGroupWidget(const QString &name, QWidget *parent)
 
 QString BrowserGroupWidget::iconPath(const QString &name)
 {
-    const QString lower = name.toLower();
-    for (const QLatin1StringView browser :
-         {"chrome"_L1, "edge"_L1, "firefox"_L1, "opera"_L1, "brave"_L1, "safari"_L1}) {
-        if (lower.contains(browser))
-            return u":/icons/browser-%1.svg"_s.arg(browser);
-    }
-    return u":/icons/browser.svg"_s;
+    return u":/icons/%1.svg"_s.arg(browsers::iconName(name));
 }
 
 void BrowserGroupWidget::buildHeader(const QString &name)

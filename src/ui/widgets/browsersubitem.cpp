@@ -20,17 +20,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// The browser's name stands above.
-QString ruleName(const QString &categoryName)
-{
-    const qsizetype dash = categoryName.indexOf(" - "_L1);
-    return dash < 0 ? categoryName : categoryName.mid(dash + 3);
-}
-
-} // namespace
-
 BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
     : QWidget(parent)
     , m_category(category)
@@ -45,7 +34,9 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
     setObjectName("browserSubItem"_L1);
     setAttribute(Qt::WA_StyledBackground);
     setToolTip(plainToolTip(category->description));
-    const QString name = singleLine(ruleName(category->name));
+    // The browser's name stands above.
+    const QString name =
+        singleLine(category->browserId.isEmpty() ? category->name : category->ruleName);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 7, 12, 7);
     layout->setSpacing(12);

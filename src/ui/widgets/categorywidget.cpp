@@ -24,16 +24,9 @@ namespace {
 constexpr qsizetype pageSize = 10;
 
 // A browser's category has the icon of the kind of data, whichever browser it belongs to.
-QString iconPath(const QString &categoryId)
+QString iconPath(const CleanCategory &category)
 {
-    QString id = categoryId;
-    for (const QLatin1StringView prefix : {"google_chrome_"_L1, "microsoft_edge_"_L1,
-                                           "mozilla_firefox_"_L1, "opera_"_L1, "brave_"_L1}) {
-        if (id.startsWith(prefix)) {
-            id.remove(0, prefix.size());
-            break;
-        }
-    }
+    const QString &id = category.browserId.isEmpty() ? category.id : category.ruleId;
     const QString path = u":/icons/categories/%1.svg"_s.arg(id);
     // An id comes from a rule file and is a name here, never a path.
     return !id.contains(u'/') && QFile::exists(path) ? path : u":/icons/categories/default.svg"_s;
@@ -91,7 +84,7 @@ void CategoryWidget::buildHeader()
     icon->setObjectName("categoryIcon"_L1);
     icon->setFixedSize(32, 32);
     icon->setStyleSheet(theme::categoryIcon());
-    icon->setSvg(iconPath(m_category->id), {22, 22});
+    icon->setSvg(iconPath(*m_category), {22, 22});
     layout->addWidget(icon);
 
     m_name = new QLabel(singleLine(m_category->name), m_header);

@@ -1343,6 +1343,24 @@ private Q_SLOTS:
             u"[WARN] Skipped %1: rule all would take everything in it"_s.arg(tree.path(folder))));
     }
 
+    void aFirefoxFolderThatHoldsTheHomeIsNotTakenWhole()
+    {
+        const TestTree tree;
+        const QString profile = u"Roaming/Mozilla/Firefox/Profiles/fox"_s;
+        tree.file(profile + "/cache2/entries/home/precious"_L1);
+        tree.file(profile + "/thumbnails/a"_L1);
+        const QByteArray before = qgetenv("HOME");
+        qputenv("HOME", QFile::encodeName(tree.path(profile + "/cache2/entries/home"_L1)));
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        const LogCapture log;
+        scan(cleaner);
+        qputenv("HOME", before);
+        QCOMPARE(ids(cleaner.result()), QStringList{u"mozilla_firefox_thumbnails"_s});
+        QVERIFY(log.contains(u"[WARN] Skipped %1: a rule would take everything in it"_s.arg(
+            tree.path(profile + "/cache2/entries"_L1))));
+    }
+
     void aProfileThatTheFileNamesThroughALinkIsTheRealOne()
     {
         const TestTree outside;

@@ -477,6 +477,7 @@ private Q_SLOTS:
         qunsetenv("TMPDIR");
         QVERIFY(cleaner.result().categories.isEmpty());
         QVERIFY(log.contains(u"[WARN] Skipped "_s));
+        QVERIFY(log.contains(u": rule r would take everything in it"_s));
     }
 
     // The prefix's environment says where its programs keep temporary files: here, on a whole

@@ -63,7 +63,7 @@ QString below(const DataFolders &folders, DataFolder folder, const QString &rela
     QString problem;
     const QString path = platform::locate(base, relative, &problem);
     if (!problem.isEmpty())
-        Logger::instance().warning(u"Skipped %1/%2: %3"_s.arg(base, relative, problem));
+        logSkipped(base + u'/' + relative, problem);
     return path;
 }
 
@@ -133,7 +133,7 @@ QStringList subfolders(const QString &folder, const QStringList &nameFilters = {
 {
     const platform::FolderListing listing = platform::FolderLister().list(folder);
     if (!listing.error.isEmpty() && !listing.isMissing)
-        Logger::instance().warning(u"Cannot read folder: %1 - %2"_s.arg(folder, listing.error));
+        logUnreadable(folder, listing.error);
     const platform::NameFilter filter(nameFilters);
     QStringList paths;
     for (const platform::ListedEntry &entry : listing.entries) {

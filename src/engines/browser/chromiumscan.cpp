@@ -2,7 +2,6 @@
 
 #include "entrywalk.h"
 #include "folderlister.h"
-#include "logger.h"
 #include "protectedplaces.h"
 #include "rulefolders.h"
 #include "walklog.h"
@@ -184,8 +183,7 @@ ChromiumScan::RulesByFolder ChromiumScan::foldersOf(const QString &profile) cons
         if (!folders.contains(folder) && !isScannable(folder))
             continue;
         if (rule.takesEverything() && platform::holdsProtectedPlace(folder)) {
-            Logger::instance().warning(
-                u"Skipped %1: rule %2 would take everything in it"_s.arg(folder, rule.id));
+            logTakesEverything(folder, rule.id);
             continue;
         }
         folders[folder].push_back(static_cast<std::size_t>(i));

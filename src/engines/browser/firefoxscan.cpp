@@ -2,7 +2,6 @@
 
 #include "entrywalk.h"
 #include "filewalk.h"
-#include "logger.h"
 #include "protectedplaces.h"
 #include "rulefolders.h"
 #include "walklog.h"
@@ -158,7 +157,7 @@ void FirefoxScan::scanFolder(const QString &folder, bool isTree, const std::vect
     if (!isScannable(folder))
         return;
     if (isTree && platform::holdsProtectedPlace(folder)) {
-        Logger::instance().warning(u"Skipped %1: a rule would take everything in it"_s.arg(folder));
+        logTakesEverything(folder);
         return;
     }
     const auto take = [&](const QString &name, const QString &path, qint64 size) {

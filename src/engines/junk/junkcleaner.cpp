@@ -159,15 +159,14 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
     QString problem;
     const QString path = platform::locate(base, relative, &problem);
     if (!problem.isEmpty())
-        Logger::instance().warning(u"Skipped %1: %2"_s.arg(base + relative, problem));
+        logSkipped(base + relative, problem);
     if (path.isEmpty())
         return;
     const platform::Entry entry = platform::inspect(path);
     switch (entry.kind) {
     case platform::EntryKind::Folder:
         if (rule.takesWholeTrees() && platform::isProtectedRoot(path)) {
-            Logger::instance().warning(
-                u"Skipped %1: rule %2 would take everything in it"_s.arg(path, rule.id));
+            logTakesEverything(path, rule.id);
             return;
         }
         scanDirectory(path, rule.patterns, items, rule.recursive);
@@ -175,7 +174,7 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
     case platform::EntryKind::File: {
         // Where the rule means a folder of the environment the file would be somebody's drive.
         if (relative.isEmpty()) {
-            Logger::instance().warning(u"Skipped %1: it is no folder"_s.arg(path));
+            logSkipped(path, u"it is no folder"_s);
             return;
         }
         CleanItem item(QFileInfo(path).fileName(), path, entry.size);

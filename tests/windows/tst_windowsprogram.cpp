@@ -1,11 +1,11 @@
 #include "appinfo.h"
 #include "application.h"
-#include "canonicalpath_p.h"
 #include "fakestart.h"
 #include "filemanager.h"
 #include "hardening.h"
 #include "protectedplaces.h"
 #include "rulefolders.h"
+#include "rulefolders_p.h"
 #include "testtree.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "protectedplaces.h"
 #include "protectedplaces_p.h"
 
-#include "canonicalpath_p.h"
 #include "rulefolders.h"
+#include "rulefolders_p.h"
 
 #include <QDir>
 #include <QStandardPaths>

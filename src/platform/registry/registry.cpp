@@ -30,6 +30,12 @@ Registry::ClassText Registry::classText(const QString &key, const QString &name)
     return {};
 }
 
+QString Registry::text(Hive hive, const QString &key, const QString &name) const
+{
+    const std::optional<RegistryValue> found = value(hive, key, name);
+    return found ? registryText(*found) : QString();
+}
+
 bool beginsAsRegistryFile(const QString &path)
 {
     QFile file(path);

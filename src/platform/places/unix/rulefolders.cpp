@@ -1,5 +1,5 @@
 #include "rulefolders.h"
-#include "canonicalpath_p.h"
+#include "rulefolders_p.h"
 
 #include "unix/wineprefix.h"
 
@@ -78,37 +78,21 @@ QString systemDrive()
     return firstSet("SYSTEMDRIVE", wineprefix::systemDrive(), u"C:"_s);
 }
 
-QString locate(const QString &base, const QString &relative, QString *problem)
+QString localFolder(const QString &path)
 {
-    QString folder = QDir::fromNativeSeparators(base).replace(u'\\', u'/');
-    if (startsWithDrive(folder)) {
-        const QString drive = wineprefix::drive(folder.at(0));
-        folder = drive.isEmpty() ? QString() : wineprefix::matchCase(drive, folder.mid(2));
-    }
-    const QString asked = folder;
-    folder = canonicalPath(folder);
-    if (folder.isEmpty()) {
-        if (problem)
-            *problem = problemWith(asked);
-        return {};
-    }
-
-    QString rest = relative;
-    rest.replace(u'\\', u'/');
-    const QStringList names = rest.split(u'/', Qt::SkipEmptyParts);
-    if (names.contains(".."_L1) || names.contains("."_L1)) {
-        if (problem)
-            *problem = u"a path with . or .. in it is not followed"_s;
-        return {};
-    }
-    rest = names.join(u'/');
-    if (rest.isEmpty())
+    const QString folder = QDir::fromNativeSeparators(path).replace(u'\\', u'/');
+    if (!startsWithDrive(folder))
         return folder;
+    const QString drive = wineprefix::drive(folder.at(0));
+    return drive.isEmpty() ? QString() : wineprefix::matchCase(drive, folder.mid(2));
+}
 
+QString storedPath(const QString &folder, const QStringList &names, QString *problem)
+{
     const QString prefix = wineprefix::folder();
     if (!prefix.isEmpty() && (folder + u'/').startsWith(prefix + u'/'))
-        return wineprefix::matchCase(folder, rest, problem);
-    return (folder == u'/' ? folder : folder + u'/') + rest;
+        return wineprefix::matchCase(folder, names.join(u'/'), problem);
+    return (folder == u'/' ? folder : folder + u'/') + names.join(u'/');
 }
 
 QString problemWith(const QString &path)

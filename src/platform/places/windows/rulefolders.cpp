@@ -1,5 +1,5 @@
 #include "rulefolders.h"
-#include "canonicalpath_p.h"
+#include "rulefolders_p.h"
 
 #include "windows/openentry.h"
 
@@ -21,16 +21,6 @@ QString fromEnvironment(const char *variable, const QString &otherwise = {})
 {
     const QString value = qEnvironmentVariable(variable);
     return value.isEmpty() ? otherwise : QDir::fromNativeSeparators(value);
-}
-
-// A bare drive is its top here; to the system it would be whatever folder is current on it.
-QString absolutePath(const QString &path)
-{
-    QString folder = QDir::fromNativeSeparators(path);
-    if (folder.size() == 2 && folder.at(1) == u':')
-        folder += u'/';
-    const QString cleaned = QDir::cleanPath(folder);
-    return extendedPath(cleaned).isEmpty() ? QString() : cleaned;
 }
 
 // The name by which a folder knows an entry, which may differ in case or be the long form of a
@@ -110,22 +100,19 @@ QString problemWith(const QString &path)
     return reasonOf(::GetLastError());
 }
 
-QString locate(const QString &base, const QString &relative, QString *problem)
+// A bare drive is its top here; to the system it would be whatever folder is current on it.
+QString localFolder(const QString &path)
 {
-    QString path = canonicalPath(absolutePath(base));
-    if (path.isEmpty()) {
-        if (problem)
-            *problem = problemWith(absolutePath(base));
-        return {};
-    }
-    QString rest = relative;
-    rest.replace(u'\\', u'/');
-    const QStringList names = rest.split(u'/', Qt::SkipEmptyParts);
-    if (names.contains(".."_L1) || names.contains("."_L1)) {
-        if (problem)
-            *problem = u"a path with . or .. in it is not followed"_s;
-        return {};
-    }
+    QString folder = QDir::fromNativeSeparators(path);
+    if (folder.size() == 2 && folder.at(1) == u':')
+        folder += u'/';
+    const QString cleaned = QDir::cleanPath(folder);
+    return extendedPath(cleaned).isEmpty() ? QString() : cleaned;
+}
+
+QString storedPath(const QString &folder, const QStringList &names, QString *)
+{
+    QString path = folder;
     bool exists = true;
     for (const QString &name : names) {
         if (!path.endsWith(u'/'))

@@ -225,12 +225,6 @@ QStringList Registry::valueNames(Hive hive, const QString &key) const
     return names;
 }
 
-QString Registry::text(Hive hive, const QString &key, const QString &name) const
-{
-    const std::optional<RegistryValue> found = value(hive, key, name);
-    return found ? registryText(*found) : QString();
-}
-
 std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
                                              const QString &name) const
 {

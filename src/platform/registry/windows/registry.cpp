@@ -189,12 +189,6 @@ QStringList Registry::valueNames(Hive hive, const QString &key) const
     }
 }
 
-QString Registry::text(Hive hive, const QString &key, const QString &name) const
-{
-    const std::optional<RegistryValue> found = value(hive, key, name);
-    return found ? registryText(*found) : QString();
-}
-
 std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
                                              const QString &name) const
 {

@@ -1,0 +1,28 @@
+#include "rulefolders_p.h"
+
+#include "rulefolders.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+QString locate(const QString &base, const QString &relative, QString *problem)
+{
+    const QString asked = localFolder(base);
+    const QString folder = canonicalPath(asked);
+    if (folder.isEmpty()) {
+        if (problem)
+            *problem = problemWith(asked);
+        return {};
+    }
+    const QStringList names =
+        QString(relative).replace(u'\\', u'/').split(u'/', Qt::SkipEmptyParts);
+    if (names.contains(".."_L1) || names.contains("."_L1)) {
+        if (problem)
+            *problem = u"a path with . or .. in it is not followed"_s;
+        return {};
+    }
+    return names.isEmpty() ? folder : storedPath(folder, names, problem);
+}
+
+} // namespace platform

@@ -7,6 +7,7 @@
 #include "namefilter.h"
 #include "protectedplaces.h"
 #include "registry.h"
+#include "registrykeys.h"
 #include "rulefolders.h"
 #include "walklog.h"
 
@@ -95,15 +96,10 @@ private:
     {
         const platform::Registry registry;
         QStringList names;
-        const auto add = [&](platform::Hive hive, const QString &key) {
-            const QStringList programs = registry.subkeys(hive, key);
-            for (const QString &program : programs)
-                names.append(registry.text(hive, key + u'\\' + program, u"DisplayName"_s));
-        };
-        const QString uninstall = u"Microsoft\\Windows\\CurrentVersion\\Uninstall"_s;
-        add(platform::Hive::LocalMachine, "SOFTWARE\\"_L1 + uninstall);
-        add(platform::Hive::LocalMachine, "SOFTWARE\\WOW6432Node\\"_L1 + uninstall);
-        add(platform::Hive::CurrentUser, "SOFTWARE\\"_L1 + uninstall);
+        for (const auto &[hive, list] : registrykeys::uninstallLists()) {
+            for (const QString &program : registry.subkeys(hive, list))
+                names.append(registry.text(hive, list + u'\\' + program, u"DisplayName"_s));
+        }
         return names;
     }
 

@@ -1,5 +1,7 @@
 #include "pathcheck.h"
 
+#include "registrykeys.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -28,8 +30,6 @@ constexpr std::array placeholderVariables{
     std::pair("%Temp%"_L1, "TEMP"_L1),
     std::pair("%Tmp%"_L1, "TMP"_L1),
 };
-
-const QString currentVersion = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\"_s;
 
 bool isSeparator(QChar c)
 {
@@ -80,7 +80,7 @@ PathCheck::PathCheck(const Registry &registry)
             m_searchFolders.append(windows + folder);
     }
     readSearchPath(registry);
-    const QString appPaths = currentVersion + "App Paths"_L1;
+    const QString appPaths = registrykeys::currentVersion + "App Paths"_L1;
     for (const Hive hive : {Hive::CurrentUser, Hive::LocalMachine}) {
         for (const QString &name : registry.subkeys(hive, appPaths))
             m_appPaths.insert(name.toCaseFolded(),

@@ -4,6 +4,7 @@
 #include "logger.h"
 #include "pathcheck.h"
 #include "registrybackup.h"
+#include "registrykeys.h"
 #include "windowspaths.h"
 
 #include <QFileInfo>
@@ -21,12 +22,11 @@ using platform::Registry;
 
 namespace {
 
-const QString currentVersion = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\"_s;
-const QString appPaths = currentVersion + "App Paths"_L1;
-const QString uninstall = currentVersion + "Uninstall"_L1;
-const QString sharedDlls = currentVersion + "SharedDLLs"_L1;
-const QString runKey = currentVersion + "Run"_L1;
-const QString runOnceKey = currentVersion + "RunOnce"_L1;
+const QString appPaths = registrykeys::currentVersion + "App Paths"_L1;
+const QString uninstall = registrykeys::currentVersion + "Uninstall"_L1;
+const QString sharedDlls = registrykeys::currentVersion + "SharedDLLs"_L1;
+const QString runKey = registrykeys::currentVersion + "Run"_L1;
+const QString runOnceKey = registrykeys::currentVersion + "RunOnce"_L1;
 const QString fonts = u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts"_s;
 const QString muiCache =
     u"SOFTWARE\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"_s;

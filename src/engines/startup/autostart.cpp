@@ -1,6 +1,7 @@
 #include "autostart.h"
 
 #include "appinfo.h"
+#include "registrykeys.h"
 #include "registrysettings.h"
 
 #include <QCoreApplication>
@@ -19,13 +20,12 @@ QString command(const QString &programPath)
 bool set(bool on)
 {
     using platform::Hive;
-    const QString key = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
     QString error;
-    return on
-        ? platform::registrysettings::setText(Hive::CurrentUser, key, appinfo::name,
-                                              command(QCoreApplication::applicationFilePath()),
-                                              error)
-        : platform::registrysettings::remove(Hive::CurrentUser, key, {appinfo::name}, error);
+    return on ? platform::registrysettings::setText(
+               Hive::CurrentUser, registrykeys::userRun, appinfo::name,
+               command(QCoreApplication::applicationFilePath()), error)
+              : platform::registrysettings::remove(Hive::CurrentUser, registrykeys::userRun,
+                                                   {appinfo::name}, error);
 }
 
 } // namespace autostart

@@ -4,6 +4,7 @@
 #include "filewalk.h"
 #include "folderlister.h"
 #include "logger.h"
+#include "registrykeys.h"
 #include "registrysettings.h"
 #include "windowspaths.h"
 
@@ -19,8 +20,6 @@ using platform::Hive;
 using platform::Registry;
 
 namespace {
-
-const QString runKey = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
 
 // A name alone is none that we could find: it would be looked for in our own current folder.
 bool isWhole(const QString &windowsPath)
@@ -136,12 +135,10 @@ void StartupManager::loadInstalledApps()
     m_loaded = true;
     const Registry registry;
     readStartupTable(registry);
-    readUninstallRoot(registry, Hive::LocalMachine,
-                      u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s);
-    readUninstallRoot(registry, Hive::LocalMachine,
-                      u"SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s);
-    readUninstallRoot(registry, Hive::CurrentUser,
-                      u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s);
+    for (const auto &[hive, root] : registrykeys::uninstallLists()) {
+        for (const QString &id : registry.subkeys(hive, root))
+            readUninstallKey(registry, hive, root, id);
+    }
     const auto startupCount = std::count_if(m_apps.cbegin(), m_apps.cend(),
                                             [](const StartupApp &app) { return app.isStartup; });
     Logger::instance().info(u"Found %1 installed apps, %2 in startup"_s.arg(
@@ -151,8 +148,9 @@ void StartupManager::loadInstalledApps()
 void StartupManager::readStartupTable(const Registry &registry)
 {
     m_startup.clear();
-    for (const QString &name : registry.valueNames(Hive::CurrentUser, runKey)) {
-        const QString command = registry.text(Hive::CurrentUser, runKey, name).trimmed();
+    for (const QString &name : registry.valueNames(Hive::CurrentUser, registrykeys::userRun)) {
+        const QString command =
+            registry.text(Hive::CurrentUser, registrykeys::userRun, name).trimmed();
         const QString path = commandPath(command);
         m_startup.append({name, path, command});
     }
@@ -177,12 +175,6 @@ QString StartupManager::commandPath(const QString &command)
     }
     const qsizetype blank = command.indexOf(u' ');
     return blank > 0 && !fileExists(command) ? command.first(blank) : command;
-}
-
-void StartupManager::readUninstallRoot(const Registry &registry, Hive hive, const QString &root)
-{
-    for (const QString &id : registry.subkeys(hive, root))
-        readUninstallKey(registry, hive, root, id);
 }
 
 void StartupManager::readUninstallKey(const Registry &registry, Hive hive, const QString &root,
@@ -254,8 +246,8 @@ bool StartupManager::addToStartup(const QString &name, const QString &exePath)
     const QString command = u'"' + exePath + u'"';
     readStartupTable(Registry()); // others write there too
     keepCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
-    const bool isDone =
-        platform::registrysettings::setText(Hive::CurrentUser, runKey, name, command, m_error);
+    const bool isDone = platform::registrysettings::setText(
+        Hive::CurrentUser, registrykeys::userRun, name, command, m_error);
     if (isDone)
         Logger::instance().info(u"Added to startup: %1"_s.arg(name));
     else
@@ -284,8 +276,8 @@ bool StartupManager::setStartup(const StartupApp &app, bool enable)
 bool StartupManager::removeEntries(const QStringList &valueNames)
 {
     keepCommands(valueNames, u"Startup command of %1 before it was removed: %2"_s);
-    const bool isDone =
-        platform::registrysettings::remove(Hive::CurrentUser, runKey, valueNames, m_error);
+    const bool isDone = platform::registrysettings::remove(Hive::CurrentUser, registrykeys::userRun,
+                                                           valueNames, m_error);
     const QList<Entry> before = m_startup;
     readStates();
     const auto has = [](const QList<Entry> &entries, const QString &name) {

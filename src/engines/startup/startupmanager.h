@@ -64,8 +64,6 @@ private:
     };
 
     void readStartupTable(const platform::Registry &registry);
-    void readUninstallRoot(const platform::Registry &registry, platform::Hive hive,
-                           const QString &root);
     void readUninstallKey(const platform::Registry &registry, platform::Hive hive,
                           const QString &root, const QString &id);
     /// What starts @p exePath, however it is spelled.

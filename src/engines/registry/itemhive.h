@@ -5,14 +5,15 @@
 
 /// Which hive the registry entry of an item is in, as a clean and as a backup take it.
 ///
-/// Both read the item's hive in full or short, since the scan of the start-up lists stores it
-/// short. They differ in a name that is none of these, which no scan gives an item: a clean takes
-/// it for the merged classes, a backup for the machine's hive. Neither can follow the other: which
-/// entry a clean looks for, and what line a backup gets, are both fixed for any text.
+/// Both know the hive's name in full and short: the scan of the start-up lists stores it short. Any
+/// other text, which no scan stores, means the merged classes to a clean and the machine's hive to
+/// a backup. The two differ because the backup's format and the clean each lay down what such a
+/// text means; neither may be changed to the other.
 struct ItemHive {
-    platform::Hive named; ///< may be the merged one
-    platform::Hive
-        stored; ///< never the merged one: of a class, the hive that the scan read it from
+    /// May be the merged classes.
+    platform::Hive named;
+    /// Never the merged classes: a class is in the hive that the scan read it from.
+    platform::Hive stored;
 
     [[nodiscard]] static ItemHive forClean(const CleanItem &item);
     [[nodiscard]] static ItemHive forBackup(const CleanItem &item);

@@ -82,16 +82,14 @@ void SettingsDialog::buildButtons(QVBoxLayout *layout)
     };
     const QPushButton *about = add(u"aboutBtn"_s, tr("About"), theme::framedButton());
     row->addStretch();
-    const QPushButton *cancel = add(u"cancelBtn"_s, tr("Cancel"),
-                                    theme::dialogButton({.background = theme::buttonGround,
-                                                         .colour = theme::text,
-                                                         .hovered = theme::border,
-                                                         .fontSize = 13}));
+    const QPushButton *cancel = add(
+        u"cancelBtn"_s, tr("Cancel"),
+        theme::dialogButton(
+            {.background = theme::buttonGround, .colour = theme::text, .hovered = theme::border}));
     QPushButton *save = add(u"saveBtn"_s, tr("Save"),
                             theme::dialogButton({.background = theme::accent,
                                                  .colour = theme::onColour,
-                                                 .hovered = theme::accentHover,
-                                                 .fontSize = 13}));
+                                                 .hovered = theme::accentHover}));
     save->setDefault(true);
     connect(about, &QPushButton::clicked, this, &SettingsDialog::onAboutClicked);
     connect(cancel, &QPushButton::clicked, this, &SettingsDialog::onCancelClicked);

@@ -136,8 +136,7 @@ QString framedButton()
 
 QString badgeButton()
 {
-    const QString look =
-        badge({.colour = muted, .background = buttonGround, .radius = 10, .fontSize = 12});
+    const QString look = badge({.colour = muted, .background = buttonGround});
     return fill(uR"(
 QPushButton { {badge} border: none; }
 QPushButton:hover { background-color: {border}; }

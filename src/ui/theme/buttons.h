@@ -39,7 +39,7 @@ struct DialogButton {
     Colour background;
     Colour colour;
     Colour hovered;
-    int fontSize;
+    int fontSize = 13;
 };
 /// A dialog's button without a frame.
 [[nodiscard]] QString dialogButton(const DialogButton &look);

@@ -20,8 +20,8 @@ namespace theme {
 struct Badge {
     Colour colour;
     Colour background;
-    int radius;
-    int fontSize;
+    int radius = 10;
+    int fontSize = 12;
 };
 /// A rounded pill of text.
 [[nodiscard]] QString badge(const Badge &look);
@@ -29,7 +29,7 @@ struct Badge {
 struct Pill {
     Colour colour;
     Colour background;
-    int weight;
+    int weight = 600;
 };
 /// A larger badge with the size or the state of what its card shows.
 [[nodiscard]] QString pill(const Pill &look);

@@ -71,8 +71,8 @@ void BrowserGroupWidget::buildHeader(const QString &name)
 
     m_count = new QLabel(m_header);
     m_count->setObjectName("browserItemCount"_L1);
-    m_count->setStyleSheet(theme::badge(
-        {.colour = theme::text, .background = theme::buttonGround, .radius = 10, .fontSize = 12}));
+    m_count->setStyleSheet(
+        theme::badge({.colour = theme::text, .background = theme::buttonGround}));
     m_count->hide();
     layout->addWidget(m_count, 0, Qt::AlignVCenter);
     layout->addStretch();

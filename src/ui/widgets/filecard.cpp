@@ -40,10 +40,8 @@ QString iconOf(const QString &type)
 
 QString badgeStyle(bool isHuge)
 {
-    return isHuge
-        ? theme::pill(
-            {.colour = theme::dangerHover, .background = theme::dangerTint, .weight = 600})
-        : theme::pill({.colour = theme::text, .background = theme::buttonGround, .weight = 600});
+    return isHuge ? theme::pill({.colour = theme::dangerHover, .background = theme::dangerTint})
+                  : theme::pill({.colour = theme::text, .background = theme::buttonGround});
 }
 
 QLabel *makeLabel(const QString &name, const QString &style, QWidget *parent)

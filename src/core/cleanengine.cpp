@@ -23,38 +23,37 @@ void CleanEngine::loadRules(const QString &) { }
 void CleanEngine::startScan()
 {
     stopAndWait();
+    const RunSignals::Run run = m_runSignals.open();
     m_stopRequested = false;
     // A million records take a noticeable time to free: the worker does it, once the pages have let
     // go.
     QList<CleanCategory> discarded = std::exchange(m_result.categories, {});
     setState(State::Scanning);
 
-    const quint64 run = ++m_run;
     startWorker(
         std::unique_ptr<QThread>(QThread::create([this, run, old = std::move(discarded)]() mutable {
             old.clear();
             doScan();
             const bool stopped = isStopRequested();
-            m_endedRun = run;
+            m_isWorkerDone = true;
             if (!stopped)
-                QMetaObject::invokeMethod(
-                    this, [this, run] { completeScan(run); }, Qt::QueuedConnection);
+                run.post([this, run] { completeScan(run); });
         })));
 }
 
 void CleanEngine::startClean()
 {
     stopAndWait();
+    m_runSignals.open();
     m_stopRequested = false;
     m_selection = m_result.checkedOnly();
     m_failures.clear();
     setState(State::Cleaning);
 
-    const quint64 run = ++m_run;
-    startWorker(std::unique_ptr<QThread>(QThread::create([this, run] {
+    startWorker(std::unique_ptr<QThread>(QThread::create([this] {
         doClean();
         m_selection.categories.clear();
-        m_endedRun = run;
+        m_isWorkerDone = true;
     })));
 }
 
@@ -70,7 +69,7 @@ void CleanEngine::stopAndWait()
         return;
     m_stopRequested = true;
     m_worker->wait();
-    Q_ASSERT(m_endedRun == m_run);
+    Q_ASSERT(m_isWorkerDone);
     m_worker.reset();
 }
 
@@ -128,17 +127,19 @@ void CleanEngine::reportClean(const CleanTotals &totals)
 void CleanEngine::startWorker(std::unique_ptr<QThread> worker)
 {
     m_worker = std::move(worker);
+    m_isWorkerDone = false;
     m_worker->setObjectName(QString::fromLatin1(metaObject()->className()) + "Worker"_L1);
     m_worker->start();
 }
 
-// Posted by the worker. A completion that was overtaken by cancel() or by another run is dropped:
-// its number is old.
-void CleanEngine::completeScan(quint64 run)
+// Posted by the worker. cancel() may have overtaken it; and who hears of the new state may start
+// the next run.
+void CleanEngine::completeScan(const RunSignals::Run &run)
 {
-    if (run != m_run || run != m_endedRun || state() != State::Scanning)
+    Q_ASSERT(m_isWorkerDone);
+    if (state() != State::Scanning)
         return;
     setState(State::Finished);
-    if (run == m_run)
+    if (run.isCurrent())
         Q_EMIT scanFinished(m_result);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runsignals.h"
 #include "scanresult.h"
 
 #include <QList>
@@ -28,9 +29,12 @@ struct CleanFailure {
 ///  - selection: set on the GUI thread before a clean's worker starts, read and dropped by the
 ///  worker;
 ///  - failures: the worker while a clean runs, otherwise the GUI thread;
-///  - worker, run number: the GUI thread;
-///  - ended run: atomic; set by the worker when it is done with the rest, so that whoever has seen
-///  it sees all that the run wrote.
+///  - worker, run signals: the GUI thread;
+///  - worker done: atomic; set by the worker when it is done with the rest, so that whoever has
+///  seen it sees all that the run wrote.
+///
+/// Progress and the end of a clean are emitted by the worker. Who must not hear of a run that is
+/// over connects to an object of makeRunReceiver().
 ///
 /// Pages bind their widgets to the records inside result(). They take the records through the
 /// non-const accessor once, after scanFinished(), and let go of them when the state becomes
@@ -61,6 +65,12 @@ public:
     [[nodiscard]] ScanResult &result() { return m_result; }
     /// What the last clean could not remove. While a clean runs it belongs to the worker.
     [[nodiscard]] const QList<CleanFailure> &failures() const { return m_failures; }
+    /// An object to connect the engine's signals to: what a worker emitted is dropped there once
+    /// the next run begins or the engine is gone. GUI thread.
+    [[nodiscard]] std::unique_ptr<QObject> makeRunReceiver() const
+    {
+        return m_runSignals.makeReceiver();
+    }
 
     /// Reads the engine's rule file; the base has none.
     virtual void loadRules(const QString &path);
@@ -129,7 +139,7 @@ protected:
 
 private:
     void startWorker(std::unique_ptr<QThread> worker);
-    void completeScan(quint64 run);
+    void completeScan(const RunSignals::Run &run);
 
     std::atomic<State> m_state = State::Idle;
     ScanResult m_result;
@@ -137,6 +147,6 @@ private:
     std::unique_ptr<QThread> m_worker;
     ScanResult m_selection;
     QList<CleanFailure> m_failures;
-    quint64 m_run = 0;
-    std::atomic<quint64> m_endedRun = 0;
+    std::atomic_bool m_isWorkerDone = false;
+    RunSignals m_runSignals{this};
 };

@@ -3,36 +3,26 @@
 #include "cleanengine.h"
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
 #include <utility>
 
 void FullScan::start(const Engines &engines)
 {
-    for (CleanEngine *engine : m_engines) {
-        if (engine)
-            engine->disconnect(this);
-    }
+    m_receivers = {};
     m_engines = engines;
     m_percents = {};
-    const quint64 run = ++m_run;
     for (std::size_t index = 0; index < engines.size(); ++index) {
         CleanEngine *engine = engines.at(index);
         if (!engine) {
             m_percents.at(index) = 100;
             continue;
         }
-        // Whatever a run in progress still emits comes before the new connections exist. What it
-        // has emitted is queued, disconnected or not, and bears the old number.
-        engine->stopAndWait();
-        connect(engine, &CleanEngine::scanProgress, this,
-                [this, run, index](int current, int total, const QString &path) {
-                    if (run == m_run)
-                        onProgress(index, current, total, path);
-                });
-        connect(engine, &CleanEngine::scanFinished, this, [this, run, index] {
-            if (run == m_run)
-                onFinished(index);
-        });
+        m_receivers.at(index) = engine->makeRunReceiver();
+        const QObject *receiver = m_receivers.at(index).get();
+        connect(engine, &CleanEngine::scanProgress, receiver,
+                std::bind_front(&FullScan::onProgress, this, index));
+        connect(engine, &CleanEngine::scanFinished, receiver, [this, index] { onFinished(index); });
         engine->startScan();
     }
 }

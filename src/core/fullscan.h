@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <array>
+#include <memory>
 
 class CleanEngine;
 
@@ -40,5 +41,5 @@ private:
 
     Engines m_engines{};
     std::array<int, 3> m_percents{};
-    quint64 m_run = 0;
+    std::array<std::unique_ptr<QObject>, 3> m_receivers; ///< of the engines' signals
 };

@@ -480,6 +480,53 @@ private Q_SLOTS:
         }
     }
 
+    void aRunReceiverHearsNothingOfAnEarlierRun()
+    {
+        ScriptedEngine engine;
+        engine.onClean = [&] {
+            Q_EMIT engine.cleanProgress(1, 2, 0);
+            engine.waitForStop();
+            engine.finishClean(10, 1);
+        };
+        engine.onScan = [&] { Q_EMIT engine.scanProgress(1, 1, u"new"_s); };
+        const auto receiver = engine.makeRunReceiver();
+        QStringList heard;
+        connect(&engine, &CleanEngine::cleanProgress, receiver.get(),
+                [&heard] { heard.append(u"cleanProgress"_s); });
+        connect(&engine, &CleanEngine::cleanFinished, receiver.get(),
+                [&heard] { heard.append(u"cleanFinished"_s); });
+        connect(&engine, &CleanEngine::scanProgress, receiver.get(),
+                [&heard] { heard.append(u"scanProgress"_s); });
+        connect(&engine, &CleanEngine::scanFinished, receiver.get(),
+                [&heard] { heard.append(u"scanFinished"_s); });
+        connect(&engine, &CleanEngine::stateChanged, receiver.get(), [&heard](State state) {
+            heard.append(u"state %1"_s.arg(static_cast<int>(state)));
+        });
+        const SignalSpy cleaned(&engine, &CleanEngine::cleanFinished);
+        const SignalSpy finished(&engine, &CleanEngine::scanFinished);
+        engine.startClean();
+        engine.cancel();
+        engine.startScan(); // the end of the clean is queued by now
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(heard,
+                 (QStringList{u"state 2"_s, u"state 4"_s, u"state 1"_s, u"scanProgress"_s,
+                              u"state 3"_s, u"scanFinished"_s}));
+        QCOMPARE(cleaned.size(), 1); // who connects as usual hears of it
+    }
+
+    void aRunReceiverHearsTheEndOfACleanThatIsCancelledTooLate()
+    {
+        ScriptedEngine engine;
+        const auto receiver = engine.makeRunReceiver();
+        int ends = 0;
+        connect(&engine, &CleanEngine::cleanFinished, receiver.get(), [&ends] { ++ends; });
+        engine.startClean();
+        engine.stopAndWait();
+        engine.cancel();
+        QCOMPARE(ends, 0);
+        QTRY_COMPARE_WITH_TIMEOUT(ends, 1, patience);
+    }
+
     void aRestartFromWithinTheStateChangeReportsOneResult()
     {
         ScriptedEngine engine;

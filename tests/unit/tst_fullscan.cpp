@@ -178,6 +178,42 @@ private Q_SLOTS:
         QCOMPARE(progressed.constFirst().at(1).toString(), u"path 1"_s);
     }
 
+    void whatAnEngineHasSaidOfARunThatItsPageReplacedIsDropped()
+    {
+        const SignalSpy progressed(m_scan.get(), &FullScan::progressed);
+        const SignalSpy finished(m_scan.get(), &FullScan::finished);
+        start();
+        QVERIFY(finished.wait(patience));
+        browser().progress = {{9, 10}};
+        browser().hold = true;
+        browser().reported = false;
+        browser().startScan();
+        while (!browser().reported)
+            QThread::msleep(1);
+        browser().cancel();
+        browser().progress = {{1, 10}};
+        browser().hold = false;
+        browser().startScan();
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(progressed.size(), 1);
+        QCOMPARE(progressed.constFirst().at(1).toString(), u"path 1"_s);
+    }
+
+    void theNextScanMayStartAsTheLastEnds()
+    {
+        int ends = 0;
+        connect(m_scan.get(), &FullScan::finished, m_scan.get(), [&] {
+            if (++ends == 1)
+                start();
+        });
+        start();
+        QTRY_COMPARE_WITH_TIMEOUT(ends, 2, patience);
+        QTest::qWait(20);
+        QCOMPARE(ends, 2);
+        for (const auto &engine : m_engines)
+            QCOMPARE(engine->scans.load(), 2);
+    }
+
     void aCancelledEngineLeavesTheScanOpen()
     {
         browser().hold = true;

@@ -21,6 +21,7 @@ public:
     QList<CleanCategory> found; ///< what a scan finds
     std::atomic_bool hold = false; ///< while set, a run goes on until it is cancelled
     std::atomic_bool waitsForCancel = true; ///< else it goes on for as long as it is held
+    std::atomic_int progress = 1; ///< of 4, which a scan reports before it is held
     std::atomic_int scans = 0;
     std::atomic_int cleans = 0;
 
@@ -30,7 +31,7 @@ protected:
     void doScan() override
     {
         ++scans;
-        Q_EMIT scanProgress(1, 4, QStringLiteral("Some Files"));
+        Q_EMIT scanProgress(progress, 4, QStringLiteral("Some Files"));
         wait();
         if (!isStopRequested())
             result().categories = found;

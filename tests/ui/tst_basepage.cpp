@@ -439,6 +439,88 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(categories(page).size(), 1, patience);
     }
 
+    void theProgressOfACancelledScanIsNotShownInTheNext()
+    {
+        ScriptedEngine engine;
+        engine.progress = 3;
+        engine.hold = true;
+        BasePage page;
+        page.setEngine(&engine);
+        show(page);
+        click(page, u"scanBtn"_s);
+        while (engine.scans == 0)
+            QThread::msleep(1);
+        page.cancelOperation();
+        engine.stopAndWait(); // what it has said is queued now
+        engine.progress = 1;
+        click(page, u"scanBtn"_s);
+        const SignalSpy shown(dialog(page)->findChild<QProgressBar *>(),
+                              &QProgressBar::valueChanged);
+        QTRY_COMPARE_WITH_TIMEOUT(shown.size(), 1, patience);
+        QCOMPARE(shown.constFirst(), QVariantList{25});
+        engine.hold = false;
+    }
+
+    // Who listens to the page counts on one end for each clean.
+    void aCancelledCleanThatAScanCutsOffHasEndedOnce_data()
+    {
+        QTest::addColumn<bool>("byPage");
+        QTest::newRow("the page's own scan") << true;
+        QTest::newRow("a scan of the engine") << false;
+    }
+    void aCancelledCleanThatAScanCutsOffHasEndedOnce()
+    {
+        QFETCH(bool, byPage);
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        const SignalSpy finished(&page, &BasePage::scanFinished);
+        engine.hold = true;
+        click(page, u"cleanBtn"_s);
+        page.cancelOperation();
+        engine.stopAndWait();
+        engine.hold = false;
+        if (byPage)
+            click(page, u"scanBtn"_s);
+        else
+            engine.startScan();
+        QVERIFY(finished.wait(patience));
+        QTest::qWait(20);
+        QCOMPARE(cleaned.size(), 1);
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(categories(page).size(), 1);
+        QVERIFY(button(page, u"cleanBtn"_s)->isEnabled());
+    }
+
+    void theWindowDoesNotWaitForACancelledCleanThatWindsDown()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        scanned(page, engine);
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        engine.hold = true;
+        engine.waitsForCancel = false;
+        click(page, u"cleanBtn"_s);
+        page.cancelOperation();
+        click(page, u"cleanBtn"_s); // would never return if it waited
+        QVERIFY(!dialog(page));
+        QCOMPARE(categories(page).size(), 1);
+        engine.hold = false;
+        QVERIFY(cleaned.wait(patience));
+        QVERIFY(categories(page).isEmpty());
+        QCOMPARE(engine.cleans.load(), 1);
+        // The next list can be cleaned.
+        const SignalSpy finished(&page, &BasePage::scanFinished);
+        click(page, u"scanBtn"_s);
+        QVERIFY(finished.wait(patience));
+        click(page, u"cleanBtn"_s);
+        QVERIFY(cleaned.wait(patience));
+        QCOMPARE(engine.cleans.load(), 2);
+    }
+
     void cleaningRightAfterACancelledCleanCleansNothingUnseen()
     {
         ScriptedEngine engine;
@@ -448,8 +530,9 @@ private Q_SLOTS:
         engine.hold = true;
         click(page, u"cleanBtn"_s);
         page.cancelOperation();
-        click(page, u"cleanBtn"_s); // the end of the cancelled run empties the list first
-        QTest::qWait(30);
+        click(page, u"cleanBtn"_s);
+        // The end of the cancelled run empties the list.
+        QTRY_VERIFY_WITH_TIMEOUT(categories(page).isEmpty(), patience);
         QCOMPARE(engine.cleans.load(), 1);
         QVERIFY(!dialog(page));
         QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
@@ -535,6 +618,26 @@ private Q_SLOTS:
         page.setEngine(&second);
         QTest::qWait(30);
         QCOMPARE(cleaned.size(), 0);
+    }
+
+    void anotherEngineMayBeCleanedWhileTheFirstWindsDown()
+    {
+        ScriptedEngine first;
+        first.found = {scriptedCategory(u"a"_s, 3)};
+        ScriptedEngine second;
+        second.found = {scriptedCategory(u"b"_s, 2)};
+        BasePage page;
+        scanned(page, first);
+        first.hold = true;
+        first.waitsForCancel = false;
+        click(page, u"cleanBtn"_s);
+        page.cancelOperation();
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        scanned(page, second);
+        QCOMPARE(cleaned.size(), 0);
+        click(page, u"cleanBtn"_s);
+        QVERIFY(cleaned.wait(patience));
+        QCOMPARE(second.cleans.load(), 1);
     }
 
     void aNewRunReplacesTheResultScreenOfTheLast()

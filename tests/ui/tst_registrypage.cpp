@@ -21,6 +21,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QSemaphore>
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
@@ -202,6 +204,53 @@ private Q_SLOTS:
         QVERIFY(log.contains(u"Registry backup skipped (no backup path specified)"_s));
         QVERIFY(!QFile::exists(m_home.path() + "/old.reg"_L1));
         page.findChild<ProgressDialog *>()->accept();
+    }
+
+    void aCancelledCleanKeepsItsBackupPathWhileItWindsDown()
+    {
+        RegistryPage page;
+        page.show();
+        scan(page);
+        tick({u"Sweepwise a"_s});
+        auto *engine = Application::instance()->registryCleaner();
+        const QString folder = m_home.folder(u"backups"_s);
+        const auto acceptWith = [&folder](const QString &name) {
+            return [path = folder + u'/' + name](RegistryBackupDialog &dialog) {
+                edit(dialog)->setText(path);
+                QTest::mouseClick(button(dialog, u"startCleanBtn"_s), Qt::LeftButton);
+            };
+        };
+        QSemaphore reached;
+        QSemaphore held;
+        const auto hold = connect(
+            engine, &CleanEngine::cleanProgress, engine,
+            [&] {
+                reached.release();
+                held.acquire();
+            },
+            Qt::DirectConnection);
+        const auto letGo = qScopeGuard([&] {
+            disconnect(hold);
+            held.release(1000);
+        });
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        {
+            const BackupDialogUser user(acceptWith(u"first.reg"_s));
+            page.startClean();
+            QVERIFY(user.hasMet());
+        }
+        QVERIFY(reached.tryAcquire(1, patience));
+        page.cancelOperation();
+        {
+            const BackupDialogUser user(acceptWith(u"second.reg"_s));
+            page.startClean(); // would never return if it waited
+            QVERIFY(user.hasMet());
+        }
+        QCOMPARE(engine->backupPath(), folder + "/first.reg"_L1);
+        held.release(1000);
+        QVERIFY(cleaned.wait(patience));
+        QVERIFY(!QFile::exists(folder + "/second.reg"_L1));
+        QCOMPARE(engine->state(), CleanEngine::State::Cancelled);
     }
 
     // --- the dialog

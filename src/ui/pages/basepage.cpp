@@ -3,7 +3,6 @@
 #include "application.h"
 #include "ask.h"
 #include "categorywidget.h"
-#include "cleanengine.h"
 #include "options.h"
 #include "progressdialog.h"
 #include "svglabel.h"
@@ -16,6 +15,9 @@
 #include <QScrollArea>
 #include <QSettings>
 #include <QVBoxLayout>
+
+#include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -35,43 +37,24 @@ BasePage::~BasePage() = default;
 
 void BasePage::setEngine(CleanEngine *engine)
 {
-    if (m_engine)
-        m_engine->disconnect(this);
+    m_runReceiver.reset();
     closeProgressDialog();
     letGoOfResult();
     m_scanButton->setEnabled(true);
     m_engine = engine;
+    m_isCleanOpen = false;
     if (!engine)
         return;
-    // A signal that was queued before the disconnection still arrives: it is dropped by its engine.
-    const auto current = [this, engine] { return m_engine == engine; };
-    connect(engine, &CleanEngine::stateChanged, this, [this, current] {
-        if (current() && m_engine->state() == CleanEngine::State::Scanning)
-            letGoOfResult();
-    });
-    connect(engine, &CleanEngine::scanProgress, this,
-            [this, current](int done, int total, const QString &path) {
-                if (current())
-                    onScanProgress(done, total, path);
-            });
-    connect(engine, &CleanEngine::scanFinished, this, [this, current](const ScanResult &result) {
-        if (current())
-            onScanFinished(result);
-    });
-    connect(engine, &CleanEngine::cleanProgress, this,
-            [this, current](int done, int total, qint64 cleanedSize) {
-                if (current())
-                    onCleanProgress(done, total, cleanedSize);
-            });
-    connect(engine, &CleanEngine::cleanFinished, this,
-            [this, current](qint64 totalCleaned, int itemsCleaned) {
-                if (current())
-                    onCleanFinished(totalCleaned, itemsCleaned);
-            });
-    connect(engine, &CleanEngine::errorOccurred, this, [this, current](const QString &error) {
-        if (current())
-            onEngineError(error);
-    });
+    m_runReceiver = engine->makeRunReceiver();
+    const auto listen = [this](auto signal, auto slot) {
+        connect(m_engine, signal, m_runReceiver.get(), std::bind_front(slot, this));
+    };
+    listen(&CleanEngine::stateChanged, &BasePage::onStateChanged);
+    listen(&CleanEngine::scanProgress, &BasePage::onScanProgress);
+    listen(&CleanEngine::scanFinished, &BasePage::onScanFinished);
+    listen(&CleanEngine::cleanProgress, &BasePage::onCleanProgress);
+    listen(&CleanEngine::cleanFinished, &BasePage::onCleanFinished);
+    listen(&CleanEngine::errorOccurred, &BasePage::onEngineError);
 }
 
 void BasePage::setupHeader()
@@ -230,7 +213,6 @@ void BasePage::startScan()
 {
     if (!m_engine || isEngineBusy())
         return;
-    deliverLateSignals();
     openProgressDialog(ProgressDialog::Scanning);
     m_engine->startScan();
 }
@@ -263,22 +245,29 @@ int BasePage::chosenCount() const
 
 void BasePage::runClean()
 {
-    // While a question stood open the list may have gone, by a scan that was started elsewhere.
-    if (isEngineBusy() || !isResultShown())
+    if (!canClean())
         return;
-    deliverLateSignals();
-    if (!isResultShown())
-        return; // They were the end of a cancelled clean, which has emptied the list.
     openProgressDialog(ProgressDialog::Cleaning);
     m_engine->startClean();
 }
 
-// The engine would wait for a cancelled run in any case. Waiting here lets that run's last signals
-// arrive before this run's dialog exists, so that they cannot finish it.
-void BasePage::deliverLateSignals()
+// While a question stood open the list may have gone, by a scan that was started elsewhere. A
+// cancelled clean has removed part of what is listed: its end empties the list when it arrives.
+bool BasePage::canClean() const
 {
-    m_engine->stopAndWait();
-    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    return !isEngineBusy() && isResultShown() && !m_isCleanOpen;
+}
+
+void BasePage::onStateChanged(CleanEngine::State state)
+{
+    if (state == CleanEngine::State::Cleaning)
+        m_isCleanOpen = true;
+    if (state != CleanEngine::State::Scanning)
+        return;
+    letGoOfResult();
+    // The scan replaces a cancelled clean, whose own end does not arrive any more.
+    if (std::exchange(m_isCleanOpen, false))
+        Q_EMIT cleanFinished();
 }
 
 ProgressDialog *BasePage::openProgressDialog(int mode)
@@ -329,6 +318,7 @@ void BasePage::onScanFinished(ScanResult)
         m_progressDialog->hide();
         delete m_progressDialog.data();
     }
+    // Takes the dialog off the screen before the list is built, which may take a while.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (isEngineBusy())
         return; // One of those events started the next run, whose records these are no more.
@@ -436,6 +426,7 @@ void BasePage::onCleanFinished(qint64 totalCleaned, int itemsCleaned)
             true,
             tr("Cleaned %1 items, freed %2")
                 .arg(QString::number(itemsCleaned), formatSize(totalCleaned)));
+    m_isCleanOpen = false;
     m_scanButton->setEnabled(true);
     letGoOfResult();
     m_focus.giveBack(m_scanButton);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cleanengine.h"
 #include "focuskeeper.h"
 #include "scanresult.h"
 
@@ -7,7 +8,8 @@
 #include <QPointer>
 #include <QWidget>
 
-class CleanEngine;
+#include <memory>
+
 class ProgressDialog;
 class ResultWidget;
 class QLabel;
@@ -78,23 +80,27 @@ protected:
     /// How many items would be cleaned now. Only what is listed can have been chosen: a scan that
     /// was cancelled leaves records that nobody has seen.
     [[nodiscard]] int chosenCount() const;
-    /// The end of every way to start a clean: opens the dialog and starts the engine, unless the
-    /// list has gone meanwhile.
+    /// Whether what is listed may be cleaned now.
+    [[nodiscard]] bool canClean() const;
+    /// The end of every way to start a clean: opens the dialog and starts the engine, unless what
+    /// is listed may not be cleaned any more.
     void runClean();
     /// Makes the dialog of a new run in the place of any earlier one and locks the buttons.
     ProgressDialog *openProgressDialog(int mode);
     [[nodiscard]] bool isEngineBusy() const;
 
 private:
+    void onStateChanged(CleanEngine::State state);
     void letGoOfResult();
     /// While a clean runs, the ticks on the screen mean nothing any more.
     void setLocked(bool locked);
-    void deliverLateSignals();
     void closeProgressDialog();
     void orderFocus() const;
     [[nodiscard]] bool isResultShown() const { return !m_resultWidgets.isEmpty(); }
 
     CleanEngine *m_engine = nullptr;
+    std::unique_ptr<QObject> m_runReceiver; ///< of its signals
+    bool m_isCleanOpen = false; ///< one has begun; the page has not heard of its end
     bool m_showSizes = true;
     QString m_noSelectionText;
     QVBoxLayout *m_layout;

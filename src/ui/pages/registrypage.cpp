@@ -35,10 +35,11 @@ void RegistryPage::startClean()
         return;
     }
     RegistryBackupDialog dialog(count, this);
-    if (dialog.exec() != QDialog::Accepted || isEngineBusy())
+    if (dialog.exec() != QDialog::Accepted)
         return;
-    // A clean that was cancelled may still be writing its backup.
-    m_cleaner->stopAndWait();
+    // A clean that was cancelled may still be writing its backup, and reads the path.
+    if (!canClean())
+        return;
     m_cleaner->setBackupPath(dialog.backupPath());
     runClean();
 }

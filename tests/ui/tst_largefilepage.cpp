@@ -813,6 +813,39 @@ private Q_SLOTS:
         QVERIFY(!progress->isVisible());
     }
 
+    void theProgressOfACancelledScanIsNotShownInTheNext()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 150; ++i)
+            tree.file(u"f%1"_s.arg(i), "x");
+        LargeFilePage page({drive(tree.path())});
+        show(page);
+        LargeFileScanner *scanner = page.scanner();
+        scanner->setDrives({tree.path()});
+        scanner->setMinSize(1);
+        scanner->startScan();
+        while (scanner->filesScanned() < 150)
+            QThread::msleep(1);
+        page.onCancelScan(); // what the worker has said is queued now
+        // The next is held at its first file, before it has said anything.
+        QSemaphore held;
+        const auto hold = connect(
+            scanner, &LargeFileScanner::fileFound, scanner, [&held] { held.acquire(); },
+            Qt::DirectConnection);
+        const auto letGo = qScopeGuard([&] {
+            disconnect(hold);
+            held.release(1000);
+        });
+        const SignalSpy finished(scanner, &LargeFileScanner::scanFinished);
+        scanner->startScan();
+        QTest::qWait(50);
+        QCOMPARE(text(*dialog(page), u"scanCount"_s), u"Found 0 large files (0 B)"_s);
+        QCOMPARE(text(*dialog(page), u"scanPath"_s), u"Preparing..."_s);
+        held.release(1000);
+        QVERIFY(finished.wait(patience));
+        QVERIFY(isResultsShown(page));
+    }
+
     void aLongDeletionShowsHowFarItIsAndCanBeCancelled()
     {
         const TestTree tree;

@@ -143,6 +143,7 @@ void LargeFileScanner::startScan()
         return;
     if (m_worker)
         m_worker->wait();
+    const RunSignals::Run run = m_runSignals.open();
     m_running = true;
     m_cancelled = false;
     m_scannedDrives = m_drives;
@@ -160,22 +161,22 @@ void LargeFileScanner::startScan()
     Q_EMIT scanStarted();
 
     // A million records take a noticeable time to free: the worker does it.
-    startWorker(
-        std::unique_ptr<QThread>(QThread::create([this, old = std::move(discarded)]() mutable {
-            old.clear();
-            m_listed.clear();
-            doScan();
-        })));
+    std::unique_ptr<QThread> worker(QThread::create([this, old = std::move(discarded)]() mutable {
+        old.clear();
+        m_listed.clear();
+        doScan();
+    }));
+    connect(worker.get(), &QThread::finished, this, [this, run] {
+        if (run.isCurrent())
+            onWorkerFinished();
+    });
+    startWorker(std::move(worker));
 }
 
 void LargeFileScanner::startWorker(std::unique_ptr<QThread> worker)
 {
     m_worker = std::move(worker);
     m_worker->setObjectName("LargeFileScannerWorker"_L1);
-    // The signal of a cancelled run may arrive when the next one is busy: it is known by its
-    // number.
-    const quint64 run = ++m_run;
-    connect(m_worker.get(), &QThread::finished, this, [this, run] { onWorkerFinished(run); });
     m_worker->start();
 }
 
@@ -184,16 +185,14 @@ void LargeFileScanner::cancel()
     m_cancelled = true;
     if (m_worker && m_worker->isRunning())
         m_worker->wait(longestWait);
-    m_running = false;
+    // A deletion still tells its end.
+    if (m_running.exchange(false))
+        m_runSignals.end();
 }
 
-void LargeFileScanner::onWorkerFinished(quint64 run)
+void LargeFileScanner::onWorkerFinished()
 {
-    if (run != m_run || !m_running)
-        return;
     m_running = false;
-    if (m_cancelled)
-        return;
     const auto found = static_cast<int>(results().size());
     Q_EMIT scanFinished(found, totalSize());
 }
@@ -362,9 +361,11 @@ void LargeFileScanner::startDelete(const QList<LargeFileInfo> &files)
         return;
     if (m_worker)
         m_worker->wait();
+    const RunSignals::Run run = m_runSignals.open();
     m_deleting = true;
     m_cancelled = false;
-    startWorker(std::unique_ptr<QThread>(QThread::create([this, files] { doDelete(files); })));
+    startWorker(
+        std::unique_ptr<QThread>(QThread::create([this, run, files] { doDelete(run, files); })));
 }
 
 void LargeFileScanner::cancelDelete()
@@ -373,7 +374,7 @@ void LargeFileScanner::cancelDelete()
         m_cancelled = true;
 }
 
-void LargeFileScanner::doDelete(const QList<LargeFileInfo> &files)
+void LargeFileScanner::doDelete(const RunSignals::Run &run, const QList<LargeFileInfo> &files)
 {
     platform::FileRemover remover;
     remover.setListed(&m_listed);
@@ -395,9 +396,8 @@ void LargeFileScanner::doDelete(const QList<LargeFileInfo> &files)
         size += file.size;
     }
     dropResults(gone);
-    const auto finish = [this, deleted, tried] {
+    run.post([this, deleted, tried] {
         m_deleting = false;
         Q_EMIT deleteFinished(deleted, tried);
-    };
-    QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
+    });
 }

@@ -2,6 +2,7 @@
 
 #include "largefileinfo.h"
 #include "listedfolders.h"
+#include "runsignals.h"
 
 #include <QBitArray>
 #include <QList>
@@ -28,10 +29,11 @@ struct FollowedLink;
 ///  - results, total size, followed links: all threads, under the mutex;
 ///  - listed folders: all threads, guarded by themselves;
 ///  - running, deleting, cancelled, count of files: atomic;
-///  - worker, run number: the GUI thread.
+///  - worker, run signals: the GUI thread.
 ///
 /// scanProgress(), fileFound() and deleteProgress() are emitted by the worker and its helpers,
-/// fileFound() under the mutex: whoever listens does so by a queued connection.
+/// fileFound() under the mutex: whoever listens does so by a queued connection, and to an object of
+/// makeRunReceiver() if it must not hear of a run that is over.
 class LargeFileScanner final : public QObject
 {
     Q_OBJECT
@@ -54,6 +56,13 @@ public:
     /// Stops the scan or the deletion and waits for its end, but no longer than 3 seconds. No
     /// scanFinished() follows.
     void cancel();
+
+    /// An object to connect the scanner's signals to: what the worker emitted is dropped there once
+    /// the scan is cancelled, the next run begins or the scanner is gone. GUI thread.
+    [[nodiscard]] std::unique_ptr<QObject> makeRunReceiver() const
+    {
+        return m_runSignals.makeReceiver();
+    }
 
     [[nodiscard]] bool isRunning() const { return m_running; }
     /// What the last scan has found so far and nobody has deleted: in the order of arrival while it
@@ -99,8 +108,8 @@ private:
     void startWorker(std::unique_ptr<QThread> worker);
     void scanDrive(const QString &drive);
     void sortResults();
-    void onWorkerFinished(quint64 run);
-    void doDelete(const QList<LargeFileInfo> &files);
+    void onWorkerFinished();
+    void doDelete(const RunSignals::Run &run, const QList<LargeFileInfo> &files);
     /// Whether @p file was removed; the log tells either way.
     bool removeFound(platform::FileRemover &remover, const LargeFileInfo &file);
     /// The record of what is listed at @p path; else one that knows no more than that.
@@ -128,5 +137,5 @@ private:
     mutable QMutex m_mutex;
     std::atomic_int m_filesScanned = 0;
     qint64 m_totalSize = 0;
-    quint64 m_run = 0;
+    RunSignals m_runSignals{this};
 };

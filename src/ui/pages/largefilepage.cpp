@@ -22,6 +22,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,11 +60,7 @@ LargeFilePage::LargeFilePage(const QList<DriveInfo> &drives, QWidget *parent)
     connect(m_results->deleteButton(), &QPushButton::clicked, this,
             &LargeFilePage::onDeleteSelected);
     connect(m_results->list(), &FileCardList::cardMade, this, &LargeFilePage::serveCard);
-    connect(&m_scanner, &LargeFileScanner::scanStarted, this, &LargeFilePage::onScanStarted);
-    connect(&m_scanner, &LargeFileScanner::scanProgress, this, &LargeFilePage::onScanProgress);
-    connect(&m_scanner, &LargeFileScanner::scanFinished, this, &LargeFilePage::onScanFinished);
-    connect(&m_scanner, &LargeFileScanner::deleteProgress, this, &LargeFilePage::onDeleteProgress);
-    connect(&m_scanner, &LargeFileScanner::deleteFinished, this, &LargeFilePage::onDeleteFinished);
+    listenToScanner();
     connect(qApp, &QCoreApplication::aboutToQuit, &m_scanner, &LargeFileScanner::cancel);
     m_patience.setSingleShot(true);
     m_patience.setInterval(patience);
@@ -70,6 +68,18 @@ LargeFilePage::LargeFilePage(const QList<DriveInfo> &drives, QWidget *parent)
 }
 
 LargeFilePage::~LargeFilePage() = default;
+
+void LargeFilePage::listenToScanner()
+{
+    const auto listen = [this](auto signal, auto slot) {
+        connect(&m_scanner, signal, m_runReceiver.get(), std::bind_front(slot, this));
+    };
+    listen(&LargeFileScanner::scanStarted, &LargeFilePage::onScanStarted);
+    listen(&LargeFileScanner::scanProgress, &LargeFilePage::onScanProgress);
+    listen(&LargeFileScanner::scanFinished, &LargeFilePage::onScanFinished);
+    listen(&LargeFileScanner::deleteProgress, &LargeFilePage::onDeleteProgress);
+    listen(&LargeFileScanner::deleteFinished, &LargeFilePage::onDeleteFinished);
+}
 
 bool LargeFilePage::eventFilter(QObject *watched, QEvent *event)
 {

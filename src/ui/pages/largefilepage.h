@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <memory>
+
 class FileCard;
 class LargeFileResultsView;
 class LargeFileSelectionView;
@@ -55,6 +57,7 @@ private:
     /// What a deletion was asked for by, which decides what is said at its end.
     enum class Deletion { OfTicked, OfOne };
 
+    void listenToScanner();
     void closeDialog();
     void serveCard(FileCard *card);
     void showFileMenu(FileCard *card, QPoint position);
@@ -68,6 +71,7 @@ private:
     void updateSummary();
 
     LargeFileScanner m_scanner;
+    std::unique_ptr<QObject> m_runReceiver = m_scanner.makeRunReceiver();
     LargeFileModel m_model;
     QStackedWidget *m_views;
     LargeFileSelectionView *m_selection;

@@ -11,9 +11,8 @@ namespace platform {
 /// Decides whether a file name matches any of a list of wildcards, ignoring case.
 ///
 /// The wildcards are those of QDir's name filters ("*", "?", "[...]"). An empty list matches every
-/// name. Every file of a walk is asked here, so wildcards without sets are compared directly. Only
-/// the others become regular expressions, which are slow and keep data of each thread that uses
-/// them: with some run-time libraries of Windows a program then waits at its end for ever.
+/// name. Every file of a walk is asked here, so wildcards without sets are compared directly; only
+/// the others become regular expressions, which are slow.
 class NameFilter
 {
 public:

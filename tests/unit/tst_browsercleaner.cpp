@@ -31,7 +31,7 @@ using State = CleanEngine::State;
 
 namespace {
 
-constexpr int patience = 30'000;
+constexpr int patience = 120'000; // milliseconds; for a busy machine
 constexpr char sleepArgument[] = "--sleep";
 const QString shipped = QStringLiteral(":/rules/browser_rules.json");
 

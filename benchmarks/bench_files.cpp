@@ -135,11 +135,11 @@ void cancelWalk(benchmark::State &state)
                 platform::walkFiles(root, {{}, true, &stop}, [](platform::WalkedFile &&) {});
         });
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        const auto told = std::chrono::steady_clock::now();
+        const auto stopTime = std::chrono::steady_clock::now();
         stop = true;
         walker.join();
         state.SetIterationTime(
-            std::chrono::duration<double>(std::chrono::steady_clock::now() - told).count());
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - stopTime).count());
     }
 }
 

@@ -30,17 +30,17 @@ exec 9> "$cache/lock"
 flock 9
 if [ ! -d "$sdk" ]; then
   # Made under another name, so that what bears the final name is always whole.
-  making=$(mktemp -d "$cache/making.XXXXXX")
-  trap 'rm -rf "$making"' EXIT
+  unfinished=$(mktemp -d "$cache/making.XXXXXX")
+  trap 'rm -rf "$unfinished"' EXIT
   if [ -f "$archive" ]; then
     echo "Unpacking $(basename "$archive")" >&2
-    tar -xJf "$archive" -C "$making" --strip-components=1
+    tar -xJf "$archive" -C "$unfinished" --strip-components=1
   else
     echo "Building Qt $version for Windows, once; this takes about 20 minutes on two cores" >&2
-    scripts/build-windows-sdk.sh "$making" >&2
+    scripts/build-windows-sdk.sh "$unfinished" >&2
   fi
-  chmod 755 "$making"
-  mv "$making" "$sdk"
+  chmod 755 "$unfinished"
+  mv "$unfinished" "$sdk"
   trap - EXIT
 fi
 echo "$sdk"

@@ -79,7 +79,7 @@ class Chromium:
 
         def port():
             if self._process.poll() is not None:
-                raise RuntimeError(f"Chromium ended with {self._process.returncode}: {self.printed()}")
+                raise RuntimeError(f"Chromium ended with {self._process.returncode}: {self.output()}")
             lines = port_file.read_text(encoding="ascii").split("\n") if port_file.exists() else []
             return lines[0] if len(lines) > 1 else ""
 
@@ -98,7 +98,7 @@ class Chromium:
             pass  # it is gone before it can answer
         code = self._process.wait(processes.PATIENCE)
         if code != 0:
-            raise RuntimeError(f"Chromium ended with {code}: {self.printed()}")
+            raise RuntimeError(f"Chromium ended with {code}: {self.output()}")
         exit_type = json.loads((self.profile / "Preferences").read_text(encoding="utf-8"))["profile"]["exit_type"]
         if exit_type != "Normal":
             raise RuntimeError(f"Chromium says of its last run: {exit_type}")
@@ -106,7 +106,7 @@ class Chromium:
     def close(self):
         self._driver.close()
 
-    def printed(self):
+    def output(self):
         return self._log.read_text(encoding="utf-8", errors="replace")
 
     def _counted_errors(self):
@@ -124,9 +124,9 @@ class Chromium:
     def complaints(self):
         """What it printed, counted, and left, that somebody would call broken."""
         bad = re.compile(r"corrupt|malformed|not a database|(failed|unable) to open|fatal|\bcrash(ed)?\b|check failed", re.I)
-        lines = [line for line in self.printed().splitlines() if bad.search(line)]
-        left = [*self._folders.root.rglob("*.dmp"), *self.profile.glob("*.bad")]
-        return lines + self._errors + [str(path) for path in left]
+        lines = [line for line in self.output().splitlines() if bad.search(line)]
+        leftovers = [*self._folders.root.rglob("*.dmp"), *self.profile.glob("*.bad")]
+        return lines + self._errors + [str(path) for path in leftovers]
 
     def _send(self, method, path, body=None):
         return self._driver.send(method, self._session + path, body)

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// What a scan offers and does not tick although the category is ticked.
-QJsonArray held(const ScanResult &result)
+QJsonArray findUntickedItems(const ScanResult &result)
 {
     QJsonArray list;
     for (const CleanCategory &category : result.categories) {
@@ -44,7 +44,7 @@ int main(int argc, char *argv[])
     QJsonObject outcome;
     QObject::connect(&cleaner, &CleanEngine::scanFinished, &cleaner, [&] {
         outcome.insert("found"_L1, std::as_const(cleaner).result().totalCount());
-        outcome.insert("held"_L1, held(std::as_const(cleaner).result()));
+        outcome.insert("unticked"_L1, findUntickedItems(std::as_const(cleaner).result()));
         if (what == "everything"_L1) {
             for (CleanCategory &category : cleaner.result().categories)
                 category.setChecked(true);

@@ -99,7 +99,7 @@ class Firefox:
 
         def port():
             if self._process.poll() is not None:
-                raise RuntimeError(f"Firefox ended with {self._process.returncode}: {self.printed()}")
+                raise RuntimeError(f"Firefox ended with {self._process.returncode}: {self.output()}")
             return port_file.exists() and port_file.read_text(encoding="ascii").strip()
 
         self._marionette = Marionette(int(processes.wait_for(port, "Firefox does not start")))
@@ -117,21 +117,21 @@ class Firefox:
         self._marionette.close()
         code = self._process.wait(processes.PATIENCE)
         if code != 0:
-            raise RuntimeError(f"Firefox ended with {code}: {self.printed()}")
+            raise RuntimeError(f"Firefox ended with {code}: {self.output()}")
 
     def close(self):
         if self._marionette:
             self._marionette.close()
 
-    def printed(self):
+    def output(self):
         return self._log.read_text(encoding="utf-8", errors="replace")
 
     def complaints(self):
         """What it printed, wrote to its console, and left, that somebody would call broken."""
         bad = re.compile(r"corrupt|malformed|not a database|fatal|\bcrash(ed)?\b", re.I)
-        lines = [line for line in self.printed().splitlines() + self._console if bad.search(line)]
-        left = [*self._folders.root.rglob("*.dmp"), *self.profile.glob("*.corrupt*")]
-        return lines + [str(path) for path in left]
+        lines = [line for line in self.output().splitlines() + self._console if bad.search(line)]
+        leftovers = [*self._folders.root.rglob("*.dmp"), *self.profile.glob("*.corrupt*")]
+        return lines + [str(path) for path in leftovers]
 
     def _send(self, command, **parameters):
         return self._marionette.send(command, **parameters)

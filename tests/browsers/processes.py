@@ -64,7 +64,7 @@ def descendants():
 
 def end_descendants():
     """Ends each of them by its id."""
-    def rest():
+    def have_all_ended():
         for process in descendants():
             try:
                 os.kill(process, signal.SIGKILL)
@@ -72,7 +72,7 @@ def end_descendants():
                 pass
         return not descendants()
 
-    wait_for(rest, "the programs that the test started do not end")
+    wait_for(have_all_ended, "the programs that the test started do not end")
     try:
         while os.waitpid(-1, os.WNOHANG)[0]:
             pass

@@ -55,11 +55,11 @@ class Folders:
 
     def close(self):
         # A program that was killed may have been writing still when the folder was listed.
-        def is_gone():
+        def is_removed():
             shutil.rmtree(self.root, ignore_errors=True)
             return not self.root.exists()
 
-        processes.wait_for(is_gone, f"{self.root} cannot be removed")
+        processes.wait_for(is_removed, f"{self.root} cannot be removed")
         self._temporary.cleanup()
 
 
@@ -97,14 +97,14 @@ class CleanedBrowser:
         for i in range(TABS):
             browser.open_tab(f"{origin}/tab/{mark}/{i}")
 
-    def kept(self, mark):
+    def read_back(self, mark):
         """What is there of all that, by kind."""
         browser, origin = self.browser, self.site.origin
         browser.go(f"{origin}/read")
         found = browser.in_page("return read()")
-        soonest = time.time() + pages.COOKIE_AGE / 2
+        earliest_expiry = time.time() + pages.COOKIE_AGE / 2
         found["cookies"] = sorted([name, cookie["value"], cookie["httpOnly"]] for name, cookie in browser.cookies().items()
-                                  if cookie.get("expiry", 0) > soonest)
+                                  if cookie.get("expiry", 0) > earliest_expiry)
         browser.go(browser.extension_page())
         found["extension"] = browser.in_page("return Object.entries(await chrome.storage.local.get()).sort()")
         found["bookmarks"] = browser.in_page(
@@ -144,30 +144,30 @@ class CleanedBrowser:
 
     def assert_kept(self, kinds, mark):
         """Of every kind, so that one message tells of all that is lost. What a browser reads a little later it is waited for."""
-        expected, lost = self.expected(mark), {}
+        expected, missing = self.expected(mark), {}
 
-        def is_there():
-            found = self.kept(mark)
-            lost.clear()
-            lost.update({kind: f"{len(found[kind])} of {len(expected[kind])}" for kind in kinds if found[kind] != expected[kind]})
-            return not lost
+        def has_all():
+            found = self.read_back(mark)
+            missing.clear()
+            missing.update({kind: f"{len(found[kind])} of {len(expected[kind])}" for kind in kinds if found[kind] != expected[kind]})
+            return not missing
 
         try:
-            processes.wait_for(is_there, "", patience=10)
+            processes.wait_for(has_all, "", patience=10)
         except TimeoutError:
             pass
-        if lost:
-            self.fail(f"{self.browser.name} has lost what the clean was to keep: {lost}")
+        if missing:
+            self.fail(f"{self.browser.name} has lost what the clean was to keep: {missing}")
 
-    def assert_lost(self, kinds, mark):
-        found = self.kept(mark)
+    def assert_removed(self, kinds, mark):
+        found = self.read_back(mark)
         self.assertEqual([kind for kind in kinds if found[kind]], [], "the clean left what it was to remove")
 
     def end_session(self):
         self.browser.quit()
         self.assertEqual(self.browser.complaints(), [], f"{self.browser.name} complains")
 
-    def test_a_default_clean_keeps_it_and_everything_leaves_a_working_browser(self):
+    def test_a_default_clean_keeps_data_and_a_full_one_leaves_a_working_browser(self):
         browser = self.browser
         browser.start()
         self.fill("first")
@@ -177,16 +177,16 @@ class CleanedBrowser:
 
         outcome = self.clean("default")
         self.assertEqual(browser.cache_files(), [], "the default clean left the cache")
-        gone = [item for item in outcome["held"] if not os.path.exists(item["path"])]
+        deleted = [item for item in outcome["unticked"] if not os.path.exists(item["path"])]
         browser.start()
         self.assert_kept(self.expected("first"), "first")
         self.end_session()
-        self.assertEqual(gone, [], "the clean took what was not ticked")
-        self.check_held(outcome["held"])
+        self.assertEqual(deleted, [], "the clean took what was not ticked")
+        self.check_unticked(outcome["unticked"])
 
         self.clean("everything")
         browser.start()
-        self.assert_lost(["local storage", "IndexedDB", "cookies", "history"], "first")
+        self.assert_removed(["local storage", "IndexedDB", "cookies", "history"], "first")
         self.fill("second")
         self.end_session()
         browser.start()
@@ -196,8 +196,8 @@ class CleanedBrowser:
     def check_before_default(self, mark):
         pass
 
-    def check_held(self, held):
-        self.assertEqual(held, [])
+    def check_unticked(self, unticked):
+        self.assertEqual(unticked, [])
 
 
 class TestChromium(CleanedBrowser, unittest.TestCase):
@@ -208,9 +208,9 @@ class TestChromium(CleanedBrowser, unittest.TestCase):
         self.assertEqual(self.browser.has_only_in_write_ahead_file(mark),
                          {"local storage": True, "IndexedDB": True, "extension": True})
 
-    def check_held(self, held):
-        self.assertTrue(held)
-        for item in held:
+    def check_unticked(self, unticked):
+        self.assertTrue(unticked)
+        for item in unticked:
             self.assertTrue(item["path"].endswith(".log") and item["riskLevel"] == 2 and item["description"], item)
 
 

@@ -62,34 +62,34 @@ void ActionLog::close()
 
 void ActionLog::begin(int action)
 {
-    m_number = action;
-    m_beats.fetch_add(1, std::memory_order_relaxed);
+    m_action = action;
+    m_startedActions.fetch_add(1, std::memory_order_relaxed);
     describe(u"is about to be chosen"_s);
 }
 
 void ActionLog::describe(const QString &text)
 {
-    auto &line = m_lines.at(static_cast<std::size_t>(m_number % kept));
-    const QByteArray plain = singleLine(text).toUtf8();
-    std::snprintf(line.data(), line.size(), "%7d  %s", m_number, plain.constData());
+    auto &line = m_lines.at(static_cast<std::size_t>(m_action % keptLines));
+    const QByteArray utf8 = singleLine(text).toUtf8();
+    std::snprintf(line.data(), line.size(), "%7d  %s", m_action, utf8.constData());
 }
 
-void ActionLog::trace() const
+void ActionLog::printLine() const
 {
     if (m_isTracing)
-        std::printf("%s\n", m_lines.at(static_cast<std::size_t>(m_number % kept)).data());
+        std::printf("%s\n", m_lines.at(static_cast<std::size_t>(m_action % keptLines)).data());
 }
 
 void ActionLog::print(const char *message) const
 {
     std::fprintf(stderr, "The last actions:\n");
-    for (int i = 1; i <= kept; ++i) {
-        const auto &line = m_lines.at(static_cast<std::size_t>((m_number + i) % kept));
+    for (int i = 1; i <= keptLines; ++i) {
+        const auto &line = m_lines.at(static_cast<std::size_t>((m_action + i) % keptLines));
         if (line.front() != '\0')
             std::fprintf(stderr, "%s\n", line.data());
     }
     std::fprintf(stderr, "FAILED: seed %llu, page %s, action %d: %s\n",
-                 static_cast<unsigned long long>(m_seed), m_page.data(), m_number, message);
+                 static_cast<unsigned long long>(m_seed), m_page.data(), m_action, message);
     std::fflush(stderr);
 }
 
@@ -117,15 +117,15 @@ void ActionLog::onCrash(int signal)
 
 void ActionLog::watch()
 {
-    quint64 seen = m_beats;
-    auto since = std::chrono::steady_clock::now();
+    quint64 lastStarted = m_startedActions;
+    auto lastChange = std::chrono::steady_clock::now();
     std::unique_lock lock(m_mutex);
     while (!m_closing.wait_for(lock, std::chrono::seconds(1), [this] { return m_isClosed; })) {
         const auto now = std::chrono::steady_clock::now();
-        if (const quint64 beats = m_beats; beats != seen) {
-            seen = beats;
-            since = now;
-        } else if (now - since > std::chrono::seconds(m_patience)) {
+        if (const quint64 started = m_startedActions; started != lastStarted) {
+            lastStarted = started;
+            lastChange = now;
+        } else if (now - lastChange > std::chrono::seconds(m_patience)) {
             print("the action does not end");
             std::_Exit(1);
         }

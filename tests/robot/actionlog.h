@@ -33,7 +33,7 @@ public:
     void begin(int action);
     void describe(const QString &text);
     /// Called when the line is complete.
-    void trace() const;
+    void printLine() const;
 
     [[noreturn]] void fail(const QString &message);
 
@@ -47,18 +47,18 @@ private:
     void watch();
     void print(const char *message) const;
 
-    static constexpr int kept = 30;
-    static constexpr int longest = 400;
+    static constexpr int keptLines = 30;
+    static constexpr int maxLineLength = 400;
 
     quint64 m_seed = 0;
     std::array<char, 32> m_page{};
     int m_patience = 0;
     bool m_isTracing = false;
-    int m_number = 0;
+    int m_action = 0;
     // Plain text, so that a crash or another thread can print it.
-    std::array<std::array<char, longest>, kept> m_lines{};
+    std::array<std::array<char, maxLineLength>, keptLines> m_lines{};
     std::function<void()> m_cleanUp;
-    std::atomic<quint64> m_beats = 0;
+    std::atomic<quint64> m_startedActions = 0;
     std::mutex m_mutex;
     std::condition_variable m_closing;
     bool m_isClosed = false;
@@ -67,8 +67,8 @@ private:
 
 /// Fails when @p holds is not true; @p message makes the text for that case.
 template<class Message>
-void expect(bool holds, Message message)
+void expect(bool isTrue, Message message)
 {
-    if (!holds)
+    if (!isTrue)
         ActionLog::instance().fail(message());
 }

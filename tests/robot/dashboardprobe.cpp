@@ -2,10 +2,10 @@
 
 #include "application.h"
 #include "browsercleaner.h"
+#include "checks.h"
 #include "dashboardpage.h"
 #include "fullscan.h"
 #include "junkcleaner.h"
-#include "look.h"
 #include "registrycleaner.h"
 
 #include <QLabel>
@@ -25,11 +25,11 @@ qint64 sizeOf(const ScanResult &result)
 }
 
 /// One decimal for gigabytes too.
-QString figure(qint64 bytes)
+QString figureText(qint64 bytes)
 {
     constexpr qint64 gibibyte = 1 << 30;
     return bytes < gibibyte
-        ? look::sizeText(bytes)
+        ? checks::sizeText(bytes)
         : QString::number(static_cast<double>(bytes) / double(gibibyte), 'f', 1) + " GB"_L1;
 }
 
@@ -38,7 +38,7 @@ QString figure(qint64 bytes)
 DashboardProbe::DashboardProbe(DashboardPage *page, const FullScan *scan)
     : m_page(page)
 {
-    connect(scan, &FullScan::finished, this, &DashboardProbe::takeFigures);
+    connect(scan, &FullScan::finished, this, &DashboardProbe::updateFigures);
 }
 
 QString DashboardProbe::name() const
@@ -56,15 +56,15 @@ QStringList DashboardProbe::controls() const
     return {u"startFullScanBtn"_s, u"dashboardScanBtn"_s, u"dashboardCleanBtn"_s, u"statCard"_s};
 }
 
-void DashboardProbe::takeFigures()
+void DashboardProbe::updateFigures()
 {
     const auto *application = Application::instance();
     qsizetype entries = 0;
     for (const CleanCategory &category :
          std::as_const(*application->registryCleaner()).result().categories)
         entries += category.items.size();
-    m_figures = {figure(sizeOf(std::as_const(*application->junkCleaner()).result())),
-                 figure(sizeOf(std::as_const(*application->browserCleaner()).result())),
+    m_figures = {figureText(sizeOf(std::as_const(*application->junkCleaner()).result())),
+                 figureText(sizeOf(std::as_const(*application->browserCleaner()).result())),
                  u"%1 items"_s.arg(entries)};
 }
 
@@ -76,5 +76,5 @@ void DashboardProbe::check()
     const auto labels = m_page->findChildren<QLabel *>(u"statValue"_s);
     for (const QLabel *label : labels)
         shown.append(label->text());
-    look::compare(u"the dashboard"_s, shown.join(u'|'), m_figures.join(u'|'));
+    checks::compare(u"the dashboard"_s, shown.join(u'|'), m_figures.join(u'|'));
 }

@@ -24,7 +24,7 @@ public:
     void check() override;
 
 private:
-    void takeFigures();
+    void updateFigures();
 
     DashboardPage *m_page;
     QStringList m_figures; ///< as they must be shown; none before the first scan

@@ -70,7 +70,7 @@ std::optional<QString> drawnText(const QWidget *row, const QString &name)
     return button ? std::optional(button->text()) : std::nullopt;
 }
 
-bool isShortFor(const QString &drawn, const QString &full)
+bool isShortenedText(const QString &drawn, const QString &full)
 {
     const QString line = singleLine(full);
     if (drawn == line)
@@ -86,15 +86,15 @@ bool isShortFor(const QString &drawn, const QString &full)
     return false;
 }
 
-QList<QWidget *> rowsFromTheTop(const QAbstractScrollArea *area, int x, const QList<QString> &names)
+QList<QWidget *> findRows(const QAbstractScrollArea *area, int x, const QList<QString> &names)
 {
     QList<QWidget *> rows;
     const QWidget *viewport = area->viewport();
     QWidget *window = area->window();
-    const QRect seen = visibleRect(viewport);
-    int y = seen.top();
-    while (y <= seen.bottom()) {
-        QWidget *row = rowAt(window, {seen.left() + x, y}, viewport, names);
+    const QRect visible = visibleRect(viewport);
+    int y = visible.top();
+    while (y <= visible.bottom()) {
+        QWidget *row = rowAt(window, {visible.left() + x, y}, viewport, names);
         if (!row) {
             y += 2;
             continue;
@@ -104,7 +104,7 @@ QList<QWidget *> rowsFromTheTop(const QAbstractScrollArea *area, int x, const QL
         expect(rect.top() >= y - 1,
                [&] { return u"%1 goes on below what lies over it"_s.arg(describe(row)); });
         expect(!rows.contains(row), [&] { return u"%1 is drawn twice"_s.arg(describe(row)); });
-        const QWidget *end = rowAt(window, {seen.left() + x, rect.bottom()}, viewport, names);
+        const QWidget *end = rowAt(window, {visible.left() + x, rect.bottom()}, viewport, names);
         expect(end == row, [&] {
             return u"%1 lies over the end of %2"_s.arg(end ? describe(end) : u"nothing"_s,
                                                        describe(row));

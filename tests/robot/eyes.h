@@ -27,12 +27,12 @@ namespace eyes {
 [[nodiscard]] bool isDrawn(const QWidget *widget);
 
 /// Whether @p drawn is @p full, or @p full shortened in the middle, in one harmless line.
-[[nodiscard]] bool isShortFor(const QString &drawn, const QString &full);
+[[nodiscard]] bool isShortenedText(const QString &drawn, const QString &full);
 
 /// The rows that are drawn in a scroll area from top to bottom, found pixel by pixel at @p x of
 /// its visible part: widgets with one of the object names. Fails when one lies over another.
-[[nodiscard]] QList<QWidget *> rowsFromTheTop(const QAbstractScrollArea *area, int x,
-                                              const QList<QString> &names);
+[[nodiscard]] QList<QWidget *> findRows(const QAbstractScrollArea *area, int x,
+                                        const QList<QString> &names);
 
 /// The nearest scroll area around @p widget; null where there is none.
 [[nodiscard]] QAbstractScrollArea *scrollAreaAround(QWidget *widget);

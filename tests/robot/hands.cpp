@@ -10,9 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr ulong betweenClicks = 1000; ///< too long for a double click
-constexpr ulong betweenTwo = 50;
-constexpr int notch = 120; ///< eighths of a degree
+constexpr ulong separateClickGap = 1000; ///< too long for a double click
+constexpr ulong doubleClickGap = 50;
+constexpr int wheelNotch = 120; ///< eighths of a degree
 
 using Window = QWindowSystemInterface;
 
@@ -82,7 +82,7 @@ bool Hands::isBlocked(const QWidget *window)
     return modal && window != modal && !modal->isAncestorOf(window);
 }
 
-QWindow *Hands::target(QPoint global) const
+QWindow *Hands::targetWindow(QPoint global) const
 {
     // An open menu gets every event, wherever the mouse is.
     const QWidget *window = QApplication::activePopupWidget();
@@ -103,14 +103,14 @@ void Hands::send(QWindow *window, QPoint global, Qt::MouseButton button, bool is
 
 void Hands::move(QPoint global)
 {
-    m_clock += betweenClicks;
-    send(target(global), global, Qt::NoButton, false);
+    m_clock += separateClickGap;
+    send(targetWindow(global), global, Qt::NoButton, false);
 }
 
 void Hands::click(QPoint global, Qt::MouseButton button, int times)
 {
     move(global);
-    QWindow *window = target(global);
+    QWindow *window = targetWindow(global);
     QWidget *widget = QWidget::find(window->winId());
     if (widget && window != QGuiApplication::focusWindow() && !isBlocked(widget)
         && !QApplication::activePopupWidget())
@@ -118,19 +118,19 @@ void Hands::click(QPoint global, Qt::MouseButton button, int times)
     for (int i = 0; i < times; ++i) {
         send(window, global, button, true);
         send(window, global, button, false);
-        m_clock += betweenTwo;
+        m_clock += doubleClickGap;
     }
 }
 
 void Hands::drag(QPoint from, QPoint to)
 {
     move(from);
-    QWindow *window = target(from);
+    QWindow *window = targetWindow(from);
     constexpr int steps = 4;
     send(window, from, Qt::LeftButton, true);
     for (int i = 1; i <= steps; ++i) {
         const QPoint global = from + (to - from) * i / steps;
-        m_clock += betweenTwo;
+        m_clock += doubleClickGap;
         Window::handleMouseEvent<Window::AsynchronousDelivery>(
             window, m_clock, QPointF(global - window->position()), QPointF(global), Qt::LeftButton,
             Qt::NoButton, QEvent::MouseMove);
@@ -140,11 +140,11 @@ void Hands::drag(QPoint from, QPoint to)
 
 void Hands::wheel(QPoint global, int notches)
 {
-    QWindow *window = target(global);
+    QWindow *window = targetWindow(global);
     const int count = qAbs(notches);
     for (int i = 0; i < count; ++i)
         Window::handleWheelEvent(window, QPointF(global - window->position()), QPointF(global), {},
-                                 {0, notches > 0 ? notch : -notch});
+                                 {0, notches > 0 ? wheelNotch : -wheelNotch});
 }
 
 void Hands::key(int key, Qt::KeyboardModifiers modifiers)
@@ -164,7 +164,7 @@ void Hands::type(const QString &text)
         sendKey(window, c.toUpper().unicode(), Qt::NoModifier, c);
 }
 
-bool Hands::isWaiting()
+bool Hands::hasPendingEvents()
 {
     return Window::windowSystemEventsQueued() > 0;
 }

@@ -34,7 +34,7 @@ public:
     void type(const QString &text);
 
     /// Whether the program has not yet taken all of that.
-    [[nodiscard]] static bool isWaiting();
+    [[nodiscard]] static bool hasPendingEvents();
 
     /// What a window system does by itself: when the active window has gone, another one becomes
     /// active. Whether that was so.
@@ -42,7 +42,7 @@ public:
 
 private:
     void send(QWindow *window, QPoint global, Qt::MouseButton button, bool isDown);
-    [[nodiscard]] QWindow *target(QPoint global) const;
+    [[nodiscard]] QWindow *targetWindow(QPoint global) const;
 
     QWidget *m_mainWindow;
     ulong m_clock = 0; ///< milliseconds; the only ones that tell a double click from two clicks

@@ -1,7 +1,7 @@
 #include "judge.h"
 
 #include "actionlog.h"
-#include "look.h"
+#include "checks.h"
 #include "registryworld.h"
 #include "world.h"
 
@@ -17,22 +17,22 @@ using eyes::describe;
 
 namespace {
 
-constexpr int betweenLooks = 25; ///< actions; nobody has confirmed a deletion meanwhile
+constexpr int fileCheckInterval = 25; ///< actions; nobody has confirmed a deletion meanwhile
 
 const QString runKey = u"hkcu\\software\\microsoft\\windows\\currentversion\\run\\"_s;
 
-QString joined(const QStringList &list)
+QString joinFirst(const QStringList &list)
 {
     return list.isEmpty() ? u"nothing"_s : list.mid(0, 5).join(u" | "_s);
 }
 
-QStringList without(const QStringList &list, const QStringList &others)
+QStringList subtract(const QStringList &list, const QStringList &others)
 {
     const QSet<QString> set(others.begin(), others.end());
-    QStringList rest;
-    std::copy_if(list.begin(), list.end(), std::back_inserter(rest),
+    QStringList difference;
+    std::copy_if(list.begin(), list.end(), std::back_inserter(difference),
                  [&set](const QString &text) { return !set.contains(text); });
-    return rest;
+    return difference;
 }
 
 } // namespace
@@ -46,7 +46,7 @@ Judge::Judge(const QList<PageProbe *> &probes, World *world, RegistryWorld *regi
         m_ticks.append(probe->ticks());
 }
 
-void Judge::expectFrom(const Action &action)
+void Judge::expectEffects(const Action &action)
 {
     if (action.probe && action.probe->name() == "startup"_L1
         && action.effect != Action::Effect::None)
@@ -68,14 +68,14 @@ void Judge::judge(const Action &action, bool isIdle)
     QList<Ticks> now;
     for (const PageProbe *probe : std::as_const(m_probes))
         now.append(probe->ticks());
-    judgeBeginning(isIdle);
+    judgeDeletionStart(isIdle);
     if (isIdle) {
         judgeScrolling(action);
-        if (m_isConfirmed || m_judged % betweenLooks == 0)
+        if (m_isConfirmed || m_judgedActions % fileCheckInterval == 0)
             judgeFiles();
         judgeRegistry();
-        const bool isForeseen = m_isSure && action.effect != Action::Effect::Unknown;
-        for (qsizetype i = 0; i < now.size() && isForeseen; ++i)
+        const bool isPredictable = m_wasIdle && action.effect != Action::Effect::Unknown;
+        for (qsizetype i = 0; i < now.size() && isPredictable; ++i)
             judgeTicks(action, m_probes.at(i), m_ticks.at(i), now.at(i));
         if (const auto *box = qobject_cast<const QMessageBox *>(QApplication::activeModalWidget()))
             judgeMessage(box);
@@ -85,65 +85,65 @@ void Judge::judge(const Action &action, bool isIdle)
         m_files.clear();
         m_entries.clear();
     }
-    m_isSure = isIdle;
+    m_wasIdle = isIdle;
     m_ticks = now;
-    ++m_judged;
+    ++m_judgedActions;
 }
 
 // Every deletion begins with a confirmation, and a confirmation begins one, unless more is asked.
-void Judge::judgeBeginning(bool isIdle)
+void Judge::judgeDeletionStart(bool isIdle)
 {
-    int begun = 0;
+    int startedCount = 0;
     for (const PageProbe *probe : std::as_const(m_probes))
-        begun += probe->deletions();
-    expect(begun == m_deletionCount || m_isConfirmed,
+        startedCount += probe->deletions();
+    expect(startedCount == m_deletionCount || m_isConfirmed,
            [] { return u"a deletion began that nobody has confirmed"_s; });
-    m_deletionCount = begun;
+    m_deletionCount = startedCount;
     if (!isIdle)
         return;
-    if (m_isConfirmed && begun == m_settledCount) {
+    if (m_isConfirmed && startedCount == m_idleDeletionCount) {
         expect(m_isInterrupted || QApplication::activeModalWidget(),
                [] { return u"what was confirmed did not begin"_s; });
         m_isConfirmed = false;
         m_files.clear();
         m_entries.clear();
     }
-    m_settledCount = begun;
+    m_idleDeletionCount = startedCount;
 }
 
-void Judge::judgeTicks(const Action &action, const PageProbe *probe, const Ticks &was,
-                       const Ticks &is)
+void Judge::judgeTicks(const Action &action, const PageProbe *probe, const Ticks &before,
+                       const Ticks &after)
 {
-    if (was.listing != is.listing || was.keys.isEmpty())
+    if (before.listing != after.listing || before.keys.isEmpty())
         return;
-    const bool isMeant = action.probe == probe && action.effect != Action::Effect::None;
+    const bool hasTarget = action.probe == probe && action.effect != Action::Effect::None;
     const int first = action.row.first;
-    const int end = isMeant ? first + action.row.count : first;
-    const bool wereAll = isMeant
-        && std::all_of(was.values.cbegin() + first, was.values.cbegin() + end,
+    const int end = hasTarget ? first + action.row.count : first;
+    const bool wereAllTicked = hasTarget
+        && std::all_of(before.values.cbegin() + first, before.values.cbegin() + end,
                        [](bool value) { return value; });
-    const bool hasGone = is.keys.size() != was.keys.size();
-    QHash<QString, qsizetype> places;
-    for (qsizetype i = 0; hasGone && i < is.keys.size(); ++i)
-        places.insert(is.keys.at(i), i);
-    for (int i = 0; i < was.keys.size(); ++i) {
-        const qsizetype place = hasGone ? places.value(was.keys.at(i), -1) : i;
+    const bool hasRemovals = after.keys.size() != before.keys.size();
+    QHash<QString, qsizetype> newIndexes;
+    for (qsizetype i = 0; hasRemovals && i < after.keys.size(); ++i)
+        newIndexes.insert(after.keys.at(i), i);
+    for (int i = 0; i < before.keys.size(); ++i) {
+        const qsizetype newIndex = hasRemovals ? newIndexes.value(before.keys.at(i), -1) : i;
         const auto tell = [&](const QString &what) {
-            return u"%1: record %2, %3, %4"_s.arg(probe->name(), QString::number(i), was.keys.at(i),
-                                                  what);
+            return u"%1: record %2, %3, %4"_s.arg(probe->name(), QString::number(i),
+                                                  before.keys.at(i), what);
         };
-        expect(place >= 0 || m_isConfirmed, [&] { return tell(u"is no longer listed"_s); });
-        if (place < 0)
+        expect(newIndex >= 0 || m_isConfirmed, [&] { return tell(u"is no longer listed"_s); });
+        if (newIndex < 0)
             continue;
-        const bool hasChanged = was.values.at(i) != is.values.at(place);
+        const bool hasChanged = before.values.at(i) != after.values.at(newIndex);
         m_tickCount += hasChanged ? 1 : 0;
-        if (!isMeant || i < first || i >= end) {
-            const bool isTied = isMeant && probe->isTied(first, i);
-            expect(!hasChanged || isTied,
+        if (!hasTarget || i < first || i >= end) {
+            const bool canAffect = hasTarget && probe->canAffect(first, i);
+            expect(!hasChanged || canAffect,
                    [&] { return tell(u"was ticked or unticked by a click on something else"_s); });
         } else if (action.effect == Action::Effect::Exact) {
             const bool isExpected = action.row.meaning == Row::Meaning::All
-                ? is.values.at(place) != wereAll
+                ? after.values.at(newIndex) != wereAllTicked
                 : hasChanged;
             expect(isExpected, [&] { return tell(u"did not take the click on its box"_s); });
         }
@@ -159,7 +159,7 @@ void Judge::judgeFocus(const Action &action) const
         expect(!action.isTab || focus == action.focusBefore || !eyes::visibleRect(focus).isEmpty(),
                [&] { return u"the focus went to %1, out of sight"_s.arg(describe(focus)); });
     }
-    if (!action.keepsFocus || !action.focusBefore || !m_isSure)
+    if (!action.keepsFocus || !action.focusBefore || !m_wasIdle)
         return;
     expect(focus == action.focusBefore
                && focus->property("filePath").toString() == action.focusPath,
@@ -171,7 +171,7 @@ void Judge::judgeFocus(const Action &action) const
 
 void Judge::judgeScrolling(const Action &action) const
 {
-    if (!action.bar || !m_isSure)
+    if (!action.bar || !m_wasIdle)
         return;
     const int moved = (action.bar->value() - action.valueBefore) * action.direction;
     const bool isAtEnd = action.bar->value()
@@ -185,56 +185,60 @@ void Judge::judgeScrolling(const Action &action) const
 
 void Judge::judgeFiles()
 {
-    const QStringList gone = m_world->lookForGone();
-    m_lastGone = gone.size();
-    m_deletedCount += static_cast<int>(gone.size());
-    const QStringList stray = without(gone, m_files);
-    expect(stray.isEmpty(), [&] {
+    const QStringList deleted = m_world->findDeleted();
+    m_lastDeletedCount = deleted.size();
+    m_deletedCount += static_cast<int>(deleted.size());
+    const QStringList unexpected = subtract(deleted, m_files);
+    expect(unexpected.isEmpty(), [&] {
         return u"deleted, though %1: %2"_s.arg(
-            m_isConfirmed ? u"not ticked"_s : u"nothing was confirmed"_s, joined(stray));
+            m_isConfirmed ? u"not ticked"_s : u"nothing was confirmed"_s, joinFirst(unexpected));
     });
-    const QStringList left = without(m_files, gone);
+    const QStringList remaining = subtract(m_files, deleted);
     expect(
         m_isInterrupted
-            || std::all_of(left.begin(), left.end(),
+            || std::all_of(remaining.begin(), remaining.end(),
                            [this](const QString &path) { return m_world->resistsDeletion(path); }),
-        [&] { return u"ticked and confirmed, but not deleted: %1"_s.arg(joined(left)); });
+        [&] { return u"ticked and confirmed, but not deleted: %1"_s.arg(joinFirst(remaining)); });
 }
 
 void Judge::judgeRegistry()
 {
     const RegistryState &now = m_registry->state();
-    const RegistryState &before = m_registry->accepted();
-    const QStringList lost = RegistryWorld::lost(before, now);
-    const QStringList added = RegistryWorld::lost(now, before);
+    const RegistryState &before = m_registry->acceptedState();
+    const QStringList lost = RegistryWorld::findLost(before, now);
+    const QStringList added = RegistryWorld::findLost(now, before);
     if (lost.isEmpty() && added.isEmpty() && m_entries.isEmpty())
         return;
     if (m_isStartListTouched) {
         judgeStartList(lost, added);
     } else {
-        const QStringList meant =
-            RegistryWorld::lost(before, m_registry->without(before, m_entries));
-        const QStringList stray = without(lost, meant);
-        expect(stray.isEmpty() && added.isEmpty(), [&] {
-            return u"the registry lost %1 and got %2"_s.arg(joined(stray), joined(added));
+        const QStringList expectedLost =
+            RegistryWorld::findLost(before, m_registry->stateWithout(before, m_entries));
+        const QStringList unexpected = subtract(lost, expectedLost);
+        expect(unexpected.isEmpty() && added.isEmpty(), [&] {
+            return u"the registry lost %1 and got %2"_s.arg(joinFirst(unexpected),
+                                                            joinFirst(added));
         });
-        const QStringList left = without(meant, lost);
-        expect(m_isInterrupted || left.isEmpty(),
-               [&] { return u"ticked and confirmed, but not removed: %1"_s.arg(joined(left)); });
+        const QStringList remaining = subtract(expectedLost, lost);
+        expect(m_isInterrupted || remaining.isEmpty(), [&] {
+            return u"ticked and confirmed, but not removed: %1"_s.arg(joinFirst(remaining));
+        });
         m_deletedCount += static_cast<int>(lost.size());
     }
-    m_registry->accept();
+    m_registry->acceptState();
 }
 
 // A click adds one program or takes one out; a program of the same name gives way.
 void Judge::judgeStartList(const QStringList &lost, const QStringList &added) const
 {
     const auto isEntry = [](const QString &name) { return name.startsWith(runKey); };
-    expect(
-        lost.size() <= 1 && added.size() <= 1 && std::all_of(lost.begin(), lost.end(), isEntry)
-            && std::all_of(added.begin(), added.end(), isEntry)
-            && (lost.isEmpty() || added.isEmpty() || lost == added),
-        [&] { return u"the start-up list lost %1 and got %2"_s.arg(joined(lost), joined(added)); });
+    expect(lost.size() <= 1 && added.size() <= 1 && std::all_of(lost.begin(), lost.end(), isEntry)
+               && std::all_of(added.begin(), added.end(), isEntry)
+               && (lost.isEmpty() || added.isEmpty() || lost == added),
+           [&] {
+               return u"the start-up list lost %1 and got %2"_s.arg(joinFirst(lost),
+                                                                    joinFirst(added));
+           });
 }
 
 // What is asked before a deletion, and told after it, is about what is ticked.
@@ -247,7 +251,7 @@ void Judge::judgeMessage(const QMessageBox *box) const
     const bool isQuestion = box->windowTitle().startsWith("Confirm"_L1);
     if (!isQuestion && !m_isConfirmed)
         return; // it stood there before
-    qsizetype expected = m_lastGone;
+    qsizetype expected = m_lastDeletedCount;
     if (isQuestion) {
         for (const PageProbe *probe : m_probes) {
             if (probe->page()->isVisible())

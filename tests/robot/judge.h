@@ -17,12 +17,12 @@ public:
     Judge(const QList<PageProbe *> &probes, World *world, RegistryWorld *registry);
 
     /// Takes notice of a action that is under way but has had no effect yet.
-    void expectFrom(const Action &action);
+    void expectEffects(const Action &action);
     /// Compares what it has led to. @p isIdle tells that everything it began is over; otherwise
     /// only what must always hold is looked at.
     void judge(const Action &action, bool isIdle);
     /// Notes that what was confirmed may not be done to its end.
-    void interrupt() { m_isInterrupted = true; }
+    void noteInterruption() { m_isInterrupted = true; }
     /// Looks at everything, into every file too.
     void compareFully();
 
@@ -32,9 +32,9 @@ public:
     [[nodiscard]] int deletedCount() const { return m_deletedCount; }
 
 private:
-    void judgeBeginning(bool isIdle);
-    void judgeTicks(const Action &action, const PageProbe *probe, const Ticks &was,
-                    const Ticks &is);
+    void judgeDeletionStart(bool isIdle);
+    void judgeTicks(const Action &action, const PageProbe *probe, const Ticks &before,
+                    const Ticks &after);
     void judgeFocus(const Action &action) const;
     void judgeScrolling(const Action &action) const;
     void judgeFiles();
@@ -46,17 +46,17 @@ private:
     World *m_world;
     RegistryWorld *m_registry;
     QList<Ticks> m_ticks; ///< after the last action, by probe
-    int m_judged = 0;
+    int m_judgedActions = 0;
     // Since nothing was at work for the last time:
     bool m_isConfirmed = false;
     bool m_isInterrupted = false;
     bool m_isStartListTouched = false;
-    bool m_isSure = true; ///< it still holds
+    bool m_wasIdle = true; ///< it still holds
     QStringList m_files; ///< whose deletion was confirmed
     QStringList m_entries; ///< the same of the registry
-    qsizetype m_lastGone = 0; ///< files of the last deletion
+    qsizetype m_lastDeletedCount = 0; ///< files of the last deletion
     int m_tickCount = 0;
     int m_deletionCount = 0;
-    int m_settledCount = 0; ///< the same when nothing was at work for the last time
+    int m_idleDeletionCount = 0; ///< the same when nothing was at work for the last time
     int m_deletedCount = 0;
 };

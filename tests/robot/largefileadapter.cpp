@@ -42,7 +42,7 @@ bool isBusy(LargeFilePage *page)
     return page->scanner()->isRunning() || page->scanner()->isDeleting();
 }
 
-void onDeletion(LargeFilePage *page, QObject *receiver, const std::function<void()> &call)
+void connectDeletion(LargeFilePage *page, QObject *receiver, const std::function<void()> &call)
 {
     QObject::connect(page->model(), &LargeFileModel::rowsRemoved, receiver, call);
 }

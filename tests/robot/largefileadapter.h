@@ -23,6 +23,6 @@ namespace largefileadapter {
 [[nodiscard]] bool isBusy(LargeFilePage *page);
 
 /// Has @p receiver called when files have been deleted, before the page tells of it.
-void onDeletion(LargeFilePage *page, QObject *receiver, const std::function<void()> &call);
+void connectDeletion(LargeFilePage *page, QObject *receiver, const std::function<void()> &call);
 
 } // namespace largefileadapter

@@ -1,9 +1,9 @@
 #include "largefileprobe.h"
 
+#include "checks.h"
 #include "largefileadapter.h"
 #include "largefilepage.h"
 #include "largefilescanner.h"
-#include "look.h"
 #include "scanprogressdialog.h"
 #include "world.h"
 
@@ -18,11 +18,11 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using look::child;
+using checks::child;
 
 namespace {
 
-constexpr int column = 200; ///< where rows are looked for, from the left edge of the list
+constexpr int rowSearchX = 200; ///< where rows are looked for, from the left edge of the list
 
 } // namespace
 
@@ -34,11 +34,11 @@ LargeFileProbe::LargeFileProbe(LargeFilePage *page, const World *world)
     , m_sizes(child<QComboBox>(page, u"sizeCombo"_s))
 {
     const LargeFileScanner *scanner = page->scanner();
-    connect(scanner, &LargeFileScanner::scanStarted, this, &LargeFileProbe::rememberChoice);
-    largefileadapter::onDeletion(page, this, [this] { ++m_deletions; });
+    connect(scanner, &LargeFileScanner::scanStarted, this, &LargeFileProbe::storeScanOptions);
+    largefileadapter::connectDeletion(page, this, [this] { ++m_deletions; });
     connect(scanner, &LargeFileScanner::scanFinished, this, [this](int count) {
         ++m_listing;
-        m_isFresh = count > 0; // else the page does not go on to the list
+        m_hasNewListing = count > 0; // else the page does not go on to the list
         if (count == 0)
             checkNothingIsMissing({});
     });
@@ -59,7 +59,7 @@ QStringList LargeFileProbe::controls() const
     return {u"deleteBtn"_s, u"deleteBtn"_s, u"deleteBtn"_s, u"backBtn"_s};
 }
 
-QStringList LargeFileProbe::beginning() const
+QStringList LargeFileProbe::startControls() const
 {
     return {u"startScanBtn"_s, u"startScanBtn"_s, u"startScanBtn"_s, u"driveCard"_s,
             u"sizeCombo"_s};
@@ -99,13 +99,13 @@ QStringList LargeFileProbe::chosen() const
     return paths;
 }
 
-QList<Row> LargeFileProbe::look() const
+QList<Row> LargeFileProbe::visibleRows() const
 {
     if (!list())
         return {};
     const QList<LargeFileInfo> files = largefileadapter::files(m_page);
     const QList<bool> ticks = largefileadapter::ticks(m_page);
-    const QList<QWidget *> seen = eyes::rowsFromTheTop(m_area, column, {u"fileCard"_s});
+    const QList<QWidget *> seen = eyes::findRows(m_area, rowSearchX, {u"fileCard"_s});
     const int top = eyes::visibleRect(m_area->viewport()).top();
     expect(seen.isEmpty() == files.isEmpty(), [&] {
         return u"%1 cards are seen of %2"_s.arg(QString::number(seen.size()),
@@ -123,14 +123,14 @@ QList<Row> LargeFileProbe::look() const
                                                                   QString::number(number));
                });
         const LargeFileInfo &file = files.at(number);
-        look::checkText(card, u"fileName"_s, file.name);
-        look::checkText(card, u"fileFolder"_s, file.directory);
-        look::checkText(card, u"sizeBadge"_s, look::sizeText(file.size));
+        checks::checkText(card, u"fileName"_s, file.name);
+        checks::checkText(card, u"fileFolder"_s, file.directory);
+        checks::checkText(card, u"sizeBadge"_s, checks::sizeText(file.size));
         auto *box = card->findChild<QCheckBox *>();
         for (const QWidget *widget : {card, static_cast<QWidget *>(box)})
-            look::compare(u"the path of row %1"_s.arg(number),
-                          widget->property("filePath").toString(), file.path);
-        look::checkBox(box, ticks.at(number) ? 1 : 0, 1);
+            checks::compare(u"the path of row %1"_s.arg(number),
+                            widget->property("filePath").toString(), file.path);
+        checks::checkBox(box, ticks.at(number) ? 1 : 0, 1);
         rows.append({card, Row::Meaning::Box, number, 1, box, rect});
     }
     // What is not drawn in its row must not be drawn at all.
@@ -168,23 +168,24 @@ void LargeFileProbe::check()
         size += files.at(i).size;
         ++count;
     }
-    look::compare(u"the summary"_s, child<QLabel>(m_page, u"summaryLabel"_s)->text(),
-                  u"Found %1 large files, total %2"_s.arg(QString::number(files.size()),
-                                                          look::sizeText(all)));
-    look::compare(u"the selection"_s, child<QLabel>(m_page, u"selectedLabel"_s)->text(),
-                  u"Selected: %1 files (%2)"_s.arg(QString::number(count), look::sizeText(size)));
+    checks::compare(u"the summary"_s, child<QLabel>(m_page, u"summaryLabel"_s)->text(),
+                    u"Found %1 large files, total %2"_s.arg(QString::number(files.size()),
+                                                            checks::sizeText(all)));
+    checks::compare(
+        u"the selection"_s, child<QLabel>(m_page, u"selectedLabel"_s)->text(),
+        u"Selected: %1 files (%2)"_s.arg(QString::number(count), checks::sizeText(size)));
     expect(child<QPushButton>(m_page, u"deleteBtn"_s)->isEnabled() == (count > 0),
            [&] { return u"the button to delete does not know that %1 are ticked"_s.arg(count); });
-    if (m_isFresh)
+    if (m_hasNewListing)
         checkListing();
 }
 
-void LargeFileProbe::rememberChoice()
+void LargeFileProbe::storeScanOptions()
 {
     ++m_listing;
-    m_isFresh = false;
+    m_hasNewListing = false;
     const QString size = m_sizes->currentText();
-    m_minimum =
+    m_minimumSize =
         size.section(u' ', 0, 0).toLongLong() * (size.endsWith("GB"_L1) ? 1 << 30 : 1 << 20);
     m_drives.clear();
     const auto cards = m_page->findChildren<QWidget *>(u"driveCard"_s);
@@ -196,7 +197,7 @@ void LargeFileProbe::rememberChoice()
 
 void LargeFileProbe::checkListing()
 {
-    m_isFresh = false;
+    m_hasNewListing = false;
     const QList<LargeFileInfo> files = largefileadapter::files(m_page);
     QStringList paths;
     for (const LargeFileInfo &file : files) {
@@ -206,7 +207,7 @@ void LargeFileProbe::checkListing()
         const QString real = QFileInfo(info.path()).canonicalFilePath() + u'/' + file.name;
         expect(m_world->mayBeListed(World::Owner::Large, real),
                [&] { return u"%1 is listed"_s.arg(file.path); });
-        expect(file.size == info.size() && file.size >= m_minimum,
+        expect(file.size == info.size() && file.size >= m_minimumSize,
                [&] { return u"%1 is listed with a wrong size"_s.arg(file.path); });
         paths.append(file.path);
     }
@@ -215,7 +216,7 @@ void LargeFileProbe::checkListing()
 
 void LargeFileProbe::checkNothingIsMissing(const QStringList &listed) const
 {
-    const QStringList expected = m_world->listed(World::Owner::Large, m_minimum);
+    const QStringList expected = m_world->expectedPaths(World::Owner::Large, m_minimumSize);
     for (const QString &path : expected) {
         const bool isScanned =
             std::any_of(m_drives.cbegin(), m_drives.cend(),

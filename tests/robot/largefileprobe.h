@@ -19,18 +19,18 @@ public:
     [[nodiscard]] QString name() const override;
     [[nodiscard]] QWidget *page() const override;
     [[nodiscard]] QStringList controls() const override;
-    [[nodiscard]] QStringList beginning() const override;
+    [[nodiscard]] QStringList startControls() const override;
     [[nodiscard]] bool isBusy() const override;
     [[nodiscard]] QAbstractScrollArea *list() const override;
     [[nodiscard]] Ticks ticks() const override;
-    [[nodiscard]] QList<Row> look() const override;
+    [[nodiscard]] QList<Row> visibleRows() const override;
     [[nodiscard]] std::optional<Row> rowWith(const QWidget *box) const override;
     void check() override;
     [[nodiscard]] int deletions() const override { return m_deletions; }
     [[nodiscard]] QStringList chosen() const override;
 
 private:
-    void rememberChoice();
+    void storeScanOptions();
     void checkListing();
     void checkNothingIsMissing(const QStringList &listed) const;
 
@@ -39,9 +39,9 @@ private:
     QAbstractScrollArea *m_area;
     QWidget *m_results;
     QComboBox *m_sizes;
-    qint64 m_minimum = 0; ///< bytes; what the last scan was asked for
+    qint64 m_minimumSize = 0; ///< bytes; what the last scan was asked for
     QStringList m_drives; ///< the same
     int m_listing = 0;
     int m_deletions = 0;
-    bool m_isFresh = false; ///< listed since the last check
+    bool m_hasNewListing = false; ///< listed since the last check
 };

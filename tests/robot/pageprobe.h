@@ -49,7 +49,7 @@ public:
     /// up.
     [[nodiscard]] virtual QStringList controls() const = 0;
     /// What to click when there is no list.
-    [[nodiscard]] virtual QStringList beginning() const { return controls(); }
+    [[nodiscard]] virtual QStringList startControls() const { return controls(); }
 
     /// Whether it does something whose end is to be waited for.
     [[nodiscard]] virtual bool isBusy() const { return false; }
@@ -58,7 +58,7 @@ public:
 
     [[nodiscard]] virtual Ticks ticks() const { return {}; }
     /// The rows of the shown list that are seen, compared with the records.
-    [[nodiscard]] virtual QList<Row> look() const { return {}; }
+    [[nodiscard]] virtual QList<Row> visibleRows() const { return {}; }
     /// The row of the whole list, in sight or not, that has this box.
     [[nodiscard]] virtual std::optional<Row> rowWith(const QWidget *box) const
     {
@@ -66,7 +66,7 @@ public:
         return std::nullopt;
     }
     /// Whether a change of one record's tick may change the other one's.
-    [[nodiscard]] virtual bool isTied(int record, int other) const
+    [[nodiscard]] virtual bool canAffect(int record, int other) const
     {
         Q_UNUSED(record)
         Q_UNUSED(other)

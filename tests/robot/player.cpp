@@ -27,11 +27,11 @@ using eyes::describe;
 
 namespace {
 
-constexpr int hit = 3; ///< pixels around the middle of a box that are sure to belong to it
+constexpr int middleRadius = 3; ///< pixels around the middle of a box that are sure to belong to it
 
 /// Chooses one of several things to do by their weights.
 template<std::size_t count>
-std::size_t weighed(Dice &dice, const std::array<int, count> &weights)
+std::size_t chooseByWeight(Dice &dice, const std::array<int, count> &weights)
 {
     int sum = 0;
     for (const int weight : weights)
@@ -43,7 +43,7 @@ std::size_t weighed(Dice &dice, const std::array<int, count> &weights)
     return choice;
 }
 
-QPoint pixelIn(Dice &dice, const QRect &rect)
+QPoint randomPixel(Dice &dice, const QRect &rect)
 {
     return {dice.between(rect.left(), rect.right()), dice.between(rect.top(), rect.bottom())};
 }
@@ -64,7 +64,7 @@ QWidget *uppermostDialog()
 
 /// The box whose entry in the registry would be that of the test. Even a tick that is cancelled
 /// stays for the next time that the settings are saved.
-bool startsWithSession(const QWidget *widget)
+bool isAutoStartBox(const QWidget *widget)
 {
     return widget->objectName() == "autoStartCheck"_L1;
 }
@@ -93,7 +93,7 @@ Player::Player(MainWindow *window, const QList<PageProbe *> &probes, const QStri
     }
 }
 
-PageProbe *Player::current() const
+PageProbe *Player::currentProbe() const
 {
     return m_probes.at(m_window->currentPage());
 }
@@ -121,7 +121,7 @@ Action Player::act(Dice &dice, const QList<Row> &rows)
     return std::exchange(m_action, {});
 }
 
-bool Player::closeSomething()
+bool Player::closeTopWindow()
 {
     QWidget *top = QApplication::activePopupWidget();
     if (!top)
@@ -153,22 +153,22 @@ const Row *Player::rowAt(QPoint position) const
     return nullptr;
 }
 
-void Player::foresee(QPoint position, Qt::MouseButton button, int times)
+void Player::predictClick(QPoint position, Qt::MouseButton button, int times)
 {
     const QWidget *top = eyes::topmostAt(m_window, position);
     m_action.text += u" on "_s + describe(top);
     const Row *row = rowAt(position);
     if (!row) {
-        if (const std::optional<Row> meant = current()->rowWith(top)) {
-            m_action.probe = current();
-            m_action.row = *meant;
+        if (const std::optional<Row> boxRow = currentProbe()->rowWith(top)) {
+            m_action.probe = currentProbe();
+            m_action.row = *boxRow;
             m_action.effect = Action::Effect::Possible;
         }
         if (button == Qt::LeftButton)
-            foreseePress(top);
+            predictPress(top);
         return;
     }
-    m_action.probe = current();
+    m_action.probe = currentProbe();
     m_action.row = *row;
     m_action.text += u" in row %1"_s.arg(row->first);
     if (button == Qt::RightButton)
@@ -180,17 +180,17 @@ void Player::foresee(QPoint position, Qt::MouseButton button, int times)
         m_action.effect = Action::Effect::Unknown;
         return;
     }
-    const bool isMeant = row->meaning == Row::Meaning::Anywhere
+    const bool togglesTick = row->meaning == Row::Meaning::Anywhere
         || (isOnBox && row->meaning != Row::Meaning::Nothing);
-    if (!isMeant || button != Qt::LeftButton || !top->isEnabled())
+    if (!togglesTick || button != Qt::LeftButton || !top->isEnabled())
         return;
     const QPoint middle = isOnBox ? row->box->mapTo(m_window, row->box->rect().center()) : position;
-    const bool isHit = (position - middle).manhattanLength() <= hit;
-    m_action.effect = times == 1 && isHit ? Action::Effect::Exact : Action::Effect::Possible;
+    const bool isOnMiddle = (position - middle).manhattanLength() <= middleRadius;
+    m_action.effect = times == 1 && isOnMiddle ? Action::Effect::Exact : Action::Effect::Possible;
 }
 
 // A button that begins a deletion.
-void Player::foreseePress(const QWidget *widget)
+void Player::predictPress(const QWidget *widget)
 {
     const auto *button = qobject_cast<const QPushButton *>(widget);
     if (!button || !button->isEnabled())
@@ -202,13 +202,13 @@ void Player::foreseePress(const QWidget *widget)
         m_action.isConfirmation = true;
         m_action.chosen = box->text().startsWith("Are you sure you want to delete this file?"_L1)
             ? QStringList{m_menuPath}
-            : current()->chosen();
+            : currentProbe()->chosen();
     } else if (button->objectName() == "startCleanBtn"_L1
-               || (button->objectName() == "cleanBtn"_L1 && current()->name() != "registry"_L1
+               || (button->objectName() == "cleanBtn"_L1 && currentProbe()->name() != "registry"_L1
                    && !options::isOn(*Application::instance()->settings(),
                                      options::confirmClean))) {
         m_action.isConfirmation = true;
-        m_action.chosen = current()->chosen();
+        m_action.chosen = currentProbe()->chosen();
     }
 }
 
@@ -231,16 +231,16 @@ void Player::click(QPoint global, Qt::MouseButton button, int times)
             m_action.text += u" not done: it would close the window"_s;
             return;
         }
-        foresee(position, button, times);
+        predictClick(position, button, times);
     } else {
         const QWidget *top = eyes::topmostAt(window, global - window->geometry().topLeft());
         m_action.text += u" on "_s + describe(top);
-        if (startsWithSession(top)) {
+        if (isAutoStartBox(top)) {
             m_action.text += u" not done: it would start the test with the session"_s;
             return;
         }
         if (button == Qt::LeftButton)
-            foreseePress(top);
+            predictPress(top);
     }
     m_hands.click(global, button, times);
 }
@@ -252,7 +252,7 @@ void Player::clickSomewhere(Dice &dice, const QWidget *area)
         m_action.text += u"nothing to click"_s;
         return;
     }
-    click(toScreen(area->window(), pixelIn(dice, rect)));
+    click(toScreen(area->window(), randomPixel(dice, rect)));
 }
 
 void Player::clickControl(Dice &dice, QWidget *window, const QString &name)
@@ -278,16 +278,16 @@ void Player::press(int key, Qt::KeyboardModifiers modifiers)
         key = Qt::Key_Tab;
     // The buttons that close or hide the window are not for a robot that is to go on.
     if (focus && isPress
-        && (qobject_cast<const TitleBar *>(focus->parentWidget()) || startsWithSession(focus)))
+        && (qobject_cast<const TitleBar *>(focus->parentWidget()) || isAutoStartBox(focus)))
         key = Qt::Key_Tab;
     m_action.text += u"key %1 at %2"_s.arg(QString::number(key, 16), describe(focus));
     m_action.isTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
     if (key == Qt::Key_Menu && focus)
         m_menuPath = focus->property("filePath").toString();
-    const bool isInPage = focus && focus->window() == m_window;
-    if (key == Qt::Key_Space && isInPage && qobject_cast<QCheckBox *>(focus)) {
-        if (const std::optional<Row> row = current()->rowWith(focus)) {
-            m_action.probe = current();
+    const bool isInMainWindow = focus && focus->window() == m_window;
+    if (key == Qt::Key_Space && isInMainWindow && qobject_cast<QCheckBox *>(focus)) {
+        if (const std::optional<Row> row = currentProbe()->rowWith(focus)) {
+            m_action.probe = currentProbe();
             m_action.row = *row;
             // A box that stands in no row may bring back what was ticked before.
             m_action.effect = focus->property("browserType").isValid() ? Action::Effect::Possible
@@ -299,7 +299,7 @@ void Player::press(int key, Qt::KeyboardModifiers modifiers)
         if (!button && key == Qt::Key_Return && window)
             button = defaultButton(window);
         if (button)
-            foreseePress(button);
+            predictPress(button);
     }
     m_hands.key(key, modifiers);
 }
@@ -316,7 +316,7 @@ void Player::actOnPopup(Dice &dice)
 {
     const QWidget *popup = QApplication::activePopupWidget();
     m_action.text = u"menu: "_s;
-    switch (weighed(dice, std::array{50, 15, 15, 10, 10})) {
+    switch (chooseByWeight(dice, std::array{50, 15, 15, 10, 10})) {
     case 0:
         clickSomewhere(dice, popup);
         break;
@@ -330,7 +330,7 @@ void Player::actOnPopup(Dice &dice)
         press(Qt::Key_Escape);
         break;
     default:
-        click(toScreen(m_window, pixelIn(dice, m_window->rect().adjusted(260, 70, -20, -20))));
+        click(toScreen(m_window, randomPixel(dice, m_window->rect().adjusted(260, 70, -20, -20))));
         break;
     }
 }
@@ -338,7 +338,7 @@ void Player::actOnPopup(Dice &dice)
 void Player::actOnMessage(Dice &dice, const QMessageBox *box)
 {
     m_action.text = u"box \"%1\": "_s.arg(box->windowTitle());
-    switch (weighed(dice, std::array{70, 8, 8, 5, 5, 4})) {
+    switch (chooseByWeight(dice, std::array{70, 8, 8, 5, 5, 4})) {
     case 0: {
         const QAbstractButton *yes = box->button(QMessageBox::Yes);
         clickSomewhere(dice, yes && dice.chance(70) ? yes : dice.pick(box->buttons()));
@@ -357,7 +357,7 @@ void Player::actOnMessage(Dice &dice, const QMessageBox *box)
         press(Qt::Key_Space);
         break;
     default:
-        click(toScreen(m_window, pixelIn(dice, m_window->rect())));
+        click(toScreen(m_window, randomPixel(dice, m_window->rect())));
         break;
     }
 }
@@ -386,7 +386,7 @@ void Player::actOnDialog(Dice &dice, QWidget *dialog)
         if (isControl && !eyes::visibleRect(control).isEmpty())
             controls.append(control);
     }
-    switch (weighed(dice, std::array{45, 10, 12, 5, 4, 5, 9, 6, 4})) {
+    switch (chooseByWeight(dice, std::array{45, 10, 12, 5, 4, 5, 9, 6, 4})) {
     case 0:
         if (!controls.isEmpty())
             clickSomewhere(dice, dice.pick(controls));
@@ -422,25 +422,25 @@ void Player::actOnDialog(Dice &dice, QWidget *dialog)
         }
         break;
     default:
-        click(toScreen(m_window, pixelIn(dice, m_window->rect())));
+        click(toScreen(m_window, randomPixel(dice, m_window->rect())));
         break;
     }
 }
 
 void Player::actOnWindow(Dice &dice)
 {
-    const bool isAway = m_home >= 0 && m_window->currentPage() != m_home;
-    if (dice.chance(isAway ? 20 : m_home < 0 ? 4 : 1)) {
+    const bool isAwayFromHome = m_home >= 0 && m_window->currentPage() != m_home;
+    if (dice.chance(isAwayFromHome ? 20 : m_home < 0 ? 4 : 1)) {
         navigate(dice);
         return;
     }
-    PageProbe *probe = current();
+    PageProbe *probe = currentProbe();
     if (!probe->list() && dice.chance(60)) {
         m_action.text = u"begin: "_s;
-        clickControl(dice, probe->page(), dice.pick(probe->beginning()));
+        clickControl(dice, probe->page(), dice.pick(probe->startControls()));
         return;
     }
-    switch (weighed(dice, std::array{36, 8, 6, 15, 20, 4, 1, 4})) {
+    switch (chooseByWeight(dice, std::array{36, 8, 6, 15, 20, 4, 1, 4})) {
     case 0:
         actOnRow(dice);
         break;
@@ -465,7 +465,7 @@ void Player::actOnWindow(Dice &dice)
     default:
         m_action.text = u"hover"_s;
         m_action.keepsFocus = true;
-        m_hands.move(toScreen(m_window, pixelIn(dice, m_window->rect())));
+        m_hands.move(toScreen(m_window, randomPixel(dice, m_window->rect())));
         break;
     }
 }
@@ -473,7 +473,7 @@ void Player::actOnWindow(Dice &dice)
 void Player::actOnRow(Dice &dice)
 {
     if (m_rows.isEmpty()) {
-        clickSomewhere(dice, current()->page());
+        clickSomewhere(dice, currentProbe()->page());
         return;
     }
     const Row &row = dice.pick(m_rows);
@@ -481,24 +481,24 @@ void Player::actOnRow(Dice &dice)
     for (QWidget *button : row.widget->findChildren<QAbstractButton *>())
         controls.append(button);
     const QRect box = row.box ? eyes::visibleRect(row.box) : QRect();
-    switch (weighed(dice, std::array{55, 20, 15, 6, 4})) {
+    switch (chooseByWeight(dice, std::array{55, 20, 15, 6, 4})) {
     case 0:
         click(toScreen(m_window,
                        box.isEmpty()
-                           ? pixelIn(dice, row.rect)
+                           ? randomPixel(dice, row.rect)
                            : box.center() + QPoint(dice.between(-1, 1), dice.between(-1, 1))));
         break;
     case 1:
-        click(toScreen(m_window, pixelIn(dice, row.rect)));
+        click(toScreen(m_window, randomPixel(dice, row.rect)));
         break;
     case 2:
         clickSomewhere(dice, controls.isEmpty() ? row.widget : dice.pick(controls));
         break;
     case 3:
-        click(toScreen(m_window, pixelIn(dice, row.rect)), Qt::RightButton);
+        click(toScreen(m_window, randomPixel(dice, row.rect)), Qt::RightButton);
         break;
     default:
-        click(toScreen(m_window, pixelIn(dice, row.rect)), Qt::LeftButton, 2);
+        click(toScreen(m_window, randomPixel(dice, row.rect)), Qt::LeftButton, 2);
         break;
     }
 }
@@ -512,14 +512,14 @@ void Player::navigate(Dice &dice)
         if (button->inherits("NavButton"))
             entries.append(button);
     }
-    const bool isAway = m_home >= 0 && m_window->currentPage() != m_home;
+    const bool isAwayFromHome = m_home >= 0 && m_window->currentPage() != m_home;
     m_action.text = u"go to a page: "_s;
-    clickSomewhere(dice, isAway ? entries.at(m_home) : dice.pick(entries));
+    clickSomewhere(dice, isAwayFromHome ? entries.at(m_home) : dice.pick(entries));
 }
 
 void Player::useKeys(Dice &dice)
 {
-    switch (weighed(dice, std::array{24, 12, 20, 12, 8, 14, 4, 3, 3})) {
+    switch (chooseByWeight(dice, std::array{24, 12, 20, 12, 8, 14, 4, 3, 3})) {
     case 0:
         press(Qt::Key_Tab);
         break;
@@ -561,7 +561,7 @@ void Player::useKeys(Dice &dice)
 void Player::useWheel(Dice &dice, QWidget *window)
 {
     const QRect rect = eyes::visibleRect(window);
-    const QPoint position = pixelIn(dice, rect);
+    const QPoint position = randomPixel(dice, rect);
     const int notches = dice.between(1, 5) * (dice.chance(40) ? 1 : -1);
     QWidget *top = eyes::topmostAt(window->window(), position);
     const QPoint global = toScreen(window->window(), position);
@@ -569,11 +569,11 @@ void Player::useWheel(Dice &dice, QWidget *window)
         u"wheel %1 at (%2, %3) on %4"_s.arg(QString::number(notches), QString::number(global.x()),
                                             QString::number(global.y()), describe(top));
     // Another window may stand in front, and some controls have a use for the wheel themselves.
-    const bool isListed = Hands::windowAt(global) == window->window()
+    const bool canScroll = Hands::windowAt(global) == window->window()
         && !top->inherits("QAbstractSpinBox") && !top->inherits("QComboBox")
         && !top->inherits("QScrollBar");
-    QAbstractScrollArea *area = isListed ? eyes::scrollAreaAround(top) : nullptr;
-    if (isListed)
+    QAbstractScrollArea *area = canScroll ? eyes::scrollAreaAround(top) : nullptr;
+    if (canScroll)
         m_action.keepsFocus = true;
     if (area) {
         m_action.bar = area->verticalScrollBar();
@@ -590,19 +590,19 @@ void Player::dragSomething(Dice &dice, QWidget *window)
         if (!eyes::visibleRect(bar).isEmpty())
             bars.append(bar);
     }
-    const bool isScroll = !bars.isEmpty() && dice.chance(80);
+    const bool isBarDrag = !bars.isEmpty() && dice.chance(80);
     const QRect from =
-        eyes::visibleRect(isScroll ? static_cast<QWidget *>(dice.pick(bars)) : window);
-    const QRect to = isScroll ? from.adjusted(0, -40, 0, 40) : from;
-    const QPoint start = pixelIn(dice, from);
-    const QPoint end = pixelIn(dice, to);
+        eyes::visibleRect(isBarDrag ? static_cast<QWidget *>(dice.pick(bars)) : window);
+    const QRect to = isBarDrag ? from.adjusted(0, -40, 0, 40) : from;
+    const QPoint start = randomPixel(dice, from);
+    const QPoint end = randomPixel(dice, to);
     const QPoint global = toScreen(window->window(), start);
     if (Hands::windowAt(global) != window->window()) {
         m_action.text += u"drag not done: another window is in front"_s;
         return;
     }
     QWidget *top = eyes::topmostAt(window->window(), start);
-    if (qobject_cast<QLineEdit *>(top) || startsWithSession(top)) {
+    if (qobject_cast<QLineEdit *>(top) || isAutoStartBox(top)) {
         m_action.text += u"drag not done: it would move text about, or start with the session"_s;
         return;
     }
@@ -611,12 +611,12 @@ void Player::dragSomething(Dice &dice, QWidget *window)
         QString::number(end.y()), describe(top));
     // Let go in the row where it was pressed, it is a click.
     if (const Row *row = rowAt(start); row && window->window() == m_window) {
-        m_action.probe = current();
+        m_action.probe = currentProbe();
         m_action.row = *row;
         m_action.effect = Action::Effect::Possible;
     }
     if (eyes::topmostAt(window->window(), end) == top)
-        foreseePress(top);
+        predictPress(top);
     m_hands.drag(global, toScreen(window->window(), end));
 }
 

@@ -22,8 +22,8 @@ public:
     /// Does something. @p rows are those of the shown list.
     [[nodiscard]] Action act(Dice &dice, const QList<Row> &rows);
     /// Closes the uppermost of what stands open above the window; false when nothing does.
-    [[nodiscard]] bool closeSomething();
-    [[nodiscard]] PageProbe *current() const;
+    [[nodiscard]] bool closeTopWindow();
+    [[nodiscard]] PageProbe *currentProbe() const;
 
 private:
     void actOnPopup(Dice &dice);
@@ -44,8 +44,8 @@ private:
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString &text);
 
-    void foresee(QPoint position, Qt::MouseButton button, int times);
-    void foreseePress(const QWidget *button);
+    void predictClick(QPoint position, Qt::MouseButton button, int times);
+    void predictPress(const QWidget *button);
     void noteFocus();
     [[nodiscard]] const Row *rowAt(QPoint position) const;
 

@@ -17,26 +17,26 @@ namespace {
 
 const QString machine = u"HKEY_LOCAL_MACHINE"_s;
 const QString user = u"HKEY_CURRENT_USER"_s;
-const QString own = u"Software\\Sweepwise robot"_s;
+const QString ownKey = u"Software\\Sweepwise robot"_s;
 
-const wchar_t *wide(const QString &text)
+const wchar_t *toWide(const QString &text)
 {
     return reinterpret_cast<const wchar_t *>(text.utf16());
 }
 
-HKEY made(HKEY parent, const QString &key)
+HKEY createKey(HKEY parent, const QString &key)
 {
     HKEY handle = nullptr;
-    const LSTATUS status = ::RegCreateKeyExW(parent, wide(key), 0, nullptr, 0, KEY_ALL_ACCESS,
+    const LSTATUS status = ::RegCreateKeyExW(parent, toWide(key), 0, nullptr, 0, KEY_ALL_ACCESS,
                                              nullptr, &handle, nullptr);
     expect(status == ERROR_SUCCESS, [&] { return u"%1 cannot be made"_s.arg(key); });
     return handle;
 }
 
 // What the system and the toolkit keep for themselves.
-bool isForeign(const QString &key)
+bool isSystemKey(const QString &key)
 {
-    static const QStringList foreign{
+    static const QStringList systemKeys{
         u"hkcu\\software\\norvak"_s,
         u"hkcu\\software\\qtproject"_s,
         u"hkcu\\software\\wine"_s,
@@ -44,7 +44,7 @@ bool isForeign(const QString &key)
         u"hklm\\software\\microsoft\\windows\\currentversion\\explorer"_s,
         u"hklm\\software\\microsoft\\windows nt\\currentversion\\profilelist"_s,
     };
-    return foreign.contains(key);
+    return systemKeys.contains(key);
 }
 
 } // namespace
@@ -79,24 +79,24 @@ public:
 RegistryStore::RegistryStore(const TestHome &home)
     : d(std::make_unique<Private>())
 {
-    ::RegDeleteTreeW(HKEY_CURRENT_USER, wide(own)); // of a run that crashed
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, toWide(ownKey)); // of a run that crashed
     const std::array predefined{HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER};
     for (std::size_t i = 0; i < predefined.size(); ++i) {
         auto &hive = d->hives.at(i);
         hive.name = i == 0 ? machine : user;
-        hive.key = made(HKEY_CURRENT_USER, own + u'\\' + hive.name);
+        hive.key = createKey(HKEY_CURRENT_USER, ownKey + u'\\' + hive.name);
         hive.change = ::CreateEventW(nullptr, FALSE, TRUE, nullptr);
     }
     // The folders of the user are what the registry says.
     const HKEY folders =
-        made(d->hives.at(1).key,
-             u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"_s);
+        createKey(d->hives.at(1).key,
+                  u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"_s);
     for (const auto &[name, folder] :
          {std::pair(u"Local AppData"_s, u"Local"_s),
           std::pair(u"AppData"_s, u"User/AppData/Roaming"_s),
           std::pair(u"Desktop"_s, u"home/Desktop"_s), std::pair(u"Personal"_s, u"home"_s)}) {
         const QString path = QDir::toNativeSeparators(home.folder(folder));
-        ::RegSetValueExW(folders, wide(name), 0, REG_EXPAND_SZ,
+        ::RegSetValueExW(folders, toWide(name), 0, REG_EXPAND_SZ,
                          reinterpret_cast<const BYTE *>(path.utf16()),
                          static_cast<DWORD>((path.size() + 1) * 2));
     }
@@ -119,7 +119,7 @@ RegistryStore::~RegistryStore()
         ::RegCloseKey(hive.key);
         ::CloseHandle(hive.change);
     }
-    ::RegDeleteTreeW(HKEY_CURRENT_USER, wide(own));
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, toWide(ownKey));
 }
 
 void RegistryStore::add(const QString &hive, const QString &key, const QString &name,
@@ -132,8 +132,8 @@ void RegistryStore::write()
 {
     for (const Private::Added &value : std::as_const(d->added)) {
         const HKEY key =
-            made(value.hive == machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER, value.key);
-        ::RegSetValueExW(key, wide(value.name), 0, REG_SZ,
+            createKey(value.hive == machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER, value.key);
+        ::RegSetValueExW(key, toWide(value.name), 0, REG_SZ,
                          reinterpret_cast<const BYTE *>(value.text.utf16()),
                          static_cast<DWORD>((value.text.size() + 1) * 2));
         ::RegCloseKey(key);
@@ -179,7 +179,7 @@ void RegistryStore::Private::read(HKEY handle, const QString &key)
         const QString below =
             key + u'\\' + QString::fromWCharArray(name.data(), static_cast<int>(length)).toLower();
         HKEY child = nullptr;
-        if (isForeign(below)
+        if (isSystemKey(below)
             || ::RegOpenKeyExW(handle, name.data(), 0, KEY_READ, &child) != ERROR_SUCCESS)
             continue;
         read(child, below);

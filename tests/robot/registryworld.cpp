@@ -35,7 +35,7 @@ bool isBelowValueList(const QString &path)
 
 } // namespace
 
-const QString RegistryWorld::ofUser = u" (user)"_s;
+const QString RegistryWorld::userSuffix = u" (user)"_s;
 
 RegistryWorld::RegistryWorld(const TestHome &home)
     : m_store(home)
@@ -50,7 +50,7 @@ RegistryWorld::RegistryWorld(const TestHome &home)
     plan();
     planPrograms(home);
     refill();
-    accept();
+    acceptState();
 }
 
 void RegistryWorld::add(const QString &hive, const QString &key, const QString &name,
@@ -94,7 +94,7 @@ void RegistryWorld::plan()
         add(machine, classes + u"\\gonefile%1\\shell\\open\\command"_s.arg(i), {},
             missing + " %1"_L1);
     }
-    planTwins();
+    planClassesInBothHives();
     add(machine, version + "RunOnce"_L1, u"once"_s, missing,
         "HKLM\\"_L1 + version + "RunOnce\\once"_L1);
     // The name of a value that is a path cannot be told from keys: such an entry stays.
@@ -122,21 +122,21 @@ void RegistryWorld::plan()
 }
 
 // Classes that both hives have: only the entry that leads nowhere may go.
-void RegistryWorld::planTwins()
+void RegistryWorld::planClassesInBothHives()
 {
     const QString present = m_programFolder + "\\There\\app.exe"_L1;
     const QString merged = u"HKEY_CLASSES_ROOT"_s;
     const auto key = [](const QString &path) { return classes + u'\\' + path; };
     const QString first = u"CLSID\\{twin 1}"_s;
     add(user, key(first + "\\InprocServer32"_L1), {}, u"C:\\Gone\\twin.dll"_s,
-        merged + ofUser + u'\\' + first);
+        merged + userSuffix + u'\\' + first);
     add(machine, key(first + "\\InprocServer32"_L1), {}, present);
     const QString second = u"CLSID\\{twin 2}"_s;
     add(user, key(second + "\\InprocServer32"_L1), {}, u"C:\\Gone\\twin.dll"_s,
-        merged + ofUser + u'\\' + second);
+        merged + userSuffix + u'\\' + second);
     add(machine, key(second + "\\LocalServer32"_L1), {}, u"C:\\Gone\\twin.exe"_s,
         merged + u'\\' + second);
-    add(user, key(u".twin"_s), {}, u"gonefile0"_s, merged + ofUser + "\\.twin"_L1);
+    add(user, key(u".twin"_s), {}, u"gonefile0"_s, merged + userSuffix + "\\.twin"_L1);
     add(machine, key(u".twin"_s), {}, u"therefile"_s);
 }
 
@@ -183,8 +183,8 @@ void RegistryWorld::refill()
     bool isComplete = true;
     for (const Entry &entry : std::as_const(m_entries)) {
         // What starts with the session is the user's choice from the beginning on.
-        const bool isChoice = entry.item.isEmpty() && entry.key == run && !m_accepted.isEmpty();
-        if (isChoice || has(entry))
+        const bool isUserChoice = entry.item.isEmpty() && entry.key == run && !m_accepted.isEmpty();
+        if (isUserChoice || has(entry))
             continue;
         m_store.add(entry.hive, entry.key, entry.name, entry.text);
         isComplete = false;
@@ -193,13 +193,13 @@ void RegistryWorld::refill()
         m_store.write();
 }
 
-RegistryState RegistryWorld::without(const RegistryState &before, const QStringList &entries)
+RegistryState RegistryWorld::stateWithout(const RegistryState &before, const QStringList &entries)
 {
     RegistryState after = before;
     for (const QString &entry : entries) {
         const QString root = entry.section(u'\\', 0, 0);
         const QString item = entry.section(u'\\', 1);
-        const bool isUser = root == user || root == "HKCU"_L1 || root.endsWith(ofUser);
+        const bool isUser = root == user || root == "HKCU"_L1 || root.endsWith(userSuffix);
         const bool isClass = root.startsWith("HKEY_CLASSES_ROOT"_L1);
         const QString path =
             RegistryStore::folded(isUser ? user : machine, isClass ? classes + u'\\' + item : item);
@@ -216,7 +216,7 @@ RegistryState RegistryWorld::without(const RegistryState &before, const QStringL
     return after;
 }
 
-QStringList RegistryWorld::lost(const RegistryState &before, const RegistryState &after)
+QStringList RegistryWorld::findLost(const RegistryState &before, const RegistryState &after)
 {
     QStringList names;
     for (auto key = before.cbegin(); key != before.cend(); ++key) {
@@ -233,7 +233,7 @@ QStringList RegistryWorld::lost(const RegistryState &before, const RegistryState
     return names;
 }
 
-QSet<QString> RegistryWorld::listed() const
+QSet<QString> RegistryWorld::expectedItems() const
 {
     QSet<QString> items;
     for (const Entry &entry : m_entries) {

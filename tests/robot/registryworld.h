@@ -21,7 +21,7 @@ public:
     };
 
     /// What follows the root of a class that is in the user's hive.
-    static const QString ofUser;
+    static const QString userSuffix;
 
     explicit RegistryWorld(const TestHome &home);
 
@@ -31,17 +31,18 @@ public:
     void refill();
     [[nodiscard]] const RegistryState &state() const { return m_store.state(); }
     /// Takes the state as it is now for the right one.
-    void accept() { m_accepted = state(); }
-    [[nodiscard]] const RegistryState &accepted() const { return m_accepted; }
+    void acceptState() { m_accepted = state(); }
+    [[nodiscard]] const RegistryState &acceptedState() const { return m_accepted; }
 
     /// What must be left of @p before when a clean has removed entries, each "root\key".
-    [[nodiscard]] static RegistryState without(const RegistryState &before,
-                                               const QStringList &entries);
+    [[nodiscard]] static RegistryState stateWithout(const RegistryState &before,
+                                                    const QStringList &entries);
     /// Which keys and values of @p before are not in @p after, or hold something else there.
-    [[nodiscard]] static QStringList lost(const RegistryState &before, const RegistryState &after);
+    [[nodiscard]] static QStringList findLost(const RegistryState &before,
+                                              const RegistryState &after);
 
     /// The entries that a scan must list now, each "root\key".
-    [[nodiscard]] QSet<QString> listed() const;
+    [[nodiscard]] QSet<QString> expectedItems() const;
 
     /// The programs that start with the session: the value of the user's list by executable.
     [[nodiscard]] QHash<QString, QString> startList() const;
@@ -56,7 +57,7 @@ private:
     };
 
     void plan();
-    void planTwins();
+    void planClassesInBothHives();
     void planPrograms(const TestHome &home);
     void add(const QString &hive, const QString &key, const QString &name, const QString &text,
              const QString &item = {});

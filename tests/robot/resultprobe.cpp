@@ -5,9 +5,9 @@
 #include "browsergroupwidget.h"
 #include "browsersubitem.h"
 #include "categorywidget.h"
+#include "checks.h"
 #include "cleanengine.h"
 #include "cleanitemwidget.h"
-#include "look.h"
 #include "registryworld.h"
 #include "text.h"
 
@@ -20,20 +20,20 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using checks::child;
 using eyes::describe;
-using look::child;
 using State = CleanEngine::State;
 
 namespace {
 
-constexpr int column = 60; ///< where rows are looked for, from the left edge of the list
+constexpr int rowSearchX = 60; ///< where rows are looked for, from the left edge of the list
 
 bool isTicked(const CleanCategory &category, const CleanItem &item)
 {
     return category.checked && item.checked;
 }
 
-int tickedIn(const CleanCategory &category)
+int tickedCount(const CleanCategory &category)
 {
     return static_cast<int>(
         std::count_if(category.items.cbegin(), category.items.cend(),
@@ -63,7 +63,7 @@ ResultProbe::ResultProbe(const QString &name, BasePage *page, const ListingCheck
         if (state == State::Scanning) {
             ++m_listing;
             m_hasFigures = false;
-            m_isFresh = false; // gone before anybody has looked at it
+            m_hasNewListing = false; // gone before anybody has looked at it
         }
         m_isScanning = state == State::Scanning || (state != State::Cancelled && m_isScanning);
         m_isCleaning = state == State::Cleaning || m_isCleaning;
@@ -77,7 +77,7 @@ ResultProbe::ResultProbe(const QString &name, BasePage *page, const ListingCheck
     connect(page, &BasePage::scanFinished, this, [this] {
         ++m_listing;
         m_isScanning = false;
-        m_isFresh = true;
+        m_hasNewListing = true;
         m_hasFigures = true;
     });
 }
@@ -92,7 +92,7 @@ QStringList ResultProbe::controls() const
     return {u"scanBtn"_s, u"cleanBtn"_s, u"cleanBtn"_s};
 }
 
-QStringList ResultProbe::beginning() const
+QStringList ResultProbe::startControls() const
 {
     return {u"scanBtn"_s};
 }
@@ -116,15 +116,15 @@ QAbstractScrollArea *ResultProbe::list() const
 // While a scan runs the records belong to its thread; no list is shown then.
 const QList<CleanCategory> &ResultProbe::categories() const
 {
-    static const QList<CleanCategory> none;
-    return hasList() ? std::as_const(*m_page->engine()).result().categories : none;
+    static const QList<CleanCategory> noCategories;
+    return hasList() ? std::as_const(*m_page->engine()).result().categories : noCategories;
 }
 
 QString ResultProbe::keyOf(const CleanItem &item)
 {
     if (item.registryRoot.isEmpty())
         return item.path;
-    return item.registryRoot + (item.isUserClass ? RegistryWorld::ofUser : QString()) + u'\\'
+    return item.registryRoot + (item.isUserClass ? RegistryWorld::userSuffix : QString()) + u'\\'
         + item.registryKey;
 }
 
@@ -196,12 +196,12 @@ QList<Row> ResultProbe::allRows() const
     return rows;
 }
 
-QList<Row> ResultProbe::look() const
+QList<Row> ResultProbe::visibleRows() const
 {
     if (!hasList())
         return {};
     const QList<Row> all = allRows();
-    const QList<QWidget *> seen = eyes::rowsFromTheTop(m_area, column, rowNames());
+    const QList<QWidget *> seen = eyes::findRows(m_area, rowSearchX, rowNames());
     const auto find = [&all](const QWidget *widget) {
         return std::find_if(all.cbegin(), all.cend(),
                             [widget](const Row &row) { return row.widget == widget; });
@@ -256,10 +256,10 @@ void ResultProbe::checkHeader(const Row &row) const
                        })
                || !eyes::isDrawn(row.box),
            [&] { return u"a header does not say \"%1\""_s.arg(category->name); });
-    look::checkText(row.widget, u"itemCount"_s, u"%1 items"_s.arg(row.count));
+    checks::checkText(row.widget, u"itemCount"_s, u"%1 items"_s.arg(row.count));
     if (m_page->showsSizes())
-        look::checkText(row.widget, u"categorySize"_s, look::sizeText(tickedSize(*category)));
-    look::checkBox(row.box, tickedIn(*category), row.count);
+        checks::checkText(row.widget, u"categorySize"_s, checks::sizeText(tickedSize(*category)));
+    checks::checkBox(row.box, tickedCount(*category), row.count);
 }
 
 void ResultProbe::checkItem(const Row &row) const
@@ -269,11 +269,11 @@ void ResultProbe::checkItem(const Row &row) const
     while (first + category->items.size() <= row.first)
         first += static_cast<int>((category++)->items.size());
     const CleanItem &item = category->items.at(row.first - first);
-    look::checkText(row.widget, u"itemName"_s, item.name);
-    look::checkText(row.widget, u"itemPath"_s, item.path);
+    checks::checkText(row.widget, u"itemName"_s, item.name);
+    checks::checkText(row.widget, u"itemPath"_s, item.path);
     if (m_page->showsSizes())
-        look::checkText(row.widget, u"itemSize"_s, look::sizeText(item.size));
-    look::checkBox(row.box, isTicked(*category, item) ? 1 : 0, 1);
+        checks::checkText(row.widget, u"itemSize"_s, checks::sizeText(item.size));
+    checks::checkBox(row.box, isTicked(*category, item) ? 1 : 0, 1);
 }
 
 void ResultProbe::check()
@@ -282,22 +282,22 @@ void ResultProbe::check()
     int count = 0;
     for (const CleanCategory &category : categories()) {
         size += tickedSize(category);
-        count += tickedIn(category);
+        count += tickedCount(category);
     }
     const QString selection = child<QLabel>(m_page, u"selectionLabel"_s)->text();
     const QString statistic = child<QLabel>(m_page, u"statisticValue"_s)->text();
     if (!m_hasFigures) {
-        look::compare(u"the selection"_s, selection,
-                      m_page->showsSizes() ? u"Selected: --"_s : u"选中: --"_s);
-        look::compare(u"the statistic"_s, statistic, u"--"_s);
+        checks::compare(u"the selection"_s, selection,
+                        m_page->showsSizes() ? u"Selected: --"_s : u"选中: --"_s);
+        checks::compare(u"the statistic"_s, statistic, u"--"_s);
     } else if (m_page->showsSizes()) {
-        look::compare(
+        checks::compare(
             u"the selection"_s, selection,
-            u"Selected: %1 items, %2"_s.arg(QString::number(count), look::sizeText(size)));
-        look::compare(u"the statistic"_s, statistic, look::sizeText(size));
+            u"Selected: %1 items, %2"_s.arg(QString::number(count), checks::sizeText(size)));
+        checks::compare(u"the statistic"_s, statistic, checks::sizeText(size));
     } else {
-        look::compare(u"the selection"_s, selection, u"Selected: %1 items"_s.arg(count));
-        look::compare(u"the statistic"_s, statistic, u"%1 items"_s.arg(count));
+        checks::compare(u"the selection"_s, selection, u"Selected: %1 items"_s.arg(count));
+        checks::compare(u"the statistic"_s, statistic, u"%1 items"_s.arg(count));
     }
     const bool isEnabled = child<QPushButton>(m_page, u"cleanBtn"_s)->isEnabled();
     expect(isBusy() || isEnabled == (count > 0), [&] {
@@ -306,7 +306,7 @@ void ResultProbe::check()
     });
     expect(isBusy() || child<QPushButton>(m_page, u"scanBtn"_s)->isEnabled(),
            [] { return u"the scan button is still disabled"_s; });
-    if (m_isFresh)
+    if (m_hasNewListing)
         checkListing();
 }
 
@@ -320,18 +320,18 @@ void ResultProbe::checkDetails(const QWidget *dialog) const
            [&] { return u"details of \"%1\" are shown, which is not listed"_s.arg(title); });
     const auto *area = child<QAbstractScrollArea>(dialog, u"detailScrollArea"_s);
     const auto all = child(dialog, u"detailList"_s)->findChildren<QWidget *>(u"detailItem"_s);
-    const QList<QWidget *> seen = eyes::rowsFromTheTop(area, column, {u"detailItem"_s});
+    const QList<QWidget *> seen = eyes::findRows(area, rowSearchX, {u"detailItem"_s});
     expect(!seen.isEmpty(), [] { return u"the details show no row"_s; });
     qsizetype number = all.indexOf(seen.constFirst());
     for (const QWidget *row : seen) {
         expect(number < all.size() && all.at(number) == row,
                [&] { return u"%1 does not follow the row above it"_s.arg(describe(row)); });
         const CleanItem &item = category->items.at(number++);
-        look::checkText(row, u"itemName"_s, item.name);
+        checks::checkText(row, u"itemName"_s, item.name);
         if (item.registryRoot.isEmpty())
-            look::checkText(row, u"itemSize"_s, look::sizeText(item.size));
+            checks::checkText(row, u"itemSize"_s, checks::sizeText(item.size));
         else if (!item.description.isEmpty())
-            look::checkText(row, u"itemDescription"_s, item.description);
+            checks::checkText(row, u"itemDescription"_s, item.description);
     }
     const QScrollBar *bar = area->verticalScrollBar();
     expect(bar->value() < bar->maximum() || number == category->items.size(),
@@ -340,7 +340,7 @@ void ResultProbe::checkDetails(const QWidget *dialog) const
 
 void ResultProbe::checkListing()
 {
-    m_isFresh = false;
+    m_hasNewListing = false;
     QStringList keys;
     for (const CleanCategory &category : categories()) {
         for (const CleanItem &item : category.items)
@@ -379,7 +379,7 @@ void BrowserProbe::check()
     const auto boxes = child(page(), u"browserSelectionBar"_s)->findChildren<QCheckBox *>();
     for (const QCheckBox *box : boxes) {
         for (const CleanCategory &category : categories())
-            expect(box->isChecked() || tickedIn(category) == 0
+            expect(box->isChecked() || tickedCount(category) == 0
                        || !category.name.startsWith(box->text() + " - "_L1),
                    [&] { return u"%1 is left out but ticked"_s.arg(category.name); });
     }
@@ -424,18 +424,18 @@ void BrowserProbe::checkRow(const Row &row) const
     while (first != row.first)
         first += static_cast<int>((category++)->items.size());
     if (row.widget->objectName() == "browserSubItem"_L1) {
-        look::checkText(row.widget, u"subItemName"_s, category->name.section(u" - "_s, 1));
-        look::checkText(row.widget, u"subItemCount"_s, u"%1 items"_s.arg(row.count));
-        look::checkText(row.widget, u"subItemSize"_s, look::sizeText(category->totalSize()));
-        look::checkBox(row.box, tickedIn(*category), row.count);
+        checks::checkText(row.widget, u"subItemName"_s, category->name.section(u" - "_s, 1));
+        checks::checkText(row.widget, u"subItemCount"_s, u"%1 items"_s.arg(row.count));
+        checks::checkText(row.widget, u"subItemSize"_s, checks::sizeText(category->totalSize()));
+        checks::checkBox(row.box, tickedCount(*category), row.count);
         return;
     }
-    look::checkText(row.widget, u"browserName"_s, category->name.section(u" - "_s, 0, 0));
-    look::checkText(row.widget, u"browserItemCount"_s, u"%1 items"_s.arg(row.count));
+    checks::checkText(row.widget, u"browserName"_s, category->name.section(u" - "_s, 0, 0));
+    checks::checkText(row.widget, u"browserItemCount"_s, u"%1 items"_s.arg(row.count));
     int ticked = 0;
     for (; first < row.first + row.count; ++category) {
-        ticked += tickedIn(*category);
+        ticked += tickedCount(*category);
         first += static_cast<int>(category->items.size());
     }
-    look::checkBox(row.box, ticked, row.count);
+    checks::checkBox(row.box, ticked, row.count);
 }

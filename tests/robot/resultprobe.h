@@ -27,11 +27,11 @@ public:
     [[nodiscard]] QString name() const override { return m_name; }
     [[nodiscard]] QWidget *page() const override;
     [[nodiscard]] QStringList controls() const override;
-    [[nodiscard]] QStringList beginning() const override;
+    [[nodiscard]] QStringList startControls() const override;
     [[nodiscard]] bool isBusy() const override;
     [[nodiscard]] QAbstractScrollArea *list() const override;
     [[nodiscard]] Ticks ticks() const override;
-    [[nodiscard]] QList<Row> look() const override;
+    [[nodiscard]] QList<Row> visibleRows() const override;
     [[nodiscard]] std::optional<Row> rowWith(const QWidget *box) const override;
     void check() override;
     void checkDetails(const QWidget *dialog) const override;
@@ -66,7 +66,7 @@ private:
     bool m_isScanning = false;
     bool m_isCleaning = false;
     bool m_hasFigures = false; ///< even if they are naught
-    bool m_isFresh = false; ///< listed since the last check
+    bool m_hasNewListing = false; ///< listed since the last check
 };
 
 /// The page of the browsers, by browser.

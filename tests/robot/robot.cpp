@@ -17,15 +17,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// How many passes of the event loop the effects of an action may take when nothing is at work.
-constexpr int enoughPasses = 4;
-constexpr int betweenPaintings = 20; ///< actions
-constexpr int warm = 1000; ///< actions after which the memory must not grow much any more
-constexpr int betweenLooksAtMemory = 1000;
-constexpr int mostGrowth = 100; ///< mebibytes
-constexpr int enoughLeft = 60; ///< per cent of the files
+constexpr int neededPasses = 4;
+constexpr int paintInterval = 20; ///< actions
+constexpr int warmUpActions = 1000; ///< actions after which the memory must not grow much any more
+constexpr int memoryCheckInterval = 1000;
+constexpr int maxMemoryGrowth = 100; ///< mebibytes
+constexpr int minPercentRemaining = 60; ///< per cent of the files
 
 /// How much memory the process takes; 0 where that is not told.
-int mebibytes()
+int usedMebibytes()
 {
     QFile status(u"/proc/self/statm"_s);
     constexpr int pagesPerMebibyte = 256;
@@ -61,29 +61,29 @@ bool Robot::isIdle() const
 
 void Robot::step()
 {
-    const bool idle = isIdle() && !Hands::isWaiting();
-    m_idlePasses = idle ? m_idlePasses + 1 : 0;
-    const bool isImpatient = !idle && m_impatience > 0 && ++m_busyPasses > m_impatience;
-    if (m_idlePasses < enoughPasses && !isImpatient)
+    const bool isIdleNow = isIdle() && !Hands::hasPendingEvents();
+    m_idlePasses = isIdleNow ? m_idlePasses + 1 : 0;
+    const bool isWaitOver = !isIdleNow && m_maxBusyPasses > 0 && ++m_busyPasses > m_maxBusyPasses;
+    if (m_idlePasses < neededPasses && !isWaitOver)
         return;
     if (Hands::activateSomeWindow()) {
         m_idlePasses = 0;
         return;
     }
-    if (m_number > 0) {
-        m_judge.judge(m_action, idle);
+    if (m_actionNumber > 0) {
+        m_judge.judge(m_action, isIdleNow);
         for (PageProbe *probe : std::as_const(m_probes))
             probe->check();
     }
-    if (!idle)
-        m_judge.interrupt();
-    if (m_number % betweenPaintings == 0)
-        m_painting.paint();
+    if (!isIdleNow)
+        m_judge.noteInterruption();
+    if (m_actionNumber % paintInterval == 0)
+        m_paintThrottle.paint();
     const QWidget *dialog = QApplication::activeModalWidget();
-    if (idle && dialog && dialog->objectName() == "itemDetailDialog"_L1)
-        m_player.current()->checkDetails(dialog);
-    m_rows = idle ? m_player.current()->look() : QList<Row>();
-    if (m_number < m_options.actions)
+    if (isIdleNow && dialog && dialog->objectName() == "itemDetailDialog"_L1)
+        m_player.currentProbe()->checkDetails(dialog);
+    m_rows = isIdleNow ? m_player.currentProbe()->visibleRows() : QList<Row>();
+    if (m_actionNumber < m_options.actions)
         act();
     else
         end();
@@ -91,53 +91,54 @@ void Robot::step()
 
 void Robot::act()
 {
-    ++m_number;
+    ++m_actionNumber;
     // Each action has dice of its own: what one of them uses does not change the next one.
-    Dice dice(m_seed << 32 | static_cast<quint64>(m_number));
+    Dice dice(m_seed << 32 | static_cast<quint64>(m_actionNumber));
     ActionLog &log = ActionLog::instance();
-    log.begin(m_number);
-    if (m_number == warm)
-        m_memory = mebibytes();
-    else if (m_number > warm && m_number % betweenLooksAtMemory == 0)
-        expect(mebibytes() <= m_memory + mostGrowth, [this] {
-            return u"the memory has grown from %1 to %2 MiB"_s.arg(QString::number(m_memory),
-                                                                   QString::number(mebibytes()));
+    log.begin(m_actionNumber);
+    if (m_actionNumber == warmUpActions)
+        m_memoryAfterWarmUp = usedMebibytes();
+    else if (m_actionNumber > warmUpActions && m_actionNumber % memoryCheckInterval == 0)
+        expect(usedMebibytes() <= m_memoryAfterWarmUp + maxMemoryGrowth, [this] {
+            return u"the memory has grown from %1 to %2 MiB"_s.arg(
+                QString::number(m_memoryAfterWarmUp), QString::number(usedMebibytes()));
         });
     // Not while a box tells of a run: what the run saw is still to be compared.
-    const bool isRefilled =
-        isIdle() && !Hands::isWaiting() && !QApplication::activeModalWidget() && dice.chance(5);
+    const bool isRefilled = isIdle() && !Hands::hasPendingEvents()
+        && !QApplication::activeModalWidget() && dice.chance(5);
     if (isRefilled)
         refill();
     m_action = m_player.act(dice, m_rows);
     log.describe(isRefilled ? m_action.text + u" (all is made anew)"_s : m_action.text);
-    log.trace();
-    m_judge.expectFrom(m_action);
+    log.printLine();
+    m_judge.expectEffects(m_action);
     m_idlePasses = 0;
     m_busyPasses = 0;
-    m_impatience = dice.chance(8) ? dice.between(1, 6) : 0;
+    m_maxBusyPasses = dice.chance(8) ? dice.between(1, 6) : 0;
 }
 
 // Used up, there would be nothing to look at; for a while that is looked at, too.
 void Robot::refill()
 {
     constexpr std::array owners{World::Owner::Junk, World::Owner::Browser, World::Owner::Large};
-    const bool isUsedUp = std::any_of(owners.begin(), owners.end(), [this](World::Owner owner) {
-        return m_world->percentLeft(owner) < enoughLeft;
-    });
-    if (isUsedUp)
+    const bool isRefillNeeded =
+        std::any_of(owners.begin(), owners.end(), [this](World::Owner owner) {
+            return m_world->percentRemaining(owner) < minPercentRemaining;
+        });
+    if (isRefillNeeded)
         m_world->refill();
     m_registry->refill();
-    m_registry->accept();
+    m_registry->acceptState();
 }
 
 void Robot::end()
 {
     m_idlePasses = 0;
-    m_impatience = 0;
+    m_maxBusyPasses = 0;
     m_action = {};
     m_action.effect = Action::Effect::Unknown;
     ActionLog::instance().describe(u"closing what is open"_s);
-    if (m_player.closeSomething() || !isIdle())
+    if (m_player.closeTopWindow() || !isIdle())
         return;
     m_timer.stop();
     m_judge.compareFully();

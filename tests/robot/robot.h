@@ -1,7 +1,7 @@
 #pragma once
 
 #include "judge.h"
-#include "painting.h"
+#include "paintthrottle.h"
 #include "player.h"
 
 #include <QObject>
@@ -44,17 +44,17 @@ private:
     QList<PageProbe *> m_probes;
     World *m_world;
     RegistryWorld *m_registry;
-    Painting m_painting;
+    PaintThrottle m_paintThrottle;
     Player m_player;
     Judge m_judge;
     quint64 m_seed;
     QTimer m_timer;
     Action m_action;
     QList<Row> m_rows;
-    int m_number = 0;
-    int m_memory = 0; ///< mebibytes after the first actions
+    int m_actionNumber = 0;
+    int m_memoryAfterWarmUp = 0; ///< mebibytes after the first actions
     // Passes of the event loop since the last action:
     int m_idlePasses = 0; ///< the last ones, without anything at work
     int m_busyPasses = 0;
-    int m_impatience = 0; ///< how many busy ones are waited for; 0: any number
+    int m_maxBusyPasses = 0; ///< how many busy ones are waited for; 0: any number
 };

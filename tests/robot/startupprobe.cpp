@@ -1,6 +1,6 @@
 #include "startupprobe.h"
 
-#include "look.h"
+#include "checks.h"
 #include "registryworld.h"
 #include "startuppage.h"
 
@@ -12,11 +12,11 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using look::child;
+using checks::child;
 
 namespace {
 
-constexpr int column = 200; ///< where rows are looked for, from the left edge of the list
+constexpr int rowSearchX = 200; ///< where rows are looked for, from the left edge of the list
 
 } // namespace
 
@@ -86,13 +86,13 @@ Ticks StartupProbe::ticks() const
     return ticks;
 }
 
-QList<Row> StartupProbe::look() const
+QList<Row> StartupProbe::visibleRows() const
 {
     if (!hasLoaded())
         return {};
     const auto &programs = m_registry->programs();
     const QList<bool> ticked = ticks().values;
-    const QList<QWidget *> seen = eyes::rowsFromTheTop(m_area, column, {u"startupCard"_s});
+    const QList<QWidget *> seen = eyes::findRows(m_area, rowSearchX, {u"startupCard"_s});
     expect(seen.isEmpty() == (expectedCount() == 0),
            [&] { return u"%1 cards are seen"_s.arg(seen.size()); });
     QList<Row> rows;
@@ -103,13 +103,13 @@ QList<Row> StartupProbe::look() const
             programs.cbegin(), programs.cend(),
             [&path](const RegistryWorld::Program &other) { return other.path == path; });
         expect(program != programs.cend(), [&] { return u"%1 is no program"_s.arg(path); });
-        look::compare(u"the program of the box"_s, box->property("exePath").toString(), path);
-        look::checkText(card, u"appName"_s, program->name);
+        checks::compare(u"the program of the box"_s, box->property("exePath").toString(), path);
+        checks::checkText(card, u"appName"_s, program->name);
         const auto number = static_cast<int>(program - programs.cbegin());
         expect(std::none_of(rows.cbegin(), rows.cend(),
                             [number](const Row &row) { return row.first == number; }),
                [&] { return u"%1 is shown twice"_s.arg(path); });
-        look::checkBox(box, ticked.at(number) ? 1 : 0, 1);
+        checks::checkBox(box, ticked.at(number) ? 1 : 0, 1);
         const auto *status = card->findChild<QWidget *>(u"statusLabel"_s);
         expect(status->isHidden() != ticked.at(number),
                [&] { return u"the status of %1 is not that of its box"_s.arg(path); });
@@ -127,7 +127,7 @@ std::optional<Row> StartupProbe::rowWith(const QWidget *box) const
 }
 
 // The user's list has one entry of a name, whatever its case.
-bool StartupProbe::isTied(int record, int other) const
+bool StartupProbe::canAffect(int record, int other) const
 {
     const auto &programs = m_registry->programs();
     return programs.at(record).name.toLower() == programs.at(other).name.toLower();
@@ -138,9 +138,9 @@ void StartupProbe::check()
     if (!hasLoaded() || isBusy())
         return;
     const QList<bool> ticked = ticks().values;
-    look::compare(u"the counts"_s, m_counts->text(),
-                  u"%1 programs · %2 startup items"_s.arg(QString::number(ticked.size()),
-                                                          QString::number(ticked.count(true))));
+    checks::compare(u"the counts"_s, m_counts->text(),
+                    u"%1 programs · %2 startup items"_s.arg(QString::number(ticked.size()),
+                                                            QString::number(ticked.count(true))));
     const auto cards = m_area->viewport()->findChildren<QWidget *>(u"startupCard"_s).size();
     expect(cards == expectedCount(), [&] {
         return u"%1 cards stand for %2 programs"_s.arg(QString::number(cards),

@@ -20,9 +20,9 @@ public:
     [[nodiscard]] bool isBusy() const override;
     [[nodiscard]] QAbstractScrollArea *list() const override;
     [[nodiscard]] Ticks ticks() const override;
-    [[nodiscard]] QList<Row> look() const override;
+    [[nodiscard]] QList<Row> visibleRows() const override;
     [[nodiscard]] std::optional<Row> rowWith(const QWidget *box) const override;
-    [[nodiscard]] bool isTied(int record, int other) const override;
+    [[nodiscard]] bool canAffect(int record, int other) const override;
     void check() override;
 
 private:

@@ -52,7 +52,7 @@ void prepareSystem(const TestHome &home)
             < 0)
         qFatal("cannot describe the screen");
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
-    QFile::setPermissions(home.point("XDG_RUNTIME_DIR", u"runtime"_s),
+    QFile::setPermissions(home.setFolderVariable("XDG_RUNTIME_DIR", u"runtime"_s),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("PATH", home.folder(u"no programs"_s).toUtf8());
 }
@@ -75,12 +75,12 @@ LargeFilePage *replaceLargeFilePage(MainWindow *window, const QStringList &roots
     return page;
 }
 
-ResultProbe::ListingCheck fileCheck(const World *world, World::Owner owner, bool isWhole)
+ResultProbe::ListingCheck makeFileCheck(const World *world, World::Owner owner, bool isComplete)
 {
-    return [world, owner, isWhole](const QStringList &paths) {
+    return [world, owner, isComplete](const QStringList &paths) {
         for (const QString &path : paths)
             expect(world->mayBeListed(owner, path), [&] { return u"%1 is listed"_s.arg(path); });
-        const QStringList expected = isWhole ? world->listed(owner) : QStringList();
+        const QStringList expected = isComplete ? world->expectedPaths(owner) : QStringList();
         const QSet<QString> listed(paths.begin(), paths.end());
         for (const QString &path : expected)
             expect(listed.contains(path), [&] { return u"%1 is not listed"_s.arg(path); });
@@ -90,7 +90,7 @@ ResultProbe::ListingCheck fileCheck(const World *world, World::Owner owner, bool
 void checkEntries(const RegistryWorld *registry, const QStringList &entries)
 {
     const QSet<QString> listed(entries.begin(), entries.end());
-    const QSet<QString> expected = registry->listed();
+    const QSet<QString> expected = registry->expectedItems();
     for (const QString &entry : listed)
         expect(expected.contains(entry), [&] { return u"%1 is listed"_s.arg(entry); });
     for (const QString &entry : expected)
@@ -142,7 +142,7 @@ int main(int argc, char *argv[])
 
     World world(home);
     RegistryWorld registry(home);
-    world.checkPlaces();
+    world.checkFolders();
     Application::instance()->initialize();
     Application::instance()->showMainWindow();
     MainWindow *window = Application::instance()->mainWindow();
@@ -152,9 +152,9 @@ int main(int argc, char *argv[])
 
     DashboardProbe dashboard(window->findChild<DashboardPage *>(), window->findChild<FullScan *>());
     ResultProbe junk(u"junk"_s, window->findChild<JunkPage *>(),
-                     fileCheck(&world, World::Owner::Junk, true));
+                     makeFileCheck(&world, World::Owner::Junk, true));
     BrowserProbe browser(u"browser"_s, window->findChild<BrowserPage *>(),
-                         fileCheck(&world, World::Owner::Browser, false));
+                         makeFileCheck(&world, World::Owner::Browser, false));
     ResultProbe entries(u"registry"_s, window->findChild<RegistryPage *>(),
                         [&registry](const QStringList &keys) { checkEntries(&registry, keys); });
     StartupProbe startup(window->findChild<StartupPage *>(), &registry);

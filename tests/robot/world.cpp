@@ -60,19 +60,19 @@ World::World(const TestHome &home)
     : m_home(home.path())
 {
     for (const char *variable : {"TMPDIR", "TEMP", "TMP"})
-        home.point(variable, u"Temp"_s);
-    home.point("WINDIR", u"Windows"_s);
-    home.point("LOCALAPPDATA", u"Local"_s);
-    home.point("SYSTEMDRIVE", u"Drive"_s);
-    home.point("PROGRAMDATA", u"ProgramData"_s);
-    home.point("USERPROFILE", u"User"_s);
+        home.setFolderVariable(variable, u"Temp"_s);
+    home.setFolderVariable("WINDIR", u"Windows"_s);
+    home.setFolderVariable("LOCALAPPDATA", u"Local"_s);
+    home.setFolderVariable("SYSTEMDRIVE", u"Drive"_s);
+    home.setFolderVariable("PROGRAMDATA", u"ProgramData"_s);
+    home.setFolderVariable("USERPROFILE", u"User"_s);
     home.folder(u"home/Desktop"_s);
     planFence();
     planJunk();
     planBrowsers();
     planLargeFiles();
     for (qsizetype i = 0; i < m_entries.size(); ++i)
-        m_places.insert(m_entries.at(i).path, i);
+        m_indexes.insert(m_entries.at(i).path, i);
     m_stamps.resize(m_entries.size());
     refill();
 }
@@ -86,7 +86,7 @@ World::~World()
     }
 }
 
-void World::checkPlaces() const
+void World::checkFolders() const
 {
     for (const QString &folder :
          {platform::temporaryFolder(), platform::localDataFolder(), platform::roamingDataFolder(),
@@ -111,13 +111,13 @@ void World::planFence()
     add(Nobody, u"Fence/target of a hard link.tmp"_s);
     add(Nobody, u"Fence/a folder/below.tmp"_s);
     add(Nobody, u"Fence/large target.mkv"_s, 900 * mebibyte + 1);
-    for (const QString &place :
+    for (const QString &path :
          {u"Drive/note.txt"_s, u"Drive/Users/data.doc"_s, u"Windows/explorer.exe"_s,
           u"Windows/System32/kernel32.dll"_s, u"Windows/Prefetch/layout.ini"_s,
           u"Windows/Logs/CBS/keep.txt"_s, u"Windows/INF/driver.inf"_s, u"Local/Programs/app.exe"_s,
           u"Local/Microsoft/Windows/Explorer/settings.db"_s, u"ProgramData/Product/data.bin"_s,
           u"User/Documents/letter.doc"_s, u"User/AppData/Roaming/Product/config.xml"_s})
-        add(Nobody, place);
+        add(Nobody, path);
 }
 
 void World::planJunk()
@@ -158,7 +158,7 @@ void World::planJunk()
     add(Junk, u"ProgramData/Microsoft/Windows/WER/Report 工作/report.wer"_s, 13'007);
 }
 
-void World::planChromium(const QString &profile, bool isRich)
+void World::planChromium(const QString &profile, bool hasManyFiles)
 {
     using enum Owner;
     int size = 1'009;
@@ -170,7 +170,7 @@ void World::planChromium(const QString &profile, bool isRich)
     for (const QString &name : {u"Bookmarks"_s, u"Login Data"_s, u"Preferences"_s,
                                 u"Extensions/abc/1.0_0/manifest.json"_s})
         add(Nobody, profile + u'/' + name);
-    if (!isRich)
+    if (!hasManyFiles)
         return;
     for (int i = 0; i < 60; ++i) // more than a batch of the list of details
         add(Browser, profile + "/Service Worker/CacheStorage/"_L1 + oddName(i, u".bin"_s),
@@ -251,11 +251,11 @@ void World::make(const Entry &entry) const
         return;
     }
     QFile file(entry.path);
-    const bool isMade = file.open(QIODevice::WriteOnly)
+    const bool isWritten = file.open(QIODevice::WriteOnly)
         && (entry.owner == Owner::Nobody && entry.size == 0
                 ? file.write(file.fileName().toUtf8()) > 0
                 : file.resize(entry.size));
-    expect(isMade, [&] { return u"%1 cannot be made"_s.arg(entry.path); });
+    expect(isWritten, [&] { return u"%1 cannot be made"_s.arg(entry.path); });
     file.close();
     if (entry.kind == Kind::ReadOnlyFile)
         file.setPermissions(QFile::ReadOwner);
@@ -281,20 +281,20 @@ void World::refill()
     }
 }
 
-int World::percentLeft(Owner owner) const
+int World::percentRemaining(Owner owner) const
 {
     int all = 0;
-    int left = 0;
+    int existing = 0;
     for (qsizetype i = 0; i < m_entries.size(); ++i) {
         if (m_entries.at(i).owner != owner)
             continue;
         ++all;
-        left += m_stamps.at(i).exists ? 1 : 0;
+        existing += m_stamps.at(i).exists ? 1 : 0;
     }
-    return left * 100 / all;
+    return existing * 100 / all;
 }
 
-QStringList World::listed(Owner owner, qint64 minimumSize) const
+QStringList World::expectedPaths(Owner owner, qint64 minimumSize) const
 {
     QStringList paths;
     for (qsizetype i = 0; i < m_entries.size(); ++i) {
@@ -308,9 +308,9 @@ QStringList World::listed(Owner owner, qint64 minimumSize) const
 
 bool World::mayBeListed(Owner owner, const QString &path) const
 {
-    const auto place = m_places.constFind(path);
-    if (place != m_places.cend())
-        return m_entries.at(*place).owner == owner;
+    const auto index = m_indexes.constFind(path);
+    if (index != m_indexes.cend())
+        return m_entries.at(*index).owner == owner;
     // A browser's folder is listed beside what is in it; whatever lies there goes with it.
     if (owner != Owner::Browser || !QFileInfo(path).isDir())
         return false;
@@ -350,9 +350,9 @@ World::Stamp World::stampOf(const QString &path)
     return stamp;
 }
 
-QStringList World::lookForGone()
+QStringList World::findDeleted()
 {
-    QStringList gone;
+    QStringList deleted;
     for (qsizetype i = 0; i < m_entries.size(); ++i) {
         Stamp &before = m_stamps[i];
         const QString &path = m_entries.at(i).path;
@@ -360,13 +360,13 @@ QStringList World::lookForGone()
         if (now == before)
             continue;
         if (before.exists && !now.exists) {
-            gone.append(path);
+            deleted.append(path);
             before = now;
             continue;
         }
         ActionLog::instance().fail(u"%1 is not as it was"_s.arg(path));
     }
-    return gone;
+    return deleted;
 }
 
 QStringList World::entriesAt(const QStringList &paths) const
@@ -385,9 +385,9 @@ QStringList World::entriesAt(const QStringList &paths) const
         // A path may lead through a link to the folder where the file really lies.
         const QString folder = QFileInfo(info.path()).canonicalFilePath();
         const QString real = folder + path.mid(info.path().size());
-        const auto place = m_places.constFind(real);
-        expect(place != m_places.cend(), [&] { return u"%1 is unknown"_s.arg(path); });
-        if (m_stamps.at(*place).exists)
+        const auto index = m_indexes.constFind(real);
+        expect(index != m_indexes.cend(), [&] { return u"%1 is unknown"_s.arg(path); });
+        if (m_stamps.at(*index).exists)
             found.append(real);
     }
     std::sort(found.begin(), found.end());
@@ -401,25 +401,26 @@ bool World::resistsDeletion(const QString &path) const
     Q_UNUSED(path)
     return false; // what counts is the folder
 #else
-    const auto place = m_places.constFind(path);
-    return place != m_places.cend() && m_entries.at(*place).kind == Kind::ReadOnlyFile;
+    const auto index = m_indexes.constFind(path);
+    return index != m_indexes.cend() && m_entries.at(*index).kind == Kind::ReadOnlyFile;
 #endif
 }
 
 void World::compareFully() const
 {
     // The program's own data and the registry's files change by right.
-    static const QStringList own{u"config"_s, u"data"_s, u"cache"_s, u"home"_s, u"prefix"_s};
+    static const QStringList changingFolders{u"config"_s, u"data"_s, u"cache"_s, u"home"_s,
+                                             u"prefix"_s};
     const QStringList tops = QDir(m_home).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &top : tops) {
-        if (own.contains(top))
+        if (changingFolders.contains(top))
             continue;
         QDirIterator it(m_home + u'/' + top,
                         QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                         QDirIterator::Subdirectories);
         while (it.hasNext()) {
             const QString path = it.next();
-            expect(path.contains("/Norvak/"_L1) || m_places.contains(path),
+            expect(path.contains("/Norvak/"_L1) || m_indexes.contains(path),
                    [&] { return u"%1 is new"_s.arg(path); });
         }
     }

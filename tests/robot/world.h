@@ -26,7 +26,7 @@ public:
     explicit World(const TestHome &home);
     ~World();
     /// Fails unless every folder that the program may look for junk in is the test's own.
-    void checkPlaces() const;
+    void checkFolders() const;
 
     /// Where large files are looked for.
     [[nodiscard]] QStringList drives() const { return m_drives; }
@@ -34,16 +34,16 @@ public:
     /// Makes what is missing.
     void refill();
     /// How many of an owner's files are still there, in per cent.
-    [[nodiscard]] int percentLeft(Owner owner) const;
+    [[nodiscard]] int percentRemaining(Owner owner) const;
 
     /// The entries that a page must list when it has scanned.
-    [[nodiscard]] QStringList listed(Owner owner, qint64 minimumSize = 0) const;
+    [[nodiscard]] QStringList expectedPaths(Owner owner, qint64 minimumSize = 0) const;
     /// Whether there may be a listed entry at @p path: one of the owner, or something in a folder
     /// that the owner's files lie in.
     [[nodiscard]] bool mayBeListed(Owner owner, const QString &path) const;
 
     /// What is gone since the last look, and fails when anything is not as it was.
-    [[nodiscard]] QStringList lookForGone();
+    [[nodiscard]] QStringList findDeleted();
     /// Of @p paths those entries that are there now, with everything below those that are folders.
     [[nodiscard]] QStringList entriesAt(const QStringList &paths) const;
     /// Whether the system refuses to delete it by itself.
@@ -73,7 +73,7 @@ private:
 
     void planJunk();
     void planBrowsers();
-    void planChromium(const QString &profile, bool isRich);
+    void planChromium(const QString &profile, bool hasManyFiles);
     void planLargeFiles();
     void planFence();
     void add(Owner owner, const QString &path, qint64 size = 0, Kind kind = Kind::File,
@@ -85,6 +85,6 @@ private:
     QString m_home;
     QStringList m_drives;
     QList<Entry> m_entries;
-    QHash<QString, qsizetype> m_places; ///< of the entries, by path
+    QHash<QString, qsizetype> m_indexes; ///< of the entries, by path
     QList<Stamp> m_stamps; ///< of the entries
 };

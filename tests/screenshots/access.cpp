@@ -9,13 +9,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString described(const QWidget *widget)
+QString describe(const QWidget *widget)
 {
     return u"%1 %2"_s.arg(QLatin1StringView(widget->metaObject()->className()),
                           widget->objectName());
 }
 
-bool takesFocus(const QWidget *widget)
+bool canTakeFocus(const QWidget *widget)
 {
     return widget->isVisible() && widget->isEnabled() && !widget->focusProxy()
         && (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus
@@ -28,7 +28,7 @@ QList<const QWidget *> tabChain(const QWidget *window)
     QList<const QWidget *> chain;
     for (const QWidget *widget = window->nextInFocusChain(); widget && widget != window;
          widget = widget->nextInFocusChain()) {
-        if (widget->window() == window && takesFocus(widget))
+        if (widget->window() == window && canTakeFocus(widget))
             chain.append(widget);
     }
     return chain;
@@ -46,20 +46,20 @@ const QWidget *partOf(const QWidget *widget)
     return widget->window();
 }
 
-QRect place(const QWidget *widget)
+QRect visibleRect(const QWidget *widget)
 {
     return widget->visibleRegion().boundingRect().translated(
         widget->mapTo(widget->window(), QPoint(0, 0)));
 }
 
-bool standsBefore(const QRect &one, const QRect &other)
+bool isBefore(const QRect &one, const QRect &other)
 {
     return one.bottom() < other.top()
         || (one.right() < other.left() && one.top() <= other.bottom());
 }
 
 /// Whether the widget is one of many alike, of which the name alone may not tell enough.
-bool isListed(const QWidget *widget)
+bool isInList(const QWidget *widget)
 {
     for (const QWidget *parent = widget; parent; parent = parent->parentWidget()) {
         if (qobject_cast<const QScrollArea *>(parent))
@@ -73,15 +73,15 @@ QStringList nameFaults(const QWidget *widget)
     QAccessibleInterface *access = QAccessible::queryAccessibleInterface(
         const_cast<QWidget *>(widget)); // NOLINT: it is only read
     if (!access)
-        return {described(widget) + ": no accessible interface"_L1};
+        return {describe(widget) + ": no accessible interface"_L1};
     QStringList faults;
     if (access->text(QAccessible::Name).trimmed().isEmpty())
-        faults.append(described(widget) + ": takes the focus and has no name"_L1);
-    if (qobject_cast<const QCheckBox *>(widget) && isListed(widget)
+        faults.append(describe(widget) + ": takes the focus and has no name"_L1);
+    if (qobject_cast<const QCheckBox *>(widget) && isInList(widget)
         && access->text(QAccessible::Description).isEmpty())
-        faults.append(described(widget) + ": stands in a list and has no description"_L1);
+        faults.append(describe(widget) + ": stands in a list and has no description"_L1);
     if (access->role() == QAccessible::NoRole || access->role() == QAccessible::Client)
-        faults.append(described(widget) + ": takes the focus and has no role"_L1);
+        faults.append(describe(widget) + ": takes the focus and has no role"_L1);
     return faults;
 }
 
@@ -100,16 +100,16 @@ QStringList accessFaults(const QWidget *window)
         parts.removeLast(); // the chain is a ring
     for (qsizetype i = 0; i < parts.size(); ++i) {
         if (parts.indexOf(parts.at(i)) < i)
-            faults.append(u"the tab key comes back to %1"_s.arg(described(parts.at(i))));
+            faults.append(u"the tab key comes back to %1"_s.arg(describe(parts.at(i))));
     }
-    const QWidget *before = nullptr;
+    const QWidget *previous = nullptr;
     for (const QWidget *widget : chain) {
         faults += nameFaults(widget);
-        if (before && partOf(before) == partOf(widget) && !before->isAncestorOf(widget)
-            && standsBefore(place(widget), place(before)))
+        if (previous && partOf(previous) == partOf(widget) && !previous->isAncestorOf(widget)
+            && isBefore(visibleRect(widget), visibleRect(previous)))
             faults.append(u"%1: the tab key comes to it after %2, which stands behind it"_s.arg(
-                described(widget), described(before)));
-        before = widget;
+                describe(widget), describe(previous)));
+        previous = widget;
     }
     return faults;
 }

@@ -22,14 +22,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString described(const QWidget *widget, const QString &text, const QString &complaint)
+QString describe(const QWidget *widget, const QString &text, const QString &complaint)
 {
     QString line = u"%1 %2: %3"_s.arg(QLatin1StringView(widget->metaObject()->className()),
                                       widget->objectName(), complaint);
     return line + ": \""_L1 + QString(text).replace(u'\n', u' ') + u'"';
 }
 
-QString sizes(QSize needed, QSize given)
+QString sizeText(QSize needed, QSize given)
 {
     return u"needs %1 x %2, has %3 x %4"_s.arg(
         QString::number(needed.width()), QString::number(needed.height()),
@@ -75,7 +75,7 @@ QStringList checkLabel(const QLabel *label)
         needed = label->fontMetrics().size(0, label->text());
     if (fits(needed, label->size()))
         return {};
-    return {described(label, label->text(), sizes(needed, label->size()))};
+    return {describe(label, label->text(), sizeText(needed, label->size()))};
 }
 
 QStringList checkButton(const QAbstractButton *button, QStyle::SubElement contents)
@@ -94,7 +94,7 @@ QStringList checkButton(const QAbstractButton *button, QStyle::SubElement conten
     needed.setHeight(button->fontMetrics().height()); // emoji are higher than the line
     if (fits(needed, given))
         return {};
-    return {described(button, button->text(), sizes(needed, given))};
+    return {describe(button, button->text(), sizeText(needed, given))};
 }
 
 QStringList checkCombo(const QComboBox *combo)
@@ -108,7 +108,7 @@ QStringList checkCombo(const QComboBox *combo)
     for (int i = 0; i < combo->count(); ++i) {
         if (const QSize needed = textSize(combo, combo->itemText(i));
             needed.width() > field.width())
-            complaints.append(described(combo, combo->itemText(i), sizes(needed, field.size())));
+            complaints.append(describe(combo, combo->itemText(i), sizeText(needed, field.size())));
     }
     return complaints;
 }
@@ -126,7 +126,7 @@ QStringList checkOne(const QWidget *widget)
     if (const auto *group = qobject_cast<const QGroupBox *>(widget)) {
         const QSize needed = textSize(group, group->title());
         if (needed.width() + 24 > group->width())
-            return {described(group, group->title(), sizes(needed, group->size()))};
+            return {describe(group, group->title(), sizeText(needed, group->size()))};
     }
     if (const auto *edit = qobject_cast<const QLineEdit *>(widget)) {
         const QString text = edit->placeholderText();
@@ -136,7 +136,7 @@ QStringList checkOne(const QWidget *widget)
         const QSize given =
             edit->style()->subElementRect(QStyle::SE_LineEditContents, &option, edit).size();
         if (needed.width() > given.width())
-            return {described(edit, text, sizes(needed, given))};
+            return {describe(edit, text, sizeText(needed, given))};
     }
     return {};
 }
@@ -173,18 +173,18 @@ QStringList checkChildren(const QWidget *parent)
     for (const QWidget *child : children) {
         if (!child->isVisible() || child->isWindow())
             continue;
-        const QRect place = child->geometry();
-        const bool isOutside = isScrolled(child) ? place.right() > parent->rect().right()
-                                                 : !parent->rect().contains(place);
+        const QRect rect = child->geometry();
+        const bool isOutside = isScrolled(child) ? rect.right() > parent->rect().right()
+                                                 : !parent->rect().contains(rect);
         if (isOutside && (hasText(child) || isScrolled(child))
             && !qobject_cast<const QAbstractScrollArea *>(parent))
-            complaints.append(described(child, {}, u"reaches beyond its parent"_s));
+            complaints.append(describe(child, {}, u"reaches beyond its parent"_s));
         if (!hasText(child))
             continue;
         for (const QWidget *other : std::as_const(texts)) {
-            if (other->geometry().intersects(place))
+            if (other->geometry().intersects(rect))
                 complaints.append(
-                    described(child, {}, u"lies on %1"_s.arg(described(other, {}, QString()))));
+                    describe(child, {}, u"lies on %1"_s.arg(describe(other, {}, QString()))));
         }
         texts.append(child);
     }
@@ -196,15 +196,15 @@ QStringList checkChildren(const QWidget *parent)
 QStringList unreadableTexts(const QWidget *window)
 {
     QStringList complaints;
-    QList<const QWidget *> open{window};
-    while (!open.isEmpty()) {
-        const QWidget *widget = open.takeLast();
+    QList<const QWidget *> pending{window};
+    while (!pending.isEmpty()) {
+        const QWidget *widget = pending.takeLast();
         complaints += checkOne(widget);
         complaints += checkChildren(widget);
         const auto children = widget->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
         for (const QWidget *child : children) {
             if (child->isVisible() && !child->isWindow())
-                open.append(child);
+                pending.append(child);
         }
     }
     return complaints;

@@ -67,12 +67,12 @@ private:
     const TourVisitor &m_visit;
 };
 
-void fill(const TestHome &home)
+void fillJunk(const TestHome &home)
 {
-    const QString temp = home.point("TMPDIR", u"Temp"_s);
-    const QString windows = home.point("WINDIR", u"Windows"_s);
-    const QString local = home.point("LOCALAPPDATA", u"Local"_s);
-    const QString drive = home.point("SYSTEMDRIVE", u"Drive"_s);
+    const QString temp = home.setFolderVariable("TMPDIR", u"Temp"_s);
+    const QString windows = home.setFolderVariable("WINDIR", u"Windows"_s);
+    const QString local = home.setFolderVariable("LOCALAPPDATA", u"Local"_s);
+    const QString drive = home.setFolderVariable("SYSTEMDRIVE", u"Drive"_s);
     const auto write = [](const QString &path, int size) {
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
@@ -96,7 +96,8 @@ void fillBrowsers(const TestHome &home)
 {
     const TestTree tree;
     browserprofiles::makeAll(tree);
-    const QString roaming = home.point("USERPROFILE", u"User"_s) + "/AppData/Roaming"_L1;
+    const QString roaming =
+        home.setFolderVariable("USERPROFILE", u"User"_s) + "/AppData/Roaming"_L1;
     const QString local = home.folder(u"Local"_s);
     for (const auto &[from, to] :
          {std::pair(tree.path(u"Local"_s), local), std::pair(tree.path(u"Roaming"_s), roaming)}) {
@@ -359,7 +360,7 @@ void visitStartup(Tour &tour, const TestHome &home)
 {
     MainWindow *window = Application::instance()->mainWindow();
     RegistryFixture registry(home);
-    const QString list =
+    const QString uninstallKey =
         u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"_s;
     const QStringList names{
         u"Archiver"_s,
@@ -377,8 +378,8 @@ void visitStartup(Tour &tour, const TestHome &home)
         if (!file.open(QIODevice::WriteOnly))
             qFatal("cannot write %s", qPrintable(file.fileName()));
         const QString path = "C:\\"_L1 + QString(folder).replace(u'/', u'\\') + "\\app.exe"_L1;
-        registry.addText(list + name, u"DisplayName"_s, name);
-        registry.addText(list + name, u"DisplayIcon"_s, path);
+        registry.addText(uninstallKey + name, u"DisplayName"_s, name);
+        registry.addText(uninstallKey + name, u"DisplayIcon"_s, path);
         if (name.size() % 2 == 0)
             registry.addText(
                 u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s, name,
@@ -403,19 +404,23 @@ void fillRegistry(RegistryFixture &registry)
     const QString current = u"\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\"_s;
     const QString machine = u"HKEY_LOCAL_MACHINE"_s;
     const QString user = u"HKEY_CURRENT_USER"_s;
-    const QString gone = u"C:\\Program Files\\Removed Product\\"_s;
+    const QString missingFolder = u"C:\\Program Files\\Removed Product\\"_s;
     for (const QString &name : {u"photo"_s, u"archiver"_s, u"player"_s, u"notes"_s}) {
         registry.addText(machine + current + "App Paths\\"_L1 + name + ".exe"_L1, {},
-                         gone + "Binaries Of A Long Forgotten Version\\"_L1 + name + ".exe"_L1);
+                         missingFolder + "Binaries Of A Long Forgotten Version\\"_L1 + name
+                             + ".exe"_L1);
         registry.addText(u"HKEY_CLASSES_ROOT\\."_s + name, {}, name + ".document.1"_L1);
         registry.addText(u"HKEY_CLASSES_ROOT\\"_s + name + ".document.1\\shell\\open\\command"_L1,
-                         {}, u'"' + gone + name + ".exe\" \"%1\""_L1);
-        registry.addText(machine + current + "SharedDLLs"_L1, gone + name + ".dll"_L1, u"1"_s);
+                         {}, u'"' + missingFolder + name + ".exe\" \"%1\""_L1);
+        registry.addText(machine + current + "SharedDLLs"_L1, missingFolder + name + ".dll"_L1,
+                         u"1"_s);
     }
-    registry.addText(machine + current + "Uninstall\\{6A0F2C1E}"_L1, u"InstallLocation"_s, gone);
+    registry.addText(machine + current + "Uninstall\\{6A0F2C1E}"_L1, u"InstallLocation"_s,
+                     missingFolder);
     registry.addText(machine + current + "Uninstall\\{6A0F2C1E}"_L1, u"DisplayName"_s,
                      u"Removed Product 文件 <b>12</b>"_s);
-    registry.addText(user + current + "Run"_L1, u"Updater"_s, gone + "update.exe /silent"_L1);
+    registry.addText(user + current + "Run"_L1, u"Updater"_s,
+                     missingFolder + "update.exe /silent"_L1);
     registry.write();
 }
 
@@ -449,7 +454,7 @@ void visitRegistry(Tour &tour, const TestHome &home)
 void takeTour(const TestHome &home, const TourVisitor &visit)
 {
     fillBrowsers(home);
-    fill(home);
+    fillJunk(home);
     Application::instance()->initialize();
     Application::instance()->showMainWindow();
     Tour tour(visit);

@@ -55,7 +55,7 @@ class TestTourChecks : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void aTextWithoutRoomIsFound()
+    void aTextThatDoesNotFitIsFound()
     {
         QCOMPARE(faultsOf(new QLabel(text), 0), QStringList());
         QCOMPARE(faultsOf(new QLabel(text), -10).size(), 1);
@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(faultsOf(new QGroupBox(text), -20).size(), 1);
     }
 
-    void aPlaceholderNeedsRoomWithinThePadding()
+    void aPlaceholderMustFitInsideThePadding()
     {
         QWidget window;
         auto *edit = new QLineEdit(&window);
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(unreadableTexts(&window).size(), 1);
     }
 
-    void aComboBoxNeedsRoomForItsLongestEntry()
+    void aComboBoxMustFitItsLongestEntry()
     {
         auto *combo = new QComboBox;
         combo->addItems({u"short"_s, text});
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(faultsOf(narrow, -30).size(), 1);
     }
 
-    void aWrappedTextNeedsItsHeightAndItsLongestWord()
+    void aWrappedTextMustFitInHeightAndLongestWord()
     {
         auto *label = new QLabel(u"one two three four"_s);
         label->setWordWrap(true);
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(unreadableTexts(&window).size(), 1);
     }
 
-    void whatLiesOnOrReachesOutIsFound()
+    void overlappingAndProtrudingTextsAreFound()
     {
         QWidget window;
         window.resize(400, 100);

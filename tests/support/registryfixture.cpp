@@ -85,7 +85,7 @@ QString RegistryFixture::file(const QString &hive) const
 
 void RegistryFixture::append(const Entry &entry)
 {
-    m_added.append(entry);
+    m_pending.append(entry);
 }
 
 void RegistryFixture::addKey(const QString &key)
@@ -116,12 +116,12 @@ void RegistryFixture::addBytes(const QString &key, const QString &name, quint32 
 
 namespace {
 
-struct Run {
+struct CommandResult {
     int exitCode;
     QString output;
 };
 
-Run reg(const QStringList &arguments)
+CommandResult runReg(const QStringList &arguments)
 {
     QProcess process;
     process.start(u"reg"_s, arguments);
@@ -131,7 +131,7 @@ Run reg(const QStringList &arguments)
 }
 
 // What importing the lines gives.
-bool import(const QString &folder, const QString &lines)
+bool importLines(const QString &folder, const QString &lines)
 {
     const QString path = folder + "/import.reg"_L1;
     QFile file(path);
@@ -141,11 +141,11 @@ bool import(const QString &folder, const QString &lines)
         || file.write(reinterpret_cast<const char *>(text.utf16()), text.size() * 2) < 0)
         qFatal("cannot write the registry entries of the test");
     file.close();
-    return reg({u"import"_s, QDir::toNativeSeparators(path)}).exitCode == 0;
+    return runReg({u"import"_s, QDir::toNativeSeparators(path)}).exitCode == 0;
 }
 
 // The outermost key that is the test's own; empty when only values in the key are.
-QString ownKey(const QString &key)
+QString findOutermostOwnKey(const QString &key)
 {
     const qsizetype at = key.indexOf("Sweepwise"_L1);
     if (at < 0)
@@ -159,16 +159,16 @@ QString ownKey(const QString &key)
 void RegistryFixture::write()
 {
     QString lines;
-    for (const Entry &entry : std::as_const(m_added)) {
+    for (const Entry &entry : std::as_const(m_pending)) {
         lines += u"["_s + entry.key + "]\r\n"_L1;
         if (!entry.isKeyOnly)
             lines += exportedName(entry.name) + u'=' + entry.data + "\r\n"_L1;
         lines += "\r\n"_L1;
     }
-    if (!import(m_folder, lines))
+    if (!importLines(m_folder, lines))
         qFatal("the registry entries of the test were not imported");
-    m_written += m_added;
-    m_added.clear();
+    m_written += m_pending;
+    m_pending.clear();
 }
 
 RegistryFixture::~RegistryFixture()
@@ -176,26 +176,26 @@ RegistryFixture::~RegistryFixture()
     QString lines;
     QSet<QString> keys;
     for (const Entry &entry : std::as_const(m_written)) {
-        const QString own = ownKey(entry.key);
-        if (own.isEmpty())
+        const QString ownKey = findOutermostOwnKey(entry.key);
+        if (ownKey.isEmpty())
             lines += u"["_s + entry.key + "]\r\n"_L1 + exportedName(entry.name) + "=-\r\n\r\n"_L1;
-        else if (!keys.contains(own))
-            lines += u"[-"_s + own + "]\r\n\r\n"_L1;
-        keys.insert(own);
+        else if (!keys.contains(ownKey))
+            lines += u"[-"_s + ownKey + "]\r\n\r\n"_L1;
+        keys.insert(ownKey);
     }
     if (!lines.isEmpty())
-        import(m_folder, lines);
+        importLines(m_folder, lines);
 }
 
 bool RegistryFixture::hasKey(const QString &key) const
 {
-    return reg({u"query"_s, key}).exitCode == 0;
+    return runReg({u"query"_s, key}).exitCode == 0;
 }
 
 bool RegistryFixture::hasValue(const QString &key, const QString &name) const
 {
-    return reg(name.isEmpty() ? QStringList{u"query"_s, key, u"/ve"_s}
-                              : QStringList{u"query"_s, key, u"/v"_s, name})
+    return runReg(name.isEmpty() ? QStringList{u"query"_s, key, u"/ve"_s}
+                                 : QStringList{u"query"_s, key, u"/v"_s, name})
                .exitCode
         == 0;
 }
@@ -204,7 +204,7 @@ QStringList RegistryFixture::exported(const QString &key) const
 {
     const QString path = m_folder + "/export.reg"_L1;
     QFile::remove(path);
-    if (reg({u"export"_s, key, QDir::toNativeSeparators(path), u"/y"_s}).exitCode != 0)
+    if (runReg({u"export"_s, key, QDir::toNativeSeparators(path), u"/y"_s}).exitCode != 0)
         return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -219,7 +219,7 @@ QStringList RegistryFixture::exported(const QString &key) const
 
 void RegistryFixture::write()
 {
-    for (const Entry &entry : std::as_const(m_added)) {
+    for (const Entry &entry : std::as_const(m_pending)) {
         const qsizetype separator = entry.key.indexOf(u'\\');
         QString hive = entry.key.first(separator);
         QString path = entry.key.mid(separator + 1);
@@ -235,8 +235,8 @@ void RegistryFixture::write()
         if (!hiveFile.open(QIODevice::Append) || hiveFile.write(text.toUtf8()) < 0)
             qFatal("cannot write the registry of the test");
     }
-    m_written += m_added;
-    m_added.clear();
+    m_written += m_pending;
+    m_pending.clear();
 }
 
 RegistryFixture::~RegistryFixture() = default;

@@ -45,6 +45,6 @@ private:
     void append(const Entry &entry);
 
     QString m_folder;
-    QList<Entry> m_added; ///< not yet written
+    QList<Entry> m_pending; ///< not yet written
     QList<Entry> m_written;
 };

@@ -8,11 +8,11 @@ using namespace Qt::StringLiterals;
 TestHome::TestHome()
     : m_folder(QFileInfo(m_temporary.path()).canonicalFilePath())
 {
-    point("HOME", u"home"_s);
-    point("XDG_CONFIG_HOME", u"config"_s);
-    point("XDG_DATA_HOME", u"data"_s);
-    point("XDG_CACHE_HOME", u"cache"_s);
-    point("WINEPREFIX", u"prefix"_s);
+    setFolderVariable("HOME", u"home"_s);
+    setFolderVariable("XDG_CONFIG_HOME", u"config"_s);
+    setFolderVariable("XDG_DATA_HOME", u"data"_s);
+    setFolderVariable("XDG_CACHE_HOME", u"cache"_s);
+    setFolderVariable("WINEPREFIX", u"prefix"_s);
 #ifdef Q_OS_UNIX
     for (const char *variable : {"LOCALAPPDATA", "APPDATA", "USERPROFILE", "PROGRAMDATA", "WINDIR",
                                  "SYSTEMDRIVE", "TMPDIR"})
@@ -27,7 +27,7 @@ QString TestHome::folder(const QString &relative) const
     return path;
 }
 
-QString TestHome::point(const char *variable, const QString &relative) const
+QString TestHome::setFolderVariable(const char *variable, const QString &relative) const
 {
     const QString path = folder(relative);
     qputenv(variable, path.toUtf8());

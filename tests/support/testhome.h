@@ -16,7 +16,7 @@ public:
     /// A folder below the home, made if need be.
     QString folder(const QString &relative) const;
     /// Points an environment variable at folder(@p relative) and returns that folder.
-    QString point(const char *variable, const QString &relative) const;
+    QString setFolderVariable(const char *variable, const QString &relative) const;
 
 private:
     QTemporaryDir m_temporary;

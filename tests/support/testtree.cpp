@@ -57,17 +57,17 @@ QMap<QString, QString> TestTree::snapshot() const
                     QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QFileInfo info(it.next());
-        QString what = u"folder"_s;
+        QString description = u"folder"_s;
         if (info.isSymLink()) {
-            what = u"link to "_s + info.symLinkTarget();
+            description = u"link to "_s + info.symLinkTarget();
         } else if (info.isFile()) {
             QFile file(info.filePath());
-            what = file.open(QIODevice::ReadOnly)
+            description = file.open(QIODevice::ReadOnly)
                 ? u"file %1 %2"_s.arg(QString::number(int(info.permissions())),
                                       QString::fromLatin1(file.readAll().toHex()))
                 : u"unreadable file"_s;
         }
-        entries.insert(info.filePath(), what);
+        entries.insert(info.filePath(), description);
     }
     return entries;
 }

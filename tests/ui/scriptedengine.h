@@ -20,7 +20,7 @@ public:
 
     QList<CleanCategory> found; ///< what a scan finds
     std::atomic_bool hold = false; ///< while set, a run goes on until it is cancelled
-    std::atomic_bool waitsForCancel = true; ///< else it goes on for as long as it is held
+    std::atomic_bool canCancel = true; ///< else it goes on for as long as it is held
     std::atomic_int progress = 1; ///< of 4, which a scan reports before it is held
     std::atomic_int scans = 0;
     std::atomic_int cleans = 0;
@@ -63,7 +63,7 @@ protected:
 private:
     void wait() const
     {
-        while (hold && !(waitsForCancel && isStopRequested()))
+        while (hold && !(canCancel && isStopRequested()))
             QThread::msleep(1);
     }
 };

@@ -151,7 +151,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3), scriptedCategory(u"b"_s, 2)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         categories(page).at(0)->findChild<QCheckBox *>(u"categoryCheck"_s)->click();
         QCOMPARE(engine.result().checkedCount(), 2);
         QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: 2 items, 2.0 KB"_s);
@@ -162,12 +162,12 @@ private Q_SLOTS:
         QVERIFY(button(page, u"cleanBtn"_s)->isEnabled());
     }
 
-    void aPageWithoutSizesSpeaksInCounts()
+    void aPageWithoutSizesShowsCounts()
     {
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         CountingPage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         QCOMPARE(label(page, u"statisticValue"_s), u"3 items"_s);
         QCOMPARE(label(page, u"selectionLabel"_s), u"Selected: 3 items"_s);
         QVERIFY(
@@ -178,7 +178,7 @@ private Q_SLOTS:
     {
         ScriptedEngine engine;
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         QVERIFY(isEmptyStateShown(page));
         QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
         QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QVERIFY(isEmptyStateShown(page));
     }
 
-    void whatACancelledScanLeftUnseenIsNeverCleaned()
+    void resultsThatWereNeverShownAreNotCleaned()
     {
         ScriptedEngine engine;
         BasePage page;
@@ -227,7 +227,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         categories(page).constFirst()->setChecked(false);
         const MessageBoxes boxes(QMessageBox::Ok);
         page.startClean();
@@ -242,7 +242,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         const MessageBoxes boxes(QMessageBox::No);
         click(page, u"cleanBtn"_s);
         QCOMPARE(boxes.seen(),
@@ -252,13 +252,13 @@ private Q_SLOTS:
         QCOMPARE(categories(page).size(), 1);
     }
 
-    void theQuestionComesByDefault()
+    void theQuestionIsAskedByDefault()
     {
         Application::instance()->settings()->remove(u"clean/confirmClean"_s);
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         SignalSpy cleaned(&page, &BasePage::cleanFinished);
         const MessageBoxes boxes(QMessageBox::Yes);
         click(page, u"cleanBtn"_s);
@@ -272,7 +272,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         SignalSpy cleaned(&page, &BasePage::cleanFinished);
         const MessageBoxes boxes(QMessageBox::No);
         click(page, u"cleanBtn"_s);
@@ -285,7 +285,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         SignalSpy cleaned(&page, &BasePage::cleanFinished);
         engine.hold = true;
         click(page, u"cleanBtn"_s);
@@ -313,7 +313,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3), scriptedCategory(u"b"_s, 2)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         categories(page).at(0)->toggleExpanded();
         QTest::qWait(0);
         const auto boxes = page.findChildren<QCheckBox *>();
@@ -330,7 +330,7 @@ private Q_SLOTS:
         QCOMPARE(engine.result().checkedCount(), 5);
         QCOMPARE(label(page, u"selectionLabel"_s), before);
         // Cancelled, it still winds down for a while.
-        engine.waitsForCancel = false;
+        engine.canCancel = false;
         page.cancelOperation();
         clickAll();
         QCOMPARE(engine.result().checkedCount(), 5);
@@ -352,7 +352,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         engine.hold = true;
         click(page, u"cleanBtn"_s);
         engine.fail(u"broken"_s);
@@ -361,7 +361,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(categories(page).isEmpty(), patience);
     }
 
-    void theDialogStaysWithItsPage()
+    void theDialogIsShownOnlyWithItsPage()
     {
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
@@ -403,7 +403,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         SignalSpy cleaned(&page, &BasePage::cleanFinished);
         engine.hold = true;
         click(page, u"cleanBtn"_s);
@@ -418,12 +418,12 @@ private Q_SLOTS:
         QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
     }
 
-    void theEndOfACancelledCleanDoesNotFinishTheNextScan()
+    void aCancelledCleanDoesNotFinishTheNextScan()
     {
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         engine.hold = true;
         click(page, u"cleanBtn"_s);
         page.cancelOperation();
@@ -462,19 +462,19 @@ private Q_SLOTS:
     }
 
     // Who listens to the page counts on one end for each clean.
-    void aCancelledCleanThatAScanCutsOffHasEndedOnce_data()
+    void aCancelledCleanEndsOnceWhenAScanFollows_data()
     {
         QTest::addColumn<bool>("byPage");
         QTest::newRow("the page's own scan") << true;
         QTest::newRow("a scan of the engine") << false;
     }
-    void aCancelledCleanThatAScanCutsOffHasEndedOnce()
+    void aCancelledCleanEndsOnceWhenAScanFollows()
     {
         QFETCH(bool, byPage);
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         const SignalSpy cleaned(&page, &BasePage::cleanFinished);
         const SignalSpy finished(&page, &BasePage::scanFinished);
         engine.hold = true;
@@ -494,15 +494,15 @@ private Q_SLOTS:
         QVERIFY(button(page, u"cleanBtn"_s)->isEnabled());
     }
 
-    void theWindowDoesNotWaitForACancelledCleanThatWindsDown()
+    void theWindowDoesNotWaitForACancelledCleanToEnd()
     {
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         const SignalSpy cleaned(&page, &BasePage::cleanFinished);
         engine.hold = true;
-        engine.waitsForCancel = false;
+        engine.canCancel = false;
         click(page, u"cleanBtn"_s);
         page.cancelOperation();
         click(page, u"cleanBtn"_s); // would never return if it waited
@@ -521,12 +521,12 @@ private Q_SLOTS:
         QCOMPARE(engine.cleans.load(), 2);
     }
 
-    void cleaningRightAfterACancelledCleanCleansNothingUnseen()
+    void noCleanStartsWhileACancelledOneEnds()
     {
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         engine.hold = true;
         click(page, u"cleanBtn"_s);
         page.cancelOperation();
@@ -544,7 +544,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3), scriptedCategory(u"b"_s, 2)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         QTRY_VERIFY(categories(page).constLast()->isVisible());
         QList<QWidget *> expected;
         for (const CategoryWidget *category : categories(page))
@@ -554,12 +554,12 @@ private Q_SLOTS:
             QCOMPARE(nextByTab(expected.at(i - 1)), expected.at(i));
     }
 
-    void aScanThatSomebodyElseStartsTakesTheListAway()
+    void aScanStartedElsewhereClearsTheList()
     {
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 30)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         categories(page).constFirst()->toggleExpanded();
         engine.hold = true;
         engine.startScan();
@@ -584,13 +584,13 @@ private Q_SLOTS:
         QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
     }
 
-    void aSecondEngineLetsGoOfTheFirst()
+    void aSecondEngineReplacesTheFirst()
     {
         ScriptedEngine first;
         first.found = {scriptedCategory(u"a"_s, 3)};
         ScriptedEngine second;
         BasePage page;
-        scanned(page, first);
+        showAndScan(page, first);
         SignalSpy finished(&page, &BasePage::scanFinished);
         SignalSpy firstFinished(&first, &CleanEngine::scanFinished);
         page.setEngine(&second);
@@ -603,13 +603,13 @@ private Q_SLOTS:
         QVERIFY(categories(page).isEmpty());
     }
 
-    void aSignalThatWasOnItsWayFromTheFirstEngineIsDropped()
+    void aQueuedSignalOfTheFirstEngineIsDropped()
     {
         ScriptedEngine first;
         first.found = {scriptedCategory(u"a"_s, 3)};
         ScriptedEngine second;
         BasePage page;
-        scanned(page, first);
+        showAndScan(page, first);
         SignalSpy cleaned(&page, &BasePage::cleanFinished);
         first.startClean();
         while (first.state() != State::Finished)
@@ -620,20 +620,20 @@ private Q_SLOTS:
         QCOMPARE(cleaned.size(), 0);
     }
 
-    void anotherEngineMayBeCleanedWhileTheFirstWindsDown()
+    void anotherEngineCanCleanWhileTheFirstIsEnding()
     {
         ScriptedEngine first;
         first.found = {scriptedCategory(u"a"_s, 3)};
         ScriptedEngine second;
         second.found = {scriptedCategory(u"b"_s, 2)};
         BasePage page;
-        scanned(page, first);
+        showAndScan(page, first);
         first.hold = true;
-        first.waitsForCancel = false;
+        first.canCancel = false;
         click(page, u"cleanBtn"_s);
         page.cancelOperation();
         const SignalSpy cleaned(&page, &BasePage::cleanFinished);
-        scanned(page, second);
+        showAndScan(page, second);
         QCOMPARE(cleaned.size(), 0);
         click(page, u"cleanBtn"_s);
         QVERIFY(cleaned.wait(patience));
@@ -645,7 +645,7 @@ private Q_SLOTS:
         ScriptedEngine engine;
         engine.found = {scriptedCategory(u"a"_s, 3)};
         BasePage page;
-        scanned(page, engine);
+        showAndScan(page, engine);
         SignalSpy cleaned(&page, &BasePage::cleanFinished);
         click(page, u"cleanBtn"_s);
         QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
@@ -680,7 +680,7 @@ private:
         QVERIFY(QTest::qWaitForWindowExposed(&page));
     }
 
-    static void scanned(BasePage &page, ScriptedEngine &engine)
+    static void showAndScan(BasePage &page, ScriptedEngine &engine)
     {
         page.setEngine(&engine);
         show(page);

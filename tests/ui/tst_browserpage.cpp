@@ -107,9 +107,9 @@ CleanCategory category(const QString &browserId, const QString &ruleId, int coun
     BrowserRule rule;
     rule.id = ruleId;
     rule.name = capitalised(ruleId);
-    CleanCategory made = BrowserCleaner::categoryOf(browser, rule);
-    made.items = scriptedCategory(made.id, count).items;
-    return made;
+    CleanCategory result = BrowserCleaner::categoryOf(browser, rule);
+    result.items = scriptedCategory(result.id, count).items;
+    return result;
 }
 
 void click(QCheckBox *checkBox)
@@ -144,7 +144,7 @@ private Q_SLOTS:
     }
     void cleanupTestCase() { m_fixture.reset(); }
 
-    void thePageTellsWhatItIsFor()
+    void thePageShowsItsTitles()
     {
         const BrowserPage page;
         QStringList shown;
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(list, (QStringList{u"Opera 3"_s, u"Brave 4"_s}));
     }
 
-    void whatTheBarShowsIsWhatIsScanned()
+    void onlyTickedBrowsersAreScanned()
     {
         BrowserPage page;
         page.show();
@@ -195,7 +195,7 @@ private Q_SLOTS:
     }
 
     // Who leaves a browser out, and sees its box unticked, does not expect it to be cleaned.
-    void leavingABrowserOutTakesWhatIsListedOfItOutOfTheClean()
+    void anUntickedBrowserIsLeftOutOfTheClean()
     {
         ScriptedEngine engine;
         engine.found = {category(u"opera"_s, u"cache"_s, 3), category(u"opera"_s, u"cookies"_s, 2),
@@ -244,7 +244,7 @@ private Q_SLOTS:
         QCOMPARE(selected(), u"Selected: 14 items, 14.0 KB"_s);
     }
 
-    void aBrowserThatIsLeftOutWhileTheScanRunsIsLeftOutOfTheList()
+    void aBrowserUntickedDuringAScanIsUntickedInTheList()
     {
         ScriptedEngine engine;
         engine.found = {category(u"opera"_s, u"cache"_s, 3), category(u"brave"_s, u"cache"_s, 5)};
@@ -262,7 +262,7 @@ private Q_SLOTS:
         QCOMPARE(text<QLabel>(page, u"selectionLabel"_s), u"Selected: 8 items, 8.0 KB"_s);
     }
 
-    void whileACleanRunsNoBrowserIsLeftOut()
+    void whileACleanRunsNoBrowserCanBeUnticked()
     {
         ScriptedEngine engine;
         engine.found = {category(u"opera"_s, u"cache"_s, 3)};
@@ -282,7 +282,7 @@ private Q_SLOTS:
         Application::instance()->settings()->remove(u"clean/confirmClean"_s);
     }
 
-    void aNarrowBarGoesOnInTheNextRow()
+    void aNarrowBarContinuesInTheNextRow()
     {
         QWidget bar;
         auto *flow = new FlowLayout(&bar);
@@ -325,7 +325,7 @@ private Q_SLOTS:
         QCOMPARE(text<QLabel>(group, u"browserItemCount"_s), u"5 items"_s);
     }
 
-    void anUnknownPrefixIsOtherWithTheGenericIcon()
+    void anUnknownBrowserIsShownAsOtherWithTheGenericIcon()
     {
         ScriptedEngine engine;
         CleanCategory unknown = scriptedCategory(u"netscape_cache"_s, 1);
@@ -393,7 +393,7 @@ private Q_SLOTS:
         QVERIFY(!image(path, {28, 28}).isNull());
     }
 
-    void theCountIsHiddenWhileThereIsNothingToCount()
+    void theCountIsHiddenWhileItIsZero()
     {
         CleanCategory empty = category(u"opera"_s, u"cache"_s, 0);
         CleanCategory full = category(u"opera"_s, u"logs"_s, 4);
@@ -479,7 +479,7 @@ private Q_SLOTS:
         QCOMPARE(text<QLabel>(group, u"subItemRisk"_s), u"High"_s);
     }
 
-    void aPartlyTickedCategoryShowsSoAndAClickTicksAll()
+    void aClickOnAPartlyTickedCategoryTicksAll()
     {
         Records records(2, 1);
         BrowserGroupWidget &group = records.group;
@@ -508,7 +508,7 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 3);
     }
 
-    void theHeaderTicksWhatIsPartlyTicked()
+    void theHeaderTicksAPartlyTickedCategory()
     {
         Records records(1, 1);
         BrowserGroupWidget &group = records.group;
@@ -520,7 +520,7 @@ private Q_SLOTS:
     }
 
     // Nobody ticks by the way what starts unticked for its own good.
-    void guardedItemsAreTickedWithTheirOwnRowAlone()
+    void guardedItemsAreTickedOnlyByTheirOwnRow()
     {
         Records records(2, 1);
         BrowserGroupWidget &group = records.group;
@@ -551,7 +551,7 @@ private Q_SLOTS:
         QCOMPARE(record.checkedCount(), 3);
     }
 
-    void aKindOfDataThatIsAllGuardedIsLeftAloneByTheHeader()
+    void theHeaderDoesNotTickACategoryOfOnlyGuardedItems()
     {
         Records records(2, 3);
         for (CleanItem &item : records.categories[0].items)
@@ -576,7 +576,7 @@ private Q_SLOTS:
         QCOMPARE(header(group)->checkState(), Qt::Checked);
     }
 
-    void thePagesTotalsLeaveOutWhatIsNotTicked()
+    void untickedItemsAreLeftOutOfThePagesTotals()
     {
         ScriptedEngine engine;
         engine.found = {category(u"opera"_s, u"cache"_s, 2), category(u"opera"_s, u"logs"_s, 3)};
@@ -658,7 +658,7 @@ private Q_SLOTS:
         QVERIFY(groups(page).isEmpty());
     }
 
-    void namesFromOutsideAreShownAsTheyStand()
+    void namesFromOutsideAreShownAsPlainText()
     {
         CleanCategory record = category(u"opera"_s, u"x"_s, 1);
         record.ruleName = u"<b>bold</b>\nsecond & third"_s;

@@ -70,7 +70,7 @@ QString dotStyle(const DashboardPage &page)
 }
 
 /// Notes the mouse releases that reach it.
-class Ground final : public QWidget
+class ReleaseCounter final : public QWidget
 {
 public:
     int releases = 0;
@@ -145,7 +145,7 @@ private Q_SLOTS:
 
     // --- the circle
 
-    void theRingLiesWithinItsWidget_data()
+    void theRingFitsIntoItsWidget_data()
     {
         QTest::addColumn<QSizeF>("size");
         QTest::newRow("square") << QSizeF(180, 180);
@@ -154,7 +154,7 @@ private Q_SLOTS:
         QTest::newRow("fractions") << QSizeF(120.5, 133.3);
     }
 
-    void theRingLiesWithinItsWidget()
+    void theRingFitsIntoItsWidget()
     {
         QFETCH(QSizeF, size);
         const CircleGeometry geometry(size, 30);
@@ -174,7 +174,7 @@ private Q_SLOTS:
         QVERIFY(!geometry.valueBox.intersects(geometry.captionBox));
     }
 
-    void theArcIsTheProgress_data()
+    void theArcShowsTheProgress_data()
     {
         QTest::addColumn<int>("progress");
         QTest::addColumn<int>("span");
@@ -182,11 +182,11 @@ private Q_SLOTS:
         QTest::newRow("a quarter") << 25 << -90 * 16;
         QTest::newRow("the fixed arc") << 75 << -270 * 16;
         QTest::newRow("all") << 100 << -360 * 16;
-        QTest::newRow("beyond") << 150 << -360 * 16;
-        QTest::newRow("below") << -5 << 0;
+        QTest::newRow("above 100") << 150 << -360 * 16;
+        QTest::newRow("below 0") << -5 << 0;
     }
 
-    void theArcIsTheProgress()
+    void theArcShowsTheProgress()
     {
         QFETCH(int, progress);
         QFETCH(int, span);
@@ -221,7 +221,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("unit");
         QTest::addColumn<QString>("expected");
         QTest::newRow("percent") << 50.0 << u"%"_s << u"50%"_s;
-        QTest::newRow("beyond") << 150.0 << u"%"_s << u"150%"_s;
+        QTest::newRow("above 100 percent") << 150.0 << u"%"_s << u"150%"_s;
         QTest::newRow("nothing") << 0.0 << u"GB"_s << u"0 GB"_s;
         QTest::newRow("hardly anything") << 0.001 << u"GB"_s << u"0 GB"_s;
         QTest::newRow("a quarter") << 0.25 << u"GB"_s << u"0.25 GB"_s;
@@ -253,7 +253,7 @@ private Q_SLOTS:
         QCOMPARE(text(page, u"statusLabel"_s), u"Ready to scan"_s);
     }
 
-    void theButtonsAsk()
+    void theButtonsEmitTheirRequests()
     {
         DashboardPage page;
         const SignalSpy scan(&page, &DashboardPage::scanRequested);
@@ -325,7 +325,7 @@ private Q_SLOTS:
         QCOMPARE(circle(page)->value(), 40.0);
     }
 
-    void beyondTheEndTheArcIsFullAndTheFigureIsTold()
+    void above100PercentTheArcIsFullAndTheNumberIsShown()
     {
         DashboardPage page;
         page.updateProgress(150, u"x"_s);
@@ -375,7 +375,7 @@ private Q_SLOTS:
         QCOMPARE(text(page, u"statusLabel"_s), u"Ready to scan"_s);
     }
 
-    void resultsOfNothingLeaveTheBars()
+    void emptyResultsDoNotChangeTheBars()
     {
         DashboardPage page;
         page.showResults(3 * gibibyte, gibibyte, 1);
@@ -388,7 +388,7 @@ private Q_SLOTS:
         QCOMPARE(circle(page)->progress(), 75);
     }
 
-    void aCardLeadsToItsPage_data()
+    void aCardOpensItsPage_data()
     {
         QTest::addColumn<int>("card");
         QTest::addColumn<int>("pageId");
@@ -397,15 +397,15 @@ private Q_SLOTS:
         QTest::newRow("registry") << 2 << 3;
     }
 
-    void aCardLeadsToItsPage()
+    void aCardOpensItsPage()
     {
         QFETCH(int, card);
         QFETCH(int, pageId);
-        Ground ground;
-        auto *page = new DashboardPage(&ground);
+        ReleaseCounter parent;
+        auto *page = new DashboardPage(&parent);
         page->resize(710, 600);
         page->showResults(1, 1, 1);
-        ground.show();
+        parent.show();
         const SignalSpy navigate(page, &DashboardPage::navigateToPage);
         // Wherever it is clicked, also on one of its texts.
         QTest::mouseClick(cards(*page).at(card), Qt::LeftButton);
@@ -417,7 +417,7 @@ private Q_SLOTS:
         QCOMPARE(navigate.size(), 4);
         for (const QVariantList &arguments : navigate)
             QCOMPARE(arguments.constFirst().toInt(), pageId);
-        QCOMPARE(ground.releases, 0);
+        QCOMPARE(parent.releases, 0);
     }
 
     // --- the one-click scan
@@ -498,7 +498,7 @@ private Q_SLOTS:
         QCOMPARE(m_tree.snapshot(), files);
     }
 
-    void aCardShowsThePageOfTheWindow()
+    void aCardShowsItsPageInTheWindow()
     {
         MainWindow window;
         window.show();

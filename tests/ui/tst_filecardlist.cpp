@@ -42,11 +42,11 @@ QList<LargeFileInfo> files(int count)
 
 /// The list as the page has it: in a view that is shown only when there is something to show. Its
 /// boxes write to the model, and the mouse acts on pixels of the window.
-class Shown final
+class ShownList final
 {
-    Q_DISABLE_COPY_MOVE(Shown)
+    Q_DISABLE_COPY_MOVE(ShownList)
 public:
-    explicit Shown(int count, int height = 480)
+    explicit ShownList(int count, int height = 480)
     {
         auto *first = new QWidget;
         auto *second = new QWidget;
@@ -96,7 +96,7 @@ public:
         }
     }
     void press(int key) { QTest::keyClick(views.windowHandle(), static_cast<Qt::Key>(key)); }
-    [[nodiscard]] int rowsWhole() const { return (list->viewport()->height() + 8) / rowHeight; }
+    [[nodiscard]] int wholeRowCount() const { return (list->viewport()->height() + 8) / rowHeight; }
     [[nodiscard]] static QString focusedFile()
     {
         const QWidget *widget = QApplication::focusWidget();
@@ -112,11 +112,12 @@ public:
 
 /// The name that is drawn at a row's place, from what stands on top at its pixels; empty when two
 /// cards share the place.
-QString nameDrawnAt(const Shown &shown, int place)
+QString findNameDrawnAt(const ShownList &shown, int position)
 {
     QString name;
     for (const auto *card : shown.list->viewport()->findChildren<FileCard *>()) {
-        if (!card->isVisible() || !card->geometry().contains(QPoint(300, place * rowHeight + 35)))
+        if (!card->isVisible()
+            || !card->geometry().contains(QPoint(300, position * rowHeight + 35)))
             continue;
         if (!name.isNull())
             return {};
@@ -126,38 +127,38 @@ QString nameDrawnAt(const Shown &shown, int place)
 }
 
 /// What is wrong with what the list shows; empty when nothing is.
-QString faultOf(const Shown &shown)
+QString findFault(const ShownList &shown)
 {
     const QRect area = shown.list->viewport()->rect();
-    QList<QRect> places;
+    QList<QRect> rects;
     for (const auto *card : shown.list->viewport()->findChildren<FileCard *>()) {
-        const QRect place = card->geometry() & area;
-        if (!card->isVisible() || place.isEmpty())
+        const QRect rect = card->geometry() & area;
+        if (!card->isVisible() || rect.isEmpty())
             continue;
-        for (const QRect &other : std::as_const(places)) {
-            if (other.intersects(place))
+        for (const QRect &other : std::as_const(rects)) {
+            if (other.intersects(rect))
                 return u"two cards lie on one another"_s;
         }
-        places.append(place);
+        rects.append(rect);
     }
     const int top = shown.bar()->value();
     const int rows =
         std::min((area.height() + rowHeight - 1) / rowHeight, shown.model.rowCount() - top);
-    if (places.size() != rows)
-        return u"%1 cards for %2 rows"_s.arg(places.size()).arg(rows);
-    for (int place = 0; place < rows; ++place) {
-        const LargeFileInfo &wanted = shown.model.at(top + place);
-        if (nameDrawnAt(shown, place) != wanted.name)
-            return u"row %1 shows '%2'"_s.arg(QString::number(top + place),
-                                              nameDrawnAt(shown, place));
-        const FileCard *card = shown.list->cards().at(place);
+    if (rects.size() != rows)
+        return u"%1 cards for %2 rows"_s.arg(rects.size()).arg(rows);
+    for (int position = 0; position < rows; ++position) {
+        const LargeFileInfo &wanted = shown.model.at(top + position);
+        if (findNameDrawnAt(shown, position) != wanted.name)
+            return u"row %1 shows '%2'"_s.arg(QString::number(top + position),
+                                              findNameDrawnAt(shown, position));
+        const FileCard *card = shown.list->cards().at(position);
         if (card->property("filePath") != wanted.path
             || card->checkBox()->property("filePath") != wanted.path
             || card->property("fileSize") != wanted.size
             || card->checkBox()->property("fileSize") != wanted.size)
-            return u"row %1 has another row's properties"_s.arg(top + place);
-        if (card->checkBox()->isChecked() != shown.model.isTicked(top + place))
-            return u"row %1 shows the wrong tick"_s.arg(top + place);
+            return u"row %1 has another row's properties"_s.arg(top + position);
+        if (card->checkBox()->isChecked() != shown.model.isTicked(top + position))
+            return u"row %1 shows the wrong tick"_s.arg(top + position);
     }
     return {};
 }
@@ -180,85 +181,85 @@ private Q_SLOTS:
     void aClickTicksTheFileThatIsDrawnThere()
     {
         QFETCH(int, count);
-        Shown shown(count);
+        ShownList shown(count);
         for (const int value : {0, shown.bar()->maximum() / 2, shown.bar()->maximum()}) {
             shown.bar()->setValue(value);
-            Shown::settle();
-            QCOMPARE(faultOf(shown), QString());
-            for (int place = 0; place < std::min(shown.rowsWhole(), count); ++place) {
-                const QString drawn = nameDrawnAt(shown, place);
-                const bool before = shown.model.isTicked(value + place);
+            ShownList::settle();
+            QCOMPARE(findFault(shown), QString());
+            for (int position = 0; position < std::min(shown.wholeRowCount(), count); ++position) {
+                const QString drawn = findNameDrawnAt(shown, position);
+                const bool before = shown.model.isTicked(value + position);
                 const int ticked = shown.model.tickedCount();
-                shown.click(boxInRow + QPoint(0, place * rowHeight));
-                QCOMPARE(drawn, shown.model.at(value + place).name);
-                QCOMPARE(shown.model.isTicked(value + place), !before);
+                shown.click(boxInRow + QPoint(0, position * rowHeight));
+                QCOMPARE(drawn, shown.model.at(value + position).name);
+                QCOMPARE(shown.model.isTicked(value + position), !before);
                 QCOMPARE(shown.model.tickedCount(), ticked + (before ? -1 : 1));
                 QCOMPARE(shown.bar()->value(), value);
             }
-            QCOMPARE(faultOf(shown), QString());
+            QCOMPARE(findFault(shown), QString());
         }
     }
 
-    void scrollingAfterATickGoesWhereItIsTold()
+    void scrollingAfterATickReachesItsTarget()
     {
-        Shown shown(1000);
+        ShownList shown(1000);
         shown.click(boxInRow);
         QCOMPARE(shown.model.tickedRows(), QList<int>{0});
         const int maximum = shown.bar()->maximum();
         for (const int value : {maximum, 0, 16, 500, maximum - 1, 3, maximum}) {
             shown.bar()->setValue(value);
-            Shown::settle();
+            ShownList::settle();
             QCOMPARE(shown.bar()->value(), value);
-            QCOMPARE(faultOf(shown), QString());
+            QCOMPARE(findFault(shown), QString());
         }
         shown.bar()->setValue(0);
         int expected = 0;
         for (int i = 0; i < 40; ++i) {
             shown.wheel(1);
-            Shown::settle();
+            ShownList::settle();
             expected += QApplication::wheelScrollLines();
             QCOMPARE(shown.bar()->value(), expected);
-            QCOMPARE(faultOf(shown), QString());
+            QCOMPARE(findFault(shown), QString());
         }
         QCOMPARE(shown.model.tickedRows(), QList<int>{0});
     }
 
-    void aMillionRowsAreServedByAHandfulOfCards()
+    void aMillionRowsNeedOnlyAFewCards()
     {
-        Shown shown(1'000'000);
-        QCOMPARE(faultOf(shown), QString());
+        ShownList shown(1'000'000);
+        QCOMPARE(findFault(shown), QString());
         QRandomGenerator random(7);
         for (int i = 0; i < 50; ++i) {
             shown.bar()->setValue(random.bounded(shown.bar()->maximum() + 1));
-            QCOMPARE(faultOf(shown), QString());
+            QCOMPARE(findFault(shown), QString());
         }
         shown.bar()->setValue(shown.bar()->maximum());
-        Shown::settle();
-        QCOMPARE(faultOf(shown), QString());
+        ShownList::settle();
+        QCOMPARE(findFault(shown), QString());
         QCOMPARE(shown.list->cards().constLast()->info().name, u"file 999999.bin"_s);
         QVERIFY(
             shown.list->viewport()->rect().contains(shown.list->cards().constLast()->geometry()));
         shown.list->focusRow(999'998, Qt::OtherFocusReason);
-        QCOMPARE(Shown::focusedFile(), fileOf(999'998).path);
-        QVERIFY(shown.list->findChildren<FileCard *>().size() <= shown.rowsWhole() + 3);
+        QCOMPARE(ShownList::focusedFile(), fileOf(999'998).path);
+        QVERIFY(shown.list->findChildren<FileCard *>().size() <= shown.wholeRowCount() + 3);
     }
 
     void theFocusStaysWithItsRow()
     {
-        Shown shown(500);
+        ShownList shown(500);
         shown.click(boxInRow + QPoint(0, 2 * rowHeight));
-        QCOMPARE(Shown::focusedFile(), fileOf(2).path);
+        QCOMPARE(ShownList::focusedFile(), fileOf(2).path);
         shown.wheel(50);
-        Shown::settle();
+        ShownList::settle();
         QVERIFY(shown.bar()->value() > 100);
-        QCOMPARE(Shown::focusedFile(), fileOf(2).path);
+        QCOMPARE(ShownList::focusedFile(), fileOf(2).path);
         QVERIFY(QApplication::focusWidget()->visibleRegion().isEmpty());
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(findFault(shown), QString());
         // The key comes back to where the focus is.
         shown.press(Qt::Key_Down);
-        QCOMPARE(Shown::focusedFile(), fileOf(3).path);
+        QCOMPARE(ShownList::focusedFile(), fileOf(3).path);
         QVERIFY(!QApplication::focusWidget()->visibleRegion().isEmpty());
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(findFault(shown), QString());
         // What is out of sight is not ticked unseen.
         shown.wheel(50);
         shown.press(Qt::Key_Space);
@@ -266,37 +267,37 @@ private Q_SLOTS:
         QCOMPARE(shown.bar()->value(), 3);
         shown.wheel(-50);
         QCOMPARE(shown.bar()->value(), 0);
-        QCOMPARE(Shown::focusedFile(), fileOf(3).path);
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(ShownList::focusedFile(), fileOf(3).path);
+        QCOMPARE(findFault(shown), QString());
     }
 
     // A list can be scrolled while another window has the keyboard.
     void theFocusStaysWithItsRowWhileTheWindowIsInactive()
     {
-        Shown shown(500);
+        ShownList shown(500);
         shown.click(boxInRow + QPoint(0, 2 * rowHeight));
         QWidget other;
         other.show();
         other.activateWindow();
         QTRY_VERIFY(other.isActiveWindow());
         shown.wheel(50);
-        Shown::settle();
+        ShownList::settle();
         QVERIFY(shown.bar()->value() > 100);
         shown.views.activateWindow();
         QTRY_VERIFY(shown.views.isActiveWindow());
-        QCOMPARE(Shown::focusedFile(), fileOf(2).path);
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(ShownList::focusedFile(), fileOf(2).path);
+        QCOMPARE(findFault(shown), QString());
         shown.press(Qt::Key_Space);
         QCOMPARE(shown.model.tickedRows(), QList<int>{});
     }
 
-    void keysLeadFromRowToRow()
+    void keysMoveFromRowToRow()
     {
-        Shown shown(100);
+        ShownList shown(100);
         shown.before->setFocus();
         shown.press(Qt::Key_Tab);
-        QCOMPARE(Shown::focusedFile(), fileOf(0).path);
-        const int page = shown.rowsWhole();
+        QCOMPARE(ShownList::focusedFile(), fileOf(0).path);
+        const int page = shown.wholeRowCount();
         const QList<std::pair<int, int>> steps{
             {Qt::Key_Up, 0},        {Qt::Key_Down, 1},   {Qt::Key_PageDown, 1 + page},
             {Qt::Key_PageUp, 1},    {Qt::Key_End, 99},   {Qt::Key_Down, 99},
@@ -306,9 +307,9 @@ private Q_SLOTS:
         };
         for (const auto &[key, row] : steps) {
             shown.press(key);
-            QCOMPARE(Shown::focusedFile(), fileOf(row).path);
+            QCOMPARE(ShownList::focusedFile(), fileOf(row).path);
             QVERIFY(!QApplication::focusWidget()->visibleRegion().isEmpty());
-            QCOMPARE(faultOf(shown), QString());
+            QCOMPARE(findFault(shown), QString());
         }
         QCOMPARE(shown.model.tickedCount(), 0);
         shown.press(Qt::Key_Space);
@@ -316,34 +317,34 @@ private Q_SLOTS:
     }
 
     // One stop for the tabulator key, whatever the number of rows.
-    void theTabulatorKeyPassesTheListInOneStep()
+    void theTabKeyPassesTheListInOneStep()
     {
-        Shown shown(100);
+        ShownList shown(100);
         shown.before->setFocus();
         shown.press(Qt::Key_Tab);
         shown.press(Qt::Key_Down);
         shown.press(Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), shown.after);
         QTest::keyClick(shown.views.windowHandle(), Qt::Key_Tab, Qt::ShiftModifier);
-        QCOMPARE(Shown::focusedFile(), fileOf(1).path);
+        QCOMPARE(ShownList::focusedFile(), fileOf(1).path);
         QTest::keyClick(shown.views.windowHandle(), Qt::Key_Tab, Qt::ShiftModifier);
         QCOMPARE(QApplication::focusWidget(), shown.before);
         // A row that is not in view would have to be scrolled to: the first in view takes its turn.
         shown.bar()->setValue(50);
         shown.press(Qt::Key_Tab);
-        QCOMPARE(Shown::focusedFile(), fileOf(50).path);
+        QCOMPARE(ShownList::focusedFile(), fileOf(50).path);
         QCOMPARE(shown.bar()->value(), 50);
     }
 
     void aClickScrollsNothing()
     {
-        Shown shown(100);
+        ShownList shown(100);
         // The lowest row is cut off, but its box can be hit.
-        const int cut = shown.rowsWhole();
+        const int cut = shown.wholeRowCount();
         const QPoint box = boxInRow + QPoint(0, cut * rowHeight);
         shown.views.resize(
             640, shown.views.height() + 50 + cut * rowHeight - shown.list->viewport()->height());
-        Shown::settle();
+        ShownList::settle();
         QVERIFY(shown.list->viewport()->rect().contains(box));
         shown.click(box);
         QCOMPARE(shown.model.tickedRows(), QList<int>{cut});
@@ -352,62 +353,62 @@ private Q_SLOTS:
 
     void removedRowsLeaveTheOthersAsTheyAre()
     {
-        Shown shown(200);
+        ShownList shown(200);
         shown.model.setTicked(11, true);
         shown.bar()->setValue(10);
         shown.click(boxInRow + QPoint(0, 2 * rowHeight));
         QCOMPARE(shown.model.tickedRows(), (QList<int>{11, 12}));
         shown.model.removeRows({0, 3, 9, 11, 199});
-        Shown::settle();
+        ShownList::settle();
         QCOMPARE(shown.model.rowCount(), 195);
         QCOMPARE(shown.model.tickedRows(), QList<int>{8});
         QCOMPARE(shown.model.at(8).path, fileOf(12).path);
         QCOMPARE(shown.model.tickedSize(), fileOf(12).size);
         QCOMPARE(shown.bar()->value(), 7); // file 10 is still on top
-        QCOMPARE(Shown::focusedFile(), fileOf(12).path);
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(ShownList::focusedFile(), fileOf(12).path);
+        QCOMPARE(findFault(shown), QString());
         // The focus of a row that goes is the next one's.
         shown.model.removeRows({8});
-        QCOMPARE(Shown::focusedFile(), fileOf(13).path);
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(ShownList::focusedFile(), fileOf(13).path);
+        QCOMPARE(findFault(shown), QString());
         QList<int> all(194);
         std::iota(all.begin(), all.end(), 0);
         shown.model.removeRows(all);
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(findFault(shown), QString());
         QVERIFY(shown.list->cards().isEmpty());
         QCOMPARE(shown.bar()->maximum(), 0);
     }
 
-    void otherFilesStartAtTheTopAndUnticked()
+    void newFilesStartAtTheTopAndUnticked()
     {
-        Shown shown(300);
+        ShownList shown(300);
         shown.click(boxInRow);
         shown.bar()->setValue(200);
         shown.model.setFiles(files(20));
-        Shown::settle();
+        ShownList::settle();
         QCOMPARE(shown.bar()->value(), 0);
         QCOMPARE(shown.model.tickedCount(), 0);
         QCOMPARE(shown.model.tickedSize(), 0);
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(findFault(shown), QString());
         shown.model.setFiles({});
-        QCOMPARE(faultOf(shown), QString());
+        QCOMPARE(findFault(shown), QString());
     }
 
-    void anyHeightIsFilled()
+    void theRowsFillAnyHeight()
     {
-        Shown shown(60);
+        ShownList shown(60);
         shown.click(boxInRow);
         QRandomGenerator random(3);
         for (int i = 0; i < 60; ++i) {
             shown.views.resize(400 + random.bounded(500), 120 + random.bounded(1200));
-            Shown::settle();
-            QCOMPARE(faultOf(shown), QString());
+            ShownList::settle();
+            QCOMPARE(findFault(shown), QString());
             shown.wheel(random.bounded(7) - 3);
-            QCOMPARE(faultOf(shown), QString());
+            QCOMPARE(findFault(shown), QString());
         }
         // With the bar at its end the last row is whole.
         shown.bar()->setValue(shown.bar()->maximum());
-        Shown::settle();
+        ShownList::settle();
         QVERIFY(
             shown.list->viewport()->rect().contains(shown.list->cards().constLast()->geometry()));
         QCOMPARE(shown.list->cards().constLast()->info().name, u"file 59.bin"_s);

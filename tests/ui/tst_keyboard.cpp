@@ -46,7 +46,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int patience = 30'000;
-constexpr int mostStops = 200;
+constexpr int maxStops = 200;
 
 /// Presses a key where the focus is, as the desktop would deliver it.
 bool press(Qt::Key key)
@@ -64,7 +64,7 @@ bool press(Qt::Key key)
 /// Tabs until the focus is on @p target; false when it never gets there.
 bool tabTo(const QWidget *target)
 {
-    for (int stop = 0; stop < mostStops; ++stop) {
+    for (int stop = 0; stop < maxStops; ++stop) {
         if (QApplication::focusWidget() == target)
             return true;
         if (!press(Qt::Key_Tab))
@@ -94,14 +94,14 @@ Dialog *shownDialog()
 
 /// For a test that does not find the dialog that it looked for, and would wait for another for
 /// ever.
-void endModal()
+void failAndCloseModal()
 {
     if (QWidget *dialog = QApplication::activeModalWidget())
         dialog->close();
     QFAIL("there is no such dialog");
 }
 
-QAccessibleInterface *accessOf(QObject *object)
+QAccessibleInterface *accessibleOf(QObject *object)
 {
     return QAccessible::queryAccessibleInterface(object);
 }
@@ -121,12 +121,12 @@ private Q_SLOTS:
     void initTestCase()
     {
         QGuiApplication::setQuitOnLastWindowClosed(false);
-        m_temp = m_home.point("TMPDIR", u"Temp"_s);
+        m_temp = m_home.setFolderVariable("TMPDIR", u"Temp"_s);
         for (const char *variable : {"TEMP", "TMP"})
-            m_home.point(variable, u"Temp"_s);
-        m_home.point("WINDIR", u"Windows"_s);
-        m_home.point("LOCALAPPDATA", u"Local"_s);
-        m_home.point("SYSTEMDRIVE", u"Drive"_s);
+            m_home.setFolderVariable(variable, u"Temp"_s);
+        m_home.setFolderVariable("WINDIR", u"Windows"_s);
+        m_home.setFolderVariable("LOCALAPPDATA", u"Local"_s);
+        m_home.setFolderVariable("SYSTEMDRIVE", u"Drive"_s);
         Application::instance()->initialize();
     }
 
@@ -191,7 +191,7 @@ private Q_SLOTS:
         QTimer::singleShot(200, this, [&wasAsked] {
             auto *box = shownDialog<QMessageBox>();
             if (!box)
-                return endModal();
+                return failAndCloseModal();
             const QAbstractButton *yes = box->button(QMessageBox::Yes);
             wasAsked = tabTo(yes);
             press(Qt::Key_Space);
@@ -282,51 +282,51 @@ private Q_SLOTS:
         QCOMPARE(clicked.size(), 1);
     }
 
-    void theFocusComesBackOnlyToWhoWaitsForIt_data()
+    void theFocusReturnsOnlyIfNothingElseTookIt_data()
     {
         QTest::addColumn<QString>("meanwhile");
         QTest::newRow("nothing") << u"nothing"_s;
         QTest::newRow("the focus is moved") << u"moved"_s;
         QTest::newRow("the part is hidden") << u"hidden"_s;
         QTest::newRow("the control stays disabled") << u"disabled"_s;
-        QTest::newRow("the control is gone") << u"gone"_s;
+        QTest::newRow("the control is deleted") << u"deleted"_s;
     }
 
-    void theFocusComesBackOnlyToWhoWaitsForIt()
+    void theFocusReturnsOnlyIfNothingElseTookIt()
     {
         QFETCH(QString, meanwhile);
         QWidget window;
         QWidget part(&window);
         auto *control = new QPushButton(&part);
-        QPushButton otherwise(&part);
+        QPushButton fallback(&part);
         QPushButton first(&window);
         QPushButton second(&window);
         window.show();
         control->setFocus();
         FocusKeeper keeper;
-        keeper.keep(&part, [&control, &otherwise] {
+        keeper.keep(&part, [&control, &fallback] {
             control->setEnabled(false);
-            otherwise.setEnabled(false);
+            fallback.setEnabled(false);
         });
         const QWidget *stray = window.focusWidget();
         QVERIFY(stray != control);
-        otherwise.setEnabled(true);
+        fallback.setEnabled(true);
         control->setEnabled(meanwhile != "disabled"_L1);
         if (meanwhile == "moved"_L1)
             (stray == &first ? second : first).setFocus();
         if (meanwhile == "hidden"_L1)
             part.hide();
-        if (meanwhile == "gone"_L1)
+        if (meanwhile == "deleted"_L1)
             delete std::exchange(control, nullptr);
         const QWidget *before = window.focusWidget();
-        keeper.giveBack(&otherwise);
+        keeper.giveBack(&fallback);
         const QWidget *expected = meanwhile == "nothing"_L1 ? control
-            : meanwhile == "disabled"_L1                    ? &otherwise
+            : meanwhile == "disabled"_L1                    ? &fallback
                                                             : before;
         QCOMPARE(window.focusWidget(), expected);
     }
 
-    void theTabulatorKeyShowsWhereItLeads()
+    void theTabKeyScrollsToTheFocus()
     {
         for (int i = 0; i < 30; ++i)
             write(u"%1/file %2.tmp"_s.arg(m_temp, QString::number(i)), 1);
@@ -349,7 +349,7 @@ private Q_SLOTS:
         // From above into a list that is scrolled down, and from below into one that is not.
         area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
         nav(6)->setFocus();
-        for (int stop = 0; stop < mostStops && !area->isAncestorOf(QApplication::focusWidget());
+        for (int stop = 0; stop < maxStops && !area->isAncestorOf(QApplication::focusWidget());
              ++stop)
             QVERIFY(press(Qt::Key_Tab));
         QVERIFY(isInSight());
@@ -359,7 +359,7 @@ private Q_SLOTS:
         QVERIFY(isInSight());
     }
 
-    void theTabulatorKeyShowsTheLastRowOfTheDetails()
+    void theTabKeyScrollsToTheLastRowOfTheDetails()
     {
         CleanCategory category(u"temp_files"_s, u"Temporary"_s, {});
         for (int i = 0; i < 40; ++i)
@@ -374,7 +374,7 @@ private Q_SLOTS:
         QVERIFY(!focus->visibleRegion().isEmpty());
     }
 
-    void noFocusStaysInAViewThatIsGone()
+    void noFocusStaysInAHiddenView()
     {
         const QString folder = m_home.folder(u"Big"_s);
         write(folder + "/large.bin"_L1, 60 * 1'048'576);
@@ -400,7 +400,7 @@ private Q_SLOTS:
         QVERIFY(QApplication::focusWidget()->isVisible());
     }
 
-    void arrowsLeadAlongTheNavigation()
+    void arrowsMoveAlongTheNavigation()
     {
         QVERIFY(tabTo(nav(0)));
         for (int index = 1; index < 7; ++index) {
@@ -438,7 +438,7 @@ private Q_SLOTS:
         QTimer::singleShot(200, this, [] {
             auto *dialog = shownDialog<SettingsDialog>();
             if (!dialog)
-                return endModal();
+                return failAndCloseModal();
             auto *box = dialog->findChild<QCheckBox *>(u"confirmCleanCheck"_s);
             QVERIFY(tabTo(box));
             press(Qt::Key_Space);
@@ -466,7 +466,7 @@ private Q_SLOTS:
         QCOMPARE(asked.size(), 1);
     }
 
-    void theDashboardsCardsLeadOnByKeys()
+    void theDashboardsCardsOpenPagesByKeys()
     {
         auto *page = m_window->findChild<DashboardPage *>();
         page->showResults(1, 2, 3);
@@ -479,9 +479,9 @@ private Q_SLOTS:
         QCOMPARE(stack()->currentIndex(), 2);
     }
 
-    void paintedControlsTellWhatTheyAre()
+    void paintedControlsHaveNameRoleAndValue()
     {
-        QAccessibleInterface *entry = accessOf(nav(2));
+        QAccessibleInterface *entry = accessibleOf(nav(2));
         QCOMPARE(entry->role(), QAccessible::Button);
         QCOMPARE(entry->text(QAccessible::Name), nav(2)->text());
         QVERIFY(!entry->state().checked);
@@ -494,25 +494,26 @@ private Q_SLOTS:
 
         auto *page = m_window->findChild<DashboardPage *>();
         page->showResults(1024, 2, 3);
-        QAccessibleInterface *card = accessOf(page->findChild<StatCard *>());
+        QAccessibleInterface *card = accessibleOf(page->findChild<StatCard *>());
         QCOMPARE(card->role(), QAccessible::Button);
         QVERIFY(card->text(QAccessible::Name).contains(u"1.0 KB"_s));
         card->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QTRY_COMPARE(stack()->currentIndex(), 1);
 
-        QAccessibleInterface *circle = accessOf(page->findChild<CircleProgressWidget *>());
+        QAccessibleInterface *circle = accessibleOf(page->findChild<CircleProgressWidget *>());
         QCOMPARE(circle->role(), QAccessible::ProgressBar);
         QVERIFY(circle->valueInterface());
         QCOMPARE(circle->valueInterface()->currentValue().toInt(), 75);
         QCOMPARE(circle->valueInterface()->maximumValue().toInt(), 100);
     }
 
-    void anExpanderTellsWhetherItIsOpen()
+    void anExpanderReportsWhetherItIsOpen()
     {
         CleanCategory category(u"temp_files"_s, u"Temporary"_s, {});
         category.items.append(CleanItem(u"a"_s, u"/a"_s, 1));
         CategoryWidget widget(&category);
-        QAccessibleInterface *expander = accessOf(widget.findChild<QPushButton *>(u"expandBtn"_s));
+        QAccessibleInterface *expander =
+            accessibleOf(widget.findChild<QPushButton *>(u"expandBtn"_s));
         QCOMPARE(expander->role(), QAccessible::Button);
         QCOMPARE(expander->text(QAccessible::Description), u"Collapsed"_s);
         QVERIFY(expander->state().expandable && expander->state().collapsed);
@@ -522,7 +523,7 @@ private Q_SLOTS:
         QVERIFY(expander->state().expanded && !expander->state().collapsed);
     }
 
-    void checkBoxesTellRiskSizeAndPlace()
+    void checkBoxesDescribeRiskSizeAndPath()
     {
         CleanCategory category(u"google_chrome_cookies"_s, u"Cookies"_s, u"Signs you out"_s);
         category.riskLevel = HighRisk;

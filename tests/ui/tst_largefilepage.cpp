@@ -80,7 +80,7 @@ ScanProgressDialog *dialog(const LargeFilePage &page)
     return nullptr;
 }
 
-bool isResultsShown(const LargeFilePage &page)
+bool areResultsShown(const LargeFilePage &page)
 {
     return find<QWidget>(page, u"resultsView"_s)->isVisible();
 }
@@ -176,7 +176,7 @@ private Q_SLOTS:
     {
         LargeFilePage page({drive(u"C:/"_s)});
         show(page);
-        QVERIFY(!isResultsShown(page));
+        QVERIFY(!areResultsShown(page));
         for (const QString &label :
              {u"Find Large Files"_s, u"Scan and clean files that take up a lot of disk space"_s,
               u"Select Scan Location"_s, u"Minimum File Size:"_s})
@@ -211,7 +211,7 @@ private Q_SLOTS:
         }
     }
 
-    void aDriveCardTellsItsDrive()
+    void aDriveCardShowsItsDrive()
     {
         DriveCard card({u"D:/"_s, u"Photographs"_s, true, 4 * gibibyte, 3 * gibibyte});
         QVERIFY(hasText(card, u"🔌"_s));
@@ -284,7 +284,7 @@ private Q_SLOTS:
         QVERIFY(!dialog(page));
     }
 
-    void aCustomSizeTakesThePlaceOfItsItem()
+    void aCustomSizeReplacesItsItem()
     {
         LargeFilePage page({drive(u"C:/"_s)});
         show(page);
@@ -304,7 +304,7 @@ private Q_SLOTS:
         QCOMPARE(seen.size(), 1);
     }
 
-    void aRefusedCustomSizeGoesBackTo100MB()
+    void aCancelledCustomSizeReturnsTo100MB()
     {
         LargeFilePage page({drive(u"C:/"_s)});
         show(page);
@@ -332,7 +332,7 @@ private Q_SLOTS:
         show(page);
         scan(page, 1'048'576);
         QVERIFY(!dialog(page));
-        QVERIFY(isResultsShown(page));
+        QVERIFY(areResultsShown(page));
         QCOMPARE(text(page, u"summaryLabel"_s), u"Found 2 large files, total 8.0 MB"_s);
         QCOMPARE(text(page, u"selectedLabel"_s), u"Selected: 0 files (0 B)"_s);
         QCOMPARE(cards(page).size(), 2);
@@ -350,7 +350,7 @@ private Q_SLOTS:
         QCOMPARE(text(first, u"sizeBadge"_s), u"5.0 MB"_s);
         QCOMPARE(text(*cards(page).at(1), u"fileIcon"_s), u"🎵"_s);
         click(page, u"backBtn"_s);
-        QVERIFY(!isResultsShown(page));
+        QVERIFY(!areResultsShown(page));
     }
 
     void progressReachesTheDialog()
@@ -380,7 +380,7 @@ private Q_SLOTS:
         scan(page);
         QCOMPARE(boxes.seen(),
                  QStringList{u"Scan Completed|No large files found that match the criteria."_s});
-        QVERIFY(!isResultsShown(page));
+        QVERIFY(!areResultsShown(page));
         QVERIFY(!dialog(page));
     }
 
@@ -403,7 +403,7 @@ private Q_SLOTS:
         QTest::qWait(100);
         QCOMPARE(finished.size(), 0);
         QVERIFY(boxes.seen().isEmpty());
-        QVERIFY(!isResultsShown(page));
+        QVERIFY(!areResultsShown(page));
         QVERIFY(cards(page).isEmpty());
     }
 
@@ -477,7 +477,7 @@ private Q_SLOTS:
         QCOMPARE(badge->grab().toImage().pixelColor(badge->width() / 2, 2).name(), colour);
     }
 
-    void longTextsKeepTheirPlace()
+    void longTextsStayInTheirPlace()
     {
         const QString folder = u"C:/"_s + u"folder/"_s.repeated(4000);
         FileCard card;
@@ -645,7 +645,7 @@ private Q_SLOTS:
         QCOMPARE(cards(page).size(), 1);
     }
 
-    void theContextMenuStartsWithTheFilesLocation()
+    void theContextMenuBeginsWithTheFilesLocation()
     {
         const TestTree tree;
         const QString a = tree.file(u"a"_s);
@@ -659,7 +659,7 @@ private Q_SLOTS:
     }
 
     // The card that the menu belongs to may be given another file while the menu stands open.
-    void theContextMenuMeansTheFileThatItWasOpenedOn()
+    void theContextMenuActsOnTheFileItWasOpenedFor()
     {
         const TestTree tree;
         for (int i = 0; i < 40; ++i)
@@ -731,7 +731,7 @@ private Q_SLOTS:
         const auto hold = connect(
             page.scanner(), &LargeFileScanner::deleteProgress, page.scanner(),
             [&tried] { tried.acquire(); }, Qt::DirectConnection);
-        const auto letGo = qScopeGuard([&] {
+        const auto release = qScopeGuard([&] {
             disconnect(hold);
             tried.release(1000);
         });
@@ -756,7 +756,7 @@ private Q_SLOTS:
             QCOMPARE(tree.has(u"f%1"_s.arg(i)), i % 2 == 1);
     }
 
-    void theListTellsWhatItIs()
+    void theListHasItsNameAndRole()
     {
         installAccessibleInterfaces();
         const TestTree tree;
@@ -767,7 +767,7 @@ private Q_SLOTS:
         QCOMPARE(list->text(QAccessible::Name), u"Scan Results"_s);
     }
 
-    void neitherDialogLiesOverAnotherPage()
+    void neitherDialogIsShownOverAnotherPage()
     {
         const TestTree tree;
         for (int i = 0; i < 300; ++i)
@@ -779,7 +779,7 @@ private Q_SLOTS:
         pages.show();
         QVERIFY(QTest::qWaitForWindowExposed(&pages));
 
-        const auto look = connect(
+        const auto pageSwitch = connect(
             page->scanner(), &LargeFileScanner::scanStarted, page,
             [&] {
                 QVERIFY(dialog(*page));
@@ -790,7 +790,7 @@ private Q_SLOTS:
             },
             Qt::QueuedConnection); // after the page, which has the same
         scan(*page);
-        disconnect(look);
+        disconnect(pageSwitch);
 
         page->model()->setTicked(0, true);
         const MessageBoxes boxes(QMessageBox::Yes);
@@ -798,7 +798,7 @@ private Q_SLOTS:
         const auto hold = connect(
             page->scanner(), &LargeFileScanner::deleteProgress, page->scanner(),
             [&held] { held.acquire(); }, Qt::DirectConnection);
-        const auto letGo = qScopeGuard([&] {
+        const auto release = qScopeGuard([&] {
             disconnect(hold);
             held.release(1000);
         });
@@ -832,7 +832,7 @@ private Q_SLOTS:
         const auto hold = connect(
             scanner, &LargeFileScanner::fileFound, scanner, [&held] { held.acquire(); },
             Qt::DirectConnection);
-        const auto letGo = qScopeGuard([&] {
+        const auto release = qScopeGuard([&] {
             disconnect(hold);
             held.release(1000);
         });
@@ -843,10 +843,10 @@ private Q_SLOTS:
         QCOMPARE(text(*dialog(page), u"scanPath"_s), u"Preparing..."_s);
         held.release(1000);
         QVERIFY(finished.wait(patience));
-        QVERIFY(isResultsShown(page));
+        QVERIFY(areResultsShown(page));
     }
 
-    void aLongDeletionShowsHowFarItIsAndCanBeCancelled()
+    void aLongDeletionShowsItsProgressAndCanBeCancelled()
     {
         const TestTree tree;
         constexpr int count = 3000;
@@ -864,7 +864,7 @@ private Q_SLOTS:
         const auto hold = connect(
             page.scanner(), &LargeFileScanner::deleteProgress, page.scanner(),
             [&seen] { seen.acquire(); }, Qt::DirectConnection);
-        const auto letGo = qScopeGuard([&] {
+        const auto release = qScopeGuard([&] {
             disconnect(hold);
             seen.release(1000);
         });
@@ -883,10 +883,10 @@ private Q_SLOTS:
         QCOMPARE(page.model()->rowCount(), count - 1);
         QCOMPARE(page.model()->tickedCount(), count - 1);
         QCOMPARE(text(page, u"summaryLabel"_s), u"Found 2999 large files, total 2.9 KB"_s);
-        int left = 0;
+        int remaining = 0;
         for (int i = 0; i < count; ++i)
-            left += tree.has(u"d%1/f%2"_s.arg(i % 300).arg(i)) ? 1 : 0;
-        QCOMPARE(left, count - 1);
+            remaining += tree.has(u"d%1/f%2"_s.arg(i % 300).arg(i)) ? 1 : 0;
+        QCOMPARE(remaining, count - 1);
     }
 
     void afterADeletionTheFocusIsOnTheList()

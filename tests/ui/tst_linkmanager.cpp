@@ -22,7 +22,7 @@ namespace {
 const QString shipped = u":/rules/links.json"_s;
 
 /// Notes what would be opened instead of opening it.
-class TestedLinkManager final : public LinkManager
+class RecordingLinkManager final : public LinkManager
 {
 public:
     using LinkManager::LinkManager;
@@ -37,12 +37,12 @@ protected:
     }
 };
 
-QString stored()
+QString storedLanguage()
 {
     return QSettings(appinfo::organisation, appinfo::name).value("language"_L1).toString();
 }
 
-void store(const QString &language)
+void storeLanguage(const QString &language)
 {
     QSettings(appinfo::organisation, appinfo::name).setValue("language"_L1, language);
 }
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(table.size(), 4);
     }
 
-    void theLanguageIsChosenByStoreThenSystem_data()
+    void theStoredLanguageWinsOverTheSystems_data()
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("system");
@@ -122,13 +122,13 @@ private Q_SLOTS:
         QTest::newRow("stored in another case") << u"FR"_s << u"it_IT"_s << u"it"_s;
     }
 
-    void theLanguageIsChosenByStoreThenSystem()
+    void theStoredLanguageWinsOverTheSystems()
     {
         QFETCH(QString, language);
         QFETCH(QString, system);
         QFETCH(QString, expected);
         if (!language.isEmpty())
-            store(language);
+            storeLanguage(language);
         const LogCapture log;
         const LinkManager manager(shipped, system);
         QCOMPARE(manager.currentLanguage(), expected);
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QCOMPARE(log.count(u"[LinkManager] 初始化完成"_s), 1);
     }
 
-    void aPageWithoutTheLanguageIsTakenInEnglish()
+    void aPageMissingInTheLanguageIsOpenedInEnglish()
     {
         const TestTree tree;
         const LinkManager manager(table(tree), u"de_DE"_s);
@@ -154,7 +154,7 @@ private Q_SLOTS:
         QVERIFY(log.contains(u"[LinkManager] ✓ 获取链接成功 [de]: https://a.example/en"_s));
     }
 
-    void aPageThatIsEmptyInTheLanguageIsTakenInEnglish()
+    void aPageEmptyInTheLanguageIsOpenedInEnglish()
     {
         const TestTree tree;
         const LinkManager manager(table(tree), u"de_DE"_s);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QVERIFY(log.contains(u"[LinkManager] ✓ 使用回退语言 [en]: https://b.example/en"_s));
     }
 
-    void whatIsNotInTheTableHasNoAddress_data()
+    void anUnknownPageHasNoAddress_data()
     {
         QTest::addColumn<QString>("category");
         QTest::addColumn<QString>("key");
@@ -178,7 +178,7 @@ private Q_SLOTS:
             << u"[LinkManager] 无法找到链接: \"support\" \"french\""_s;
     }
 
-    void whatIsNotInTheTableHasNoAddress()
+    void anUnknownPageHasNoAddress()
     {
         QFETCH(QString, category);
         QFETCH(QString, key);
@@ -218,24 +218,24 @@ private Q_SLOTS:
         QCOMPARE(log.count(u"[LinkManager] 类别不存在: \"support\""_s), 2);
     }
 
-    void anotherLanguageIsStoredAndToldOnce()
+    void anotherLanguageIsStoredAndSignalledOnce()
     {
         LinkManager manager(shipped, u"en_US"_s);
         const SignalSpy changed(&manager, &LinkManager::languageChanged);
         manager.setLanguage(u"zh_TW"_s);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed.constFirst().constFirst().toString(), u"zh_TW"_s);
-        QCOMPARE(stored(), u"zh_TW"_s);
+        QCOMPARE(storedLanguage(), u"zh_TW"_s);
         QVERIFY(manager.getLink(u"website"_s, u"home"_s).contains("/zh-tw/"_L1));
     }
 
-    void theCurrentLanguageAgainTellsNothing()
+    void theCurrentLanguageIsNotSignalledAgain()
     {
         LinkManager manager(shipped, u"fr_FR"_s);
         const SignalSpy changed(&manager, &LinkManager::languageChanged);
         manager.setLanguage(u"fr"_s);
         QCOMPARE(changed.size(), 0);
-        QCOMPARE(stored(), QString());
+        QCOMPARE(storedLanguage(), QString());
     }
 
     void aLanguageWithoutPagesIsRefused()
@@ -246,13 +246,13 @@ private Q_SLOTS:
         manager.setLanguage(u"sv"_s);
         QCOMPARE(changed.size(), 0);
         QCOMPARE(manager.currentLanguage(), u"fr"_s);
-        QCOMPARE(stored(), QString());
+        QCOMPARE(storedLanguage(), QString());
         QVERIFY(log.contains(u"[LinkManager] 不支持的语言: \"sv\""_s));
     }
 
     void theAddressIsOpened()
     {
-        TestedLinkManager manager(shipped, u"nl_NL"_s);
+        RecordingLinkManager manager(shipped, u"nl_NL"_s);
         QWidget parent;
         const MessageBoxes boxes(QMessageBox::Ok);
         const LogCapture log;
@@ -275,7 +275,7 @@ private Q_SLOTS:
 
     void withoutABrowserTheAddressIsShown()
     {
-        TestedLinkManager manager(shipped, u"en_US"_s);
+        RecordingLinkManager manager(shipped, u"en_US"_s);
         manager.hasBrowser = false;
         QWidget parent;
         const MessageBoxes boxes(QMessageBox::Ok);
@@ -287,7 +287,7 @@ private Q_SLOTS:
 
     void withoutAnAddressTheUserIsTold()
     {
-        TestedLinkManager manager(shipped, u"en_US"_s);
+        RecordingLinkManager manager(shipped, u"en_US"_s);
         QWidget parent;
         const MessageBoxes boxes(QMessageBox::Ok);
         QVERIFY(!manager.openLink(u"support"_s, u"none"_s, &parent));
@@ -298,7 +298,7 @@ private Q_SLOTS:
 
     void withoutAParentNoBoxIsShown()
     {
-        TestedLinkManager manager(shipped, u"en_US"_s);
+        RecordingLinkManager manager(shipped, u"en_US"_s);
         manager.hasBrowser = false;
         const MessageBoxes boxes(QMessageBox::Ok);
         QVERIFY(!manager.openLink(u"support"_s, u"none"_s));

@@ -113,7 +113,7 @@ private Q_SLOTS:
         Application::instance()->settings()->setValue("clean/confirmClean"_L1, true);
     }
 
-    void theWindowIsBuiltAsItShould()
+    void theWindowHasItsFlagsSizesAndShadow()
     {
         const MainWindow window;
         QVERIFY(window.windowFlags().testFlag(Qt::FramelessWindowHint));
@@ -196,7 +196,7 @@ private Q_SLOTS:
         QCOMPARE(stack(window)->currentIndex(), 2);
     }
 
-    void theTitleBarDrivesTheWindow()
+    void theTitleBarControlsTheWindow()
     {
         MainWindow window;
         show(window);
@@ -271,7 +271,7 @@ private Q_SLOTS:
         QCOMPARE(actions.at(2)->text(), u"退出"_s);
     }
 
-    void closingQuitsAndTakesTheTrayIconAway()
+    void closingQuitsAndRemovesTheTrayIcon()
     {
         TrayWindow window;
         show(window);
@@ -293,7 +293,7 @@ private Q_SLOTS:
         QCOMPARE(code, 0);
     }
 
-    void closingToTheTrayHidesTheWindowAndTells()
+    void closingToTheTrayHidesTheWindowAndShowsAMessage()
     {
         Application::instance()->settings()->setValue("general/minimizeToTray"_L1, true);
         TrayWindow window;
@@ -306,7 +306,7 @@ private Q_SLOTS:
                              "Double-click the icon to restore.|2000"_s});
     }
 
-    void withoutATrayToHideInClosingCloses()
+    void withoutATrayClosingCloses()
     {
         Application::instance()->settings()->setValue("general/minimizeToTray"_L1, true);
         MainWindow window; // this desktop shows no tray icons
@@ -384,7 +384,7 @@ private Q_SLOTS:
         QCOMPARE(code, 7);
     }
 
-    void theSavedOptionsAreHonoured()
+    void theSavedOptionsAreUsed()
     {
         SettingsDialog dialog;
         dialog.findChild<QCheckBox *>(u"minimizeToTrayCheck"_s)->setChecked(true);
@@ -401,7 +401,7 @@ private Q_SLOTS:
         // The junk page asks before it cleans, or not.
         const auto *page = window.findChild<JunkPage *>();
         SignalSpy scanned(page, &BasePage::scanFinished);
-        const QString temp = m_home.point("TMPDIR", u"temp"_s);
+        const QString temp = m_home.setFolderVariable("TMPDIR", u"temp"_s);
         qputenv("TMP", temp.toUtf8());
         qputenv("TEMP", temp.toUtf8());
         for (const bool asks : {true, false}) {
@@ -435,7 +435,7 @@ private Q_SLOTS:
                               QUrl(u"https://sweepwise.example/fr/contact"_s)}));
     }
 
-    void aNewLanguageIsTakenNoteOf()
+    void aLanguageChangeIsLogged()
     {
         const MainWindow window;
         const LogCapture log;
@@ -445,7 +445,7 @@ private Q_SLOTS:
         QCOMPARE(log.count(u"[MainWindow] 语言已切换为: \"de\""_s), 1);
     }
 
-    void theAboutBoxTellsNameAndVersion()
+    void theAboutBoxShowsNameAndVersion()
     {
         MainWindow window;
         show(window);
@@ -460,7 +460,7 @@ private Q_SLOTS:
     /// The whole function as its user meets it: real files, real engine, real clicks.
     void junkIsScannedReviewedAndCleaned()
     {
-        const QString temp = m_home.point("TMPDIR", u"temp"_s);
+        const QString temp = m_home.setFolderVariable("TMPDIR", u"temp"_s);
         qputenv("TMP", temp.toUtf8());
         qputenv("TEMP", temp.toUtf8());
         for (int i = 0; i < 25; ++i) {
@@ -501,9 +501,9 @@ private Q_SLOTS:
             "[INFO] Junk clean finished. Cleaned 24 items, 48.0 KB. Failed: 0 items"));
     }
 
-    void aFullScanDoesNotCutOffAClean()
+    void aFullScanDoesNotInterruptAClean()
     {
-        const QString temp = m_home.point("TMPDIR", u"temp"_s);
+        const QString temp = m_home.setFolderVariable("TMPDIR", u"temp"_s);
         qputenv("TMP", temp.toUtf8());
         qputenv("TEMP", temp.toUtf8());
         for (int i = 0; i < 25; ++i) {

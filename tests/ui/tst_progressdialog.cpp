@@ -88,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(texts(dialog).contains(u"已清理: 1.5 KB"_s));
     }
 
-    void cancelAsksAndDoesNotClose()
+    void cancelIsSignalledAndDoesNotClose()
     {
         ProgressDialog dialog(ProgressDialog::Scanning);
         dialog.show();

@@ -75,18 +75,18 @@ public:
             if (auto *dialog =
                     qobject_cast<RegistryBackupDialog *>(QApplication::activeModalWidget())) {
                 m_timer.stop();
-                m_met = true;
+                m_hasSeenDialog = true;
                 act(*dialog);
             }
         });
         m_timer.start();
     }
 
-    [[nodiscard]] bool hasMet() const { return m_met; }
+    [[nodiscard]] bool hasSeenDialog() const { return m_hasSeenDialog; }
 
 private:
     QTimer m_timer;
-    bool m_met = false;
+    bool m_hasSeenDialog = false;
 };
 
 } // namespace
@@ -112,7 +112,7 @@ private Q_SLOTS:
     }
     void cleanup() { m_fixture.reset(); }
 
-    void thePageTellsWhatItIsForAndSpeaksInCounts()
+    void thePageShowsItsTitlesAndCounts()
     {
         RegistryPage page;
         page.show();
@@ -139,7 +139,7 @@ private Q_SLOTS:
         const MessageBoxes boxes(QMessageBox::Ok);
         page.startClean();
         QCOMPARE(boxes.seen(), QStringList{u"提示|没有选中任何项目"_s});
-        QVERIFY(!user.hasMet());
+        QVERIFY(!user.hasSeenDialog());
     }
 
     void aRejectedDialogChangesNothing()
@@ -151,7 +151,7 @@ private Q_SLOTS:
         const BackupDialogUser user(
             [](RegistryBackupDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
         page.startClean();
-        QVERIFY(user.hasMet());
+        QVERIFY(user.hasSeenDialog());
         QCOMPARE(Application::instance()->registryCleaner()->state(), CleanEngine::State::Finished);
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise a"_s));
     }
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QVERIFY(!button(page, u"scanBtn"_s)->isEnabled());
         QVERIFY(!button(page, u"cleanBtn"_s)->isEnabled());
         QVERIFY(cleaned.size() == 1 || cleaned.wait(patience));
-        QVERIFY(user.hasMet());
+        QVERIFY(user.hasSeenDialog());
         QVERIFY(shown.contains("About to clean <b>1</b> invalid registry entries"_L1));
         QCOMPARE(cleaned.constFirst().at(1).toInt(), 1);
         QVERIFY(QFile::exists(path + ".reg"_L1));
@@ -206,7 +206,7 @@ private Q_SLOTS:
         page.findChild<ProgressDialog *>()->accept();
     }
 
-    void aCancelledCleanKeepsItsBackupPathWhileItWindsDown()
+    void aCancelledCleanKeepsItsBackupPathUntilItEnds()
     {
         RegistryPage page;
         page.show();
@@ -214,7 +214,7 @@ private Q_SLOTS:
         tick({u"Sweepwise a"_s});
         auto *engine = Application::instance()->registryCleaner();
         const QString folder = m_home.folder(u"backups"_s);
-        const auto acceptWith = [&folder](const QString &name) {
+        const auto makeAcceptor = [&folder](const QString &name) {
             return [path = folder + u'/' + name](RegistryBackupDialog &dialog) {
                 edit(dialog)->setText(path);
                 QTest::mouseClick(button(dialog, u"startCleanBtn"_s), Qt::LeftButton);
@@ -229,22 +229,22 @@ private Q_SLOTS:
                 held.acquire();
             },
             Qt::DirectConnection);
-        const auto letGo = qScopeGuard([&] {
+        const auto release = qScopeGuard([&] {
             disconnect(hold);
             held.release(1000);
         });
         const SignalSpy cleaned(&page, &BasePage::cleanFinished);
         {
-            const BackupDialogUser user(acceptWith(u"first.reg"_s));
+            const BackupDialogUser user(makeAcceptor(u"first.reg"_s));
             page.startClean();
-            QVERIFY(user.hasMet());
+            QVERIFY(user.hasSeenDialog());
         }
         QVERIFY(reached.tryAcquire(1, patience));
         page.cancelOperation();
         {
-            const BackupDialogUser user(acceptWith(u"second.reg"_s));
+            const BackupDialogUser user(makeAcceptor(u"second.reg"_s));
             page.startClean(); // would never return if it waited
-            QVERIFY(user.hasMet());
+            QVERIFY(user.hasSeenDialog());
         }
         QCOMPARE(engine->backupPath(), folder + "/first.reg"_L1);
         held.release(1000);
@@ -299,7 +299,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.backupPath(), path);
     }
 
-    void uncheckingGreysOutThePathAndMeansNoBackup()
+    void uncheckingDisablesThePathAndTheBackup()
     {
         const RegistryBackupDialog dialog(1);
         check(dialog)->click();
@@ -375,7 +375,7 @@ private Q_SLOTS:
         dialog.reject();
     }
 
-    void whatTheChooserHasAskedIsNotAskedAgain()
+    void theChoosersQuestionIsNotRepeated()
     {
         const TestTree tree;
         const QString path = tree.file(u"one.reg"_s, "old");
@@ -397,7 +397,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
-    void aPlaceThatTakesNoBackupIsToldInWords_data()
+    void anUnusableBackupPathIsExplained_data()
     {
         QTest::addColumn<QString>("place");
         QTest::addColumn<QString>("reason");
@@ -413,7 +413,7 @@ private Q_SLOTS:
             << u"protected.reg"_s << u"The file is write-protected."_s;
 #endif
     }
-    void aPlaceThatTakesNoBackupIsToldInWords()
+    void anUnusableBackupPathIsExplained()
     {
         QFETCH(QString, place);
         QFETCH(QString, reason);
@@ -439,8 +439,9 @@ private Q_SLOTS:
         edit(dialog)->setText(path);
         const MessageBoxes boxes(QMessageBox::Ok);
         {
-            const bool isBound = place.startsWith("closed"_L1);
-            const std::unique_ptr<OrdinaryUser> user(isBound ? new OrdinaryUser : nullptr);
+            const bool needsOrdinaryUser = place.startsWith("closed"_L1);
+            const std::unique_ptr<OrdinaryUser> user(needsOrdinaryUser ? new OrdinaryUser
+                                                                       : nullptr);
             button(dialog, u"startCleanBtn"_s)->click();
         }
         QCOMPARE(boxes.seen(),

@@ -102,7 +102,7 @@ private Q_SLOTS:
         QVERIFY(widget.isExpanded());
     }
 
-    void tickingItemsDrivesTheHeader()
+    void tickingItemsUpdatesTheHeader()
     {
         CleanCategory category = scriptedCategory(u"temp_files"_s, 3);
         CategoryWidget widget(&category);
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(headerBox(widget)->checkState(), Qt::PartiallyChecked);
     }
 
-    void theCategorysRiskIsTold_data()
+    void theCategorysRiskIsShown_data()
     {
         QTest::addColumn<int>("level");
         QTest::addColumn<QString>("word");
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QTest::newRow("high") << 2 << u"High"_s;
     }
 
-    void theCategorysRiskIsTold()
+    void theCategorysRiskIsShown()
     {
         QFETCH(int, level);
         QFETCH(QString, word);
@@ -216,7 +216,7 @@ private Q_SLOTS:
             QCOMPARE(nextByTab(chain.at(i - 1)), chain.at(i));
     }
 
-    void theHeaderBoxSetsEveryItemLoadedOrNot()
+    void theHeaderBoxSetsLoadedAndUnloadedItems()
     {
         CleanCategory category = scriptedCategory(u"temp_files"_s, 25);
         CategoryWidget widget(&category);
@@ -329,7 +329,7 @@ private Q_SLOTS:
                      qPrintable(name));
     }
 
-    void riskIsTold_data()
+    void theItemsRiskIsShown_data()
     {
         QTest::addColumn<int>("level");
         QTest::addColumn<QString>("word");
@@ -339,7 +339,7 @@ private Q_SLOTS:
         QTest::newRow("high") << 2 << u"High"_s << u"#EF4444"_s;
     }
 
-    void riskIsTold()
+    void theItemsRiskIsShown()
     {
         QFETCH(int, level);
         QFETCH(QString, word);
@@ -352,7 +352,7 @@ private Q_SLOTS:
         QVERIFY(risk->styleSheet().startsWith(u"color: %1; background-color: "_s.arg(colour)));
     }
 
-    void whatIsToBeSaidOfAnItemIsSaidInItsRow()
+    void theDescriptionOfAnItemIsShownInItsRow()
     {
         CleanCategory category = scriptedCategory(u"x"_s, 2);
         category.items[0].riskLevel = HighRisk;
@@ -485,7 +485,7 @@ private Q_SLOTS:
         QVERIFY(dialog.loadedCount() < 400);
     }
 
-    void theDetailDialogTellsSizeAndCount()
+    void theDetailDialogShowsSizeAndCount()
     {
         CleanCategory category = scriptedCategory(u"x"_s, 3);
         category.items[0].checked = false;
@@ -507,7 +507,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!dialog);
     }
 
-    void theDetailsGoWithTheirCategory()
+    void theDetailsAreDeletedWithTheirCategory()
     {
         CleanCategory category = scriptedCategory(u"x"_s, 3);
         auto widget = std::make_unique<CategoryWidget>(&category);
@@ -519,7 +519,7 @@ private Q_SLOTS:
         QVERIFY(!dialog);
     }
 
-    void theLocationOfAVanishedFileIsExplained()
+    void aMissingFileIsExplainedWhenItsLocationIsOpened()
     {
         const CleanCategory category = scriptedCategory(u"x"_s, 1);
         ItemDetailDialog dialog(&category);

@@ -90,7 +90,7 @@ private Q_SLOTS:
         m_fixture.reset();
     }
 
-    void theDialogIsBuiltAsItShould()
+    void theDialogHasItsFlagsSizeAndTexts()
     {
         const SettingsDialog dialog;
         QVERIFY(dialog.isModal());
@@ -140,7 +140,7 @@ private Q_SLOTS:
     }
 
     /// The options outlive the program that saved them, and are saved again in the same place.
-    void anotherStartFindsTheOptions()
+    void anotherProcessReadsTheSavedOptions()
     {
         for (const bool on : {true, false}) {
             const QString program = QCoreApplication::applicationFilePath();
@@ -188,7 +188,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
-    void theCommandIsQuotedOnlyWhereABlankIs_data()
+    void theCommandIsQuotedOnlyWithABlank_data()
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("command");
@@ -198,7 +198,7 @@ private Q_SLOTS:
         QTest::newRow("with a blank") << u"C:/Program Files/sweepwise.exe"_s << u'"' + blank + u'"';
     }
 
-    void theCommandIsQuotedOnlyWhereABlankIs()
+    void theCommandIsQuotedOnlyWithABlank()
     {
         QFETCH(QString, path);
         QFETCH(QString, command);
@@ -282,23 +282,23 @@ private Q_SLOTS:
     {
         SettingsDialog dialog;
         dialog.show();
-        bool met = false;
+        bool wasShown = false;
         QTimer timer;
         connect(&timer, &QTimer::timeout, &timer, [&] {
             auto *about = qobject_cast<AboutDialog *>(QApplication::activeModalWidget());
             if (!about)
                 return;
-            met = about->parentWidget() == &dialog;
+            wasShown = about->parentWidget() == &dialog;
             click(*about, u"okBtn"_s);
         });
         timer.start(10);
         click(dialog, u"aboutBtn"_s);
-        QVERIFY(met);
+        QVERIFY(wasShown);
         QVERIFY(!dialog.findChild<AboutDialog *>());
         QVERIFY(dialog.isVisible());
     }
 
-    void theCardTellsNameVersionAndFunctions()
+    void theCardShowsNameVersionAndFunctions()
     {
         AboutDialog dialog;
         dialog.show();
@@ -324,7 +324,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
-    void theGroundIsWhiteAboveItsShadow()
+    void theBackgroundIsWhiteAndHasAShadow()
     {
         AboutDialog dialog;
         QImage picture(dialog.size(), QImage::Format_ARGB32_Premultiplied);

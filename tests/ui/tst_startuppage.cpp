@@ -75,8 +75,8 @@ private Q_SLOTS:
 
     void thePageLoadsAfterItHasPainted()
     {
-        product(u"Sweepwise b"_s);
-        const QString path = product(u"Sweepwise A"_s);
+        addProduct(u"Sweepwise b"_s);
+        const QString path = addProduct(u"Sweepwise A"_s);
         m_fixture->addText(runKey, u"Sweepwise A"_s, u'"' + path + u'"');
         m_fixture->write();
         StartupPage page;
@@ -94,10 +94,10 @@ private Q_SLOTS:
 
     void showingAgainDoesNotReload()
     {
-        product(u"Sweepwise A"_s);
+        addProduct(u"Sweepwise A"_s);
         m_fixture->write();
         StartupPage page;
-        loaded(page);
+        showAndLoad(page);
         const LogCapture log;
         page.hide();
         page.show();
@@ -108,11 +108,11 @@ private Q_SLOTS:
 
     void refreshingReloads()
     {
-        product(u"Sweepwise A"_s);
+        addProduct(u"Sweepwise A"_s);
         m_fixture->write();
         StartupPage page;
-        loaded(page);
-        product(u"Sweepwise B"_s);
+        showAndLoad(page);
+        addProduct(u"Sweepwise B"_s);
         m_fixture->write();
         QTest::mouseClick(page.findChild<QPushButton *>(u"refreshBtn"_s), Qt::LeftButton);
         QVERIFY(isLoading(page));
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QVERIFY(card(page, u"Sweepwise B"_s));
     }
 
-    void theAnimationGoesRound()
+    void theAnimationRepeats()
     {
         StartupPage page;
         page.show();
@@ -137,10 +137,10 @@ private Q_SLOTS:
     {
         const QString name = u"Sweepwise <b>A</b>\n\u202ename"_s;
         const QString folder = u"a folder & its name makes the path much longer than sixty"_s;
-        const QString path = product(name, folder + "/app.exe"_L1);
+        const QString path = addProduct(name, folder + "/app.exe"_L1);
         m_fixture->write();
         StartupPage page;
-        loaded(page);
+        showAndLoad(page);
         const StartupCard *shown = card(page, name);
         QVERIFY(shown);
         QCOMPARE(shown->objectName(), u"startupCard"_s);
@@ -166,12 +166,12 @@ private Q_SLOTS:
         QVERIFY(isPathShown);
     }
 
-    void tickingSwitchesTheEntry()
+    void tickingAddsAndRemovesTheEntry()
     {
-        product(u"Sweepwise A"_s);
+        addProduct(u"Sweepwise A"_s);
         m_fixture->write();
         StartupPage page;
-        loaded(page);
+        showAndLoad(page);
         const StartupCard *shown = card(page, u"Sweepwise A"_s);
         const QString before = counts(page);
         const LogCapture log;
@@ -192,14 +192,14 @@ private Q_SLOTS:
         QCOMPARE(counts(page), before);
     }
 
-    void aProgramThatTakesAnothersEntryTakesItsTick()
+    void aProgramWithAnothersNameReplacesItsEntryAndTick()
     {
         const QString name = u"Sweepwise Same"_s;
-        product(name, u"first/a.exe"_s);
-        product(name, u"second/b.exe"_s);
+        addProduct(name, u"first/a.exe"_s);
+        addProduct(name, u"second/b.exe"_s);
         m_fixture->write();
         StartupPage page;
-        loaded(page);
+        showAndLoad(page);
         QList<StartupCard *> shown;
         for (StartupCard *candidate : cards(page)) {
             if (candidate->property("appName").toString() == name)
@@ -216,15 +216,15 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->hasValue(runKey, name));
     }
 
-    void aFailedToggleLeavesTheBoxAndAsksOnce()
+    void aFailedToggleLeavesTheBoxAndWarnsOnce()
     {
 #ifdef Q_OS_WIN
         QSKIP("every entry can be written here");
 #else
-        product(u"Sweepwise A"_s);
+        addProduct(u"Sweepwise A"_s);
         m_fixture->write();
         StartupPage page;
-        loaded(page);
+        showAndLoad(page);
         struct stat data {
         };
         QCOMPARE(::stat(QFile::encodeName(m_home.folder(u"prefix"_s)).constData(), &data), 0);
@@ -249,11 +249,11 @@ private Q_SLOTS:
 
     void searchingByNameAndPath()
     {
-        product(u"Sweepwise Photo"_s, u"pictures/x.exe"_s);
-        product(u"Sweepwise Player"_s, u"music/y.exe"_s);
+        addProduct(u"Sweepwise Photo"_s, u"pictures/x.exe"_s);
+        addProduct(u"Sweepwise Player"_s, u"music/y.exe"_s);
         m_fixture->write();
         StartupPage page;
-        loaded(page);
+        showAndLoad(page);
         const QString all = counts(page);
         auto *search = page.findChild<QLineEdit *>(u"searchEdit"_s);
         QCOMPARE(search->size(), QSize(250, 36));
@@ -273,11 +273,11 @@ private Q_SLOTS:
     void fiveHundredProgramsAreAllListed()
     {
         for (int i = 0; i < 500; ++i)
-            product(u"Sweepwise %1"_s.arg(i, 3, 10, QChar(u'0')));
+            addProduct(u"Sweepwise %1"_s.arg(i, 3, 10, QChar(u'0')));
         m_fixture->write();
         StartupPage page;
         page.resize(700, 600);
-        loaded(page);
+        showAndLoad(page);
         // The first ones are there at once, the others while the user looks at them.
         QVERIFY(cards(page).size() >= 10);
         QTRY_VERIFY_WITH_TIMEOUT(cards(page).size() >= 500, patience);
@@ -288,10 +288,10 @@ private Q_SLOTS:
 
     void theKeyboardGoesFromSearchToTheCards()
     {
-        product(u"Sweepwise A"_s);
+        addProduct(u"Sweepwise A"_s);
         m_fixture->write();
         StartupPage page;
-        loaded(page);
+        showAndLoad(page);
         QWidget *search = page.findChild<QLineEdit *>(u"searchEdit"_s);
         QWidget *refresh = page.findChild<QPushButton *>(u"refreshBtn"_s);
         QCOMPARE(nextByTab(search), refresh);
@@ -302,7 +302,7 @@ private Q_SLOTS:
     }
 
 private:
-    void loaded(StartupPage &page)
+    void showAndLoad(StartupPage &page)
     {
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
@@ -310,7 +310,7 @@ private:
     }
 
     // An installed program; returns the Windows path of its executable.
-    QString product(const QString &name, const QString &relative = {})
+    QString addProduct(const QString &name, const QString &relative = {})
     {
         const QString file = relative.isEmpty() ? u"%1/app.exe"_s.arg(m_products++) : relative;
 #ifdef Q_OS_WIN
@@ -321,8 +321,8 @@ private:
         const QString path = "C:\\Sweepwise Files\\"_L1 + QString(file).replace(u'/', u'\\');
 #endif
         QDir().mkpath(QFileInfo(folder + u'/' + file).path());
-        QFile made(folder + u'/' + file);
-        if (!made.open(QIODevice::WriteOnly))
+        QFile executable(folder + u'/' + file);
+        if (!executable.open(QIODevice::WriteOnly))
             qFatal("cannot write a file of the test");
         const QString key = userList + u"Sweepwise %1"_s.arg(m_products++);
         m_fixture->addBytes(

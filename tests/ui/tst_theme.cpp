@@ -20,7 +20,7 @@ QString read(const QString &path)
 }
 
 // A brace that a name follows without a blank is a hole that was left open.
-bool isWholeSheet(const QString &style)
+bool isCompleteSheet(const QString &style)
 {
     static const QRegularExpression hole(u"\\{\\w"_s);
     return style.count(u'{') == style.count(u'}') && !style.contains(hole);
@@ -155,7 +155,7 @@ class TestTheme : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theMeasureIsRight()
+    void contrastIsComputedAsDefined()
     {
         QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
         QVERIFY(std::abs(contrast(QColor(0x77, 0x77, 0x77), Qt::white) - 4.48) < 0.01);
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(result.text, u"#{card} { a: 7px #EF4444; } #{card}:hover { b: #111827; }"_s);
     }
 
-    void whatIsLeftOverIsAFault_data()
+    void openHolesAndUnusedValuesAreFaults_data()
     {
         QTest::addColumn<theme::Filled>("result");
         QTest::addColumn<QStringList>("faults");
@@ -218,7 +218,7 @@ private Q_SLOTS:
             << QStringList{u"the value \"accent\" is named like a token"_s};
     }
 
-    void whatIsLeftOverIsAFault()
+    void openHolesAndUnusedValuesAreFaults()
     {
         QFETCH(theme::Filled, result);
         QFETCH(QStringList, faults);
@@ -238,10 +238,10 @@ private Q_SLOTS:
         QTest::failOnWarning(QRegularExpression(u"theme: "_s));
         const QString text = style();
         QVERIFY(!text.isEmpty());
-        QVERIFY2(isWholeSheet(text), qPrintable(text));
+        QVERIFY2(isCompleteSheet(text), qPrintable(text));
     }
 
-    void noStyleIsWithoutARow()
+    void everyStyleHasARow()
     {
         QSet<QString> rows;
         for (const NamedStyle &row : styles())
@@ -260,13 +260,13 @@ private Q_SLOTS:
         QVERIFY(count >= rows.size());
     }
 
-    void theWindowsStyleSheetIsFilled()
+    void theWindowsStyleSheetHasNoOpenHole()
     {
         const QString style = read(u":/styles/style.qss"_s);
         QVERIFY(!style.isEmpty());
         const theme::Filled result = theme::fillHoles(style);
         QCOMPARE(result.faults, QStringList());
-        QVERIFY(isWholeSheet(result.text));
+        QVERIFY(isCompleteSheet(result.text));
     }
 
     void eachColourHasOneName()
@@ -290,7 +290,7 @@ private Q_SLOTS:
     }
 
     // What is compared by its text elsewhere keeps it, blanks included.
-    void someStylesAreLaidDownToTheLetter_data()
+    void someStylesHaveAFixedText_data()
     {
         QTest::addColumn<QString>("style");
         QTest::addColumn<QString>("beginning");
@@ -332,7 +332,7 @@ private Q_SLOTS:
             << u"#stat { background: white;border: 1px solid #E5E7EB;border-radius: 14px; }"_s;
     }
 
-    void someStylesAreLaidDownToTheLetter()
+    void someStylesHaveAFixedText()
     {
         QFETCH(QString, style);
         QFETCH(QString, beginning);

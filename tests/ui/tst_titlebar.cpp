@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Notes what would be started instead of starting it.
-class TestedTitleBar final : public TitleBar
+class RecordingTitleBar final : public TitleBar
 {
 public:
     using TitleBar::TitleBar;
@@ -32,7 +32,7 @@ protected:
     }
 };
 
-QString stored()
+QString storedLanguage()
 {
     return QSettings(appinfo::organisation, appinfo::name).value("language"_L1).toString();
 }
@@ -68,7 +68,7 @@ private Q_SLOTS:
 
     void theButtonsStandInOrderWithTheirTips()
     {
-        const TestedTitleBar bar;
+        const RecordingTitleBar bar;
         QCOMPARE(bar.objectName(), u"titleBar"_s);
         QCOMPARE(bar.minimumHeight(), 48);
         QCOMPARE(bar.maximumHeight(), 48);
@@ -86,7 +86,7 @@ private Q_SLOTS:
 
     void theButtonsEmitTheirSignals()
     {
-        TestedTitleBar bar;
+        RecordingTitleBar bar;
         SignalSpy minimize(&bar, &TitleBar::minimizeClicked);
         SignalSpy maximize(&bar, &TitleBar::maximizeClicked);
         SignalSpy close(&bar, &TitleBar::closeClicked);
@@ -100,7 +100,7 @@ private Q_SLOTS:
 
     void aMaximizedWindowOffersToRestore()
     {
-        TestedTitleBar bar;
+        RecordingTitleBar bar;
         WinButton *maximize = button(bar, WinButton::Maximize);
         bar.setMaximized(true);
         QCOMPARE(maximize->type(), WinButton::Restore);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(maximize->toolTip(), u"Maximize"_s);
     }
 
-    void eachGlyphIsDrawnAndDiffers()
+    void eachSymbolIsDrawnAndDiffers()
     {
         QList<QImage> pictures;
         for (const WinButton::Type type : {WinButton::Minimize, WinButton::Maximize,
@@ -124,7 +124,7 @@ private Q_SLOTS:
 
     void theMenuHasItsEntriesInOrder()
     {
-        const TestedTitleBar bar;
+        const RecordingTitleBar bar;
         QStringList texts;
         for (const QAction *action : bar.menu()->actions())
             texts.append(action->isSeparator() ? u"-"_s : action->text());
@@ -134,7 +134,7 @@ private Q_SLOTS:
 
     void theMenuEntriesEmitTheirSignals()
     {
-        TestedTitleBar bar;
+        RecordingTitleBar bar;
         SignalSpy about(&bar, &TitleBar::aboutClicked);
         SignalSpy help(&bar, &TitleBar::helpClicked);
         SignalSpy support(&bar, &TitleBar::supportClicked);
@@ -150,7 +150,7 @@ private Q_SLOTS:
     {
         QWidget window;
         window.resize(600, 400);
-        TestedTitleBar bar(&window);
+        RecordingTitleBar bar(&window);
         bar.setGeometry(0, 0, 600, 48);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -163,7 +163,7 @@ private Q_SLOTS:
 
     void thereAreNineLanguages()
     {
-        const TestedTitleBar bar;
+        const RecordingTitleBar bar;
         QStringList codes;
         QStringList texts;
         for (const QAction *action : bar.menu()->findChild<QMenu *>()->actions()) {
@@ -181,23 +181,23 @@ private Q_SLOTS:
 
     void theStoredLanguageIsChecked()
     {
-        QVERIFY(language(TestedTitleBar(), u"en"_s)->isChecked());
+        QVERIFY(language(RecordingTitleBar(), u"en"_s)->isChecked());
         QSettings(appinfo::organisation, appinfo::name).setValue("language"_L1, u"ko"_s);
-        const TestedTitleBar bar;
+        const RecordingTitleBar bar;
         QCOMPARE(bar.currentLanguage(), u"ko"_s);
         QVERIFY(language(bar, u"ko"_s)->isChecked());
         QVERIFY(!language(bar, u"en"_s)->isChecked());
     }
 
-    void anotherLanguageIsStoredToldAndRestartedInto()
+    void choosingALanguageStoresItAndRestarts()
     {
-        TestedTitleBar bar;
+        RecordingTitleBar bar;
         SignalSpy changed(&bar, &TitleBar::languageChanged);
         const MessageBoxes boxes(QMessageBox::Ok);
         QTimer::singleShot(0, &bar, [&bar] { language(bar, u"de"_s)->trigger(); });
         QTimer::singleShot(10'000, &bar, [] { QCoreApplication::exit(7); });
         QCOMPARE(QCoreApplication::exec(), 0); // the program ends
-        QCOMPARE(stored(), u"de"_s);
+        QCOMPARE(storedLanguage(), u"de"_s);
         QCOMPARE(LinkManager::instance()->currentLanguage(), u"de"_s);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(changed.constFirst().constFirst().toString(), u"de"_s);
@@ -211,9 +211,9 @@ private Q_SLOTS:
                              + QCoreApplication::arguments().mid(1).join(u' ')});
     }
 
-    void aRestartThatFailsIsToldAndDoesNotQuit()
+    void aFailedRestartIsReportedAndDoesNotQuit()
     {
-        TestedTitleBar bar;
+        RecordingTitleBar bar;
         bar.canStart = false;
         const MessageBoxes boxes(QMessageBox::Ok);
         bool quit = false;
@@ -225,17 +225,17 @@ private Q_SLOTS:
         QVERIFY(!quit);
         QCOMPARE(boxes.seen().size(), 2);
         QVERIFY(boxes.seen().constLast().contains(u"could not be restarted"_s));
-        QCOMPARE(stored(), u"fr"_s);
+        QCOMPARE(storedLanguage(), u"fr"_s);
     }
 
     void theActiveLanguageNeitherWritesNorRestarts()
     {
-        TestedTitleBar bar;
+        RecordingTitleBar bar;
         SignalSpy changed(&bar, &TitleBar::languageChanged);
         const MessageBoxes boxes(QMessageBox::Ok);
         language(bar, u"en"_s)->trigger();
         QTest::qWait(30);
-        QCOMPARE(stored(), QString());
+        QCOMPARE(storedLanguage(), QString());
         QCOMPARE(changed.size(), 0);
         QVERIFY(boxes.seen().isEmpty());
         QVERIFY(bar.started.isEmpty());

@@ -117,7 +117,7 @@ private Q_SLOTS:
     void whatCouldNotBeCleanedIsNamedAndCounted()
     {
         // One file that two rules list: the second removal finds nothing.
-        const QString windows = m_home.point("WINDIR", u"windows"_s);
+        const QString windows = m_home.setFolderVariable("WINDIR", u"windows"_s);
         m_home.folder(u"windows/Logs/CBS"_s);
         QFile log(windows + "/Logs/CBS/cbs.log"_L1);
         QVERIFY(log.open(QIODevice::WriteOnly));
@@ -131,7 +131,7 @@ private Q_SLOTS:
 
     void whatStartsUntickedInATickedCategoryIsTold()
     {
-        m_home.point("LOCALAPPDATA", u"local"_s);
+        m_home.setFolderVariable("LOCALAPPDATA", u"local"_s);
         const auto unset = qScopeGuard([] { qunsetenv("LOCALAPPDATA"); });
         const QString profile = m_home.folder(u"local/Google/Chrome/User Data/Default"_s);
         const auto make = [&profile](const QString &name) {

@@ -68,7 +68,7 @@ private Q_SLOTS:
         m_temp = companion::fillTemporaryFolder(m_home);
         companion::writeFile(m_home.folder(u"big"_s), u"film.mp4"_s, 9);
 #ifdef Q_OS_UNIX
-        m_home.point("LOCALAPPDATA", u"local"_s);
+        m_home.setFolderVariable("LOCALAPPDATA", u"local"_s);
 #endif
         const QString cache = m_home.folder(u"local/Google/Chrome/User Data/Default/GPUCache"_s);
         companion::writeFile(cache, u"data_0"_s, 2);

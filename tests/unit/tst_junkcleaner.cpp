@@ -437,7 +437,7 @@ private Q_SLOTS:
 #ifdef Q_OS_UNIX
     void theSystemDriveIsNotWalkedForDumps()
     {
-        const QString drive = m_home.point("SYSTEMDRIVE", u"drive"_s);
+        const QString drive = m_home.setFolderVariable("SYSTEMDRIVE", u"drive"_s);
         m_home.folder(u"drive/sub"_s);
         for (const QString &name :
              {u"a.dmp"_s, u"b.MDMP"_s, u"memory.dmp"_s, u"c.hdmp"_s, u"d.txt"_s, u"sub/e.dmp"_s}) {

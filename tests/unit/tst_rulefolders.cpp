@@ -97,7 +97,7 @@ private Q_SLOTS:
     void theEnvironmentComesFirst()
     {
         makePrefix();
-        const QString set = m_home.point("LOCALAPPDATA", u"elsewhere"_s);
+        const QString set = m_home.setFolderVariable("LOCALAPPDATA", u"elsewhere"_s);
         QCOMPARE(platform::localDataFolder(), set);
         qputenv("TMPDIR", "/tmp");
         QCOMPARE(platform::temporaryFolder(), u"/tmp"_s);

@@ -1,10 +1,10 @@
-#include "look.h"
+#include "checks.h"
 
 #include <QCheckBox>
 
 using namespace Qt::StringLiterals;
 
-namespace look {
+namespace checks {
 
 QString sizeText(qint64 bytes)
 {
@@ -28,7 +28,7 @@ void compare(const QString &what, const QString &shown, const QString &expected)
 void checkText(const QWidget *row, const QString &name, const QString &full)
 {
     const auto drawn = eyes::drawnText(row, name);
-    expect(!drawn || eyes::isShortFor(*drawn, full),
+    expect(!drawn || eyes::isShortenedText(*drawn, full),
            [&] { return u"%1 says \"%2\" where \"%3\" belongs"_s.arg(name, *drawn, full); });
 }
 
@@ -48,4 +48,4 @@ void checkBox(const QWidget *box, int ticked, int count)
     });
 }
 
-} // namespace look
+} // namespace checks

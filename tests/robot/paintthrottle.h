@@ -4,12 +4,12 @@
 
 /// Has windows painted only now and then: nothing that the robot looks at depends on it, and it
 /// would take most of the time.
-class Painting final : public QObject
+class PaintThrottle final : public QObject
 {
     Q_OBJECT
-    Q_DISABLE_COPY_MOVE(Painting)
+    Q_DISABLE_COPY_MOVE(PaintThrottle)
 public:
-    Painting();
+    PaintThrottle();
 
     /// Paints what has been held back.
     void paint();

@@ -7,7 +7,7 @@
 #include <QWidget>
 
 /// What several probes need for comparing what is shown with what it should be.
-namespace look {
+namespace checks {
 
 template<class Widget = QWidget>
 Widget *child(const QWidget *parent, const QString &name)
@@ -29,4 +29,4 @@ void checkText(const QWidget *row, const QString &name, const QString &full);
 /// Compares the box of a row with how many of its records are ticked.
 void checkBox(const QWidget *box, int ticked, int count);
 
-} // namespace look
+} // namespace checks

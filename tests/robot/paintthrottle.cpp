@@ -1,21 +1,21 @@
-#include "painting.h"
+#include "paintthrottle.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QWidget>
 
-Painting::Painting()
+PaintThrottle::PaintThrottle()
 {
     qApp->installEventFilter(this);
 }
 
-bool Painting::eventFilter(QObject *watched, QEvent *event)
+bool PaintThrottle::eventFilter(QObject *watched, QEvent *event)
 {
     Q_UNUSED(watched)
     return event->type() == QEvent::UpdateRequest && !m_isPainting;
 }
 
-void Painting::paint()
+void PaintThrottle::paint()
 {
     m_isPainting = true;
     const QWidgetList windows = QApplication::topLevelWidgets();

@@ -1,5 +1,5 @@
-// What the program does most, beside other ways to do the same. The absolute times mean little on a
-// shared machine: the script `run` puts them in proportion.
+// Compares the program's file operations with other ways to do the same. The absolute times mean
+// little on a shared machine: the script `run` prints their ratios.
 
 #include "fileremove.h"
 #include "filewalk.h"
@@ -29,8 +29,7 @@ constexpr int files = 100'000;
 constexpr int filesPerFolder = 200;
 constexpr int filesToRemove = 100'000;
 
-/// The tree that is walked: ten levels in places, sizes from nothing to 2 KiB, one file in ten a
-/// log.
+/// The tree for the walks: up to ten levels deep, sizes from 0 to 2 KiB, every tenth file a log.
 class Tree
 {
 public:
@@ -124,7 +123,7 @@ BENCHMARK(walkOurs)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(walkQDirIterator)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(walkFind)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-/// How long the walk goes on after it was told to stop.
+/// Measures how long the walk runs after a stop request.
 void cancelWalk(benchmark::State &state)
 {
     const QString root = Tree::path();
@@ -149,7 +148,7 @@ BENCHMARK(cancelWalk)
     ->Iterations(1)
     ->Repetitions(50);
 
-/// A folder tree that each round fills anew and the measured code removes.
+/// Makes the files that the measured code removes; each round makes them again.
 QStringList fillForRemoval(const QString &root)
 {
     QStringList paths;
@@ -169,7 +168,7 @@ void removeAll(benchmark::State &state, Remove remove)
 {
     for (auto _ : state) {
         state.PauseTiming();
-        // In memory: the journal of a disk would drown the difference.
+        // In memory: the journal of a disk would take much longer than the difference to measure.
         const QTemporaryDir folder(u"/dev/shm/bench-XXXXXX"_s);
         const QStringList paths = fillForRemoval(folder.path());
         platform::ListedFolders listed;
@@ -230,7 +229,7 @@ void removeRm(benchmark::State &state)
     });
 }
 
-// The file system's own work varies: many rounds, and the script takes the median.
+// The time in the file system varies: there are many rounds, and the script takes the median.
 BENCHMARK(removeUnlinkat)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime()

@@ -1,6 +1,6 @@
-// Looks for large files in one tree, each time by one way: the scanner of the program, or one that
-// it is measured against. One process a run, so that time and peak memory are the process's own;
-// the script `large_files.py` starts them.
+// Looks for large files in one tree by one way: the scanner of the program or another way to
+// compare it with. Each run is one process, so that its time and peak memory can be measured from
+// outside. The script `large_files.py` starts the runs.
 //
 // Usage: bench_largefiles make FOLDER              fills the empty folder
 //        bench_largefiles WAY FOLDER               prints how many files it has found
@@ -34,8 +34,8 @@ constexpr int files = 500'000;
 constexpr int filesPerFolder = 100;
 constexpr qint64 minimumSize = 104'857'600;
 
-/// Ten levels deep, sizes from nothing to 1 MiB; every ten-thousandth file is a large one. All are
-/// sparse: the walk asks for sizes, not for what is in the files.
+/// Fills the tree: ten levels deep, sizes from 0 to 1 MiB; every ten-thousandth file is a large
+/// one. All files are sparse, since a walk reads their sizes and not their content.
 void make(const QString &root)
 {
     QString path = root;
@@ -81,7 +81,8 @@ qint64 iterate(const QString &root)
     return found;
 }
 
-/// The least that any such program must do: each folder read, each file asked for its size.
+/// The minimum of work for such a search: read each folder and ask each file for its size. Several
+/// threads share the list of folders, which the mutex guards.
 class Bare
 {
 public:

@@ -1,5 +1,5 @@
-// Measures from outside how long a program takes until its first frame is on the screen, and its
-// resident memory then.
+// Measures from outside how long a program takes until its first frame is on the screen. Also
+// measures its resident memory at that time.
 //
 // Usage: bench_startup PROGRAM ROUNDS, on a display of the size of the program's window. Watches
 // one pixel of the navigation column; prints one line "milliseconds kibibytes" a round.

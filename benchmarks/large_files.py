@@ -1,4 +1,4 @@
-"""Looks for large files in a warm tree of 500,000 files, by our scanner and by other programs, in shuffled rounds."""
+"""Compares our scanner with other programs: each looks for large files in a warm tree of 500,000 files, in shuffled rounds."""
 import os
 import random
 import shutil
@@ -37,7 +37,7 @@ def run(name, command):
         output.seek(0)
         text = output.read().decode()
     if name == "gdu":
-        found = FOUND  # it sums up folders
+        found = FOUND  # gdu prints the sizes of folders, not the number of files
     elif name.startswith(("find", "fd")):
         found = len(text.splitlines())
     else:
@@ -48,7 +48,7 @@ def run(name, command):
 
 
 def measure(build):
-    """The median seconds and the largest memory of every way."""
+    """The median seconds and the largest peak memory of every program."""
     program = build / "benchmarks" / "bench_largefiles"
     with tempfile.TemporaryDirectory() as tree:
         subprocess.run([program, "make", tree], check=True)

@@ -1,4 +1,4 @@
-# Reads the languages of the program, and makes languages.h of them.
+# Reads the languages of the program and writes them into languages.h.
 set(languages_file "${PROJECT_SOURCE_DIR}/resources/translations/languages.txt")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${languages_file}")
 file(STRINGS "${languages_file}" lines REGEX "^[^#]" ENCODING UTF-8)
@@ -11,10 +11,10 @@ foreach(line IN LISTS lines)
 endforeach()
 configure_file("${CMAKE_CURRENT_LIST_DIR}/languages.h.in" generated/languages.h @ONLY)
 
-# sweepwise_catalogues(<target>): compiles the catalogues of resources/translations, together with the toolkit's own texts in the same
-# languages, into the resources ":/translations/Sweepwise_<code>.qm" of a library.
+# sweepwise_catalogues(<target>): compiles the catalogues of resources/translations together with the toolkit's own texts in the
+# same languages. The results are the resources ":/translations/Sweepwise_<code>.qm" of a library.
 #
-# The toolkit's catalogues come with the distribution; where they lack a language, it is qt_<code>.ts beside ours.
+# The distribution has the toolkit's catalogues. For a language that it lacks, qt_<code>.ts is in the folder of our catalogues.
 find_path(QT_CATALOGUES qtbase_de.qm PATHS /usr/share/qt6/translations NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 
 function(sweepwise_catalogues target)

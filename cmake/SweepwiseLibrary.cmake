@@ -1,8 +1,8 @@
 # sweepwise_library(<name> [FOLDERS <folder>...] [SOURCES <file>...] [UNIX <file>...] [WINDOWS <file>...]
 #                   [LINKS <target>...] [LINKS_PRIVATELY <target>...]): a static library "sweepwise_<name>".
 #
-# FOLDERS are what those who link it may include from, by default the folder of its list file. UNIX and WINDOWS are the sources of
-# one system alone. Who links the library gets what it LINKS.
+# FOLDERS are the include folders for targets that link the library. Their default is the folder of the list file. UNIX and
+# WINDOWS are sources for one system only. A target that links the library also links its LINKS, but not its LINKS_PRIVATELY.
 function(sweepwise_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;SOURCES;UNIX;WINDOWS;LINKS;LINKS_PRIVATELY")
     set(target sweepwise_${name})

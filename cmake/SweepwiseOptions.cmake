@@ -1,4 +1,4 @@
-# The one target that every other target of the project links: language level, warnings as errors, strict Qt.
+# All other targets of the project link this one. It sets the language level, warnings as errors and the strict Qt options.
 add_library(sweepwise_options INTERFACE)
 
 target_compile_features(sweepwise_options INTERFACE cxx_std_20)
@@ -23,8 +23,7 @@ if(SWEEPWISE_SANITIZE)
         -fsanitize=${SWEEPWISE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_link_options(sweepwise_options INTERFACE -fsanitize=${SWEEPWISE_SANITIZE})
 endif()
-# The sanitizers' instrumentation, and the cross compiler's optimising, make GCC's flow analysis see null pointers that are not
-# there.
+# With a sanitizer, and in the optimised cross build, GCC warns of null pointers that do not exist.
 if(SWEEPWISE_SANITIZE OR MINGW)
     target_compile_options(sweepwise_options INTERFACE -Wno-null-dereference)
 endif()

@@ -1,5 +1,5 @@
-# sweepwise_windows_program(<target> DESCRIPTION <text> [GUI]): makes an executable a proper Windows program, with icon,
-# version resource and the manifest resources/windows/<target>.manifest.in. Elsewhere it does nothing.
+# sweepwise_windows_program(<target> DESCRIPTION <text> [GUI]): adds an icon, a version resource and the manifest
+# resources/windows/<target>.manifest.in to a Windows program. On other systems it does nothing.
 if(NOT WIN32)
     function(sweepwise_windows_program target)
     endfunction()
@@ -31,7 +31,7 @@ function(sweepwise_windows_program target)
     configure_file("${templates}/${target}.manifest.in" "${manifest}" @ONLY)
     configure_file("${templates}/program.rc.in" "${resource}" @ONLY)
 
-    # A library of its own, since the resource compiler knows none of the options that the sources are compiled with.
+    # A separate library: the resource compiler does not know the compile options of the sources.
     add_library(${target}_resources OBJECT "${resource}")
     set_target_properties(${target}_resources PROPERTIES AUTOMOC OFF)
     set_source_files_properties("${resource}" PROPERTIES OBJECT_DEPENDS "${SWEEPWISE_ICON};${manifest}")

@@ -3,7 +3,7 @@
 #
 #   scripts/build-windows-sdk.sh FOLDER    about 20 minutes on two cores and 4 GiB of temporary space
 #
-# Nothing is downloaded but the source packages of the very Qt that is installed here, from the package archive in use.
+# It downloads only the source packages of the Qt version that is installed here, from the package archive in use.
 set -euo pipefail
 project=$(cd "$(dirname "$0")/.." && pwd)
 sdk=$(realpath -m "${1:?usage: build-windows-sdk.sh FOLDER}")
@@ -16,7 +16,7 @@ as_root=()
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends \
   cmake ninja-build dpkg-dev python3 g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools libgl-dev
 
-# Source packages come from where the binary ones do; the system's own lists stay as they are.
+# Source packages come from the same archive as the binary ones. The package lists of the system are not changed.
 mkdir -p "$work/sources" "$work/lists/partial" "$work/packages"
 for list in /etc/apt/sources.list.d/*.sources; do
   [ ! -e "$list" ] || sed 's/^Types:.*/Types: deb-src/' "$list" > "$work/sources/$(basename "$list")"
@@ -32,12 +32,12 @@ dpkg-source -x "$work"/packages/qt6-base_*.dsc "$work/base"
 dpkg-source -x "$work"/packages/qtsvg-opensource-src_*.dsc "$work/svg"
 version=$(sed -n 's/.*QT_REPO_MODULE_VERSION "\([0-9.]*\)".*/\1/p' "$work/base/.cmake.conf")
 
-# The toolchain file wants the folder to exist before there is anything in it.
+# The toolchain file needs the folder, although it is still empty.
 mkdir -p "$sdk"
 common=(-G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE="$project/cmake/mingw-w64.cmake" -DQT_WINDOWS_SDK="$sdk"
   -DCMAKE_PREFIX_PATH="$sdk" -DCMAKE_INSTALL_PREFIX="$sdk" -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF)
 features=()
-# Built in, so that the programs need no library of anybody's.
+# Built into Qt, so that the programs need no other libraries.
 for library in zlib freetype harfbuzz png jpeg pcre2 doubleconversion textmarkdownreader; do
   features+=("-DFEATURE_system_$library=OFF")
 done

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Check that Windows programs need nothing but the system, and carry the usual precautions.
+# Check that Windows programs need only libraries of the system and have the usual protections.
 #
-#   scripts/check-exe.sh gui|console PROGRAM.exe...    lists each program's imports; 1 when something is amiss
+#   scripts/check-exe.sh gui|console PROGRAM.exe...    lists each program's imports; exit status 1 on a finding
 set -euo pipefail
 
 kind=${1:?usage: check-exe.sh gui|console PROGRAM.exe...}
@@ -12,7 +12,7 @@ case "$kind" in
   *) echo "check-exe: neither gui nor console: $kind" >&2 && exit 2 ;;
 esac
 
-# What every Windows 10 has in its system folder. A compiler's or Qt's library would have to be shipped beside the program.
+# Libraries in the system folder of every Windows 10. A library of the compiler or of Qt would have to be installed with the program.
 system_dlls=(
   advapi32 api-ms-win-* authz bcrypt comctl32 comdlg32 crypt32 d2d1 d3d9 d3d11 dnsapi dwmapi dwrite dxgi gdi32 imm32
   iphlpapi kernel32 mpr msvcrt netapi32 ntdll ole32 oleaut32 opengl32 powrprof rpcrt4 secur32 setupapi shcore shell32 shlwapi
@@ -47,7 +47,7 @@ for program in "$@"; do
   for flag in "${flags[@]}"; do
     grep -qE "^[[:space:]]+$flag\$" <<< "$headers" || finding "$program: the flag $flag is missing"
   done
-  # Without relocations the system cannot place a program elsewhere, whatever its flags promise.
+  # Without relocations the system cannot load the program at another address, even with the flags above.
   grep -qE '^Entry 5 0{16} ' <<< "$headers" && finding "$program: there are no relocations"
   grep -qE "^Subsystem[[:space:]].*\($subsystem\)" <<< "$headers" || finding "$program: the subsystem is not $subsystem"
 done

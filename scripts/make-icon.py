@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws an SVG file at the sizes that Windows shows program icons in, as one icon file.
+"""Draws an SVG file in all sizes of a Windows program icon and writes one icon file.
 
 Usage: make-icon.py RSVG_CONVERT IN.svg OUT.ico
 """
@@ -16,7 +16,7 @@ ENTRY = struct.Struct("<BBBBHHII")  # width, height, colours, reserved, planes, 
 def draw(converter, svg, size):
     command = [converter, "--format=png", f"--width={size}", f"--height={size}", svg]
     image = subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
-    # The size stands in a PNG file's first chunk.
+    # The first chunk of a PNG file has its size.
     if struct.unpack(">II", image[16:24]) != (size, size):
         sys.exit(f"make-icon: {svg} is not square")
     return image

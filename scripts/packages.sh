@@ -1,4 +1,4 @@
-# Sourced by the other scripts: what they need from the distribution, and how it gets there.
+# Sourced by the other scripts: the packages that they need from the distribution, and a function that installs them.
 # shellcheck shell=bash disable=SC2034
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-private-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Makes the SVG module of Qt 5.15, the one whose source the distribution has, build as Qt 6's.
+"""Changes the SVG module of Qt 5.15 so that it builds with Qt 6. The distribution has no source of a newer one.
 
 Usage: port-qtsvg.py SOURCE_FOLDER QT_VERSION
 
-Qt 6 took a few classes away, string references and the old matrix above all. Every edit names what it replaces and fails when that
-is not there, so that another source version is noticed and not half changed.
+Qt 6 has removed a few classes, above all string references and the old matrix. Every edit of a single file fails when the text to
+replace is missing. So another source version is noticed and not changed in part.
 """
 import pathlib
 import re
@@ -29,7 +29,7 @@ STRING_PARTS = (
     (r"color\.midRef\(1\)", "color.mid(1)"),
 )
 
-# What is left in single files, after the above: text and replacement.
+# Further edits of single files, made after the ones above: text and replacement.
 EDITS = {
     "qsvgfont.cpp": (("unicode = 0;", "unicode = QChar(0);"),),
     "qsvggenerator.cpp": (
@@ -56,13 +56,13 @@ EDITS = {
     ),
 }
 
-# A function that returned the old matrix and has a successor that does not.
+# A function that returns the old matrix. It already has a replacement.
 REMOVED = {
     "qsvgrenderer.h": r".*QMatrix matrixForElement.*\n",
     "qsvgrenderer.cpp": r"(?s)QMatrix QSvgRenderer::matrixForElement\(const QString &id\) const\n\{.*?\n\}\n",
 }
 
-# These belong to the widget module, which is not wanted.
+# Sources of the module with SVG widgets, which is not built.
 WIDGET_SOURCES = ("qgraphicssvgitem", "qsvgwidget")
 
 PROJECT = """cmake_minimum_required(VERSION 3.16)

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""The nine catalogues in resources/translations: kept in step with the source, and checked.
+"""Updates and checks the nine catalogues in resources/translations.
 
-Usage: translations.py update          adds the texts that are new and drops those that are gone
-       translations.py check           complains of everything that a user would see or miss; exit status 1
-       translations.py counts          how many texts each catalogue holds
+Usage: translations.py update          adds new texts of the source and drops removed ones
+       translations.py check           lists missing and wrong translations; exit status 1 if there are any
+       translations.py counts          prints how many texts each catalogue has
 
-A translation that is rightly the same as its source ("OK", "%1 GB", a product's name) says so in its translator's comment, "same".
+A translation may be the same as its source ("OK", "%1 GB", a product's name). Then its translator's comment must be "same".
 """
 import collections
 import json
@@ -22,7 +22,7 @@ project = pathlib.Path(__file__).resolve().parent.parent
 folder = project / "resources" / "translations"
 codes = [line.split()[0] for line in (folder / "languages.txt").read_text(encoding="utf-8").splitlines()
          if not line.startswith("#")]
-# The texts of the toolkit for a language that its own catalogues do not have.
+# The texts of the toolkit in a language for which the toolkit has no catalogue.
 toolkit = folder / "qt_pt.ts"
 
 Message = collections.namedtuple("Message", "translation state comment")
@@ -38,7 +38,7 @@ def tool(name):
 
 
 def rule_texts():
-    """The texts of the rule files, as a source file that names them."""
+    """A C++ source file with the texts of the rule files, for the tool that collects texts."""
     lines = []
     for name, context in (("junk", "JunkRule"), ("browser", "BrowserRule")):
         rules = json.loads((project / f"resources/rules/{name}_rules.json").read_text(encoding="utf-8"))["rules"]
@@ -70,7 +70,7 @@ def read(file):
 
 
 def toolkit_texts():
-    """(context, source) of the toolkit's texts, as one of its own catalogues has them."""
+    """(context, source) of the toolkit's texts, read from one of its own catalogues."""
     with tempfile.TemporaryDirectory() as temporary:
         texts = pathlib.Path(temporary) / "toolkit.ts"
         subprocess.run([tool("lconvert"), "-i", "/usr/share/qt6/translations/qtbase_de.qm", "-o", str(texts)], check=True)
@@ -86,7 +86,7 @@ def symbols(text):
 
 
 def complaints_of(code, source, message):
-    """What is wrong with one translation."""
+    """The faults of one translation."""
     text = message.translation
     if message.state or not text.strip():
         yield message.state or "missing"
@@ -111,7 +111,7 @@ def complaints_of(code, source, message):
 
 
 def differences(code, current, messages):
-    """Between the texts that the source has now and those of a catalogue."""
+    """The texts that only the source has or only a catalogue has."""
     yield from (f"{code}: {context}: missing: {source!r}" for context, source in current - messages)
     yield from (f"{code}: {context}: no longer in the source: {source!r}" for context, source in messages - current)
 
@@ -131,7 +131,7 @@ def check():
         complaints += [f"{code}: {context}: {complaint}: {source!r} -> {message.translation!r}"
                        for (context, source), message in messages.items() for complaint in complaints_of(code, source, message)]
     ours = read(toolkit)
-    contexts = {context for context, _ in ours} - {"QShortcut"}  # of which the keys of a usual keyboard are enough
+    contexts = {context for context, _ in ours} - {"QShortcut"}  # the catalogue has only the keys of a usual keyboard
     complaints += [f"{toolkit.name}: {context}: missing: {source!r}" for context, source in toolkit_texts() - ours.keys()
                    if context in contexts]
     for (context, source), message in ours.items():

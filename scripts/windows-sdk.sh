@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Print the folder of a static Qt for Windows; progress goes to standard error.
 #
-# It is the one that QT_WINDOWS_SDK names, else one kept in the user's cache. That one is unpacked from an archive beside the
-# project when there is one for the host's version of Qt, else built from the distribution's source packages, which takes a while.
+# It is the folder in QT_WINDOWS_SDK, or else one in the user's cache. The latter is made when it is missing: unpacked from an
+# archive beside the project if there is one for the host's Qt version, or else built from the distribution's source packages.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -15,7 +15,7 @@ if [ -n "${QT_WINDOWS_SDK:-}" ]; then
   exit
 fi
 
-# A cross build wants the host's Qt and the target's to be of one version.
+# A cross build needs the same Qt version for host and target.
 version=$(sed -n 's/^set(PACKAGE_VERSION "\([0-9.]*\)").*/\1/p' /usr/lib/*/cmake/Qt6/Qt6ConfigVersionImpl.cmake | head -n 1)
 if [ -z "$version" ]; then
   echo "windows-sdk: the host's Qt 6 is not installed (qt6-base-dev)" >&2
@@ -29,7 +29,7 @@ mkdir -p "$cache"
 exec 9> "$cache/lock"
 flock 9
 if [ ! -d "$sdk" ]; then
-  # Made under another name, so that what bears the final name is always whole.
+  # Made under another name and renamed at the end: a folder with the final name is always complete.
   unfinished=$(mktemp -d "$cache/making.XXXXXX")
   trap 'rm -rf "$unfinished"' EXIT
   if [ -f "$archive" ]; then

@@ -10,7 +10,7 @@ source scripts/packages.sh
 need "${build_packages[@]}" "${windows_packages[@]}" "${font_packages[@]}"
 QT_WINDOWS_SDK=$(scripts/windows-sdk.sh)
 export QT_WINDOWS_SDK
-# The native companion scans the same prefix as the Windows one.
+# One test scans the same prefix with the native sweepwise-cli and with the Windows one.
 cmake --preset dev > /dev/null
 cmake --build --preset dev --target sweepwise-cli
 cmake --preset windows "-DQT_WINDOWS_SDK=$QT_WINDOWS_SDK" "-DSWEEPWISE_NATIVE_CLI=$PWD/build/dev/src/cli/sweepwise-cli" > /dev/null
@@ -30,17 +30,18 @@ trap 'exit 130' INT TERM
 
 export WINEDEBUG=-all
 unset WINEARCH WINEDLLOVERRIDES
-# Neither of the two runtimes that a new prefix would offer to download is wanted, nor a display.
+# A new prefix must not offer to download its two optional runtimes (mscoree, mshtml). No display is needed.
 unset DISPLAY WAYLAND_DISPLAY
 mkdir "$WINEPREFIX"
 WINEDLLOVERRIDES='mscoree=;mshtml=' wine wineboot -i
-# The server keeps a registry in memory for a while; only its end is sure to write the files that the native programs read.
+# The native programs read the registry files. The server keeps the registry in memory and writes the files at its end at the
+# latest: wait for its end.
 wineserver -w
 wineserver -p
-# The first program starts the services, which keep its output open: it must not be a test whose output is waited for.
+# The first program starts the services, which keep its output open. So it must not be a test: CTest would wait for the output.
 wine cmd /c exit < /dev/null > /dev/null 2>&1
 
-# The offscreen platform knows the fonts of one folder and no others.
+# The offscreen platform finds fonts in one folder only.
 mkdir "$work/fonts"
 for font in truetype/noto/NotoSans-Regular.ttf truetype/noto/NotoSans-Bold.ttf opentype/noto/NotoSansCJK-Regular.ttc; do
   cp "/usr/share/fonts/$font" "$work/fonts/"

@@ -1,4 +1,4 @@
-"""Chromium as its users run it, driven through chromedriver."""
+"""Runs Chromium as its users do and controls it through chromedriver."""
 import hashlib
 import http.client
 import json
@@ -14,7 +14,7 @@ BROWSER = "/usr/lib/chromium/chromium"
 LOGIN_PAGE = "chrome://password-manager/passwords"
 SQLITE_BROKEN = {11, 26}  # malformed, not a database
 
-# No network but loopback, no dialog, no keyring; else as it comes.
+# No network but loopback, no dialogs, no keyring. Everything else has its default.
 ARGUMENTS = ["--headless=new", "--disable-gpu", "--disable-quic", "--disable-sync", "--disable-background-networking",
              "--disable-component-update", "--disable-domain-reliability", "--disable-dev-shm-usage",
              "--no-first-run", "--no-default-browser-check", "--no-service-autorun", "--password-store=basic",
@@ -24,7 +24,7 @@ ARGUMENTS = ["--headless=new", "--disable-gpu", "--disable-quic", "--disable-syn
 
 
 class Driver:
-    """chromedriver, whichever browser it is told to talk to."""
+    """A chromedriver process and its HTTP interface."""
 
     def __init__(self, environment):
         self._process = subprocess.Popen(["chromedriver", "--port=0"], env=environment, stdin=subprocess.DEVNULL,
@@ -58,7 +58,7 @@ class Chromium:
         self.profile = self._data / "Default"
         self._driver = Driver(folders.environment)
         self._extension = extension
-        # How the browser names an extension that was not packed.
+        # The id that the browser gives to an unpacked extension: a digest of its path.
         digest = hashlib.sha256(os.fsencode(extension)).hexdigest()[:32]
         self._extension_id = digest.translate(str.maketrans("0123456789abcdef", "abcdefghijklmnop"))
         self._process = None
@@ -71,7 +71,7 @@ class Chromium:
         port_file.unlink(missing_ok=True)
         arguments = ARGUMENTS + [f"--user-data-dir={self._data}", f"--load-extension={self._extension}"]
         if os.geteuid() == 0:
-            arguments.append("--no-sandbox")  # which it refuses to set up for the system's administrator
+            arguments.append("--no-sandbox")  # as root Chromium refuses to start with its sandbox
         self._log = self._folders.log("chromium")
         with open(self._log, "wb") as log:
             self._process = subprocess.Popen([BROWSER] + arguments, env=self._folders.environment, stdin=subprocess.DEVNULL,
@@ -87,15 +87,15 @@ class Chromium:
         answer = self._driver.send("POST", "/session", {"capabilities": {"alwaysMatch": {"goog:chromeOptions": options}}})
         self._session = "/session/" + answer["sessionId"]
         self._send("POST", "/timeouts", {"script": processes.PATIENCE * 1000 // 2})
-        self.open_tab("about:blank")  # of its own: the others are to stay as they were restored
+        self.open_tab("about:blank")  # a new tab: the restored tabs must not change
 
     def quit(self):
-        """Closes it as the menu does, and waits until it is gone."""
+        """Closes the browser as its menu does, and waits for the end of the process."""
         self._errors = self._counted_errors()
         try:
             self._command("Browser.close")
         except (RuntimeError, OSError, http.client.HTTPException):
-            pass  # it is gone before it can answer
+            pass  # the browser may end before it answers
         code = self._process.wait(processes.PATIENCE)
         if code != 0:
             raise RuntimeError(f"Chromium ended with {code}: {self.output()}")
@@ -110,8 +110,8 @@ class Chromium:
         return self._log.read_text(encoding="utf-8", errors="replace")
 
     def _counted_errors(self):
-        """What it counts for its makers: above all each reason for the dialog that the profile cannot be used properly, of which
-        there is nothing to be seen without a screen."""
+        """The errors in the browser's own statistics. Among them are the reasons for the dialog about a damaged profile, which is not
+        visible without a screen."""
         errors = []
         for name, bad in (("Profile.ProfileError", None), ("Sql.Database.Open.FailureReason", None),
                           ("Sql.Database.Open.FirstAttempt.Error", None), ("Sql.Database.Statement.Error", SQLITE_BROKEN)):
@@ -122,7 +122,7 @@ class Chromium:
         return errors
 
     def complaints(self):
-        """What it printed, counted, and left, that somebody would call broken."""
+        """The signs of damage: in the output, in the counted errors and in the files that the browser has left."""
         bad = re.compile(r"corrupt|malformed|not a database|(failed|unable) to open|fatal|\bcrash(ed)?\b|check failed", re.I)
         lines = [line for line in self.output().splitlines() if bad.search(line)]
         leftovers = [*self._folders.root.rglob("*.dmp"), *self.profile.glob("*.bad")]
@@ -132,7 +132,7 @@ class Chromium:
         return self._driver.send(method, self._session + path, body)
 
     def _command(self, command, **parameters):
-        """Of the browser's own protocol, which has what the driver's has not."""
+        """Sends a command of the browser's own protocol, which has more commands than the driver's."""
         return self._send("POST", "/goog/cdp/execute", {"cmd": command, "params": parameters})
 
     def go(self, url):
@@ -152,14 +152,14 @@ class Chromium:
         return f"chrome-extension://{self._extension_id}/page.html"
 
     def add_login(self, origin, user, password):
-        """Through the page on which its users manage what is saved: there is no other way in, and it is the browser that
-        encrypts and writes."""
+        """Saves a login through the page on which users manage their passwords. There is no other way: the browser itself has to
+        encrypt and write it."""
         self.go(LOGIN_PAGE)
         self.in_page("await chrome.passwordsPrivate.addPassword(" + json.dumps(
             {"url": origin, "username": user, "password": password, "note": "", "useAccountStore": False}) + ")")
 
     def logins(self):
-        """User and password of what is saved."""
+        """User and password of each saved login."""
         self.go(LOGIN_PAGE)
         return self.in_page("""
             const list = await chrome.passwordsPrivate.getSavedPasswordList();
@@ -167,7 +167,7 @@ class Chromium:
                 [entry.username, await chrome.passwordsPrivate.requestPlaintextPassword(entry.id, "VIEW")]));""")
 
     def has_only_in_write_ahead_file(self, mark):
-        """Whether what bears the mark was written to the files that are named like logs and to no other: by kind of data."""
+        """For each kind of data: whether the mark is in files with the suffix .log and in no other file."""
         answer = {}
         for kind, folder in (("local storage", "Local Storage/leveldb"), ("IndexedDB", "IndexedDB"),
                              ("extension", "Local Extension Settings")):

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a scan offers and does not tick although the category is ticked.
+/// The unticked items in ticked categories of a scan.
 QJsonArray findUntickedItems(const ScanResult &result)
 {
     QJsonArray list;
@@ -29,8 +29,9 @@ QJsonArray findUntickedItems(const ScanResult &result)
 
 } // namespace
 
-/// Cleans the browsers of the user whose folders the environment names: what is ticked by default,
-/// or everything. Tells on standard output, as one JSON object, what became of it.
+/// Cleans the browser profiles in the folders that the environment names. The argument decides
+/// whether it cleans the items ticked by default or everything. Prints the result as one JSON
+/// object.
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);

@@ -1,4 +1,4 @@
-"""Firefox as its users run it, driven by its own remote protocol, Marionette."""
+"""Runs Firefox as its users do and controls it through its own remote protocol, Marionette."""
 import json
 import re
 import socket
@@ -11,7 +11,7 @@ import processes
 BROWSER = "/usr/lib/firefox-esr/firefox-esr"
 EXTENSION_ID = "keeper@browsers.test"
 
-# No network but loopback, the last session back, and extensions that nobody has signed; else as it comes.
+# No network but loopback, the last session is restored, unsigned extensions are allowed. Everything else has its default.
 PREFERENCES = {
     "browser.startup.page": 3,
     "marionette.port": 0,
@@ -30,7 +30,7 @@ PREFERENCES = {
 
 
 class Marionette:
-    """The protocol: messages in JSON, each behind its length, [0, number, command, parameters] there and
+    """A connection by the protocol. A message is its length and a JSON text: [0, number, command, parameters] to the browser and
     [1, number, error, result] back."""
 
     def __init__(self, port):
@@ -108,10 +108,10 @@ class Firefox:
         if not self._extension_host:
             self._send("Addon:Install", path=str(self._package), temporary=False)
             self._extension_host = self._in_browser(f"return WebExtensionPolicy.getByID({EXTENSION_ID!r}).mozExtensionHostname")
-        self.open_tab("about:blank")  # of its own: the others are to stay as they were restored
+        self.open_tab("about:blank")  # a new tab: the restored tabs must not change
 
     def quit(self):
-        """Closes it as the menu does, and waits until it is gone."""
+        """Closes the browser as its menu does, and waits for the end of the process."""
         self._console = self._in_browser("return Services.console.getMessageArray().map(message => message.message)")
         self._send("Marionette:Quit", flags=["eAttemptQuit"])
         self._marionette.close()
@@ -127,7 +127,7 @@ class Firefox:
         return self._log.read_text(encoding="utf-8", errors="replace")
 
     def complaints(self):
-        """What it printed, wrote to its console, and left, that somebody would call broken."""
+        """The signs of damage: in the output, in the console and in the files that the browser has left."""
         bad = re.compile(r"corrupt|malformed|not a database|fatal|\bcrash(ed)?\b", re.I)
         lines = [line for line in self.output().splitlines() + self._console if bad.search(line)]
         leftovers = [*self._folders.root.rglob("*.dmp"), *self.profile.glob("*.corrupt*")]
@@ -137,7 +137,7 @@ class Firefox:
         return self._marionette.send(command, **parameters)
 
     def _in_browser(self, body):
-        """The same as in_page() with the rights of the browser itself."""
+        """Like in_page(), but with the rights of the browser itself."""
         self._send("Marionette:SetContext", value="chrome")
         try:
             return self.in_page(body)

@@ -1,4 +1,4 @@
-"""The pages that the browsers visit, and what is done in them."""
+"""The pages that the browsers visit, and the scripts that run in them."""
 import http.server
 import json
 import threading
@@ -6,7 +6,7 @@ import threading
 ENTRIES = 200
 COOKIE_AGE = 30 * 24 * 3600  # seconds
 
-# Kept in local storage, in IndexedDB and in an extension's storage, 200 entries each: some of them not plain ASCII.
+# Stores 200 entries each in local storage and in IndexedDB; an extension stores the same ones. Some are not plain ASCII.
 SCRIPT = """
 const count = %d;
 const value = (mark, i) => `${mark} ${i}` + (i %% 10 ? "" : " ü 页面 🧹");
@@ -57,7 +57,7 @@ async function read() {
 
 
 def value(mark, i):
-    """The same as the script's."""
+    """The same as value() in the script."""
     return f"{mark} {i}" + ("" if i % 10 else " ü 页面 🧹")
 
 
@@ -81,7 +81,7 @@ class _Handler(http.server.BaseHTTPRequestHandler):
 
 
 class Site:
-    """Answers any path of one origin on the loopback device."""
+    """A web server on the loopback device that answers any path."""
 
     def __init__(self):
         self._server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), _Handler)
@@ -97,7 +97,7 @@ class Site:
 
 
 def in_page(body):
-    """A WebDriver script that waits for what an async function with this body gives, as JSON; a failure is an object {failure}."""
+    """A WebDriver script that runs an async function with this body. Its result is JSON; an error is an object {failure}."""
     return ("const done = arguments[arguments.length - 1];"
             f"(async () => {{ {body} }})().then(result => done(JSON.stringify(result ?? null)),"
             "failure => done(JSON.stringify({failure: String(failure)})));")

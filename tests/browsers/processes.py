@@ -1,4 +1,4 @@
-"""Waiting for what other programs do, and ending every one that was started."""
+"""Waits for other programs, and ends all programs that were started."""
 import ctypes
 import os
 import pathlib
@@ -6,11 +6,11 @@ import select
 import signal
 import time
 
-PATIENCE = 60  # seconds; what is waited for takes a few at most
+PATIENCE = 60  # seconds; normally a wait takes only a few
 
 
 def wait_for(condition, what, patience=PATIENCE):
-    """What the condition gives once that is true."""
+    """Waits until the condition returns a true value, and returns that value."""
     end = time.monotonic() + patience
     while True:
         result = condition()
@@ -22,7 +22,7 @@ def wait_for(condition, what, patience=PATIENCE):
 
 
 def read_until(stream, mark, what, patience=PATIENCE):
-    """The text that a program prints up to the first line with the mark."""
+    """Reads the output of a program up to the first line with the mark."""
     end = time.monotonic() + patience
     text = b""
     while mark not in text or not text.endswith(b"\n"):
@@ -35,14 +35,14 @@ def read_until(stream, mark, what, patience=PATIENCE):
 
 
 def adopt_orphans():
-    """Makes what a program leaves behind when it ends a child of this one, so that nothing is lost sight of."""
+    """Makes this process the parent of orphaned descendants, so that it can find and end them."""
     pr_set_child_subreaper = 36
     if ctypes.CDLL(None, use_errno=True).prctl(pr_set_child_subreaper, 1, 0, 0, 0) != 0:
         raise OSError(ctypes.get_errno(), "prctl")
 
 
 def descendants():
-    """What this program started, directly or not, and still runs: process id to name."""
+    """The running programs that this one has started, directly or not: process id to name."""
     parents, names = {}, {}
     for entry in pathlib.Path("/proc").iterdir():
         if not entry.name.isdigit():
@@ -63,7 +63,7 @@ def descendants():
 
 
 def end_descendants():
-    """Ends each of them by its id."""
+    """Kills each descendant by its process id, and waits for their end."""
     def have_all_ended():
         for process in descendants():
             try:

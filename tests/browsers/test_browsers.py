@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""What a clean leaves of a profile, seen by the browser itself: Chromium and Firefox fill a profile of their own, it is cleaned by
-the engine, and they are started on it again.
+"""Tests what a clean leaves of a real browser profile. Chromium and Firefox each fill a profile, the engine cleans it, and the
+browser starts with it again.
 
 Usage: test_browsers.py CLEAN_BROWSERS [UNITTEST ARGUMENT...]
 
-Everything lies below one temporary folder, in which the profiles are where the rules look for them. No network but the loopback
-device is used.
+All files are below one temporary folder. The profiles are there where the rules look for them. The test uses no network but the
+loopback device.
 """
 import json
 import os
@@ -32,7 +32,7 @@ cleaner = ""
 
 
 class Folders:
-    """A home for one browser, and the environment that makes it that."""
+    """A home folder for one browser, and the environment variables that select it."""
 
     def __init__(self):
         self._temporary = tempfile.TemporaryDirectory(prefix="sweepwise-")
@@ -54,7 +54,7 @@ class Folders:
         return self.root / f"{name} {self._logs}.log"
 
     def close(self):
-        # A program that was killed may have been writing still when the folder was listed.
+        # A killed program may have added a file after rmtree has listed the folder: try again.
         def is_removed():
             shutil.rmtree(self.root, ignore_errors=True)
             return not self.root.exists()
@@ -64,7 +64,7 @@ class Folders:
 
 
 class CleanedBrowser:
-    """The test, for either browser."""
+    """The test; a subclass for each browser sets `maker`."""
 
     maker = None
 
@@ -73,14 +73,14 @@ class CleanedBrowser:
         self.addCleanup(self.site.close)
         self.folders = Folders()
         self.addCleanup(self.folders.close)
-        # Last in, first out: what still runs is ended before its folder goes.
+        # Cleanups run in reverse order: the programs end before their folder is removed.
         self.addCleanup(processes.end_descendants)
         extension = self.folders.root / "keeper"
         shutil.copytree(pathlib.Path(__file__).resolve().parent / "extension", extension)
         self.browser = self.maker(self.folders, extension)
         self.addCleanup(self.browser.close)
 
-    # --- what a user does
+    # --- actions of a user
 
     def fill(self, mark):
         browser, origin = self.browser, self.site.origin
@@ -98,7 +98,7 @@ class CleanedBrowser:
             browser.open_tab(f"{origin}/tab/{mark}/{i}")
 
     def read_back(self, mark):
-        """What is there of all that, by kind."""
+        """Reads the data of fill() back, by kind."""
         browser, origin = self.browser, self.site.origin
         browser.go(f"{origin}/read")
         found = browser.in_page("return read()")
@@ -140,10 +140,10 @@ class CleanedBrowser:
         self.assertEqual(outcome["failed"], [])
         return outcome
 
-    # --- what is asked
+    # --- checks
 
     def assert_kept(self, kinds, mark):
-        """Of every kind, so that one message tells of all that is lost. What a browser reads a little later it is waited for."""
+        """Checks all kinds, so that one message names all lost data. Waits, since a browser may read some data later."""
         expected, missing = self.expected(mark), {}
 
         def has_all():
@@ -204,7 +204,7 @@ class TestChromium(CleanedBrowser, unittest.TestCase):
     maker = chromium.Chromium
 
     def check_before_default(self, mark):
-        # Else the clean could take those files and nothing would be missed.
+        # Otherwise a clean that removes these files would not be noticed.
         self.assertEqual(self.browser.has_only_in_write_ahead_file(mark),
                          {"local storage": True, "IndexedDB": True, "extension": True})
 
@@ -223,7 +223,7 @@ def main():
     if len(sys.argv) < 2:
         sys.exit(__doc__)
     cleaner = str(pathlib.Path(sys.argv.pop(1)).resolve())
-    # Whichever way it is asked to end, it clears up first; the folder goes with the interpreter.
+    # SIGTERM ends the test like Ctrl+C, so that it cleans up first. The folder is removed when the interpreter ends.
     signal.signal(signal.SIGTERM, signal.default_int_handler)
     processes.adopt_orphans()
     try:

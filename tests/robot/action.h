@@ -9,29 +9,38 @@
 
 #include <optional>
 
-/// One action of the robot, with what may come of it.
+/// One action of the robot, with the effects that it may have.
+///
+/// The Player fills it, the Judge compares it with what happened.
 struct Action {
     enum class Effect {
-        None, ///< no tick may change
-        Exact, ///< the ticks of the row must change as its meaning says
-        Possible, ///< they may, by a pixel or a key that the row need not take
-        Unknown, ///< whatever comes of it is right
+        /// No tick may change.
+        None,
+        /// The ticks of the row must change as its meaning says.
+        Exact,
+        /// The ticks of the row may change: the row may ignore this pixel or key.
+        Possible,
+        /// Every result is right.
+        Unknown,
     };
 
     QString text;
     Effect effect = Effect::None;
-    PageProbe *probe = nullptr; ///< whose row is meant
+    /// The page of the row; null when the action is not on a row.
+    PageProbe *probe = nullptr;
     Row row;
-    /// It says yes to a deletion, of these paths or registry entries.
+    /// The action confirms a deletion of the paths or registry entries in `chosen`.
     bool isConfirmation = false;
     QStringList chosen;
-    /// It scrolls, and only in this direction: up (-1) or down (1).
+    /// The bar that the action scrolls; null when it scrolls nothing.
     QPointer<QScrollBar> bar;
     int valueBefore = 0;
+    /// The only direction in which the bar may move: up (-1) or down (1).
     int direction = 0;
-    /// It leaves the focus where it is.
+    /// The action leaves the focus where it is.
     bool keepsFocus = false;
     QPointer<QWidget> focusBefore;
-    QString focusPath; ///< of the file whose box that is
+    /// The file whose check box is `focusBefore`; empty for other widgets.
+    QString focusPath;
     bool isTab = false;
 };

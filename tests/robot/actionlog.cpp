@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What the offscreen platform says of itself, and what follows from there being no file manager.
+// Messages of the offscreen platform, and one that comes because there is no file manager.
 bool isHarmless(const QString &message)
 {
     static const QStringList harmless{
@@ -32,7 +32,7 @@ bool isHarmless(const QString &message)
 
 ActionLog &ActionLog::instance()
 {
-    // Never destroyed: the toolkit may still have something to say at the very end.
+    // Never destroyed: the toolkit may still send messages while the program ends.
     static auto *const log = new ActionLog;
     return *log;
 }

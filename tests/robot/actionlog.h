@@ -9,30 +9,30 @@
 #include <mutex>
 #include <thread>
 
-/// What the robot has done last, for telling how it came to a failure.
+/// The last actions of the robot, printed when a test run fails. One object for the program.
 ///
-/// The first failure ends the program: a check's, a warning of the toolkit, a crash, or an action
-/// that is not over after a while. A thread of its own watches for the last. Everything else is
-/// called on the GUI thread, but for messages, which come from anywhere.
+/// The first failure ends the program. A failure is a failed check, a warning of the toolkit, a
+/// crash, or an action that takes too long. A thread of its own watches for the last kind. All
+/// functions are called on the GUI thread. Only messages may come from any thread.
 class ActionLog final
 {
     Q_DISABLE_COPY_MOVE(ActionLog)
 public:
     static ActionLog &instance();
 
-    /// Starts to listen to messages and crashes and to watch the clock. @p patience is how many
-    /// seconds an action may take.
+    /// Starts to watch for messages, crashes and actions that take too long. @p patience is how
+    /// many seconds an action may take.
     void open(quint64 seed, const QString &page, int patience);
-    /// Has every action printed as it is done.
+    /// Makes printLine() print every action.
     void setTracing(bool on) { m_isTracing = on; }
-    /// Called before the program is ended by a failure.
+    /// Sets the function that is called before a failure ends the program.
     void setCleanUp(const std::function<void()> &cleanUp) { m_cleanUp = cleanUp; }
     void close();
 
-    /// Begins the line of an action, and tells the watch that the program is alive.
+    /// Begins the line of an action. Also tells the watching thread that the program is alive.
     void begin(int action);
     void describe(const QString &text);
-    /// Called when the line is complete.
+    /// Prints the line of the action when tracing is on. Call it when the line is complete.
     void printLine() const;
 
     [[noreturn]] void fail(const QString &message);
@@ -55,7 +55,7 @@ private:
     int m_patience = 0;
     bool m_isTracing = false;
     int m_action = 0;
-    // Plain text, so that a crash or another thread can print it.
+    // Arrays of characters, so that a crash handler or another thread can print them.
     std::array<std::array<char, maxLineLength>, keptLines> m_lines{};
     std::function<void()> m_cleanUp;
     std::atomic<quint64> m_startedActions = 0;
@@ -65,7 +65,7 @@ private:
     std::thread m_watch;
 };
 
-/// Fails when @p holds is not true; @p message makes the text for that case.
+/// Ends the program with a failure when @p isTrue is false; @p message makes the failure's text.
 template<class Message>
 void expect(bool isTrue, Message message)
 {

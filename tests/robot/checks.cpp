@@ -36,7 +36,7 @@ void checkBox(const QWidget *box, int ticked, int count)
 {
     const auto *checkBox = qobject_cast<const QCheckBox *>(box);
     expect(checkBox != nullptr, [] { return u"a row has no box"_s; });
-    // Whether it can be seen or is cut off, nothing lies over it.
+    // The box may be cut off, but nothing may lie over it.
     (void)eyes::isDrawn(box);
     const Qt::CheckState expected = ticked == 0 ? Qt::Unchecked
         : ticked == count                       ? Qt::Checked

@@ -6,9 +6,10 @@
 #include <QString>
 #include <QWidget>
 
-/// What several probes need for comparing what is shown with what it should be.
+/// Checks that several probes share. Each ends the program when a shown text or box is wrong.
 namespace checks {
 
+/// The descendant of @p parent called @p name. Fails when there is none.
 template<class Widget = QWidget>
 Widget *child(const QWidget *parent, const QString &name)
 {
@@ -18,15 +19,16 @@ Widget *child(const QWidget *parent, const QString &name)
     return found;
 }
 
-/// As the pages write sizes.
+/// A size in bytes as the pages write it.
 [[nodiscard]] QString sizeText(qint64 bytes);
 
 void compare(const QString &what, const QString &shown, const QString &expected);
 
-/// Fails when @p name is drawn in a row and is neither @p full nor short for it.
+/// Fails when the widget @p name is drawn in a row and its text is neither @p full nor shortened
+/// from it.
 void checkText(const QWidget *row, const QString &name, const QString &full);
 
-/// Compares the box of a row with how many of its records are ticked.
+/// Checks the state of a row's box: @p ticked of its @p count records are ticked.
 void checkBox(const QWidget *box, int ticked, int count);
 
 } // namespace checks

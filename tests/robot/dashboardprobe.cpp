@@ -24,7 +24,7 @@ qint64 sizeOf(const ScanResult &result)
     return size;
 }
 
-/// One decimal for gigabytes too.
+/// A size as the dashboard writes it: gigabytes with one decimal, unlike on the other pages.
 QString figureText(qint64 bytes)
 {
     constexpr qint64 gibibyte = 1 << 30;

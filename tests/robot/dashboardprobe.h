@@ -9,7 +9,7 @@
 class DashboardPage;
 class FullScan;
 
-/// The dashboard. It lists nothing, but its figures are those of its last scan.
+/// Checks the dashboard. The page has no list; its figures must be those of the last full scan.
 class DashboardProbe final : public QObject, public PageProbe
 {
     Q_OBJECT
@@ -27,5 +27,6 @@ private:
     void updateFigures();
 
     DashboardPage *m_page;
-    QStringList m_figures; ///< as they must be shown; none before the first scan
+    /// The texts that must be shown; empty before the first scan.
+    QStringList m_figures;
 };

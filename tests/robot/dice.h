@@ -2,7 +2,8 @@
 
 #include <QtGlobal>
 
-/// Numbers that look random and are the same again for the same seed, on every system.
+/// Random numbers that depend on the seed only: the same seed gives the same numbers on every
+/// system.
 class Dice final
 {
 public:
@@ -11,7 +12,7 @@ public:
     {
     }
 
-    /// From 0 on and less than @p end, which is 1 at least.
+    /// A number from 0 to @p end - 1; @p end is at least 1.
     [[nodiscard]] int below(int end)
     {
         return static_cast<int>(next() % static_cast<quint64>(end));
@@ -25,7 +26,7 @@ public:
     }
 
 private:
-    // SplitMix64: every seed gives a sequence of its own, seeds that follow each other too.
+    // SplitMix64: different seeds give different sequences, also seeds next to each other.
     quint64 next()
     {
         m_state += 0x9e3779b97f4a7c15;

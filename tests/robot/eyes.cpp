@@ -14,7 +14,7 @@ namespace eyes {
 
 namespace {
 
-/// The outermost row at a place, not one inside another one's header.
+/// The row that contains @p position; null where there is none.
 QWidget *rowAt(QWidget *window, QPoint position, const QWidget *viewport,
                const QList<QString> &names)
 {
@@ -100,7 +100,7 @@ QList<QWidget *> findRows(const QAbstractScrollArea *area, int x, const QList<QS
             continue;
         }
         const QRect rect = visibleRect(row);
-        // Between two rows the search goes on in steps, so one may begin a pixel earlier.
+        // Between two rows the search goes on in steps of two: a row may begin one pixel earlier.
         expect(rect.top() >= y - 1,
                [&] { return u"%1 goes on below what lies over it"_s.arg(describe(row)); });
         expect(!rows.contains(row), [&] { return u"%1 is drawn twice"_s.arg(describe(row)); });

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr ulong separateClickGap = 1000; ///< too long for a double click
-constexpr ulong doubleClickGap = 50;
+constexpr ulong separateClickGap = 1000; ///< milliseconds; too long for a double click
+constexpr ulong doubleClickGap = 50; ///< milliseconds
 constexpr int wheelNotch = 120; ///< eighths of a degree
 
 using Window = QWindowSystemInterface;
@@ -47,7 +47,7 @@ Hands::Hands(QWidget *mainWindow)
 {
 }
 
-// The offscreen platform keeps them in the order of their making: the youngest is the topmost.
+// The offscreen platform keeps windows in the order of their creation: the newest is on top.
 QList<QWidget *> Hands::windows()
 {
     QList<QWidget *> found;
@@ -63,7 +63,7 @@ QList<QWidget *> Hands::windows()
 
 QWidget *Hands::windowAt(QPoint global)
 {
-    // A dialog stands above what it keeps the user away from, whichever is younger.
+    // A modal dialog is above the window that it blocks, also when that window is newer.
     for (QWidget *window : {QApplication::activePopupWidget(), QApplication::activeModalWidget()}) {
         if (window && window->geometry().contains(global))
             return window;
@@ -84,7 +84,7 @@ bool Hands::isBlocked(const QWidget *window)
 
 QWindow *Hands::targetWindow(QPoint global) const
 {
-    // An open menu gets every event, wherever the mouse is.
+    // An open menu gets every mouse event, wherever the mouse is.
     const QWidget *window = QApplication::activePopupWidget();
     if (!window)
         window = windowAt(global);

@@ -8,36 +8,38 @@
 class QWidget;
 class QWindow;
 
-/// The user's mouse and keyboard: what they do enters where the window system's events do, so that
-/// the toolkit itself finds out which widget is meant, and when it takes them. Nothing has happened
-/// yet when a function returns; the event loop has to run.
+/// The user's mouse and keyboard, on the GUI thread.
+///
+/// Events go into the queue of the window system. So the toolkit itself finds the widget that gets
+/// them, as with a real mouse. When a function returns, nothing has happened yet: the event loop
+/// has to run.
 class Hands final
 {
     Q_DISABLE_COPY_MOVE(Hands)
 public:
     explicit Hands(QWidget *mainWindow);
 
-    /// The windows that are shown, the uppermost first.
+    /// The shown windows, the uppermost first.
     [[nodiscard]] static QList<QWidget *> windows();
-    /// The window that a user sees at a place of the screen; null where there is none.
+    /// The uppermost window at a point of the screen; null where there is none.
     [[nodiscard]] static QWidget *windowAt(QPoint global);
-    /// Whether an open dialog keeps the user away from @p window.
+    /// Whether an open modal dialog blocks @p window.
     [[nodiscard]] static bool isBlocked(const QWidget *window);
 
     void move(QPoint global);
     void click(QPoint global, Qt::MouseButton button = Qt::LeftButton, int times = 1);
-    /// Presses the left button, moves and lets go elsewhere.
+    /// Presses the left button at @p from, moves to @p to and releases the button there.
     void drag(QPoint from, QPoint to);
     /// Turns the wheel; a positive number of notches scrolls up.
     void wheel(QPoint global, int notches);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString &text);
 
-    /// Whether the program has not yet taken all of that.
+    /// Whether the program has not yet processed all events that were sent.
     [[nodiscard]] static bool hasPendingEvents();
 
-    /// What a window system does by itself: when the active window has gone, another one becomes
-    /// active. Whether that was so.
+    /// Activates another window when the active one is closed, as a window system does by itself.
+    /// Returns whether a window was activated.
     static bool activateSomeWindow();
 
 private:
@@ -45,5 +47,7 @@ private:
     [[nodiscard]] QWindow *targetWindow(QPoint global) const;
 
     QWidget *m_mainWindow;
-    ulong m_clock = 0; ///< milliseconds; the only ones that tell a double click from two clicks
+    /// Time stamp of the last event in milliseconds. By it the toolkit tells a double click from
+    /// two single ones.
+    ulong m_clock = 0;
 };

@@ -17,7 +17,8 @@ using eyes::describe;
 
 namespace {
 
-constexpr int fileCheckInterval = 25; ///< actions; nobody has confirmed a deletion meanwhile
+/// Actions between two checks of the files while no deletion is confirmed.
+constexpr int fileCheckInterval = 25;
 
 const QString runKey = u"hkcu\\software\\microsoft\\windows\\currentversion\\run\\"_s;
 
@@ -90,7 +91,8 @@ void Judge::judge(const Action &action, bool isIdle)
     ++m_judgedActions;
 }
 
-// Every deletion begins with a confirmation, and a confirmation begins one, unless more is asked.
+// A deletion starts only after a confirmation. A confirmation starts one, unless another question
+// follows.
 void Judge::judgeDeletionStart(bool isIdle)
 {
     int startedCount = 0;
@@ -228,7 +230,7 @@ void Judge::judgeRegistry()
     m_registry->acceptState();
 }
 
-// A click adds one program or takes one out; a program of the same name gives way.
+// A click adds one program or removes one. A program of the same name is replaced.
 void Judge::judgeStartList(const QStringList &lost, const QStringList &added) const
 {
     const auto isEntry = [](const QString &name) { return name.startsWith(runKey); };
@@ -241,7 +243,7 @@ void Judge::judgeStartList(const QStringList &lost, const QStringList &added) co
            });
 }
 
-// What is asked before a deletion, and told after it, is about what is ticked.
+// The question before a deletion and the message after it must name the right number of files.
 void Judge::judgeMessage(const QMessageBox *box) const
 {
     static const QRegularExpression number(u"\\b(?:the selected|clean|Deleted) (\\d+) "_s);
@@ -250,7 +252,7 @@ void Judge::judgeMessage(const QMessageBox *box) const
         return;
     const bool isQuestion = box->windowTitle().startsWith("Confirm"_L1);
     if (!isQuestion && !m_isConfirmed)
-        return; // it stood there before
+        return; // the box was already open before
     qsizetype expected = m_lastDeletedCount;
     if (isQuestion) {
         for (const PageProbe *probe : m_probes) {

@@ -8,25 +8,25 @@ class QMessageBox;
 class RegistryWorld;
 class World;
 
-/// Says whether what came of an action was right: ticks, deletions, focus, scrolling and what is
-/// shown. Fails when it was not.
+/// Checks the results of each action: ticks, deletions, focus, scrolling and message boxes. Ends
+/// the program with a failure when one is wrong. Owned by the Robot; GUI thread only.
 class Judge final
 {
     Q_DISABLE_COPY_MOVE(Judge)
 public:
     Judge(const QList<PageProbe *> &probes, World *world, RegistryWorld *registry);
 
-    /// Takes notice of a action that is under way but has had no effect yet.
+    /// Stores what @p action will do. Call it after the action was sent and before it has effects.
     void expectEffects(const Action &action);
-    /// Compares what it has led to. @p isIdle tells that everything it began is over; otherwise
-    /// only what must always hold is looked at.
+    /// Checks the results of @p action. @p isIdle: all work that it started has ended. Without it
+    /// only the rules that hold at any time are checked.
     void judge(const Action &action, bool isIdle);
-    /// Notes that what was confirmed may not be done to its end.
+    /// Notes that a confirmed deletion may stop before its end.
     void noteInterruption() { m_isInterrupted = true; }
-    /// Looks at everything, into every file too.
+    /// Checks everything, including the content of every file.
     void compareFully();
 
-    // How much there was to judge.
+    // How much was checked.
     [[nodiscard]] int tickCount() const { return m_tickCount; }
     [[nodiscard]] int deletionCount() const { return m_deletionCount; }
     [[nodiscard]] int deletedCount() const { return m_deletedCount; }
@@ -45,18 +45,20 @@ private:
     QList<PageProbe *> m_probes;
     World *m_world;
     RegistryWorld *m_registry;
-    QList<Ticks> m_ticks; ///< after the last action, by probe
+    QList<Ticks> m_ticks; ///< of each probe, after the last action
     int m_judgedActions = 0;
-    // Since nothing was at work for the last time:
+    // Since the last time that no work was running:
     bool m_isConfirmed = false;
     bool m_isInterrupted = false;
     bool m_isStartListTouched = false;
-    bool m_wasIdle = true; ///< it still holds
     QStringList m_files; ///< whose deletion was confirmed
-    QStringList m_entries; ///< the same of the registry
+    QStringList m_entries; ///< registry entries whose deletion was confirmed
+    // After the last action:
+    bool m_wasIdle = true;
     qsizetype m_lastDeletedCount = 0; ///< files of the last deletion
     int m_tickCount = 0;
     int m_deletionCount = 0;
-    int m_idleDeletionCount = 0; ///< the same when nothing was at work for the last time
+    /// m_deletionCount at the last time that no work was running.
+    int m_idleDeletionCount = 0;
     int m_deletedCount = 0;
 };

@@ -10,19 +10,20 @@ class LargeFilePage;
 class QAbstractScrollArea;
 class QObject;
 
-/// The only part of the robot that knows how the page of the large files keeps what it lists.
+/// Access to the records of the large-file page. No other part of the robot knows how the page
+/// stores them.
 namespace largefileadapter {
 
 /// The listed files from top to bottom.
 [[nodiscard]] QList<LargeFileInfo> files(LargeFilePage *page);
-/// Which of them are ticked.
+/// Which of the listed files are ticked, in the same order.
 [[nodiscard]] QList<bool> ticks(LargeFilePage *page);
-/// Which of them belongs at @p y of the visible part of the list.
+/// The number of the file that belongs at @p y of the visible part of the list.
 [[nodiscard]] int rowAt(const QAbstractScrollArea *list, int y);
 /// Whether the page scans or deletes.
 [[nodiscard]] bool isBusy(LargeFilePage *page);
 
-/// Has @p receiver called when files have been deleted, before the page tells of it.
+/// Runs @p call in the context of @p receiver when files were deleted, before the page reports it.
 void connectDeletion(LargeFilePage *page, QObject *receiver, const std::function<void()> &call);
 
 } // namespace largefileadapter

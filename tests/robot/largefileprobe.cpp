@@ -22,7 +22,7 @@ using checks::child;
 
 namespace {
 
-constexpr int rowSearchX = 200; ///< where rows are looked for, from the left edge of the list
+constexpr int rowSearchX = 200; ///< pixels from the left edge of the list
 
 } // namespace
 
@@ -38,7 +38,7 @@ LargeFileProbe::LargeFileProbe(LargeFilePage *page, const World *world)
     largefileadapter::connectDeletion(page, this, [this] { ++m_deletions; });
     connect(scanner, &LargeFileScanner::scanFinished, this, [this](int count) {
         ++m_listing;
-        m_hasNewListing = count > 0; // else the page does not go on to the list
+        m_hasNewListing = count > 0; // without results the page shows no list
         if (count == 0)
             checkNothingIsMissing({});
     });
@@ -68,7 +68,7 @@ QStringList LargeFileProbe::startControls() const
 bool LargeFileProbe::isBusy() const
 {
     const auto dialogs = m_page->findChildren<ScanProgressDialog *>();
-    // The results are locked until the page has taken in what was deleted.
+    // The results stay locked until the page has removed the deleted files from its list.
     return largefileadapter::isBusy(m_page) || !m_results->isEnabled()
         || std::any_of(dialogs.begin(), dialogs.end(),
                        [](const QWidget *dialog) { return dialog->isVisible(); });
@@ -133,7 +133,7 @@ QList<Row> LargeFileProbe::visibleRows() const
         checks::checkBox(box, ticks.at(number) ? 1 : 0, 1);
         rows.append({card, Row::Meaning::Box, number, 1, box, rect});
     }
-    // What is not drawn in its row must not be drawn at all.
+    // A card that is in none of these rows must not be visible.
     const auto cards = m_area->viewport()->findChildren<QWidget *>(u"fileCard"_s);
     for (const QWidget *card : cards)
         expect(!eyes::visibleRect(card).intersects(eyes::visibleRect(m_area->viewport()))

@@ -8,7 +8,7 @@ class LargeFilePage;
 class QComboBox;
 class World;
 
-/// The page of the large files.
+/// Checks the large-file page against its records and against the files of the World.
 class LargeFileProbe final : public QObject, public PageProbe
 {
     Q_OBJECT
@@ -39,9 +39,10 @@ private:
     QAbstractScrollArea *m_area;
     QWidget *m_results;
     QComboBox *m_sizes;
-    qint64 m_minimumSize = 0; ///< bytes; what the last scan was asked for
-    QStringList m_drives; ///< the same
+    // Options of the last scan:
+    qint64 m_minimumSize = 0; ///< bytes
+    QStringList m_drives;
     int m_listing = 0;
     int m_deletions = 0;
-    bool m_hasNewListing = false; ///< listed since the last check
+    bool m_hasNewListing = false; ///< a scan has ended since the last check
 };

@@ -2,8 +2,9 @@
 
 #include <QObject>
 
-/// Has windows painted only now and then: nothing that the robot looks at depends on it, and it
-/// would take most of the time.
+/// Holds back the painting of all windows until paint() is called.
+///
+/// Painting would take most of the time of a game, and no check of the robot depends on it.
 class PaintThrottle final : public QObject
 {
     Q_OBJECT
@@ -11,7 +12,7 @@ class PaintThrottle final : public QObject
 public:
     PaintThrottle();
 
-    /// Paints what has been held back.
+    /// Paints every visible window.
     void paint();
 
 protected:

@@ -27,9 +27,10 @@ using eyes::describe;
 
 namespace {
 
-constexpr int middleRadius = 3; ///< pixels around the middle of a box that are sure to belong to it
+/// Pixels around the middle of a box that surely belong to the box.
+constexpr int middleRadius = 3;
 
-/// Chooses one of several things to do by their weights.
+/// Chooses one of several actions: the larger its weight, the more often.
 template<std::size_t count>
 std::size_t chooseByWeight(Dice &dice, const std::array<int, count> &weights)
 {
@@ -62,8 +63,9 @@ QWidget *uppermostDialog()
     return dialog == shown.end() ? nullptr : *dialog;
 }
 
-/// The box whose entry in the registry would be that of the test. Even a tick that is cancelled
-/// stays for the next time that the settings are saved.
+/// Whether @p widget is the box that makes the program start with the session. The robot must not
+/// tick it: the test program itself would be entered in the registry. Cancelling does not help,
+/// since the tick stays and is saved the next time.
 bool isAutoStartBox(const QWidget *widget)
 {
     return widget->objectName() == "autoStartCheck"_L1;
@@ -111,7 +113,7 @@ Action Player::act(Dice &dice, const QList<Row> &rows)
     } else if (modal) {
         actOnDialog(dice, modal);
     } else {
-        // What tells of a run is no barrier: the window below can be used.
+        // A progress dialog is not modal: the window below can be used too.
         QWidget *other = uppermostDialog();
         if (other && dice.chance(45))
             actOnDialog(dice, other);
@@ -135,7 +137,7 @@ bool Player::closeTopWindow()
     return true;
 }
 
-// --- what comes of a action
+// --- the effects of an action
 
 void Player::noteFocus()
 {
@@ -174,8 +176,7 @@ void Player::predictClick(QPoint position, Qt::MouseButton button, int times)
     if (button == Qt::RightButton)
         m_menuPath = row->widget->property("filePath").toString();
     const bool isOnBox = row->box && row->box == top;
-    // The first click may open something or close it, and the second one meets what stands there
-    // then.
+    // The first click may open or close something. The second click goes to the new content.
     if (times > 1 && !isOnBox && row->meaning != Row::Meaning::Anywhere) {
         m_action.effect = Action::Effect::Unknown;
         return;
@@ -189,7 +190,7 @@ void Player::predictClick(QPoint position, Qt::MouseButton button, int times)
     m_action.effect = times == 1 && isOnMiddle ? Action::Effect::Exact : Action::Effect::Possible;
 }
 
-// A button that begins a deletion.
+// Notes a confirmation when the button starts a deletion.
 void Player::predictPress(const QWidget *widget)
 {
     const auto *button = qobject_cast<const QPushButton *>(widget);
@@ -212,7 +213,7 @@ void Player::predictPress(const QWidget *widget)
     }
 }
 
-// --- hands
+// --- mouse and keys
 
 void Player::click(QPoint global, Qt::MouseButton button, int times)
 {
@@ -273,10 +274,10 @@ void Player::press(int key, Qt::KeyboardModifiers modifiers)
 {
     QWidget *focus = QApplication::focusWidget();
     const bool isPress = key == Qt::Key_Space || key == Qt::Key_Return;
-    // A blank within the path of a backup would lead out of the test's home.
+    // A blank in the path of a backup would change it to a path outside of the test's home.
     if (key == Qt::Key_Space && qobject_cast<QLineEdit *>(focus))
         key = Qt::Key_Tab;
-    // The buttons that close or hide the window are not for a robot that is to go on.
+    // The buttons of the title bar would close or hide the window, and the game would end.
     if (focus && isPress
         && (qobject_cast<const TitleBar *>(focus->parentWidget()) || isAutoStartBox(focus)))
         key = Qt::Key_Tab;
@@ -289,7 +290,7 @@ void Player::press(int key, Qt::KeyboardModifiers modifiers)
         if (const std::optional<Row> row = currentProbe()->rowWith(focus)) {
             m_action.probe = currentProbe();
             m_action.row = *row;
-            // A box that stands in no row may bring back what was ticked before.
+            // The box of a browser above the list may restore the ticks that were there before.
             m_action.effect = focus->property("browserType").isValid() ? Action::Effect::Possible
                                                                        : Action::Effect::Exact;
         }
@@ -367,10 +368,10 @@ void Player::actOnDialog(Dice &dice, QWidget *dialog)
     m_action.text = u"dialog %1: "_s.arg(describe(dialog));
     if (!dialog->isModal() && dice.chance(50)) {
         dialog->windowHandle()->requestActivate();
-        m_action.focusBefore.clear(); // which it takes from the window
+        m_action.focusBefore.clear(); // the dialog takes the focus from the window
     }
     if (dialog->inherits("QFileDialog")) {
-        // It could rename and delete what is not the program's affair.
+        // The file chooser could rename and delete files: only a name is typed in it.
         if (dice.chance(50)) {
             type(u"backup %1"_s.arg(dice.below(10)));
             press(Qt::Key_Return);
@@ -415,7 +416,7 @@ void Player::actOnDialog(Dice &dice, QWidget *dialog)
         break;
     case 7:
         if (qobject_cast<QLineEdit *>(QApplication::focusWidget())) {
-            m_hands.key(Qt::Key_A, Qt::ControlModifier); // what is typed takes the place of all
+            m_hands.key(Qt::Key_A, Qt::ControlModifier); // the typed text replaces the old one
             type(QString::number(dice.below(1000)));
         } else {
             dragSomething(dice, dialog);
@@ -568,7 +569,7 @@ void Player::useWheel(Dice &dice, QWidget *window)
     m_action.text +=
         u"wheel %1 at (%2, %3) on %4"_s.arg(QString::number(notches), QString::number(global.x()),
                                             QString::number(global.y()), describe(top));
-    // Another window may stand in front, and some controls have a use for the wheel themselves.
+    // Another window may be in front, and some controls use the wheel themselves.
     const bool canScroll = Hands::windowAt(global) == window->window()
         && !top->inherits("QAbstractSpinBox") && !top->inherits("QComboBox")
         && !top->inherits("QScrollBar");
@@ -609,7 +610,7 @@ void Player::dragSomething(Dice &dice, QWidget *window)
     m_action.text += u"drag (%1, %2) to (%3, %4) from %5"_s.arg(
         QString::number(start.x()), QString::number(start.y()), QString::number(end.x()),
         QString::number(end.y()), describe(top));
-    // Let go in the row where it was pressed, it is a click.
+    // A drag that ends in the row where it began is a click.
     if (const Row *row = rowAt(start); row && window->window() == m_window) {
         m_action.probe = currentProbe();
         m_action.row = *row;

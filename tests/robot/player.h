@@ -10,18 +10,19 @@ class MainWindow;
 class QDialog;
 class QMessageBox;
 
-/// Chooses what to do next by the dice and by what is seen, and does it.
+/// Chooses the next action by the dice and by what is visible, and sends it through Hands. Owned by
+/// the Robot; GUI thread only.
 class Player final
 {
     Q_DISABLE_COPY_MOVE(Player)
 public:
-    /// @p probes are those of the window's pages in their order. With a @p home, the name of one of
-    /// them, it keeps coming back there.
+    /// @p probes are the probes of the window's pages, in the order of the pages. @p home is the
+    /// name of the page that the player returns to; empty for all pages.
     Player(MainWindow *window, const QList<PageProbe *> &probes, const QString &home);
 
-    /// Does something. @p rows are those of the shown list.
+    /// Chooses and sends one action. @p rows are the visible rows of the shown list.
     [[nodiscard]] Action act(Dice &dice, const QList<Row> &rows);
-    /// Closes the uppermost of what stands open above the window; false when nothing does.
+    /// Closes the uppermost menu or dialog above the main window; false when none is open.
     [[nodiscard]] bool closeTopWindow();
     [[nodiscard]] PageProbe *currentProbe() const;
 
@@ -39,11 +40,12 @@ private:
 
     void clickControl(Dice &dice, QWidget *window, const QString &name);
     void clickSomewhere(Dice &dice, const QWidget *area);
-    /// Clicks a pixel of the screen, whatever is there.
+    /// Clicks a pixel of the screen, whatever is there. Leaves out clicks that would end the game.
     void click(QPoint global, Qt::MouseButton button = Qt::LeftButton, int times = 1);
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString &text);
 
+    // Fill in the effects that the action will have.
     void predictClick(QPoint position, Qt::MouseButton button, int times);
     void predictPress(const QWidget *button);
     void noteFocus();
@@ -51,9 +53,9 @@ private:
 
     MainWindow *m_window;
     QList<PageProbe *> m_probes;
-    int m_home;
+    int m_home; ///< index of the page to return to; -1 for none
     Hands m_hands;
     Action m_action;
     QList<Row> m_rows;
-    QString m_menuPath; ///< of the file that the last context menu was opened for
+    QString m_menuPath; ///< the file of the last context menu
 };

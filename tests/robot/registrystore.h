@@ -7,13 +7,14 @@
 
 class TestHome;
 
-/// What is in the registry: by key, in small letters and beginning with "hklm" or "hkcu", the data
-/// of each value by its name.
+/// The content of the registry: for each key the data of its values by their names. Keys are in
+/// small letters and begin with "hklm" or "hkcu".
 using RegistryState = QMap<QString, QMap<QString, QString>>;
 
-/// A registry of the test's own, written and read by other means than the program's: elsewhere than
-/// on Windows the files of a Wine prefix in the test's home, there a key of the live registry that
-/// stands in for the machine's and the user's hive in this process.
+/// The test's own registry. It is written and read without the code of the program.
+///
+/// On Linux it is the files of a Wine prefix in the test's home. On Windows it is a key of the live
+/// registry that replaces the hives of machine and user in this process.
 class RegistryStore final
 {
     Q_DISABLE_COPY_MOVE(RegistryStore)
@@ -21,14 +22,14 @@ public:
     explicit RegistryStore(const TestHome &home);
     ~RegistryStore();
 
-    /// Adds a text value, to be made real by write(). Hives are "HKEY_LOCAL_MACHINE" and
+    /// Adds a text value; write() writes it. Hives are "HKEY_LOCAL_MACHINE" and
     /// "HKEY_CURRENT_USER".
     void add(const QString &hive, const QString &key, const QString &name, const QString &text);
     void write();
     [[nodiscard]] const RegistryState &state() const;
-    /// The text that the data of a value stands for.
+    /// The text that is stored as @p data.
     [[nodiscard]] static QString textOf(const QString &data);
-    /// How a key is named in a state.
+    /// The name of a key in a RegistryState.
     [[nodiscard]] static QString folded(const QString &hive, const QString &key);
 
 private:

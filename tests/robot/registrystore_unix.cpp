@@ -17,7 +17,7 @@ namespace {
 const QString machine = u"HKEY_LOCAL_MACHINE"_s;
 const QString user = u"HKEY_CURRENT_USER"_s;
 
-/// What stands in a registry file for a text: "\n", "\xe9" and so on are one character each.
+/// Decodes a text of a registry file: "\n", "\xe9" and so on stand for one character each.
 QString decoded(QStringView text)
 {
     QString plain;
@@ -42,6 +42,7 @@ QString decoded(QStringView text)
 
 } // namespace
 
+/// The store on Linux: the registry files of a Wine prefix.
 class RegistryStore::Private
 {
 public:
@@ -54,7 +55,9 @@ public:
 
     RegistryFixture fixture;
     RegistryState state;
-    QString stamp; ///< of the files that the state was read from
+    /// Inode, size and time of the files when the state was read; the state is read again only
+    /// after a change.
+    QString stamp;
 };
 
 RegistryStore::RegistryStore(const TestHome &home)
@@ -105,14 +108,14 @@ void RegistryStore::Private::readHive(const QString &hive)
         if (line.startsWith(u'[')) {
             const QString key =
                 folded(hive, decoded(QStringView(line).mid(1, line.lastIndexOf(u']') - 1)));
-            // The file need not name a key for those below it to be there.
+            // A key may exist only through the keys below it: the file need not name it.
             for (qsizetype end = key.indexOf(u'\\'); end > 0; end = key.indexOf(u'\\', end + 1))
                 state[key.first(end)];
             values = &state[key];
         }
         if (!values || !(line.startsWith(u'"') || line.startsWith(u'@')))
             continue;
-        // A quote that ends the name is one without a backslash before it.
+        // The name ends at the first quote without a backslash before it.
         qsizetype end = 1;
         while (line.startsWith(u'"') && line.at(end) != u'"')
             end += line.at(end) == u'\\' ? 2 : 1;

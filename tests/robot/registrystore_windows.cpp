@@ -33,7 +33,7 @@ HKEY createKey(HKEY parent, const QString &key)
     return handle;
 }
 
-// What the system and the toolkit keep for themselves.
+// Whether the system and the toolkit store their own data in this key.
 bool isSystemKey(const QString &key)
 {
     static const QStringList systemKeys{
@@ -49,14 +49,17 @@ bool isSystemKey(const QString &key)
 
 } // namespace
 
+/// The store on Windows: keys of the live registry, watched for changes.
 class RegistryStore::Private
 {
 public:
+    /// One of the two replaced hives.
     struct Hive {
         QString name;
         HKEY key = nullptr;
         HANDLE change = nullptr; ///< signalled when anything in it has changed
     };
+    /// A value that is not written yet.
     struct Added {
         QString hive;
         QString key;
@@ -79,7 +82,7 @@ public:
 RegistryStore::RegistryStore(const TestHome &home)
     : d(std::make_unique<Private>())
 {
-    ::RegDeleteTreeW(HKEY_CURRENT_USER, toWide(ownKey)); // of a run that crashed
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, toWide(ownKey)); // left by a run that crashed
     const std::array predefined{HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER};
     for (std::size_t i = 0; i < predefined.size(); ++i) {
         auto &hive = d->hives.at(i);
@@ -87,7 +90,7 @@ RegistryStore::RegistryStore(const TestHome &home)
         hive.key = createKey(HKEY_CURRENT_USER, ownKey + u'\\' + hive.name);
         hive.change = ::CreateEventW(nullptr, FALSE, TRUE, nullptr);
     }
-    // The folders of the user are what the registry says.
+    // The program reads the user's folders from the registry.
     const HKEY folders =
         createKey(d->hives.at(1).key,
                   u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"_s);
@@ -150,7 +153,7 @@ const RegistryState &RegistryStore::state() const
         return d->state;
     d->state.clear();
     for (const Private::Hive &hive : d->hives) {
-        d->watch(hive); // before it is read: what changes meanwhile is read again
+        d->watch(hive); // before reading: a change during the reading is then noticed
         d->read(hive.key, folded(hive.name, {}).chopped(1));
     }
     return d->state;

@@ -22,8 +22,8 @@ const QString classes = u"SOFTWARE\\Classes"_s;
 const QString programTree = u"prefix/drive_c/Apps/"_s;
 const QString missing = u"C:\\Gone\\program.exe"_s;
 
-/// Whether a scan lists the values of the key one by one: neither it nor a key below it is ever
-/// removed.
+/// Whether @p path is below a key whose values a scan lists one by one. Such a key and the keys
+/// below it are never removed.
 bool isBelowValueList(const QString &path)
 {
     static const QStringList lists{fonts, version + "Run"_L1, version + "RunOnce"_L1,
@@ -97,7 +97,7 @@ void RegistryWorld::plan()
     planClassesInBothHives();
     add(machine, version + "RunOnce"_L1, u"once"_s, missing,
         "HKLM\\"_L1 + version + "RunOnce\\once"_L1);
-    // The name of a value that is a path cannot be told from keys: such an entry stays.
+    // A value name that is a path looks like keys: such an entry is not removed.
     const QString dlls = version + "SharedDLLs"_L1;
     add(machine, dlls, u"C:\\Gone\\shared.dll"_s, u"1"_s,
         machine + u'\\' + dlls + "\\C:\\Gone\\shared.dll"_L1);
@@ -107,7 +107,7 @@ void RegistryWorld::plan()
     add(user, muiCache, missing + ".FriendlyAppName"_L1, u"Gone"_s,
         user + u'\\' + muiCache + u'\\' + missing + ".FriendlyAppName"_L1);
 
-    // The same kinds of entries, but right.
+    // Valid entries of the same kinds.
     add(machine, version + "App Paths\\there.exe"_L1, {}, present);
     add(machine, version + "Run"_L1, u"there"_s, present + " -x"_L1);
     add(user, version + "RunOnce"_L1, u"there once"_s, u'"' + present + u'"');
@@ -121,7 +121,7 @@ void RegistryWorld::plan()
     add(user, u"Software\\Product"_s, u"setting"_s, u"kept"_s);
 }
 
-// Classes that both hives have: only the entry that leads nowhere may go.
+// Classes that are in both hives: only the invalid one of the two may be removed.
 void RegistryWorld::planClassesInBothHives()
 {
     const QString present = m_programFolder + "\\There\\app.exe"_L1;
@@ -182,7 +182,7 @@ void RegistryWorld::refill()
     const QString run = version + "Run"_L1;
     bool isComplete = true;
     for (const Entry &entry : std::as_const(m_entries)) {
-        // What starts with the session is the user's choice from the beginning on.
+        // After the start the user decides which valid programs start with the session.
         const bool isUserChoice = entry.item.isEmpty() && entry.key == run && !m_accepted.isEmpty();
         if (isUserChoice || has(entry))
             continue;

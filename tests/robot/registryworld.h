@@ -9,51 +9,54 @@
 
 class TestHome;
 
-/// The made-up registry: entries that lead nowhere, valid ones among them that no scan may take,
-/// and installed programs.
+/// The invented registry of the game: invalid entries that a scan must list, valid entries that it
+/// must not list, and installed programs.
 class RegistryWorld final
 {
     Q_DISABLE_COPY_MOVE(RegistryWorld)
 public:
+    /// An installed program.
     struct Program {
         QString name;
-        QString path; ///< of its executable, as Windows has it
+        QString path; ///< Windows path of its executable
     };
 
-    /// What follows the root of a class that is in the user's hive.
+    /// The suffix of the root "HKEY_CLASSES_ROOT" for a class in the user's hive.
     static const QString userSuffix;
 
     explicit RegistryWorld(const TestHome &home);
 
     [[nodiscard]] const QList<Program> &programs() const { return m_programs; }
 
-    /// Makes what is missing of the entries that a clean may have removed.
+    /// Writes the entries again that a clean has removed.
     void refill();
     [[nodiscard]] const RegistryState &state() const { return m_store.state(); }
-    /// Takes the state as it is now for the right one.
+    /// Stores the current state as the expected one.
     void acceptState() { m_accepted = state(); }
     [[nodiscard]] const RegistryState &acceptedState() const { return m_accepted; }
 
-    /// What must be left of @p before when a clean has removed entries, each "root\key".
+    /// The state @p before without the given entries, each "root\key": what a clean must leave.
     [[nodiscard]] static RegistryState stateWithout(const RegistryState &before,
                                                     const QStringList &entries);
-    /// Which keys and values of @p before are not in @p after, or hold something else there.
+    /// The keys and values of @p before that @p after lacks, and the values that differ there.
     [[nodiscard]] static QStringList findLost(const RegistryState &before,
                                               const RegistryState &after);
 
     /// The entries that a scan must list now, each "root\key".
     [[nodiscard]] QSet<QString> expectedItems() const;
 
-    /// The programs that start with the session: the value of the user's list by executable.
+    /// The programs that start with the session: the value's name in the user's Run key, by
+    /// executable.
     [[nodiscard]] QHash<QString, QString> startList() const;
 
 private:
+    /// A value that the world writes.
     struct Entry {
         QString hive; ///< "HKEY_..."
         QString key;
         QString name;
         QString text;
-        QString item; ///< what a scan makes of it, "root\key"; empty when it may not list it
+        QString item; ///< the item that a scan lists for it, "root\key"; empty for a valid entry
     };
 
     void plan();
@@ -64,7 +67,7 @@ private:
     [[nodiscard]] bool has(const Entry &entry) const;
 
     RegistryStore m_store;
-    QString m_programFolder; ///< where the programs are, as Windows has it
+    QString m_programFolder; ///< Windows path of the folder with the programs
     QList<Entry> m_entries;
     QList<Program> m_programs;
     RegistryState m_accepted;

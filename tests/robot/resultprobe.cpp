@@ -26,7 +26,7 @@ using State = CleanEngine::State;
 
 namespace {
 
-constexpr int rowSearchX = 60; ///< where rows are looked for, from the left edge of the list
+constexpr int rowSearchX = 60; ///< pixels from the left edge of the list
 
 bool isTicked(const CleanCategory &category, const CleanItem &item)
 {
@@ -58,12 +58,12 @@ ResultProbe::ResultProbe(const QString &name, BasePage *page, const ListingCheck
     , m_area(child<QAbstractScrollArea>(page, u"contentScrollArea"_s))
 {
     const CleanEngine *engine = page->engine();
-    // A run is over when the page has shown its end, which comes after the engine's state.
+    // A run has ended when the page has shown its end. The engine's state changes earlier.
     connect(engine, &CleanEngine::stateChanged, this, [this](State state) {
         if (state == State::Scanning) {
             ++m_listing;
             m_hasFigures = false;
-            m_hasNewListing = false; // gone before anybody has looked at it
+            m_hasNewListing = false; // replaced before it was checked
         }
         m_isScanning = state == State::Scanning || (state != State::Cancelled && m_isScanning);
         m_isCleaning = state == State::Cleaning || m_isCleaning;
@@ -113,7 +113,7 @@ QAbstractScrollArea *ResultProbe::list() const
     return hasList() ? m_area : nullptr;
 }
 
-// While a scan runs the records belong to its thread; no list is shown then.
+// While a scan runs, its thread owns the records and the page shows no list.
 const QList<CleanCategory> &ResultProbe::categories() const
 {
     static const QList<CleanCategory> noCategories;
@@ -354,7 +354,7 @@ QStringList BrowserProbe::controls() const
     return {u"scanBtn"_s, u"cleanBtn"_s, u"cleanBtn"_s, u"browserSelectionBar"_s};
 }
 
-// The boxes of the bar are for all that is listed of a browser, too.
+// A box in the selection bar acts on all items of its browser.
 std::optional<Row> BrowserProbe::rowWith(const QWidget *box) const
 {
     const auto *checkBox = qobject_cast<const QCheckBox *>(box);

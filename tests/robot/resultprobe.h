@@ -13,13 +13,13 @@ class QPushButton;
 struct CleanCategory;
 struct CleanItem;
 
-/// A page of one of the three rule-driven engines, by category.
+/// Checks the page of a CleanEngine, which lists items by category: junk files and the registry.
 class ResultProbe : public QObject, public PageProbe
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ResultProbe)
 public:
-    /// Compares what a scan has listed, given by the items' paths, with what there is to list.
+    /// Compares the keys of the listed items with what the scan should list.
     using ListingCheck = std::function<void(const QStringList &)>;
 
     ResultProbe(const QString &name, BasePage *page, const ListingCheck &checkListing);
@@ -40,14 +40,14 @@ public:
 
 protected:
     [[nodiscard]] const QList<CleanCategory> &categories() const;
-    /// Whether the engine's records are those of a list that the page shows.
+    /// Whether the page shows a list of the engine's records.
     [[nodiscard]] bool hasList() const;
-    /// What tells an item from all others.
+    /// A unique name of the item.
     [[nodiscard]] static QString keyOf(const CleanItem &item);
 
     /// The rows of the whole list, in order.
     [[nodiscard]] virtual QList<Row> allRows() const;
-    /// Compares what is drawn of a row with its records.
+    /// Compares the drawn texts and box of a row with its records.
     virtual void checkRow(const Row &row) const;
     [[nodiscard]] virtual QStringList rowNames() const;
 
@@ -65,11 +65,11 @@ private:
     int m_deletions = 0;
     bool m_isScanning = false;
     bool m_isCleaning = false;
-    bool m_hasFigures = false; ///< even if they are naught
-    bool m_hasNewListing = false; ///< listed since the last check
+    bool m_hasFigures = false; ///< the page shows numbers and not "--"
+    bool m_hasNewListing = false; ///< a scan has ended since the last check
 };
 
-/// The page of the browsers, by browser.
+/// Checks the browser page, which groups the categories by browser.
 class BrowserProbe final : public ResultProbe
 {
     Q_OBJECT

@@ -16,15 +16,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How many passes of the event loop the effects of an action may take when nothing is at work.
+/// Idle passes of the event loop after which all effects of an action have arrived.
 constexpr int neededPasses = 4;
 constexpr int paintInterval = 20; ///< actions
-constexpr int warmUpActions = 1000; ///< actions after which the memory must not grow much any more
-constexpr int memoryCheckInterval = 1000;
+/// Actions after which the memory must not grow much any more.
+constexpr int warmUpActions = 1000;
+constexpr int memoryCheckInterval = 1000; ///< actions
 constexpr int maxMemoryGrowth = 100; ///< mebibytes
-constexpr int minPercentRemaining = 60; ///< per cent of the files
+/// Below this share of an owner's files the world is refilled.
+constexpr int minPercentRemaining = 60;
 
-/// How much memory the process takes; 0 where that is not told.
+/// Resident memory of the process; 0 on a system that does not report it.
 int usedMebibytes()
 {
     QFile status(u"/proc/self/statm"_s);
@@ -46,7 +48,7 @@ Robot::Robot(const Options &options, MainWindow *window, const QList<PageProbe *
     , m_judge(probes, world, registry)
     , m_seed(options.seed << 4)
 {
-    for (const PageProbe *probe : probes) { // each page has a play of its own
+    for (const PageProbe *probe : probes) { // each page gets its own sequence of actions
         if (probe->name() < options.page)
             ++m_seed;
     }
@@ -92,7 +94,7 @@ void Robot::step()
 void Robot::act()
 {
     ++m_actionNumber;
-    // Each action has dice of its own: what one of them uses does not change the next one.
+    // Each action has its own dice: the numbers that one action uses do not change the next one.
     Dice dice(m_seed << 32 | static_cast<quint64>(m_actionNumber));
     ActionLog &log = ActionLog::instance();
     log.begin(m_actionNumber);
@@ -103,7 +105,7 @@ void Robot::act()
             return u"the memory has grown from %1 to %2 MiB"_s.arg(
                 QString::number(m_memoryAfterWarmUp), QString::number(usedMebibytes()));
         });
-    // Not while a box tells of a run: what the run saw is still to be compared.
+    // No refill while a message box reports a run: its results are not compared yet.
     const bool isRefilled = isIdle() && !Hands::hasPendingEvents()
         && !QApplication::activeModalWidget() && dice.chance(5);
     if (isRefilled)
@@ -117,7 +119,7 @@ void Robot::act()
     m_maxBusyPasses = dice.chance(8) ? dice.between(1, 6) : 0;
 }
 
-// Used up, there would be nothing to look at; for a while that is looked at, too.
+// Refills only below a limit, so that pages with few results are tested too.
 void Robot::refill()
 {
     constexpr std::array owners{World::Owner::Junk, World::Owner::Browser, World::Owner::Large};

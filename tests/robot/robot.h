@@ -10,17 +10,19 @@
 class RegistryWorld;
 class World;
 
-/// Plays a number of actions, one after the other, from the event loop: also from those that
-/// dialogs run.
+/// Plays a number of actions, one after the other. main() owns it; GUI thread only.
+///
+/// A timer drives it, so that it also runs in the nested event loops of dialogs.
 class Robot final : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(Robot)
 public:
+    /// The options of the command line.
     struct Options {
         quint64 seed = 1;
         int actions = 2000;
-        QString page; ///< empty for all of them
+        QString page; ///< name of the page to stay on; empty for all pages
         bool isTraced = false;
     };
 
@@ -52,9 +54,9 @@ private:
     Action m_action;
     QList<Row> m_rows;
     int m_actionNumber = 0;
-    int m_memoryAfterWarmUp = 0; ///< mebibytes after the first actions
+    int m_memoryAfterWarmUp = 0; ///< mebibytes
     // Passes of the event loop since the last action:
-    int m_idlePasses = 0; ///< the last ones, without anything at work
+    int m_idlePasses = 0; ///< the last passes in a row in which no work was running
     int m_busyPasses = 0;
-    int m_maxBusyPasses = 0; ///< how many busy ones are waited for; 0: any number
+    int m_maxBusyPasses = 0; ///< the robot waits for no more of them; 0 for any number
 };

@@ -16,7 +16,7 @@ using checks::child;
 
 namespace {
 
-constexpr int rowSearchX = 200; ///< where rows are looked for, from the left edge of the list
+constexpr int rowSearchX = 200; ///< pixels from the left edge of the list
 
 } // namespace
 
@@ -50,7 +50,7 @@ bool StartupProbe::hasLoaded() const
     return m_counts->text().contains(u'·');
 }
 
-// Cards come a few at a time.
+// The page adds its cards a few at a time.
 bool StartupProbe::isBusy() const
 {
     if (!m_loading->isHidden())
@@ -126,7 +126,7 @@ std::optional<Row> StartupProbe::rowWith(const QWidget *box) const
     return Row{nullptr, Row::Meaning::Box, static_cast<int>(number), 1, nullptr, {}};
 }
 
-// The user's list has one entry of a name, whatever its case.
+// The Run key has one value per name; the case of letters does not count.
 bool StartupProbe::canAffect(int record, int other) const
 {
     const auto &programs = m_registry->programs();

@@ -7,7 +7,7 @@ class QLineEdit;
 class RegistryWorld;
 class StartupPage;
 
-/// The page of the start-up programs. Its ticks are what the registry says.
+/// Checks the start-up page. Its ticks must be those of the registry's Run key.
 class StartupProbe final : public PageProbe
 {
     Q_DISABLE_COPY_MOVE(StartupProbe)

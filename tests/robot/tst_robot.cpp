@@ -41,11 +41,12 @@ constexpr int patience = 120; ///< seconds
 constexpr int patience = 30;
 #endif
 
-/// A screen that the window fits on at any of its sizes, and no program to start by mistake.
+/// Sets up a screen on which the window fits at any size. Empties the search path, so that no other
+/// program is started by mistake.
 void prepareSystem(const TestHome &home)
 {
-    QDir::setCurrent(home.folder(u"home"_s)); // where names without a folder lead
-    QFile file(u"screen.json"_s); // a colon in its path would end it
+    QDir::setCurrent(home.folder(u"home"_s)); // a file name without a folder leads here
+    QFile file(u"screen.json"_s); // relative: a colon in its path would end the path
     if (!file.open(QIODevice::WriteOnly)
         || file.write(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": 3840,
                           "height": 2400, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
@@ -57,8 +58,8 @@ void prepareSystem(const TestHome &home)
     qputenv("PATH", home.folder(u"no programs"_s).toUtf8());
 }
 
-/// The page of the large files with the drives of the test, in the place of the one that offers the
-/// machine's own.
+/// Replaces the large-file page by one that offers the drives of the test, not those of the
+/// machine.
 LargeFilePage *replaceLargeFilePage(MainWindow *window, const QStringList &roots)
 {
     constexpr qint64 gibibyte = 1'073'741'824;
@@ -70,11 +71,13 @@ LargeFilePage *replaceLargeFilePage(MainWindow *window, const QStringList &roots
     const int place = stack->indexOf(old);
     delete old;
     auto *page = new LargeFilePage(drives, stack);
-    page->scanner()->setWalkerCount(1); // the order of equals is that of the disk
+    page->scanner()->setWalkerCount(1); // then files of equal size keep the order of the disk
     stack->insertWidget(place, page);
     return page;
 }
 
+/// Makes the check that a scan lists only files of @p owner. With @p isComplete it must list all of
+/// them.
 ResultProbe::ListingCheck makeFileCheck(const World *world, World::Owner owner, bool isComplete)
 {
     return [world, owner, isComplete](const QStringList &paths) {
@@ -146,7 +149,7 @@ int main(int argc, char *argv[])
     Application::instance()->initialize();
     Application::instance()->showMainWindow();
     MainWindow *window = Application::instance()->mainWindow();
-    // The shadow around the window changes nothing but the time that painting takes.
+    // The shadow around the window only makes painting slow.
     window->findChild<QWidget *>(u"mainContainer"_s)->setGraphicsEffect(nullptr);
     LargeFilePage *large = replaceLargeFilePage(window, world.drives());
 
@@ -161,7 +164,7 @@ int main(int argc, char *argv[])
     LargeFileProbe files(large, &world);
 
 #ifdef Q_OS_WIN
-    const FakeStart noProgram; // there is always a file manager
+    const FakeStart noProgram; // Windows always has a file manager
 #endif
     Robot robot(options, window, {&dashboard, &junk, &browser, &entries, &startup, &files}, &world,
                 &registry);
@@ -174,6 +177,6 @@ int main(int argc, char *argv[])
                 double(timer.elapsed()) / 1000, robot.judge().tickCount(),
                 robot.judge().deletionCount(), robot.judge().deletedCount());
     log.close();
-    QDir::setCurrent(QDir::rootPath()); // a folder that is current is not removed everywhere
+    QDir::setCurrent(QDir::rootPath()); // not every system removes the current folder
     return 0;
 }

@@ -26,7 +26,7 @@ constexpr qint64 kibibyte = 1'024;
 constexpr qint64 mebibyte = 1'048'576;
 constexpr qint64 gibibyte = 1'073'741'824;
 
-/// A name that is awkward in one way or another; different for every number.
+/// An unusual file name: long, with special characters or in another script. Unique per number.
 QString oddName(int number, const QString &suffix)
 {
     const QString n = QString::number(number);
@@ -77,7 +77,7 @@ World::World(const TestHome &home)
     refill();
 }
 
-// What is write-protected would outlive the test.
+// A write-protected file could not be removed with the test's home.
 World::~World()
 {
     for (const Entry &entry : std::as_const(m_entries)) {
@@ -102,6 +102,7 @@ void World::add(Owner owner, const QString &path, qint64 size, Kind kind, const 
                       target.isEmpty() ? QString() : m_home + u'/' + target});
 }
 
+// Files around the trees that no scan may list.
 void World::planFence()
 {
     using enum Owner;
@@ -229,7 +230,7 @@ void World::planLargeFiles()
     add(Nobody, u"Big/Two/System Volume Information/restore.dat"_s, 700 * mebibyte + 11);
 #ifdef Q_OS_UNIX
     add(Large, u"Elsewhere/reached through a link.mkv"_s, 333 * mebibyte + 13);
-    m_entries.last().isOptional = true; // under the path of the link
+    m_entries.last().isOptional = true; // a scan lists it under the path of the link
     add(Nobody, u"Elsewhere/small.txt"_s);
     add(Nobody, u"Big/Two/link to a folder"_s, 0, Kind::Link, u"Elsewhere"_s);
     add(Large, u"Big/Two/link to a file.mkv"_s, 900 * mebibyte + 1, Kind::Link,
@@ -260,7 +261,7 @@ void World::make(const Entry &entry) const
     if (entry.kind == Kind::ReadOnlyFile)
         file.setPermissions(QFile::ReadOwner);
 #ifdef Q_OS_WIN
-    // A dot hides nothing there.
+    // On Windows a dot hides nothing.
     if (const qsizetype dot = entry.path.indexOf("/."_L1); dot > 0) {
         const qsizetype end = entry.path.indexOf(u'/', dot + 1);
         const QString hidden = end < 0 ? entry.path : entry.path.first(end);
@@ -311,7 +312,8 @@ bool World::mayBeListed(Owner owner, const QString &path) const
     const auto index = m_indexes.constFind(path);
     if (index != m_indexes.cend())
         return m_entries.at(*index).owner == owner;
-    // A browser's folder is listed beside what is in it; whatever lies there goes with it.
+    // A scan of browsers lists a folder and its files. All that is in the folder is deleted with
+    // it.
     if (owner != Owner::Browser || !QFileInfo(path).isDir())
         return false;
     const QString folder = path + u'/';
@@ -382,7 +384,7 @@ QStringList World::entriesAt(const QStringList &paths) const
             }
             continue;
         }
-        // A path may lead through a link to the folder where the file really lies.
+        // A path may lead through a link: find the real folder of the file.
         const QString folder = QFileInfo(info.path()).canonicalFilePath();
         const QString real = folder + path.mid(info.path().size());
         const auto index = m_indexes.constFind(real);
@@ -399,7 +401,7 @@ bool World::resistsDeletion(const QString &path) const
 {
 #ifdef Q_OS_UNIX
     Q_UNUSED(path)
-    return false; // what counts is the folder
+    return false; // only the permissions of the folder count
 #else
     const auto index = m_indexes.constFind(path);
     return index != m_indexes.cend() && m_entries.at(*index).kind == Kind::ReadOnlyFile;
@@ -408,7 +410,7 @@ bool World::resistsDeletion(const QString &path) const
 
 void World::compareFully() const
 {
-    // The program's own data and the registry's files change by right.
+    // The program may change its own data and the files of the registry.
     static const QStringList changingFolders{u"config"_s, u"data"_s, u"cache"_s, u"home"_s,
                                              u"prefix"_s};
     const QStringList tops = QDir(m_home).entryList(QDir::Dirs | QDir::NoDotAndDotDot);

@@ -7,10 +7,10 @@
 
 class TestHome;
 
-/// The made-up disk that the robot lets the program loose on: junk, the data of browsers, large
-/// files, and around and among them what no scan may take.
+/// The invented disk on which the robot runs the program. main() owns it; GUI thread only.
 ///
-/// What has been deleted can be made anew in its place. Files that claim a size are sparse.
+/// It has junk, browser data, large files, and other files around and among them that no scan may
+/// list. Deleted files can be made again. Files with a size are sparse.
 class World final
 {
     Q_DISABLE_COPY_MOVE(World)
@@ -19,48 +19,51 @@ public:
         Junk,
         Browser,
         Large,
-        Nobody, ///< stands outside, or inside where a scan must pass over it
+        Nobody, ///< no scan may list it
     };
 
-    /// Makes everything, and points the environment at it.
+    /// Makes all files and sets the environment variables of the folders.
     explicit World(const TestHome &home);
     ~World();
-    /// Fails unless every folder that the program may look for junk in is the test's own.
+    /// Fails unless all folders in which the program looks for junk belong to the test.
     void checkFolders() const;
 
-    /// Where large files are looked for.
+    /// The folders in which the program looks for large files.
     [[nodiscard]] QStringList drives() const { return m_drives; }
 
-    /// Makes what is missing.
+    /// Makes the deleted files again.
     void refill();
-    /// How many of an owner's files are still there, in per cent.
+    /// How many of the owner's files still exist, in per cent.
     [[nodiscard]] int percentRemaining(Owner owner) const;
 
-    /// The entries that a page must list when it has scanned.
+    /// The entries that a page must list after a scan.
     [[nodiscard]] QStringList expectedPaths(Owner owner, qint64 minimumSize = 0) const;
-    /// Whether there may be a listed entry at @p path: one of the owner, or something in a folder
-    /// that the owner's files lie in.
+    /// Whether a scan may list @p path: an entry of the owner, or for browsers a folder that holds
+    /// only such entries.
     [[nodiscard]] bool mayBeListed(Owner owner, const QString &path) const;
 
-    /// What is gone since the last look, and fails when anything is not as it was.
+    /// The entries deleted since the last call. Fails when another entry has changed.
     [[nodiscard]] QStringList findDeleted();
-    /// Of @p paths those entries that are there now, with everything below those that are folders.
+    /// The existing entries at @p paths, and all existing entries below those that are folders.
     [[nodiscard]] QStringList entriesAt(const QStringList &paths) const;
-    /// Whether the system refuses to delete it by itself.
+    /// Whether the system refuses to delete the entry.
     [[nodiscard]] bool resistsDeletion(const QString &path) const;
-    /// Looks into every file, and for new ones.
+    /// Checks the content of every file and looks for new files.
     void compareFully() const;
 
 private:
     enum class Kind { File, ReadOnlyFile, HardLink, Link, Folder };
+    /// A file or link that the world makes.
     struct Entry {
         QString path;
         Owner owner;
         Kind kind;
-        qint64 size = 0; ///< claimed by a sparse file; a file without one holds its own name
+        /// Size of a sparse file in bytes. A file of Nobody with size 0 holds its own path.
+        qint64 size = 0;
         QString target;
         bool isOptional = false; ///< a scan may list it or not
     };
+    /// State of an entry on the disk, to notice changes.
     struct Stamp {
         bool exists = false;
         char type = '?';
@@ -85,6 +88,6 @@ private:
     QString m_home;
     QStringList m_drives;
     QList<Entry> m_entries;
-    QHash<QString, qsizetype> m_indexes; ///< of the entries, by path
-    QList<Stamp> m_stamps; ///< of the entries
+    QHash<QString, qsizetype> m_indexes; ///< index in m_entries by path
+    QList<Stamp> m_stamps; ///< in the order of m_entries
 };

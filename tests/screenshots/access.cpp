@@ -34,7 +34,8 @@ QList<const QWidget *> tabChain(const QWidget *window)
     return chain;
 }
 
-/// The part of the window that the eye goes through before it turns to the next.
+/// The part of the window that contains the widget: navigation, title bar or page. Users read one
+/// part before they go on to the next.
 const QWidget *partOf(const QWidget *widget)
 {
     for (const QWidget *parent = widget; parent; parent = parent->parentWidget()) {
@@ -58,7 +59,7 @@ bool isBefore(const QRect &one, const QRect &other)
         || (one.right() < other.left() && one.top() <= other.bottom());
 }
 
-/// Whether the widget is one of many alike, of which the name alone may not tell enough.
+/// Whether the widget is in a list of similar widgets. Its name alone may not be enough there.
 bool isInList(const QWidget *widget)
 {
     for (const QWidget *parent = widget; parent; parent = parent->parentWidget()) {
@@ -97,7 +98,7 @@ QStringList accessFaults(const QWidget *window)
             parts.append(partOf(widget));
     }
     if (parts.size() > 1 && parts.constFirst() == parts.constLast())
-        parts.removeLast(); // the chain is a ring
+        parts.removeLast(); // the chain is circular
     for (qsizetype i = 0; i < parts.size(); ++i) {
         if (parts.indexOf(parts.at(i)) < i)
             faults.append(u"the tab key comes back to %1"_s.arg(describe(parts.at(i))));

@@ -4,8 +4,10 @@
 
 class QWidget;
 
-/// What keeps somebody with a keyboard or a screen reader from using what is seen of @p window: a
-/// control that takes the focus and has no name or no role, one of a list without a description,
-/// and a tab order that does not follow the eye, from left to right and from top to bottom within
-/// each part of the window. A line each.
+/// Faults of the visible part of @p window for users of the keyboard or a screen reader, one line
+/// each.
+///
+/// A fault is a control with focus but without a name or role, a check box of a list without a
+/// description, or a wrong tab order. Within each part of the window the right order is from left
+/// to right and from top to bottom.
 [[nodiscard]] QStringList accessFaults(const QWidget *window);

@@ -1,10 +1,10 @@
-// Leads through every page and dialog in one language and writes a picture of each stop, or tells
-// which texts a user could not read.
+// Opens every page and dialog in one language. Writes a picture of each stop, or lists the texts
+// that a user could not read.
 //
-// Usage: screenshots [--language CODE] FOLDER            a picture of each stop, and one with all
-// of them
-//        screenshots [--language CODE] --check           a line for each text without room; exit
-//        status 1 if there is one
+// Usage:
+//   screenshots [--language CODE] FOLDER    a picture of each stop, and one of all of them
+//   screenshots [--language CODE] --check   a line for each text that does not fit or control with
+//                                           a fault; exit status 1 if there is one
 
 #include "access.h"
 #include "appinfo.h"
@@ -27,6 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Writes the pictures of the stops into a folder, and one small picture of all of them.
 class Album
 {
 public:
@@ -36,7 +37,7 @@ public:
         QDir().mkpath(folder);
     }
 
-    // The window with whatever stands above it, each where it is on the screen.
+    /// Adds a picture of the window and of the windows above it, each at its place on the screen.
     void add(const QString &name, QWidget *window, const QList<QWidget *> &above)
     {
         QPixmap picture = window->grab();
@@ -54,7 +55,7 @@ public:
         save(page, u"%1-%2"_s.arg(QString::number(m_pages.size()).rightJustified(2, u'0'), name));
     }
 
-    /// All pictures side by side, small.
+    /// Writes one picture with all stops side by side, in half size.
     void addContactSheet()
     {
         constexpr int columns = 6;

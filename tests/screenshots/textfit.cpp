@@ -41,14 +41,14 @@ bool fits(QSize needed, QSize given)
     return needed.width() <= given.width() && needed.height() <= given.height();
 }
 
-/// The text's size where lines end where they end in it.
+/// The size of the text without any line breaks but its own.
 QSize textSize(const QWidget *widget, const QString &text)
 {
     return widget->fontMetrics().size(Qt::TextShowMnemonic, text);
 }
 
-/// The width of what a wrapping label cannot break. Chinese and Japanese texts break anywhere; of
-/// rich text nothing is known.
+/// The width of the longest word of a label with word wrap. Chinese and Japanese texts break
+/// anywhere. 0 for rich text, whose words are not known.
 int longestWord(const QLabel *label)
 {
     if (label->textFormat() == Qt::RichText || Qt::mightBeRichText(label->text()))
@@ -61,7 +61,7 @@ int longestWord(const QLabel *label)
     return width;
 }
 
-/// What a label's text needs and has, inside the frame and padding of its style.
+/// Complains when a label has less room for its text than the text needs.
 QStringList checkLabel(const QLabel *label)
 {
     if (label->text().isEmpty() || qobject_cast<const ElidedLabel *>(label))
@@ -91,7 +91,8 @@ QStringList checkButton(const QAbstractButton *button, QStyle::SubElement conten
     QSize needed = textSize(button, button->text());
     if (!button->icon().isNull())
         needed.rwidth() += button->iconSize().width() + 4;
-    needed.setHeight(button->fontMetrics().height()); // emoji are higher than the line
+    needed.setHeight(
+        button->fontMetrics().height()); // emoji are higher than the line, which does not matter
     if (fits(needed, given))
         return {};
     return {describe(button, button->text(), sizeText(needed, given))};
@@ -141,7 +142,7 @@ QStringList checkOne(const QWidget *widget)
     return {};
 }
 
-/// Emblems may lie on one another.
+/// Whether the text has letters or digits. Symbols without them may overlap.
 bool hasLetters(const QString &text)
 {
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); });

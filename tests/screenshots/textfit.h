@@ -4,8 +4,9 @@
 
 class QWidget;
 
-/// What a user could not read of the texts in @p window and below: a text that is wider or higher
-/// than its place, a widget that reaches beyond its parent, texts that lie on one another. A line
-/// each, with the widget and its text. What scrolls is not measured in the direction in which it
-/// scrolls, and what is elided by intent (names and paths) is left out.
+/// The texts in @p window that a user could not read, one line each with the widget and its text.
+///
+/// Such a text is wider or higher than its place, reaches beyond its parent, or overlaps another
+/// text. Scrolled content is not checked in the direction in which it scrolls. Labels that elide
+/// names and paths on purpose are left out.
 [[nodiscard]] QStringList unreadableTexts(const QWidget *window);

@@ -43,7 +43,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Calls the visitor at each stop, once what is shown has settled.
+/// Calls the visitor at each stop. stop() first waits until the window has its final look.
 class Tour
 {
 public:
@@ -122,7 +122,8 @@ Widget *findWindow()
     return nullptr;
 }
 
-/// Calls @p open, which runs a dialog, and stops there; @p change may change it for a second stop.
+/// Calls @p open, which runs a modal dialog, and stops at the dialog. With @p change it changes the
+/// dialog and stops a second time.
 void visitDialog(Tour &tour, const QString &name, QWidget *window,
                  const std::function<void()> &open,
                  const std::function<void(QWidget *)> &change = {})
@@ -159,7 +160,7 @@ void visitBrowsers(Tour &tour, MainWindow *window)
     details->reject();
 }
 
-// Sparse: they claim a size and take no room.
+// The files are sparse: they have a size but use no disk space.
 void fillWithLargeFiles(const QString &folder)
 {
     const auto write = [&folder](const QString &path, qint64 size) {
@@ -230,7 +231,7 @@ void visitLargeFiles(Tour &tour, const TestHome &home)
     window->onDashboardNavigate(1);
 }
 
-// Before the first scan, which the pages share with the dashboard.
+// Call it before the first scan: the pages show the results of the dashboard's scan too.
 void visitEmptyPages(Tour &tour, MainWindow *window)
 {
     window->onDashboardNavigate(1);
@@ -242,7 +243,7 @@ void visitEmptyPages(Tour &tour, MainWindow *window)
     window->onDashboardNavigate(0);
 }
 
-/// What shows where the keyboard is.
+/// Gives the focus to @p control and stops, to show the focus frame.
 void visitFocus(Tour &tour, const QString &name, MainWindow *window, QWidget *control)
 {
     window->activateWindow();
@@ -292,8 +293,7 @@ void visitJunk(Tour &tour)
     auto *clean = page->findChild<QPushButton *>(u"cleanBtn"_s);
 
     window->onDashboardNavigate(1);
-    // A scan of so few files is over at once: the dialog is shown as it stands in the middle of a
-    // long one.
+    // A scan of so few files ends at once. So the dialog is shown with the values of a long scan.
     ProgressDialog scanning(ProgressDialog::Scanning, window);
     scanning.show();
     scanning.setProgress(11, 25);
@@ -393,7 +393,7 @@ void visitStartup(Tour &tour, const TestHome &home)
     tour.stop(u"startup-list"_s, window);
     window->findChild<QLineEdit *>(u"searchEdit"_s)->setText(u"p"_s);
     tour.stop(u"startup-search"_s, window);
-    // A prefix that may not be written: somebody else has changed it since it was read.
+    // The program must not write a prefix that has changed since it was read.
     QFile::remove(registry.file(u"HKEY_CURRENT_USER"_s));
     visitDialog(tour, u"startup-warning"_s, window,
                 [window] { window->findChild<StartupCard *>()->checkBox()->click(); });

@@ -30,7 +30,7 @@ QStringList faultsOf(Widget *child, int spare)
     return unreadableTexts(&window);
 }
 
-/// Three buttons from left to right.
+/// A window with three buttons from left to right.
 class Row : public QWidget
 {
 public:
@@ -50,7 +50,7 @@ public:
 
 } // namespace
 
-/// That the checks of the tour find what they are there to find.
+/// Tests the checks of the tour: each finds its kind of fault, and no fault where there is none.
 class TestTourChecks : public QObject
 {
     Q_OBJECT

@@ -4,16 +4,16 @@
 
 #include <QString>
 
-/// Profiles that look like those that the five browsers leave: a tree with the folders "Local" and
+/// Makes profiles like those of the five browsers, in a tree with the folders "Local" and
 /// "Roaming".
 namespace browserprofiles {
 
-/// Fills @p profile, a path in the tree, as a Chromium browser does.
+/// Makes the files of a Chromium profile; @p profile is its path in the tree.
 void makeChromium(const TestTree &tree, const QString &profile);
-/// The same for the halves that Firefox keeps in roaming and in local data.
+/// Makes the files of a Firefox profile: one part in the roaming data, one in the local data.
 void makeFirefox(const TestTree &tree, const QString &name);
-/// All five browsers: several profiles of Chrome, two of Edge and four of Firefox, one of
-/// which lies elsewhere; names in Chinese and with emoji.
+/// Makes the profiles of all five browsers: several of Chrome, two of Edge and four of Firefox. One
+/// of the latter lies in another folder. Some names are Chinese or contain emoji.
 void makeAll(const TestTree &tree);
 
 } // namespace browserprofiles

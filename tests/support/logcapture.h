@@ -3,7 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Collects the debug output while it lives, from every thread. One at a time.
+/// Collects the log messages of all threads as long as the object exists. Only one object may exist
+/// at a time.
 class LogCapture final
 {
     Q_DISABLE_COPY_MOVE(LogCapture)

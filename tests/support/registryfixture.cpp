@@ -17,7 +17,7 @@ QString escaped(QString text)
     return text.replace(u'\\', "\\\\"_L1).replace(u'"', "\\\""_L1);
 }
 
-// As the files of a prefix have it.
+// The text as the registry files of a Wine prefix store it.
 QString textInFile(const QString &text)
 {
     QString inFile;
@@ -45,7 +45,7 @@ QString nameInFile(const QString &name)
     return name.isEmpty() ? u"@"_s : textInFile(name);
 }
 
-// A quote ends no key.
+// In the name of a key a quote is not escaped.
 QString keyInFile(const QString &key)
 {
     return textInFile(key).sliced(1).chopped(1).replace("\\\""_L1, "\""_L1);
@@ -116,6 +116,7 @@ void RegistryFixture::addBytes(const QString &key, const QString &name, quint32 
 
 namespace {
 
+/// What the system's registry command returned.
 struct CommandResult {
     int exitCode;
     QString output;
@@ -130,7 +131,7 @@ CommandResult runReg(const QStringList &arguments)
     return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput())};
 }
 
-// What importing the lines gives.
+// Imports the lines as a registry export; true if the system's command succeeds.
 bool importLines(const QString &folder, const QString &lines)
 {
     const QString path = folder + "/import.reg"_L1;
@@ -144,7 +145,8 @@ bool importLines(const QString &folder, const QString &lines)
     return runReg({u"import"_s, QDir::toNativeSeparators(path)}).exitCode == 0;
 }
 
-// The outermost key that is the test's own; empty when only values in the key are.
+// The outermost key that belongs to the test. Empty when the key is the system's and only its
+// values belong to the test.
 QString findOutermostOwnKey(const QString &key)
 {
     const qsizetype at = key.indexOf("Sweepwise"_L1);
@@ -227,7 +229,7 @@ void RegistryFixture::write()
             hive = u"HKEY_LOCAL_MACHINE"_s;
             path.prepend("Software\\Classes\\"_L1);
         }
-        // One section an entry: where a key has several, they add up.
+        // One section per entry: several sections of one key are merged when they are read.
         QString text = u"\n["_s + keyInFile(path) + "] 1700000000\n"_L1;
         if (!entry.isKeyOnly)
             text += nameInFile(entry.name) + u'=' + entry.fileData + u'\n';

@@ -6,12 +6,13 @@
 
 class TestHome;
 
-/// Registry entries that a test needs: written to and asked from the registry by other means than
-/// the program's. Under Windows the live registry by its own command, which takes back at the end
-/// what was written; elsewhere the files of a Wine prefix in the test's home.
+/// Registry entries that a test needs. They are written and read without the code of the program.
 ///
-/// Keys are given with the full name of their hive, "HKEY_LOCAL_MACHINE\\SOFTWARE\\...". Those of
-/// the live registry bear "Sweepwise" in the name of the key or of the value.
+/// On Windows the fixture uses the live registry through the system's command. Its destructor
+/// removes what it wrote. Elsewhere it uses the files of a Wine prefix in the test's home.
+///
+/// Keys begin with the full name of their hive, "HKEY_LOCAL_MACHINE\\SOFTWARE\\...". Entries in the
+/// live registry have "Sweepwise" in the name of the key or of the value.
 class RegistryFixture final
 {
     Q_DISABLE_COPY_MOVE(RegistryFixture)
@@ -22,23 +23,23 @@ public:
     void addKey(const QString &key);
     void addText(const QString &key, const QString &name, const QString &text);
     void addBytes(const QString &key, const QString &name, quint32 type, const QByteArray &data);
-    /// Makes what was added real.
+    /// Writes the added entries to the registry.
     void write();
 
     [[nodiscard]] bool hasKey(const QString &key) const;
     [[nodiscard]] bool hasValue(const QString &key, const QString &name) const;
-    /// The key with everything below it, as the system's own export has it; empty without such a
-    /// key.
+    /// The lines of an export of the key and of all keys below it; empty when the key is missing.
     [[nodiscard]] QStringList exported(const QString &key) const;
-    /// The file of a hive that is not the live registry's; empty where it is.
+    /// The file of a hive in the Wine prefix; empty on Windows.
     [[nodiscard]] QString file(const QString &hive) const;
 
 private:
+    /// A key or value to write.
     struct Entry {
         QString key;
         QString name;
-        QString data; ///< as a registry export has it
-        QString fileData; ///< as the prefix's files have it
+        QString data; ///< as in a registry export
+        QString fileData; ///< as in the files of the prefix
         bool isKeyOnly = false;
     };
 

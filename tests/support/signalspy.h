@@ -4,8 +4,9 @@
 #include <QTest>
 #include <QVariantList>
 
-/// Records every emission of a signal, like QSignalSpy, but on the thread on which it was made:
-/// signals that a worker emits arrive through the event loop, so that reading the record is no
+/// Records every emission of a signal, like QSignalSpy, but always on the thread that made the spy.
+///
+/// Signals of a worker thread arrive through the event loop. So reading the record is not a data
 /// race.
 class SignalSpy final : public QObject
 {

@@ -10,9 +10,10 @@
 
 using namespace Qt::StringLiterals;
 
-// The application of the tests that look at the window or a page: settings and engines, without
-// the log, the data folders and the care for damaged settings that the program's own has.
+// The Application for tests of the window and its pages. It has settings and engines. The program's
+// own one also has the log, the data folders and the repair of damaged settings.
 
+/// The engines, settings and window; GUI thread only.
 class Application::Private
 {
 public:
@@ -30,7 +31,7 @@ Application::Application()
 
 Application::~Application() = default;
 
-// Never deleted, as the program's: its window must not outlive the toolkit.
+// Never deleted, like the program's own: the window must not be destroyed after the toolkit.
 Application *Application::instance()
 {
     static auto *const application = new Application;
@@ -46,7 +47,7 @@ void Application::initialize()
     d->registryCleaner = std::make_unique<RegistryCleaner>();
     d->junkCleaner->loadRules(u":/rules/junk_rules.json"_s);
     d->browserCleaner->loadRules(u":/rules/browser_rules.json"_s);
-    // Their workers must be over before the test's home is removed.
+    // The workers must end before the test's home is removed.
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
         d->junkCleaner->stopAndWait();
         d->browserCleaner->stopAndWait();

@@ -3,8 +3,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// A home of the test's own: settings, data, caches, temporary folder and C: drive all lie below
-/// one temporary folder, so that nothing of the developer's is read or written. Make it before the
+/// The home folder of a test: settings, data, caches and the C: drive are below one temporary
+/// folder. So the test does not read or write the developer's own files. Create it before the
 /// application object.
 class TestHome final
 {
@@ -13,9 +13,9 @@ public:
     TestHome();
 
     [[nodiscard]] QString path() const { return m_folder; }
-    /// A folder below the home, made if need be.
+    /// The path of a folder below the home. Makes the folder if it is missing.
     QString folder(const QString &relative) const;
-    /// Points an environment variable at folder(@p relative) and returns that folder.
+    /// Sets an environment variable to folder(@p relative) and returns that path.
     QString setFolderVariable(const char *variable, const QString &relative) const;
 
 private:
@@ -23,8 +23,8 @@ private:
     QString m_folder;
 };
 
-/// The main function of a test that needs a home: a guiless or a widget test, by the application
-/// class.
+/// Defines the main function of a test that needs a home. @p ApplicationClass decides whether it is
+/// a test with or without widgets.
 #define SWEEPWISE_TEST_MAIN(TestClass, ApplicationClass)                                           \
     int main(int argc, char *argv[])                                                               \
     {                                                                                              \

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// A temporary folder filled by the test.
+/// A temporary folder that the test fills. It is removed with the object.
 class TestTree final
 {
     Q_DISABLE_COPY_MOVE(TestTree)
@@ -21,9 +21,10 @@ public:
     QString folder(const QString &relative) const;
     /// Makes a symbolic link at @p relative that leads to @p target.
     QString link(const QString &target, const QString &relative) const;
-    [[nodiscard]] bool has(const QString &relative) const; ///< a broken link counts as being there
+    /// Whether there is a file, folder or link; a broken link counts.
+    [[nodiscard]] bool has(const QString &relative) const;
 
-    /// Every entry below with what it is and holds, for comparing before and after.
+    /// Kind and content of every entry by its path, for a comparison before and after.
     [[nodiscard]] QMap<QString, QString> snapshot() const;
 
 private:
@@ -31,8 +32,8 @@ private:
     QString m_path;
 };
 
-/// While it lives a test that runs as the system's administrator works as an ordinary user, whom
-/// permissions bind.
+/// Makes a test that runs as root an ordinary user as long as the object exists. Root ignores file
+/// permissions, an ordinary user does not.
 class OrdinaryUser final
 {
     Q_DISABLE_COPY_MOVE(OrdinaryUser)

@@ -7,8 +7,8 @@
 #include <atomic>
 #include <functional>
 
-/// An engine that finds and removes what the test tells it to, and can be held in the middle of a
-/// run.
+/// An engine that finds what the test sets, and removes nothing real. The test can hold it in the
+/// middle of a run. The atomic members may be set while its worker runs, `found` may not.
 class ScriptedEngine final : public CleanEngine
 {
 public:
@@ -18,10 +18,10 @@ public:
         stopAndWait();
     }
 
-    QList<CleanCategory> found; ///< what a scan finds
-    std::atomic_bool hold = false; ///< while set, a run goes on until it is cancelled
-    std::atomic_bool canCancel = true; ///< else it goes on for as long as it is held
-    std::atomic_int progress = 1; ///< of 4, which a scan reports before it is held
+    QList<CleanCategory> found; ///< the categories that a scan finds
+    std::atomic_bool hold = false; ///< while set, a run does not end unless it is cancelled
+    std::atomic_bool canCancel = true; ///< if not set, a held run ignores a cancel
+    std::atomic_int progress = 1; ///< steps of 4 that a scan reports before it is held
     std::atomic_int scans = 0;
     std::atomic_int cleans = 0;
 

@@ -28,6 +28,7 @@ namespace {
 
 constexpr int patience = 10'000;
 
+/// A page that shows counts and no sizes.
 class CountingPage final : public BasePage
 {
 public:
@@ -307,7 +308,7 @@ private Q_SLOTS:
         QVERIFY(!dialog(page));
     }
 
-    // What is removed was taken when the clean began: later ticks would only seem to count.
+    // A clean copies the ticked items when it starts. Later ticks would have no effect.
     void whileACleanRunsTheListIsLocked()
     {
         ScriptedEngine engine;
@@ -329,7 +330,7 @@ private Q_SLOTS:
         clickAll();
         QCOMPARE(engine.result().checkedCount(), 5);
         QCOMPARE(label(page, u"selectionLabel"_s), before);
-        // Cancelled, it still winds down for a while.
+        // A cancelled clean needs a while to end.
         engine.canCancel = false;
         page.cancelOperation();
         clickAll();
@@ -382,7 +383,7 @@ private Q_SLOTS:
         QVERIFY(!open->isVisible());
         pages.setCurrentIndex(0);
         QVERIFY(open->isVisible());
-        // Its outcome is shown when somebody looks at the page again.
+        // The result is shown when the user returns to the page.
         pages.setCurrentIndex(1);
         const SignalSpy cleaned(page, &BasePage::cleanFinished);
         engine.hold = false;
@@ -391,7 +392,7 @@ private Q_SLOTS:
         pages.setCurrentIndex(0);
         QVERIFY(open->isVisible());
         QVERIFY(open->isFinished());
-        // Once closed it does not come back.
+        // A closed dialog does not open again.
         QTest::mouseClick(open->findChild<QPushButton *>(u"closeBtn"_s), Qt::LeftButton);
         pages.setCurrentIndex(1);
         pages.setCurrentIndex(0);
@@ -427,7 +428,7 @@ private Q_SLOTS:
         engine.hold = true;
         click(page, u"cleanBtn"_s);
         page.cancelOperation();
-        // Its end is still on the way when the next scan starts.
+        // The signal of its end is still queued when the next scan starts.
         click(page, u"scanBtn"_s);
         ProgressDialog *open = dialog(page);
         QVERIFY(open);
@@ -451,7 +452,7 @@ private Q_SLOTS:
         while (engine.scans == 0)
             QThread::msleep(1);
         page.cancelOperation();
-        engine.stopAndWait(); // what it has said is queued now
+        engine.stopAndWait(); // its signals are queued now
         engine.progress = 1;
         click(page, u"scanBtn"_s);
         const SignalSpy shown(dialog(page)->findChild<QProgressBar *>(),
@@ -461,7 +462,7 @@ private Q_SLOTS:
         engine.hold = false;
     }
 
-    // Who listens to the page counts on one end for each clean.
+    // Listeners expect exactly one cleanFinished for each clean.
     void aCancelledCleanEndsOnceWhenAScanFollows_data()
     {
         QTest::addColumn<bool>("byPage");
@@ -505,7 +506,7 @@ private Q_SLOTS:
         engine.canCancel = false;
         click(page, u"cleanBtn"_s);
         page.cancelOperation();
-        click(page, u"cleanBtn"_s); // would never return if it waited
+        click(page, u"cleanBtn"_s); // a wait for the held clean would never end
         QVERIFY(!dialog(page));
         QCOMPARE(categories(page).size(), 1);
         engine.hold = false;

@@ -33,7 +33,7 @@ namespace {
 
 constexpr int patience = 30'000;
 
-/// In the order in which they stand.
+/// The groups in the order of the layout.
 QList<BrowserGroupWidget *> groups(const QWidget &page)
 {
     QList<BrowserGroupWidget *> list = page.findChildren<BrowserGroupWidget *>();
@@ -97,8 +97,8 @@ QString capitalised(const QString &id)
     return words.join(u' ');
 }
 
-/// As the engine lists it, with @p count items: of "opera" and "cache" it is called "Opera -
-/// Cache".
+/// A category with @p count items as the engine makes it: for "opera" and "cache" its name is
+/// "Opera - Cache".
 CleanCategory category(const QString &browserId, const QString &ruleId, int count)
 {
     Browser browser;
@@ -131,7 +131,7 @@ public:
 private Q_SLOTS:
     void initTestCase()
     {
-        // Browsers that are there as far as the uninstall list knows.
+        // Two browsers that are installed according to the uninstall list.
         m_fixture = std::make_unique<RegistryFixture>(m_home);
         const QString list =
             u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"_s;
@@ -194,7 +194,7 @@ private Q_SLOTS:
         QCOMPARE(progress.size(), 5);
     }
 
-    // Who leaves a browser out, and sees its box unticked, does not expect it to be cleaned.
+    // A user who unticks a browser does not expect that it is cleaned.
     void anUntickedBrowserIsLeftOutOfTheClean()
     {
         ScriptedEngine engine;
@@ -227,7 +227,7 @@ private Q_SLOTS:
         QCOMPARE(engine.result().checkedOnly().categories.size(), 1);
         QCOMPARE(engine.result().checkedOnly().categories.at(0).id, u"brave_cache"_s);
 
-        // Put back, everything is as it was.
+        // Ticking the browser again restores all ticks.
         click(browserBox(page, u"Opera"_s));
         QCOMPARE(boxes(), before);
         QCOMPARE(selected(), u"Selected: 11 items, 11.0 KB"_s);
@@ -235,7 +235,7 @@ private Q_SLOTS:
         click(header(*groups(page).at(0)));
         QCOMPARE(selected(), u"Selected: 14 items, 14.0 KB"_s);
 
-        // With nothing left there is nothing to clean.
+        // Without any browser there is nothing to clean.
         click(browserBox(page, u"Opera"_s));
         click(browserBox(page, u"Brave"_s));
         QVERIFY(!page.findChild<QPushButton *>(u"cleanBtn"_s)->isEnabled());
@@ -485,7 +485,7 @@ private Q_SLOTS:
         BrowserGroupWidget &group = records.group;
         const CleanCategory &record = records.categories.constFirst();
         QCheckBox *checkBox = box(*subItems(group).constFirst());
-        // Bound, the record is as the engine made it.
+        // Binding the record to the group does not change it.
         QVERIFY(record.checked);
         QCOMPARE(record.checkedCount(), 2);
         QCOMPARE(checkBox->checkState(), Qt::PartiallyChecked);
@@ -501,7 +501,7 @@ private Q_SLOTS:
         QCOMPARE(checkBox->checkState(), Qt::Unchecked);
         QVERIFY(!record.checked);
         QCOMPARE(record.checkedCount(), 0);
-        // It is not chosen again.
+        // Another click ticks all items; the partial state does not return.
         click(checkBox);
         QCOMPARE(checkBox->checkState(), Qt::Checked);
         QCOMPARE(record.checkedCount(), 3);
@@ -519,7 +519,7 @@ private Q_SLOTS:
         QCOMPARE(records.categories.constFirst().checkedCount(), 3);
     }
 
-    // Nobody ticks by the way what starts unticked for its own good.
+    // Items that start unticked because of their risk must not be ticked together with others.
     void guardedItemsAreTickedOnlyByTheirOwnRow()
     {
         Records records(2, 1);
@@ -528,12 +528,12 @@ private Q_SLOTS:
         record.items[0].riskLevel = HighRisk;
         QCheckBox *checkBox = box(*subItems(group).constFirst());
         QCOMPARE(checkBox->checkState(), Qt::PartiallyChecked);
-        // Everything else is ticked already: the click takes the ticks away.
+        // All other items are ticked already: the click unticks them.
         click(checkBox);
         QCOMPARE(checkBox->checkState(), Qt::Unchecked);
         QCOMPARE(record.checkedCount(), 0);
         QVERIFY(!record.checked);
-        // From there the header brings back what there was.
+        // Then the header ticks all items but the guarded one.
         click(header(group));
         QCOMPARE(header(group)->checkState(), Qt::PartiallyChecked);
         QCOMPARE(checkBox->checkState(), Qt::PartiallyChecked);
@@ -545,7 +545,7 @@ private Q_SLOTS:
         QCOMPARE(header(group)->checkState(), Qt::Unchecked);
         QCOMPARE(record.checkedCount(), 0);
         QCOMPARE(records.categories[1].checkedCount(), 0);
-        // The row itself is about everything in it.
+        // The row itself ticks all its items.
         click(checkBox);
         QCOMPARE(checkBox->checkState(), Qt::Checked);
         QCOMPARE(record.checkedCount(), 3);
@@ -619,7 +619,7 @@ private Q_SLOTS:
         auto *expand = group.findChild<QPushButton *>(u"browserExpandBtn"_s);
         auto *content = group.findChild<QWidget *>(u"browserGroupContent"_s);
         auto *headerRow = group.findChild<QWidget *>(u"browserGroupHeader"_s);
-        group.toggleExpanded(); // Records opens it
+        group.toggleExpanded(); // Records has expanded it
         QVERIFY(!group.isExpanded());
         QVERIFY(!content->isVisible());
         QCOMPARE(expand->iconSize(), QSize(20, 20));
@@ -652,7 +652,7 @@ private Q_SLOTS:
         QVERIFY(dialog->isVisible());
         QCOMPARE(dialog->parentWidget(), &page);
         QCOMPARE(dialog->loadedCount(), 7);
-        // The record goes with the next scan, and so does what shows it.
+        // The next scan deletes the record. The dialog that shows it is deleted too.
         engine.startScan();
         QVERIFY(!dialog);
         QVERIFY(groups(page).isEmpty());
@@ -706,8 +706,8 @@ private Q_SLOTS:
     }
 
 private:
-    /// A shown and open group with records of its own, three items each, of which in the first
-    /// record @p unticked are not ticked.
+    /// A shown and expanded group with its own records of three items each. In the first record
+    /// @p unticked items are not ticked.
     struct Records {
         explicit Records(int count, int unticked = 0)
             : group(u"Opera"_s)
@@ -738,7 +738,7 @@ private:
         page.resize(900, 700);
         page.show();
         scan(page);
-        // What comes into a layout is shown with the next turn of the event loop.
+        // Widgets added to a layout become visible in the next pass of the event loop.
         for (const BrowserGroupWidget *group : groups(page))
             QTRY_VERIFY_WITH_TIMEOUT(group->isVisible(), patience);
     }

@@ -69,7 +69,7 @@ QString dotStyle(const DashboardPage &page)
     return page.findChild<QLabel *>(u"statusDot"_s)->styleSheet();
 }
 
-/// Notes the mouse releases that reach it.
+/// A parent that counts the mouse releases that reach it.
 class ReleaseCounter final : public QWidget
 {
 public:
@@ -79,6 +79,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *) override { ++releases; }
 };
 
+/// The totals of the three engines: bytes, bytes and entries.
 struct Totals {
     qint64 junk;
     qint64 browser;
@@ -120,7 +121,7 @@ private Q_SLOTS:
             qputenv(variable, m_tree.folder(u"temp"_s).toUtf8());
         for (int i = 0; i < 40; ++i)
             m_tree.file(u"temp/junk %1.tmp"_s.arg(i), QByteArray(1000 + i, 'x'));
-        // Nobody's own browser lies there.
+        // In test mode no real browser profile is in the local data folder.
         QStandardPaths::setTestModeEnabled(true);
         m_profiles = platform::localDataFolder() + "/Google"_L1;
         QDir(m_profiles).removeRecursively();
@@ -137,7 +138,7 @@ private Q_SLOTS:
 
     void cleanupTestCase()
     {
-        // As when the program quits.
+        // As at the end of the program.
         for (CleanEngine *engine : engines())
             engine->stopAndWait();
         QVERIFY(QDir(m_profiles).removeRecursively());
@@ -287,7 +288,7 @@ private Q_SLOTS:
         QCOMPARE(circle(page)->progress(), 0);
         QCOMPARE(circle(page)->unit(), u"%"_s);
         QCOMPARE(circle(page)->caption(), u"Scanning..."_s);
-        QCOMPARE(panel(page), 1); // once there are results, they stay
+        QCOMPARE(panel(page), 1); // results of the last scan stay visible
 
         page.setScanning(false);
         QVERIFY(page.findChild<QWidget *>(u"progressArea"_s)->isHidden());
@@ -407,7 +408,7 @@ private Q_SLOTS:
         page->showResults(1, 1, 1);
         parent.show();
         const SignalSpy navigate(page, &DashboardPage::navigateToPage);
-        // Wherever it is clicked, also on one of its texts.
+        // A click on one of its texts counts too.
         QTest::mouseClick(cards(*page).at(card), Qt::LeftButton);
         QTest::mouseClick(cards(*page).at(card)->findChild<QLabel *>(u"statValue"_s),
                           Qt::LeftButton);

@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int rowHeight = 78;
-const QPoint boxInRow{24, 35}; ///< where a row draws its check box
+const QPoint boxInRow{24, 35}; ///< a point on the check box of a row
 
 LargeFileInfo fileOf(int number)
 {
@@ -40,8 +40,8 @@ QList<LargeFileInfo> files(int count)
     return list;
 }
 
-/// The list as the page has it: in a view that is shown only when there is something to show. Its
-/// boxes write to the model, and the mouse acts on pixels of the window.
+/// The list in a view that is shown only when there are results, as on the page. Its check boxes
+/// write to the model. The mouse functions click points of the window.
 class ShownList final
 {
     Q_DISABLE_COPY_MOVE(ShownList)
@@ -75,7 +75,7 @@ public:
 
     static void settle() { QTest::qWait(0); }
     [[nodiscard]] QScrollBar *bar() const { return list->verticalScrollBar(); }
-    /// Of a point of the list's visible part, in the window.
+    /// Maps a point of the list's visible part to the window.
     [[nodiscard]] QPoint inWindow(QPoint point) const
     {
         return list->viewport()->mapTo(&views, point);
@@ -91,7 +91,8 @@ public:
             QWheelEvent event(position, views.mapToGlobal(position), {},
                               {0, notches > 0 ? -120 : 120}, Qt::NoButton, Qt::NoModifier,
                               Qt::NoScrollPhase, false);
-            QSpontaneKeyEvent::setSpontaneous(&event); // others do not go on to the parents
+            QSpontaneKeyEvent::setSpontaneous(
+                &event); // only spontaneous events go on to the parents
             qApp->notify(views.windowHandle(), &event);
         }
     }
@@ -110,8 +111,8 @@ public:
     QCheckBox *after;
 };
 
-/// The name that is drawn at a row's place, from what stands on top at its pixels; empty when two
-/// cards share the place.
+/// The name on the card that is drawn at @p position, counted from the top of the visible part.
+/// Empty when two cards are there.
 QString findNameDrawnAt(const ShownList &shown, int position)
 {
     QString name;
@@ -126,7 +127,7 @@ QString findNameDrawnAt(const ShownList &shown, int position)
     return name;
 }
 
-/// What is wrong with what the list shows; empty when nothing is.
+/// Describes the first fault of the shown list; empty when there is none.
 QString findFault(const ShownList &shown)
 {
     const QRect area = shown.list->viewport()->rect();
@@ -255,12 +256,12 @@ private Q_SLOTS:
         QCOMPARE(ShownList::focusedFile(), fileOf(2).path);
         QVERIFY(QApplication::focusWidget()->visibleRegion().isEmpty());
         QCOMPARE(findFault(shown), QString());
-        // The key comes back to where the focus is.
+        // A key scrolls back to the row with the focus.
         shown.press(Qt::Key_Down);
         QCOMPARE(ShownList::focusedFile(), fileOf(3).path);
         QVERIFY(!QApplication::focusWidget()->visibleRegion().isEmpty());
         QCOMPARE(findFault(shown), QString());
-        // What is out of sight is not ticked unseen.
+        // A key does not tick a row that is out of view: the list scrolls to the row first.
         shown.wheel(50);
         shown.press(Qt::Key_Space);
         QCOMPARE(shown.model.tickedRows(), (QList<int>{2, 3}));
@@ -271,7 +272,7 @@ private Q_SLOTS:
         QCOMPARE(findFault(shown), QString());
     }
 
-    // A list can be scrolled while another window has the keyboard.
+    // The list can be scrolled while another window is active.
     void theFocusStaysWithItsRowWhileTheWindowIsInactive()
     {
         ShownList shown(500);
@@ -316,7 +317,7 @@ private Q_SLOTS:
         QCOMPARE(shown.model.tickedRows(), QList<int>{0});
     }
 
-    // One stop for the tabulator key, whatever the number of rows.
+    // The Tab key stops once in the list, for any number of rows.
     void theTabKeyPassesTheListInOneStep()
     {
         ShownList shown(100);
@@ -329,7 +330,7 @@ private Q_SLOTS:
         QCOMPARE(ShownList::focusedFile(), fileOf(1).path);
         QTest::keyClick(shown.views.windowHandle(), Qt::Key_Tab, Qt::ShiftModifier);
         QCOMPARE(QApplication::focusWidget(), shown.before);
-        // A row that is not in view would have to be scrolled to: the first in view takes its turn.
+        // The row of the last focus is out of view: the first visible row gets the focus.
         shown.bar()->setValue(50);
         shown.press(Qt::Key_Tab);
         QCOMPARE(ShownList::focusedFile(), fileOf(50).path);
@@ -339,7 +340,7 @@ private Q_SLOTS:
     void aClickScrollsNothing()
     {
         ShownList shown(100);
-        // The lowest row is cut off, but its box can be hit.
+        // The lowest row is cut off, but its box is visible.
         const int cut = shown.wholeRowCount();
         const QPoint box = boxInRow + QPoint(0, cut * rowHeight);
         shown.views.resize(
@@ -367,7 +368,7 @@ private Q_SLOTS:
         QCOMPARE(shown.bar()->value(), 7); // file 10 is still on top
         QCOMPARE(ShownList::focusedFile(), fileOf(12).path);
         QCOMPARE(findFault(shown), QString());
-        // The focus of a row that goes is the next one's.
+        // When the row with the focus is removed, the next row gets the focus.
         shown.model.removeRows({8});
         QCOMPARE(ShownList::focusedFile(), fileOf(13).path);
         QCOMPARE(findFault(shown), QString());
@@ -406,7 +407,7 @@ private Q_SLOTS:
             shown.wheel(random.bounded(7) - 3);
             QCOMPARE(findFault(shown), QString());
         }
-        // With the bar at its end the last row is whole.
+        // At the end of the scroll bar the last row is completely visible.
         shown.bar()->setValue(shown.bar()->maximum());
         ShownList::settle();
         QVERIFY(

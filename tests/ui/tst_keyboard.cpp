@@ -48,7 +48,8 @@ namespace {
 constexpr int patience = 30'000;
 constexpr int maxStops = 200;
 
-/// Presses a key where the focus is, as the desktop would deliver it.
+/// Sends a key to the open menu, the focus or the active window, as the desktop does. False when
+/// there is none of them.
 bool press(Qt::Key key)
 {
     QWidget *target = QApplication::activePopupWidget();
@@ -61,7 +62,7 @@ bool press(Qt::Key key)
     return target;
 }
 
-/// Tabs until the focus is on @p target; false when it never gets there.
+/// Presses Tab until the focus is on @p target; false when it never gets there.
 bool tabTo(const QWidget *target)
 {
     for (int stop = 0; stop < maxStops; ++stop) {
@@ -92,8 +93,8 @@ Dialog *shownDialog()
     return nullptr;
 }
 
-/// For a test that does not find the dialog that it looked for, and would wait for another for
-/// ever.
+/// Fails the test because an expected dialog is missing. Closes another open dialog, which would
+/// otherwise wait for ever.
 void failAndCloseModal()
 {
     if (QWidget *dialog = QApplication::activeModalWidget())
@@ -148,7 +149,7 @@ private Q_SLOTS:
             write(u"%1/setup/file%2.tmp"_s.arg(m_temp, QString::number(i)), 1000);
         auto *page = m_window->findChild<JunkPage *>();
 
-        // To the page.
+        // Go to the page.
         QVERIFY(tabTo(nav(0)));
         press(Qt::Key_Down);
         QCOMPARE(QApplication::focusWidget(), nav(1));
@@ -201,7 +202,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
         QCOMPARE(QDir(m_temp + "/setup"_L1).entryList(QDir::Files).size(), 1);
 
-        // The dialog tells the result and goes by a key.
+        // The dialog shows the result and closes by a key.
         auto *dialog = shownDialog<ProgressDialog>();
         QVERIFY(dialog);
         QCOMPARE(QApplication::focusWidget(), dialog->findChild<QPushButton *>(u"closeBtn"_s));
@@ -346,7 +347,8 @@ private Q_SLOTS:
         };
         QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
 
-        // From above into a list that is scrolled down, and from below into one that is not.
+        // Tab from above into a list that is scrolled down. Then back from below into one that is
+        // not.
         area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
         nav(6)->setFocus();
         for (int stop = 0; stop < maxStops && !area->isAncestorOf(QApplication::focusWidget());
@@ -539,7 +541,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// What a desktop does when the window in front has gone.
+    /// Activates the main window, as a desktop does when the window in front is closed.
     void activate()
     {
         m_window->activateWindow();

@@ -104,7 +104,7 @@ void makeSparse(const QString &path, qint64 size)
         qFatal("cannot write %s", qPrintable(path));
 }
 
-/// Chooses the only drive with a tiny minimum size and scans to the end.
+/// Ticks the only drive, sets the minimum size in bytes and scans to the end.
 void scan(LargeFilePage &page, qint64 minimum = 1)
 {
     page.findChild<DriveCard *>()->checkBox()->setChecked(true);
@@ -115,7 +115,7 @@ void scan(LargeFilePage &page, qint64 minimum = 1)
     QVERIFY(finished.wait(patience));
 }
 
-/// Answers the next input dialog: by this value, or by refusing it.
+/// Answers the next input dialog: accepts it with this value, or rejects it.
 void answerNumber(int value, bool accept, QStringList &seen)
 {
     QTimer::singleShot(100, qApp, [value, accept, &seen] {
@@ -134,7 +134,7 @@ void answerNumber(int value, bool accept, QStringList &seen)
     });
 }
 
-/// How long the event loop was busy at a stretch while this lived, in milliseconds.
+/// Measures the longest time between two passes of the event loop, in milliseconds.
 class Stalls final
 {
     Q_DISABLE_COPY_MOVE(Stalls)
@@ -146,7 +146,7 @@ public:
         m_sinceLast.start();
         m_timer.start(0);
     }
-    /// Forgets what has been, such as what the test itself has taken.
+    /// Starts again, so that the time of the test's own work is not counted.
     void restart()
     {
         longest = 0;
@@ -298,7 +298,7 @@ private Q_SLOTS:
         QCOMPARE(combo->currentText(), u"42 MB"_s);
         QCOMPARE(combo->currentData().toLongLong(), 42 * 1'048'576);
         QCOMPARE(page.customSize(), 42 * 1'048'576);
-        // It is a size like the others now.
+        // Choosing the entry again does not ask again.
         combo->setCurrentIndex(0);
         combo->setCurrentIndex(5);
         QCOMPARE(seen.size(), 1);
@@ -450,7 +450,7 @@ private Q_SLOTS:
         click(page, u"backBtn"_s);
         for (int i = 1; i < 5; ++i)
             QVERIFY(page.scanner()->deleteFile(tree.path(u"f%1"_s.arg(i))));
-        page.onScanFinished(1, 100); // so soon that its dialog has not taken the focus
+        page.onScanFinished(1, 100); // so early that the dialog has not taken the focus
         QCOMPARE(cards(page).size(), 1);
         QCOMPARE(QApplication::focusWidget(), cards(page).at(0)->checkBox());
     }
@@ -577,7 +577,7 @@ private Q_SLOTS:
         QVERIFY(!tree.has(u"a"_s));
         QVERIFY(tree.has(u"c"_s));
         QCOMPARE(cards(page).size(), 2);
-        // What could not be deleted stays chosen.
+        // A file that could not be deleted stays ticked.
         QCOMPARE(text(page, u"selectedLabel"_s), u"Selected: 1 files (2 B)"_s);
         QCOMPARE(text(page, u"summaryLabel"_s), u"Found 2 large files, total 3 B"_s);
     }
@@ -658,7 +658,7 @@ private Q_SLOTS:
         QVERIFY(menuAction(cards(page).at(0), 1)->isSeparator());
     }
 
-    // The card that the menu belongs to may be given another file while the menu stands open.
+    // The card of the menu may get another file while the menu is open.
     void theContextMenuActsOnTheFileItWasOpenedFor()
     {
         const TestTree tree;
@@ -676,7 +676,7 @@ private Q_SLOTS:
         QVERIFY(!tree.has(u"f1"_s));
     }
 
-    // Between the question and its answer the list may have changed.
+    // The list may change between the question and its answer.
     void onlyWhatWasAskedAboutIsDeleted()
     {
         const TestTree tree;
@@ -726,7 +726,7 @@ private Q_SLOTS:
         const MessageBoxes boxes(QMessageBox::Yes);
         auto *view = find<QWidget>(page, u"resultsView"_s);
         const SignalSpy finished(page.scanner(), &LargeFileScanner::deleteFinished);
-        // The first word of the worker waits until everything has been tried.
+        // Holds the worker at its first signal until all actions were tried.
         QSemaphore tried;
         const auto hold = connect(
             page.scanner(), &LargeFileScanner::deleteProgress, page.scanner(),
@@ -738,7 +738,7 @@ private Q_SLOTS:
         page.onDeleteSelected();
         QVERIFY(page.scanner()->isDeleting());
         QVERIFY(!view->isEnabled());
-        page.onDeleteSelected(); // asks, and then does nothing
+        page.onDeleteSelected(); // asks, but starts no deletion
         QTest::mouseClick(page.windowHandle(), Qt::LeftButton, {},
                           cards(page).at(1)->checkBox()->mapTo(&page, QPoint(8, 8)));
         QVERIFY(!page.model()->isTicked(1));
@@ -788,7 +788,7 @@ private Q_SLOTS:
                 pages.setCurrentIndex(0);
                 QVERIFY(dialog(*page));
             },
-            Qt::QueuedConnection); // after the page, which has the same
+            Qt::QueuedConnection); // after the page's slot, which is queued too
         scan(*page);
         disconnect(pageSwitch);
 
@@ -803,7 +803,7 @@ private Q_SLOTS:
             held.release(1000);
         });
         page->onDeleteSelected();
-        pages.setCurrentIndex(1); // before the deletion takes so long that it shows its dialog
+        pages.setCurrentIndex(1); // before the deletion has run long enough to show its dialog
         const ProgressDialog *progress = nullptr;
         QTRY_VERIFY_WITH_TIMEOUT((progress = page->findChild<ProgressDialog *>()), patience);
         QVERIFY(!progress->isVisible());
@@ -826,8 +826,8 @@ private Q_SLOTS:
         scanner->startScan();
         while (scanner->filesScanned() < 150)
             QThread::msleep(1);
-        page.onCancelScan(); // what the worker has said is queued now
-        // The next is held at its first file, before it has said anything.
+        page.onCancelScan(); // the worker's signals are queued now
+        // The next scan is held at its first file, before it reports any progress.
         QSemaphore held;
         const auto hold = connect(
             scanner, &LargeFileScanner::fileFound, scanner, [&held] { held.acquire(); },
@@ -859,7 +859,7 @@ private Q_SLOTS:
             page.model()->setTicked(row, true);
         const MessageBoxes boxes(QMessageBox::Yes);
         const SignalSpy finished(page.scanner(), &LargeFileScanner::deleteFinished);
-        // The first word of the worker waits until the dialog has been seen.
+        // Holds the worker at its first signal until the dialog was shown.
         QSemaphore seen;
         const auto hold = connect(
             page.scanner(), &LargeFileScanner::deleteProgress, page.scanner(),
@@ -879,7 +879,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(boxes.seen().size(), 2, patience);
         QCOMPARE(boxes.seen().constLast(), u"Delete Completed|Deleted 1 files successfully."_s);
         QVERIFY(!page.findChild<ProgressDialog *>());
-        // What was not tried is still there and still chosen.
+        // Files that were not tried still exist and are still ticked.
         QCOMPARE(page.model()->rowCount(), count - 1);
         QCOMPARE(page.model()->tickedCount(), count - 1);
         QCOMPARE(text(page, u"summaryLabel"_s), u"Found 2999 large files, total 2.9 KB"_s);
@@ -905,7 +905,7 @@ private Q_SLOTS:
         QTest::keyClick(page.windowHandle(), Qt::Key_Space);
         QTRY_COMPARE_WITH_TIMEOUT(boxes.seen().size(), 2, patience);
         QTRY_COMPARE(page.focusWidget(), cards(page).at(0)->checkBox());
-        // From the menu of a card: on the one that follows.
+        // After a deletion by the menu of a card the next card has the focus.
         find<FileCardList>(page, u"fileCardList"_s)->focusRow(1, Qt::OtherFocusReason);
         menuAction(cards(page).at(1), 2)->trigger();
         QTRY_COMPARE_WITH_TIMEOUT(page.model()->rowCount(), 3, patience);
@@ -925,7 +925,7 @@ private Q_SLOTS:
         show(page);
         Stalls stalls;
         scan(page);
-        // The program's own measure is 50 ms; a busy machine and a sanitizer take their share.
+        // The program's limit is 50 ms. A busy machine and a sanitizer need more.
         constexpr qint64 tooLong = 250;
         qInfo("filled: longest stall %lld ms", stalls.longest);
         QVERIFY2(stalls.longest < tooLong, qPrintable(QString::number(stalls.longest)));
@@ -949,7 +949,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Opens the menu of a card.
+    /// Opens the menu of a card and returns one of its three actions.
     static QAction *menuAction(FileCard *card, int index)
     {
         Q_EMIT card->customContextMenuRequested({5, 5});
@@ -957,7 +957,7 @@ private:
         if (!menu || menu->actions().size() != 3)
             qFatal("there is no menu of three actions");
         QAction *action = menu->actions().at(index);
-        // It goes when it is closed, and what was found with it.
+        // A closed menu deletes itself and its actions. setParent() hides it without closing it.
         menu->setParent(card->window(), menu->windowFlags());
         return action;
     }

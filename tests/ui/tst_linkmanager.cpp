@@ -21,7 +21,7 @@ namespace {
 
 const QString shipped = u":/rules/links.json"_s;
 
-/// Notes what would be opened instead of opening it.
+/// A LinkManager that records the addresses instead of opening them.
 class RecordingLinkManager final : public LinkManager
 {
 public:
@@ -95,7 +95,7 @@ private Q_SLOTS:
                 for (const QString &language : languages) {
                     const QUrl url(table[category][key][language].toString(), QUrl::StrictMode);
                     QVERIFY2(url.isValid() && url.scheme() == "https"_L1, qPrintable(key));
-                    // A name that is reserved, so that no stranger is ever visited.
+                    // A reserved host name: it can never belong to somebody else.
                     QCOMPARE(url.host(), u"sweepwise.example"_s);
                     addresses.append(url.toString());
                 }
@@ -187,7 +187,7 @@ private Q_SLOTS:
         const LinkManager manager(table(tree), u"de_DE"_s);
         const LogCapture log;
         QCOMPARE(manager.getLink(category, key), QString());
-        QCOMPARE(log.count(line), 2); // in the language and in the one to fall back on
+        QCOMPARE(log.count(line), 2); // in the language and in the fallback language
         QVERIFY(log.contains(u"[LinkManager] ✗ 无法获取链接: \"%1\" \"%2\""_s.arg(category, key)));
         QVERIFY(log.contains(u"[LinkManager] ✗ 请检查 links.json 配置文件！"_s));
     }
@@ -310,7 +310,7 @@ public Q_SLOTS:
     void onUrl(const QUrl &url) { m_handled.append(url); }
 
 private:
-    // Pages in two languages; what each lacks.
+    // A table with two languages. Each page lacks one of them, or both.
     static QString table(const TestTree &tree)
     {
         return tree.file(u"links.json"_s,

@@ -37,7 +37,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A window on a desktop that shows tray icons.
+/// A main window on a desktop that shows tray icons. Records the tray messages.
 class TrayWindow final : public MainWindow
 {
 public:
@@ -181,7 +181,7 @@ private Q_SLOTS:
         QTest::mouseClick(navButtons(window).at(6), Qt::LeftButton);
         window.onSettingsClicked();
         QCOMPARE(dialogs.size(), 2);
-        QCOMPARE(dialogs.at(0), dialogs.at(1)); // one for the life of the window
+        QCOMPARE(dialogs.at(0), dialogs.at(1)); // the window keeps one dialog
         QCOMPARE(window.currentPage(), 3);
         QCOMPARE(checks(window), (QList<bool>{false, false, false, true, false, false, false}));
     }
@@ -237,7 +237,7 @@ private Q_SLOTS:
             drag(&window, inWindow(window, target, spot), {30, 40});
             QCOMPARE(window.pos(), QPoint(200, 150));
         }
-        // The shadow's border is no handle either.
+        // The border with the shadow does not move the window either.
         drag(&window, {3, 3}, {30, 40});
         QCOMPARE(window.pos(), QPoint(200, 150));
     }
@@ -309,7 +309,7 @@ private Q_SLOTS:
     void withoutATrayClosingCloses()
     {
         Application::instance()->settings()->setValue("general/minimizeToTray"_L1, true);
-        MainWindow window; // this desktop shows no tray icons
+        MainWindow window; // the desktop of the test shows no tray icons
         show(window);
         QVERIFY(!QSystemTrayIcon::isSystemTrayAvailable());
         QVERIFY(window.close());
@@ -398,7 +398,7 @@ private Q_SLOTS:
         show(window);
         QVERIFY(window.close());
 
-        // The junk page asks before it cleans, or not.
+        // The junk page asks before a clean only when the option is on.
         const auto *page = window.findChild<JunkPage *>();
         SignalSpy scanned(page, &BasePage::scanFinished);
         const QString temp = m_home.setFolderVariable("TMPDIR", u"temp"_s);
@@ -457,7 +457,7 @@ private Q_SLOTS:
             "<p>Clean your PC with one click!<br>Remove junk files, browser data, and registry issues.</p>"_s));
     }
 
-    /// The whole function as its user meets it: real files, real engine, real clicks.
+    /// The whole way of a user: real files, real engine, real clicks.
     void junkIsScannedReviewedAndCleaned()
     {
         const QString temp = m_home.setFolderVariable("TMPDIR", u"temp"_s);

@@ -35,7 +35,7 @@ private Q_SLOTS:
         QTest::mousePress(&button, Qt::LeftButton, {}, {10, 10});
         QTest::mouseRelease(&button, Qt::LeftButton, {}, {10, 200});
         QCOMPARE(clicked.size(), 0);
-        // The press is over: a later release inside belongs to nothing.
+        // The press has ended: a later release inside does not count.
         QTest::mouseRelease(&button, Qt::LeftButton, {}, {10, 10});
         QCOMPARE(clicked.size(), 0);
     }
@@ -111,7 +111,7 @@ private Q_SLOTS:
             return image.pixelColor(spot);
         };
         QEvent leave(QEvent::Leave);
-        QApplication::sendEvent(&button, &leave); // the pointer may happen to be there
+        QApplication::sendEvent(&button, &leave); // the mouse may be over the button by chance
         QCOMPARE(colourAt(), QColor(Qt::black));
         QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
         QApplication::sendEvent(&button, &enter);

@@ -63,7 +63,7 @@ QLineEdit *edit(const RegistryBackupDialog &dialog)
     return dialog.findChild<QLineEdit *>(u"backupPathEdit"_s);
 }
 
-/// Meets the backup dialog when it opens, as a user would.
+/// Waits for the backup dialog and calls @p act with it once, as a user would act.
 class BackupDialogUser final
 {
     Q_DISABLE_COPY_MOVE(BackupDialogUser)
@@ -243,7 +243,7 @@ private Q_SLOTS:
         page.cancelOperation();
         {
             const BackupDialogUser user(makeAcceptor(u"second.reg"_s));
-            page.startClean(); // would never return if it waited
+            page.startClean(); // a wait for the held clean would never end
             QVERIFY(user.hasSeenDialog());
         }
         QCOMPARE(engine->backupPath(), folder + "/first.reg"_L1);
@@ -337,7 +337,7 @@ private Q_SLOTS:
         QCOMPARE(edit(dialog)->text(), m_home.folder(u"chosen"_s) + "/other.reg"_L1);
     }
 
-    // --- whether the place takes a backup, before anything is removed
+    // --- the check of the backup path, before anything is removed
 
     void aMissingFolderIsMade()
     {
@@ -371,7 +371,7 @@ private Q_SLOTS:
                  QStringList{u"Clean Registry|There is a file of this name already:\n%1\n\n"
                              "Replace it?"_s.arg(QDir::toNativeSeparators(path))});
         QCOMPARE(dialog.isVisible(), !agrees);
-        QCOMPARE(tree.snapshot().size(), 1); // nothing is written or left yet
+        QCOMPARE(tree.snapshot().size(), 1); // nothing is written yet
         dialog.reject();
     }
 
@@ -449,7 +449,7 @@ private Q_SLOTS:
                      QDir::toNativeSeparators(path), reason)});
         QVERIFY(dialog.isVisible());
         QCOMPARE(tree.snapshot(), before);
-        // Without a backup the place does not matter.
+        // Without a backup the path does not matter.
         check(dialog)->setChecked(false);
         button(dialog, u"startCleanBtn"_s)->click();
         QVERIFY(!dialog.isVisible());
@@ -510,7 +510,7 @@ private:
         QVERIFY(scanned.wait(patience));
     }
 
-    // Leaves only these items ticked.
+    // Ticks only these items.
     static void tick(const QStringList &names)
     {
         for (CleanCategory &category :

@@ -144,7 +144,7 @@ private Q_SLOTS:
 
     void aCategoryThatStartsUnselectedIsShownWithoutTicks()
     {
-        // As the engine makes it: the category is off, its items are on.
+        // As the engine makes it: the category is unticked, its items are ticked.
         CleanCategory category = scriptedCategory(u"windows_old"_s, 25);
         category.checked = false;
         CategoryWidget widget(&category);
@@ -368,7 +368,7 @@ private Q_SLOTS:
         QCOMPARE(row.findChild<QCheckBox *>()->accessibleDescription(),
                  "Risk: High, 1.0 KB, /folder/of/x/item 0, "_L1 + text);
         QCOMPARE(row.findChild<QLabel *>(u"itemRisk"_s)->text(), u"High"_s);
-        // The box with the tip takes it for markup by its first line alone.
+        // A tool tip is shown as rich text if its first line looks like markup.
         QVERIFY(!Qt::mightBeRichText(row.findChild<QLabel *>(u"itemName"_s)->toolTip()));
         category.items[0].name = u"<i>item</i>"_s;
         QCOMPARE(CleanItemWidget(&category, 0).findChild<QLabel *>(u"itemName"_s)->toolTip(),

@@ -47,7 +47,7 @@ QList<bool> checks(const SettingsDialog &dialog)
     return list;
 }
 
-// What the test program does when it is started as an installed one: saves the option.
+// Runs when a test starts a copy of this program as the installed one: saves the option.
 int saveAutoStart(int argc, char **argv)
 {
     QApplication application(argc, argv);
@@ -82,7 +82,7 @@ private Q_SLOTS:
         m_fixture->addText(runKey, u"Sweepwise neighbour"_s, u"C:\\neighbour.exe"_s);
         m_fixture->write();
     }
-    // The neighbour stays whatever is saved.
+    // No test may change the value of another program.
     void cleanup()
     {
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise neighbour"_s));
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(checks(next), (QList<bool>{true, true, false, false}));
     }
 
-    /// The options outlive the program that saved them, and are saved again in the same place.
+    /// Another process reads the options and saves them in the same place again.
     void anotherProcessReadsTheSavedOptions()
     {
         for (const bool on : {true, false}) {
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
         QVERIFY(settings()->allKeys().isEmpty());
         QVERIFY(!m_fixture->hasValue(runKey, valueName));
-        // What was cancelled is still ticked when the same dialog opens again.
+        // The tick stays when the same dialog opens again, although saving was cancelled.
         dialog.show();
         QVERIFY(box(dialog, u"autoStart"_s)->isChecked());
     }
@@ -205,7 +205,7 @@ private Q_SLOTS:
         QCOMPARE(autostart::command(path), command);
     }
 
-    /// The whole way, from an installed program to the value that the system reads.
+    /// From a copy of the program in an installation folder to the value that the system reads.
     void theRunValueIsThePathOfTheProgram_data()
     {
         QTest::addColumn<QString>("folder");
@@ -307,7 +307,7 @@ private Q_SLOTS:
         QStringList texts;
         for (const QLabel *label : dialog.findChildren<QLabel *>()) {
             texts.append(label->text());
-            // No line of any text is cut.
+            // No line of a text may be cut off.
             const int needed = label->wordWrap() ? label->heightForWidth(label->width())
                                                  : label->sizeHint().height();
             QVERIFY2(label->height() >= needed || label->text() == u"🧹"_s,
@@ -332,14 +332,15 @@ private Q_SLOTS:
         dialog.render(&picture, {}, {}, QWidget::DrawChildren);
         QCOMPARE(picture.pixelColor(200, 4), QColor(Qt::white));
         QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
-        QCOMPARE(picture.pixelColor(394, 200), QColor(0, 0, 0, 30)); // right of the ground
+        QCOMPARE(picture.pixelColor(394, 200),
+                 QColor(0, 0, 0, 30)); // right of the background, in the shadow
         QCOMPARE(picture.pixelColor(398, 200).alpha(), 0);
     }
 
 private:
     static QSettings *settings() { return Application::instance()->settings(); }
 
-    // The value as the registry's own export has it.
+    // The value as an export of the registry has it.
     QString runValue() const
     {
         const QStringList lines = m_fixture->exported(runKey);

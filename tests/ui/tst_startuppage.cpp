@@ -278,7 +278,7 @@ private Q_SLOTS:
         StartupPage page;
         page.resize(700, 600);
         showAndLoad(page);
-        // The first ones are there at once, the others while the user looks at them.
+        // The first cards are there at once, the others are added later.
         QVERIFY(cards(page).size() >= 10);
         QTRY_VERIFY_WITH_TIMEOUT(cards(page).size() >= 500, patience);
         QVERIFY(card(page, u"Sweepwise 499"_s));
@@ -309,7 +309,7 @@ private:
         QTRY_VERIFY_WITH_TIMEOUT(!isLoading(page), patience);
     }
 
-    // An installed program; returns the Windows path of its executable.
+    // Adds an installed program and returns the Windows path of its executable.
     QString addProduct(const QString &name, const QString &relative = {})
     {
         const QString file = relative.isEmpty() ? u"%1/app.exe"_s.arg(m_products++) : relative;

@@ -19,7 +19,8 @@ QString read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-// A brace that a name follows without a blank is a hole that was left open.
+// Whether all braces are closed and no hole is left. A hole is a brace with a name directly after
+// it.
 bool isCompleteSheet(const QString &style)
 {
     static const QRegularExpression hole(u"\\{\\w"_s);
@@ -45,12 +46,13 @@ double contrast(const QColor &one, const QColor &other)
 
 using Style = QString (*)();
 
+/// A style function with its name.
 struct NamedStyle {
-    const char *name; // of the function, and what tells rows of one function apart
+    const char *name; // of the function; after a comma the variant
     Style style;
 };
 
-// Every function that makes a style, once for each way through it.
+// Every function that makes a style, once for each of its variants.
 QList<NamedStyle> styles()
 {
     return {
@@ -271,7 +273,7 @@ private Q_SLOTS:
 
     void eachColourHasOneName()
     {
-        // White is several things, which need not stay of one colour.
+        // White has several names: these colours may differ later.
         const QSet<QString> whites{u"white"_s, u"panel"_s, u"boxGround"_s, u"onColour"_s};
         QHash<QRgb, QString> names;
         const auto add = [&](const QString &name, theme::Colour colour) {
@@ -289,7 +291,7 @@ private Q_SLOTS:
         QVERIFY(names.size() > 30);
     }
 
-    // What is compared by its text elsewhere keeps it, blanks included.
+    // The text of these styles is fixed, including its blanks.
     void someStylesHaveAFixedText_data()
     {
         QTest::addColumn<QString>("style");
@@ -339,7 +341,7 @@ private Q_SLOTS:
         QCOMPARE(style.left(beginning.size()), beginning);
     }
 
-    // The pairs of text and ground that are of our own choice.
+    // The pairs of text and background colours that this project chose itself.
     void textIsReadable_data()
     {
         QTest::addColumn<QColor>("ink");

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Notes what would be started instead of starting it.
+/// A TitleBar that records the programs instead of starting them.
 class RecordingTitleBar final : public TitleBar
 {
 public:
@@ -205,7 +205,7 @@ private Q_SLOTS:
             boxes.seen(),
             QStringList{
                 u"Language Changed|Language has been changed.\n\nThe application will restart now."_s});
-        // The program's own file, with the arguments that follow its name.
+        // It starts its own executable with its own arguments.
         QCOMPARE(bar.started,
                  QStringList{QCoreApplication::applicationFilePath() + u' '
                              + QCoreApplication::arguments().mid(1).join(u' ')});

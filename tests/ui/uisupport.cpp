@@ -18,7 +18,7 @@ void MessageBoxes::answer(QMessageBox::StandardButton button)
     m_seen.append(box->windowTitle() + u'|' + box->text());
     QAbstractButton *wanted = box->button(button);
     if (!wanted && box->buttons().size() == 1)
-        wanted = box->buttons().constFirst(); // there is nothing to choose
+        wanted = box->buttons().constFirst(); // the box has no choice
     if (!wanted)
         qFatal("the box '%s' has no such button", qPrintable(box->windowTitle()));
     wanted->click();

@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
-/// Answers the message boxes that open while it lives, as a user would: by clicking a button,
-/// or the only one that there is.
+/// Answers every message box that opens as long as the object exists, by a click on a button. A box
+/// with only one button gets a click on that one. A timer on the GUI thread finds the boxes.
 class MessageBoxes final
 {
     Q_DISABLE_COPY_MOVE(MessageBoxes)
@@ -24,5 +24,5 @@ private:
     QStringList m_seen;
 };
 
-/// The widget to which the tabulator key goes from @p widget.
+/// The widget that gets the focus from @p widget by the Tab key.
 [[nodiscard]] QWidget *nextByTab(QWidget *widget);

@@ -139,7 +139,8 @@ ExitStatus runCommandLine(const QStringList &arguments)
 
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
-    if (parser.isSet(help))
+    // The parser adds --help-all by itself and does nothing about it.
+    if (parser.isSet(help) || parser.isSet(u"help-all"_s))
         parser.showHelp(Success);
     if (parser.isSet(version))
         parser.showVersion();

@@ -6,8 +6,8 @@
 
 namespace cli {
 
-/// Reads the command line as the tables of commands.h lay it down, answers --help and --version,
-/// which end the process, refuses what is not in the tables, and runs the command.
+/// Reads the command line by the tables of commands.h and runs the command. What is not in the
+/// tables is refused. --help, --help-all and --version end the process before any command runs.
 [[nodiscard]] ExitStatus runCommandLine(const QStringList &arguments);
 
 } // namespace cli

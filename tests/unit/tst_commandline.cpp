@@ -196,6 +196,28 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(m_temp + "/a.tmp"_L1));
     }
 
+    void aHelpOptionPrintsTheHelpAndDoesNothing_data()
+    {
+        QTest::addColumn<Use>("use");
+        QTest::addColumn<QString>("option");
+        for (const Use &use : uses()) {
+            for (const QString &option : {u"--help"_s, u"--help-all"_s})
+                QTest::addRow("%s %s", qPrintable(use.command), qPrintable(option))
+                    << use << option;
+        }
+    }
+
+    void aHelpOptionPrintsTheHelpAndDoesNothing()
+    {
+        QFETCH(Use, use);
+        QFETCH(QString, option);
+        Run help;
+        runWithoutEffect(use, use.line + QStringList{option}, help);
+        QCOMPARE(help.exitCode, 0);
+        QVERIFY2(help.error.isEmpty(), help.error.constData());
+        QVERIFY2(help.output.startsWith("Usage: "), help.output.constData());
+    }
+
     void helpNamesTheExitStatuses()
     {
         const Run help = run({u"--help"_s});
@@ -328,17 +350,24 @@ private:
     /// @p word in it, and that it changes nothing.
     void nothingIsDoneBy(const Use &use, const QStringList &line, const QString &word) const
     {
+        Run refused;
+        runWithoutEffect(use, line, refused);
+        QCOMPARE(refused.exitCode, 2);
+        QVERIFY2(refused.output.isEmpty(), refused.output.constData());
+        QVERIFY(refused.error.startsWith("sweepwise-cli: "));
+        QVERIFY2(refused.error.contains(word.toUtf8()), refused.error.constData());
+    }
+
+    /// Runs the command with @p line and requires that it changes nothing.
+    void runWithoutEffect(const Use &use, const QStringList &line, Run &outcome) const
+    {
         const auto fixture = registryFor(use);
-        const Run refused = run(use.command.split(u' ') + line);
+        outcome = run(use.command.split(u' ') + line);
         for (const QString &file : m_files)
             QVERIFY2(QFile::exists(file), qPrintable(file));
         QVERIFY(!QFile::exists(backupToWrite()));
         if (fixture)
             QCOMPARE(fixture->hasValue(use.effect.key, use.effect.value), use.effect.isThere);
-        QCOMPARE(refused.exitCode, 2);
-        QVERIFY2(refused.output.isEmpty(), refused.output.constData());
-        QVERIFY(refused.error.startsWith("sweepwise-cli: "));
-        QVERIFY2(refused.error.contains(word.toUtf8()), refused.error.constData());
     }
 
     const TestHome &m_home;

@@ -89,27 +89,11 @@ QImage image(const QString &path, QSize size)
     return svgPixmap(path, size, 1.0).toImage();
 }
 
-QString capitalised(const QString &id)
+CleanCategory category(const QString &id, const QString &name, int count)
 {
-    QStringList words = id.split(u'_');
-    for (QString &word : words)
-        word[0] = word.at(0).toUpper();
-    return words.join(u' ');
-}
-
-/// A category with @p count items as the engine makes it: for "opera" and "cache" its name is
-/// "Opera - Cache".
-CleanCategory category(const QString &browserId, const QString &ruleId, int count)
-{
-    Browser browser;
-    browser.id = browserId;
-    browser.name = capitalised(browserId);
-    BrowserRule rule;
-    rule.id = ruleId;
-    rule.name = capitalised(ruleId);
-    CleanCategory result = BrowserCleaner::categoryOf(browser, rule);
-    result.items = scriptedCategory(result.id, count).items;
-    return result;
+    CleanCategory made = scriptedCategory(id, count);
+    made.name = name;
+    return made;
 }
 
 void click(QCheckBox *checkBox)
@@ -198,8 +182,10 @@ private Q_SLOTS:
     void anUntickedBrowserIsLeftOutOfTheClean()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera"_s, u"cache"_s, 3), category(u"opera"_s, u"cookies"_s, 2),
-                        category(u"opera"_s, u"logs"_s, 4), category(u"brave"_s, u"cache"_s, 5)};
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3),
+                        category(u"opera_cookies"_s, u"Opera - Cookies"_s, 2),
+                        category(u"opera_logs"_s, u"Opera - Logs"_s, 4),
+                        category(u"brave_cache"_s, u"Brave - Cache"_s, 5)};
         engine.found[1].checked = false;
         engine.found[2].items[1].checked = false;
         BrowserPage page;
@@ -247,7 +233,8 @@ private Q_SLOTS:
     void aBrowserUntickedDuringAScanIsUntickedInTheList()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera"_s, u"cache"_s, 3), category(u"brave"_s, u"cache"_s, 5)};
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3),
+                        category(u"brave_cache"_s, u"Brave - Cache"_s, 5)};
         engine.hold = true;
         BrowserPage page;
         page.setEngine(&engine);
@@ -265,7 +252,7 @@ private Q_SLOTS:
     void whileACleanRunsNoBrowserCanBeUnticked()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera"_s, u"cache"_s, 3)};
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 3)};
         BrowserPage page;
         show(page, engine);
         Application::instance()->settings()->setValue(u"clean/confirmClean"_s, false);
@@ -313,8 +300,8 @@ private Q_SLOTS:
     void firefoxAloneIsOneGroupWithItsIcon()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"mozilla_firefox"_s, u"cache"_s, 2),
-                        category(u"mozilla_firefox"_s, u"cookies"_s, 3)};
+        engine.found = {category(u"mozilla_firefox_cache"_s, u"Mozilla Firefox - Cache"_s, 2),
+                        category(u"mozilla_firefox_cookies"_s, u"Mozilla Firefox - Cookies"_s, 3)};
         BrowserPage page;
         show(page, engine);
         QCOMPARE(groups(page).size(), 1);
@@ -328,11 +315,8 @@ private Q_SLOTS:
     void anUnknownBrowserIsShownAsOtherWithTheGenericIcon()
     {
         ScriptedEngine engine;
-        CleanCategory unknown = scriptedCategory(u"netscape_cache"_s, 1);
-        unknown.name = u"Cache of something"_s;
-        CleanCategory more = category(u"brave"_s, u"cache"_s, 1);
-        more.ruleName = u"Cache - more"_s;
-        engine.found = {unknown, more};
+        engine.found = {category(u"netscape_cache"_s, u"Cache of something"_s, 1),
+                        category(u"brave_cache"_s, u"Brave - Cache - more"_s, 1)};
         BrowserPage page;
         show(page, engine);
         QCOMPARE(groups(page).size(), 2);
@@ -344,10 +328,11 @@ private Q_SLOTS:
     void groupsStandInTheOrderOfTheBrowsersAndKeepThatOfTheResult()
     {
         ScriptedEngine engine;
-        engine.found = {
-            category(u"opera"_s, u"cookies"_s, 1), category(u"google_chrome"_s, u"history"_s, 1),
-            category(u"opera"_s, u"cache"_s, 1), category(u"microsoft_edge"_s, u"cache"_s, 1),
-            category(u"google_chrome"_s, u"cache"_s, 1)};
+        engine.found = {category(u"opera_cookies"_s, u"Opera - Cookies"_s, 1),
+                        category(u"google_chrome_history"_s, u"Google Chrome - History"_s, 1),
+                        category(u"opera_cache"_s, u"Opera - Cache"_s, 1),
+                        category(u"microsoft_edge_cache"_s, u"Microsoft Edge - Cache"_s, 1),
+                        category(u"google_chrome_cache"_s, u"Google Chrome - Cache"_s, 1)};
         BrowserPage page;
         show(page, engine);
         QList<QStringList> list;
@@ -395,8 +380,8 @@ private Q_SLOTS:
 
     void theCountIsHiddenWhileItIsZero()
     {
-        CleanCategory empty = category(u"opera"_s, u"cache"_s, 0);
-        CleanCategory full = category(u"opera"_s, u"logs"_s, 4);
+        CleanCategory empty = category(u"opera_cache"_s, u"Opera - Cache"_s, 0);
+        CleanCategory full = category(u"opera_logs"_s, u"Opera - Logs"_s, 4);
         BrowserGroupWidget group(u"Opera"_s);
         auto *count = group.findChild<QLabel *>(u"browserItemCount"_s);
         QVERIFY(count->isHidden());
@@ -468,7 +453,7 @@ private Q_SLOTS:
 
     void anUnselectedCategoryStartsUnticked()
     {
-        CleanCategory record = category(u"opera"_s, u"cookies"_s, 2);
+        CleanCategory record = category(u"opera_cookies"_s, u"Opera - Cookies"_s, 2);
         record.checked = false;
         record.riskLevel = HighRisk;
         BrowserGroupWidget group(u"Opera"_s);
@@ -579,7 +564,8 @@ private Q_SLOTS:
     void untickedItemsAreLeftOutOfThePagesTotals()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera"_s, u"cache"_s, 2), category(u"opera"_s, u"logs"_s, 3)};
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 2),
+                        category(u"opera_logs"_s, u"Opera - Logs"_s, 3)};
         engine.found[1].items[0].checked = false;
         BrowserPage page;
         show(page, engine);
@@ -593,7 +579,8 @@ private Q_SLOTS:
     void ticksChangeThePagesTotals()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera"_s, u"cache"_s, 2), category(u"opera"_s, u"logs"_s, 3)};
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 2),
+                        category(u"opera_logs"_s, u"Opera - Logs"_s, 3)};
         BrowserPage page;
         show(page, engine);
         const auto *selection = page.findChild<QLabel *>(u"selectionLabel"_s);
@@ -639,7 +626,7 @@ private Q_SLOTS:
     void viewDetailsListsTheItemsInAModalDialog()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera"_s, u"cache"_s, 7)};
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 7)};
         BrowserPage page;
         show(page, engine);
         groups(page).constFirst()->toggleExpanded();
@@ -660,8 +647,7 @@ private Q_SLOTS:
 
     void namesFromOutsideAreShownAsPlainText()
     {
-        CleanCategory record = category(u"opera"_s, u"x"_s, 1);
-        record.ruleName = u"<b>bold</b>\nsecond & third"_s;
+        CleanCategory record = category(u"x"_s, u"Some - <b>bold</b>\nsecond & third"_s, 1);
         record.description = u"<img src=x>"_s;
         BrowserGroupWidget group(u"<i>Name</i>"_s);
         group.addCategory(&record);
@@ -675,7 +661,8 @@ private Q_SLOTS:
     void theFocusGoesDownTheList()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera"_s, u"cache"_s, 1), category(u"brave"_s, u"cache"_s, 1)};
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 1),
+                        category(u"brave_cache"_s, u"Brave - Cache"_s, 1)};
         BrowserPage page;
         show(page, engine);
         for (BrowserGroupWidget *group : groups(page))
@@ -697,7 +684,7 @@ private Q_SLOTS:
     void everyControlHasAName()
     {
         ScriptedEngine engine;
-        engine.found = {category(u"opera"_s, u"cache"_s, 1)};
+        engine.found = {category(u"opera_cache"_s, u"Opera - Cache"_s, 1)};
         BrowserPage page;
         show(page, engine);
         for (const QAbstractButton *control : page.findChildren<QAbstractButton *>())
@@ -713,7 +700,7 @@ private:
             : group(u"Opera"_s)
         {
             for (int i = 0; i < count; ++i)
-                categories.append(category(u"opera"_s, QString::number(i), 3));
+                categories.append(category(u"opera_%1"_s.arg(i), u"Opera - %1"_s.arg(i), 3));
             for (int i = 0; i < unticked; ++i)
                 categories[0].items[i].checked = false;
             for (CleanCategory &record : categories)

@@ -279,35 +279,24 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("id");
         QTest::addColumn<QString>("icon");
-        QTest::addColumn<QString>("browserId");
-        QTest::addColumn<QString>("ruleId");
-        QTest::newRow("own icon") << u"temp_files"_s << u"temp_files"_s << QString() << QString();
-        QTest::newRow("without icon")
-            << u"memory_dumps"_s << u"default"_s << QString() << QString();
-        QTest::newRow("unknown") << u"no such"_s << u"default"_s << QString() << QString();
-        QTest::newRow("path") << u"../app"_s << u"default"_s << QString() << QString();
-        QTest::newRow("empty") << QString() << u"default"_s << QString() << QString();
-        QTest::newRow("chrome") << u"google_chrome_cookies"_s << u"cookies"_s << u"google_chrome"_s
-                                << u"cookies"_s;
-        QTest::newRow("edge") << u"microsoft_edge_cache"_s << u"cache"_s << u"microsoft_edge"_s
-                              << u"cache"_s;
-        QTest::newRow("firefox") << u"mozilla_firefox_session"_s << u"session"_s
-                                 << u"mozilla_firefox"_s << u"session"_s;
-        QTest::newRow("opera") << u"opera_history"_s << u"history"_s << u"opera"_s << u"history"_s;
-        QTest::newRow("brave") << u"brave_downloads"_s << u"downloads"_s << u"brave"_s
-                               << u"downloads"_s;
-        QTest::newRow("registry") << u"mui_cache"_s << u"mui_cache"_s << QString() << QString();
+        QTest::newRow("own icon") << u"temp_files"_s << u"temp_files"_s;
+        QTest::newRow("without icon") << u"memory_dumps"_s << u"default"_s;
+        QTest::newRow("unknown") << u"no such"_s << u"default"_s;
+        QTest::newRow("path") << u"../app"_s << u"default"_s;
+        QTest::newRow("empty") << QString() << u"default"_s;
+        QTest::newRow("chrome") << u"google_chrome_cookies"_s << u"cookies"_s;
+        QTest::newRow("edge") << u"microsoft_edge_cache"_s << u"cache"_s;
+        QTest::newRow("firefox") << u"mozilla_firefox_session"_s << u"session"_s;
+        QTest::newRow("opera") << u"opera_history"_s << u"history"_s;
+        QTest::newRow("brave") << u"brave_downloads"_s << u"downloads"_s;
+        QTest::newRow("registry") << u"mui_cache"_s << u"mui_cache"_s;
     }
 
     void iconsFollowTheId()
     {
         QFETCH(QString, id);
         QFETCH(QString, icon);
-        QFETCH(QString, browserId);
-        QFETCH(QString, ruleId);
         CleanCategory category = scriptedCategory(id, 1);
-        category.browserId = browserId;
-        category.ruleId = ruleId;
         const CategoryWidget widget(&category);
         const QImage shown = widget.findChild<QLabel *>(u"categoryIcon"_s)->pixmap().toImage();
         const QPixmap expected = svgPixmap(u":/icons/categories/%1.svg"_s.arg(icon), {22, 22},

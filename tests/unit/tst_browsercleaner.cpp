@@ -665,6 +665,58 @@ private Q_SLOTS:
         QCOMPARE(cleaner.categoryIds().size(), cleaner.browsers().size() * cleaner.rules().size());
     }
 
+    void aCategoryWithoutAnOriginTakesItFromItsIdAndName_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("origin"); // browser id, rule id, rule name
+        QTest::newRow("chrome") << u"google_chrome_code_cache"_s << u"Google Chrome - Code Cache"_s
+                                << QStringList{u"google_chrome"_s, u"code_cache"_s,
+                                               u"Code Cache"_s};
+        QTest::newRow("edge") << u"microsoft_edge_cache"_s << u"Microsoft Edge - Cache"_s
+                              << QStringList{u"microsoft_edge"_s, u"cache"_s, u"Cache"_s};
+        QTest::newRow("firefox") << u"mozilla_firefox_session"_s << u"Mozilla Firefox - Session"_s
+                                 << QStringList{u"mozilla_firefox"_s, u"session"_s, u"Session"_s};
+        QTest::newRow("opera") << u"opera_history"_s << u"Opera - History"_s
+                               << QStringList{u"opera"_s, u"history"_s, u"History"_s};
+        QTest::newRow("brave") << u"brave_logs"_s << u"Brave - Logs"_s
+                               << QStringList{u"brave"_s, u"logs"_s, u"Logs"_s};
+        QTest::newRow("a separator in the rule's name")
+            << u"brave_cache"_s << u"Brave - Cache - more"_s
+            << QStringList{u"brave"_s, u"cache"_s, u"Cache - more"_s};
+        QTest::newRow("a name without a separator")
+            << u"opera_cache"_s << u"Cache"_s << QStringList{u"opera"_s, u"cache"_s, u"Cache"_s};
+        QTest::newRow("the browser's id alone")
+            << u"opera"_s << u"Opera"_s << QStringList{u"opera"_s, u"opera"_s, u"Opera"_s};
+        QTest::newRow("no browser")
+            << u"temp_files"_s << u"Temporary files"_s
+            << QStringList{QString(), u"temp_files"_s, u"Temporary files"_s};
+        QTest::newRow("an underscore first")
+            << u"_cache"_s << u"Cache"_s << QStringList{QString(), u"_cache"_s, u"Cache"_s};
+        QTest::newRow("empty") << QString() << QString()
+                               << QStringList{QString(), QString(), QString()};
+    }
+
+    void aCategoryWithoutAnOriginTakesItFromItsIdAndName()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, name);
+        QFETCH(QStringList, origin);
+        const auto found = browsers::originOf(CleanCategory(id, name, {}));
+        QCOMPARE((QStringList{found.browserId, found.ruleId, found.ruleName}), origin);
+    }
+
+    void theOriginThatACategoryNamesCountsBeforeItsId()
+    {
+        CleanCategory category(u"opera_history"_s, u"Opera - History"_s, {});
+        category.browserId = u"brave"_s;
+        category.ruleId = u"cache"_s;
+        category.ruleName = u"Cache - more"_s;
+        const auto origin = browsers::originOf(category);
+        QCOMPARE((QStringList{origin.browserId, origin.ruleId, origin.ruleName}),
+                 (QStringList{u"brave"_s, u"cache"_s, u"Cache - more"_s}));
+    }
+
     void aProfileSweepsUpNoNeighbour()
     {
         const TestTree tree;

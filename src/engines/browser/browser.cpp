@@ -9,6 +9,7 @@
 #include "registry.h"
 #include "registrykeys.h"
 #include "rulefolders.h"
+#include "scanresult.h"
 #include "walklog.h"
 
 #include <QCoreApplication>
@@ -173,6 +174,17 @@ QString idOf(const QString &name)
     return name.toLower().replace(u' ', u'_');
 }
 
+/// The id of the browser that @p categoryId begins with; empty when it is none of the table.
+QString browserIdOf(const QString &categoryId)
+{
+    for (const Description &description : descriptions) {
+        const QString id = idOf(QString::fromLatin1(description.name));
+        if (categoryId.startsWith(id))
+            return id;
+    }
+    return {};
+}
+
 } // namespace
 
 DataFolders dataFolders()
@@ -218,6 +230,24 @@ QString iconName(const QString &name)
     if (name.contains(otherIcon, Qt::CaseInsensitive))
         return "browser-"_L1 + otherIcon;
     return u"browser"_s;
+}
+
+CategoryOrigin originOf(const CleanCategory &category)
+{
+    CategoryOrigin origin{category.browserId, category.ruleId, category.ruleName};
+    if (origin.browserId.isEmpty())
+        origin.browserId = browserIdOf(category.id);
+    if (origin.ruleId.isEmpty()) {
+        const QString prefix = origin.browserId.isEmpty() ? QString() : origin.browserId + u'_';
+        origin.ruleId =
+            category.id.startsWith(prefix) ? category.id.sliced(prefix.size()) : category.id;
+    }
+    if (origin.ruleName.isEmpty()) {
+        const QLatin1StringView separator = " - "_L1;
+        const qsizetype end = category.name.indexOf(separator);
+        origin.ruleName = end < 0 ? category.name : category.name.sliced(end + separator.size());
+    }
+    return origin;
 }
 
 QStringList chromiumProfiles(const QString &dataRoot)

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+struct CleanCategory;
+
 /// A browser that can be cleaned, and whether it is here.
 struct Browser {
     /// The browser's place in the list of those that are known. The values are fixed: pages keep
@@ -39,6 +41,18 @@ struct DataFolders {
 /// The icon of the browser that @p name names in any case, such as "browser-chrome"; "browser" for
 /// any other name.
 [[nodiscard]] QString iconName(const QString &name);
+
+/// The browser and the rule that a category of browser data comes from.
+struct CategoryOrigin {
+    QString browserId; ///< empty when the category belongs to none of the browsers
+    QString ruleId; ///< the whole id of a category that has no browser
+    QString ruleName; ///< without the browser's name
+};
+
+/// The origin that the fields of @p category name. An empty field is derived: the browser and the
+/// rule from the category's id, such as "google_chrome_cookies", the rule's name from what follows
+/// the first " - " of the category's name.
+[[nodiscard]] CategoryOrigin originOf(const CleanCategory &category);
 
 /// The profile folders of a Chromium browser, absolute and link-free, in the order in which they
 /// are scanned. A folder that is a link is left out, with a warning in the log.

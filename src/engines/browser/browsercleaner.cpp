@@ -168,10 +168,10 @@ void BrowserCleaner::doClean()
 
 void BrowserCleaner::warnIfRunning(const CleanCategory &category) const
 {
+    const QString id = browsers::originOf(category).browserId;
     const auto browser =
-        std::find_if(m_scanned.begin(), m_scanned.end(), [&category](const Browser &candidate) {
-            return candidate.id == category.browserId;
-        });
+        std::find_if(m_scanned.begin(), m_scanned.end(),
+                     [&id](const Browser &candidate) { return candidate.id == id; });
     if (browser != m_scanned.end() && platform::runningPrograms().contains(browser->processName))
         Logger::instance().warning(browser->name + " is running, some files may not be deleted"_L1);
 }

@@ -82,16 +82,16 @@ QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categ
                                                      QWidget *parent)
 {
     m_groups.clear();
-    const QList<Browser> &browsers = m_cleaner->browsers();
+    const QList<Browser> &known = m_cleaner->browsers();
     // In the order of the browsers; the last is for what is no browser's that is known.
-    QList<BrowserGroupWidget *> groups(browsers.size() + 1);
+    QList<BrowserGroupWidget *> groups(known.size() + 1);
     for (CleanCategory &category : categories) {
+        const QString id = browsers::originOf(category).browserId;
         const auto browser =
-            std::find_if(browsers.cbegin(), browsers.cend(), [&category](const Browser &candidate) {
-                return candidate.id == category.browserId;
-            });
-        const bool isKnown = browser != browsers.cend();
-        BrowserGroupWidget *&group = groups[browser - browsers.cbegin()];
+            std::find_if(known.cbegin(), known.cend(),
+                         [&id](const Browser &candidate) { return candidate.id == id; });
+        const bool isKnown = browser != known.cend();
+        BrowserGroupWidget *&group = groups[browser - known.cbegin()];
         if (!group) {
             group = new BrowserGroupWidget(isKnown ? browser->name : tr("Other"), parent);
             if (isKnown)

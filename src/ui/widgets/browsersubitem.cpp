@@ -1,5 +1,6 @@
 #include "browsersubitem.h"
 
+#include "browser.h"
 #include "itemdetaildialog.h"
 #include "risk.h"
 #include "scanresult.h"
@@ -35,8 +36,7 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
     setAttribute(Qt::WA_StyledBackground);
     setToolTip(plainToolTip(category->description));
     // The browser's name stands above.
-    const QString name =
-        singleLine(category->browserId.isEmpty() ? category->name : category->ruleName);
+    const QString name = singleLine(browsers::originOf(*category).ruleName);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 7, 12, 7);
     layout->setSpacing(12);

@@ -1,5 +1,6 @@
 #include "categorywidget.h"
 
+#include "browser.h"
 #include "cleanitemwidget.h"
 #include "itemdetaildialog.h"
 #include "risk.h"
@@ -26,7 +27,7 @@ constexpr qsizetype pageSize = 10;
 // A browser's category has the icon of the kind of data, whichever browser it belongs to.
 QString iconPath(const CleanCategory &category)
 {
-    const QString &id = category.browserId.isEmpty() ? category.id : category.ruleId;
+    const QString id = browsers::originOf(category).ruleId;
     const QString path = u":/icons/categories/%1.svg"_s.arg(id);
     // An id comes from a rule file and is a name here, never a path.
     return !id.contains(u'/') && QFile::exists(path) ? path : u":/icons/categories/default.svg"_s;

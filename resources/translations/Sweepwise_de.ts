@@ -1241,6 +1241,35 @@ Soll sie ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>RegistryChecks</name>
+    <message>
+        <source>Path: %1</source>
+        <translation>Pfad: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Befehl: %1</translation>
+    </message>
+    <message>
+        <source>DLL: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>DLL: %1</translation>
+    </message>
+    <message>
+        <source>EXE: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>EXE: %1</translation>
+    </message>
+    <message>
+        <source>Font file: %1</source>
+        <translation>Schriftartdatei: %1</translation>
+    </message>
+    <message>
+        <source>DLL path: %1</source>
+        <translation>DLL-Pfad: %1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryCleaner</name>
     <message>
         <source>Invalid Software Paths</source>
@@ -1325,32 +1354,6 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>Scanning MUI cache...</source>
         <translation>MUI-Cache wird gescannt...</translation>
-    </message>
-    <message>
-        <source>Path: %1</source>
-        <translation>Pfad: %1</translation>
-    </message>
-    <message>
-        <source>Command: %1</source>
-        <translation>Befehl: %1</translation>
-    </message>
-    <message>
-        <source>DLL: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>DLL: %1</translation>
-    </message>
-    <message>
-        <source>EXE: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>EXE: %1</translation>
-    </message>
-    <message>
-        <source>Font file: %1</source>
-        <translation>Schriftartdatei: %1</translation>
-    </message>
-    <message>
-        <source>DLL path: %1</source>
-        <translation>DLL-Pfad: %1</translation>
     </message>
     <message>
         <source>Its name cannot be told from a path</source>

@@ -1219,6 +1219,33 @@ Replace it?</translation>
     </message>
 </context>
 <context>
+    <name>RegistryChecks</name>
+    <message>
+        <source>Path: %1</source>
+        <translation>Path: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Command: %1</translation>
+    </message>
+    <message>
+        <source>DLL: %1</source>
+        <translation>DLL: %1</translation>
+    </message>
+    <message>
+        <source>EXE: %1</source>
+        <translation>EXE: %1</translation>
+    </message>
+    <message>
+        <source>Font file: %1</source>
+        <translation>Font file: %1</translation>
+    </message>
+    <message>
+        <source>DLL path: %1</source>
+        <translation>DLL path: %1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryCleaner</name>
     <message>
         <source>Invalid Software Paths</source>
@@ -1303,30 +1330,6 @@ Replace it?</translation>
     <message>
         <source>Scanning MUI cache...</source>
         <translation>Scanning MUI cache...</translation>
-    </message>
-    <message>
-        <source>Path: %1</source>
-        <translation>Path: %1</translation>
-    </message>
-    <message>
-        <source>Command: %1</source>
-        <translation>Command: %1</translation>
-    </message>
-    <message>
-        <source>DLL: %1</source>
-        <translation>DLL: %1</translation>
-    </message>
-    <message>
-        <source>EXE: %1</source>
-        <translation>EXE: %1</translation>
-    </message>
-    <message>
-        <source>Font file: %1</source>
-        <translation>Font file: %1</translation>
-    </message>
-    <message>
-        <source>DLL path: %1</source>
-        <translation>DLL path: %1</translation>
     </message>
     <message>
         <source>Its name cannot be told from a path</source>

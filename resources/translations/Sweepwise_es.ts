@@ -1238,6 +1238,35 @@ Replace it?</source>
     </message>
 </context>
 <context>
+    <name>RegistryChecks</name>
+    <message>
+        <source>Path: %1</source>
+        <translation>Ruta: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Comando: %1</translation>
+    </message>
+    <message>
+        <source>DLL: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>DLL: %1</translation>
+    </message>
+    <message>
+        <source>EXE: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>EXE: %1</translation>
+    </message>
+    <message>
+        <source>Font file: %1</source>
+        <translation>Archivo de fuente: %1</translation>
+    </message>
+    <message>
+        <source>DLL path: %1</source>
+        <translation>Ruta de la DLL: %1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryCleaner</name>
     <message>
         <source>Invalid Software Paths</source>
@@ -1322,32 +1351,6 @@ Replace it?</source>
     <message>
         <source>Scanning MUI cache...</source>
         <translation>Analizando la caché de MUI...</translation>
-    </message>
-    <message>
-        <source>Path: %1</source>
-        <translation>Ruta: %1</translation>
-    </message>
-    <message>
-        <source>Command: %1</source>
-        <translation>Comando: %1</translation>
-    </message>
-    <message>
-        <source>DLL: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>DLL: %1</translation>
-    </message>
-    <message>
-        <source>EXE: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>EXE: %1</translation>
-    </message>
-    <message>
-        <source>Font file: %1</source>
-        <translation>Archivo de fuente: %1</translation>
-    </message>
-    <message>
-        <source>DLL path: %1</source>
-        <translation>Ruta de la DLL: %1</translation>
     </message>
     <message>
         <source>Its name cannot be told from a path</source>

@@ -1234,6 +1234,33 @@ Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>RegistryChecks</name>
+    <message>
+        <source>Path: %1</source>
+        <translation>Chemin&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Commande&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>DLL: %1</source>
+        <translation>DLL&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>EXE: %1</source>
+        <translation>EXE&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Font file: %1</source>
+        <translation>Fichier de police&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>DLL path: %1</source>
+        <translation>Chemin de la DLL&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryCleaner</name>
     <message>
         <source>Invalid Software Paths</source>
@@ -1318,30 +1345,6 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>Scanning MUI cache...</source>
         <translation>Analyse du cache MUI...</translation>
-    </message>
-    <message>
-        <source>Path: %1</source>
-        <translation>Chemin&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Command: %1</source>
-        <translation>Commande&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>DLL: %1</source>
-        <translation>DLL&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>EXE: %1</source>
-        <translation>EXE&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Font file: %1</source>
-        <translation>Fichier de police&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>DLL path: %1</source>
-        <translation>Chemin de la DLL&#xa0;: %1</translation>
     </message>
     <message>
         <source>Its name cannot be told from a path</source>

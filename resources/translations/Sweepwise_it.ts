@@ -1241,6 +1241,35 @@ Sostituirlo?</translation>
     </message>
 </context>
 <context>
+    <name>RegistryChecks</name>
+    <message>
+        <source>Path: %1</source>
+        <translation>Percorso: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Comando: %1</translation>
+    </message>
+    <message>
+        <source>DLL: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>DLL: %1</translation>
+    </message>
+    <message>
+        <source>EXE: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>EXE: %1</translation>
+    </message>
+    <message>
+        <source>Font file: %1</source>
+        <translation>File del tipo di carattere: %1</translation>
+    </message>
+    <message>
+        <source>DLL path: %1</source>
+        <translation>Percorso della DLL: %1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryCleaner</name>
     <message>
         <source>Invalid Software Paths</source>
@@ -1325,32 +1354,6 @@ Sostituirlo?</translation>
     <message>
         <source>Scanning MUI cache...</source>
         <translation>Analisi della cache MUI...</translation>
-    </message>
-    <message>
-        <source>Path: %1</source>
-        <translation>Percorso: %1</translation>
-    </message>
-    <message>
-        <source>Command: %1</source>
-        <translation>Comando: %1</translation>
-    </message>
-    <message>
-        <source>DLL: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>DLL: %1</translation>
-    </message>
-    <message>
-        <source>EXE: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>EXE: %1</translation>
-    </message>
-    <message>
-        <source>Font file: %1</source>
-        <translation>File del tipo di carattere: %1</translation>
-    </message>
-    <message>
-        <source>DLL path: %1</source>
-        <translation>Percorso della DLL: %1</translation>
     </message>
     <message>
         <source>Its name cannot be told from a path</source>

@@ -1240,6 +1240,35 @@ Replace it?</source>
     </message>
 </context>
 <context>
+    <name>RegistryChecks</name>
+    <message>
+        <source>Path: %1</source>
+        <translation>パス: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>コマンド: %1</translation>
+    </message>
+    <message>
+        <source>DLL: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>DLL: %1</translation>
+    </message>
+    <message>
+        <source>EXE: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>EXE: %1</translation>
+    </message>
+    <message>
+        <source>Font file: %1</source>
+        <translation>フォント ファイル: %1</translation>
+    </message>
+    <message>
+        <source>DLL path: %1</source>
+        <translation>DLL のパス: %1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryCleaner</name>
     <message>
         <source>Invalid Software Paths</source>
@@ -1324,32 +1353,6 @@ Replace it?</source>
     <message>
         <source>Scanning MUI cache...</source>
         <translation>MUI キャッシュをスキャン中...</translation>
-    </message>
-    <message>
-        <source>Path: %1</source>
-        <translation>パス: %1</translation>
-    </message>
-    <message>
-        <source>Command: %1</source>
-        <translation>コマンド: %1</translation>
-    </message>
-    <message>
-        <source>DLL: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>DLL: %1</translation>
-    </message>
-    <message>
-        <source>EXE: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>EXE: %1</translation>
-    </message>
-    <message>
-        <source>Font file: %1</source>
-        <translation>フォント ファイル: %1</translation>
-    </message>
-    <message>
-        <source>DLL path: %1</source>
-        <translation>DLL のパス: %1</translation>
     </message>
     <message>
         <source>Its name cannot be told from a path</source>

@@ -1242,6 +1242,35 @@ Pretende substituí-lo?</translation>
     </message>
 </context>
 <context>
+    <name>RegistryChecks</name>
+    <message>
+        <source>Path: %1</source>
+        <translation>Caminho: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Comando: %1</translation>
+    </message>
+    <message>
+        <source>DLL: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>DLL: %1</translation>
+    </message>
+    <message>
+        <source>EXE: %1</source>
+        <translatorcomment>same</translatorcomment>
+        <translation>EXE: %1</translation>
+    </message>
+    <message>
+        <source>Font file: %1</source>
+        <translation>Ficheiro de tipo de letra: %1</translation>
+    </message>
+    <message>
+        <source>DLL path: %1</source>
+        <translation>Caminho da DLL: %1</translation>
+    </message>
+</context>
+<context>
     <name>RegistryCleaner</name>
     <message>
         <source>Invalid Software Paths</source>
@@ -1326,32 +1355,6 @@ Pretende substituí-lo?</translation>
     <message>
         <source>Scanning MUI cache...</source>
         <translation>A analisar a cache MUI...</translation>
-    </message>
-    <message>
-        <source>Path: %1</source>
-        <translation>Caminho: %1</translation>
-    </message>
-    <message>
-        <source>Command: %1</source>
-        <translation>Comando: %1</translation>
-    </message>
-    <message>
-        <source>DLL: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>DLL: %1</translation>
-    </message>
-    <message>
-        <source>EXE: %1</source>
-        <translatorcomment>same</translatorcomment>
-        <translation>EXE: %1</translation>
-    </message>
-    <message>
-        <source>Font file: %1</source>
-        <translation>Ficheiro de tipo de letra: %1</translation>
-    </message>
-    <message>
-        <source>DLL path: %1</source>
-        <translation>Caminho da DLL: %1</translation>
     </message>
     <message>
         <source>Its name cannot be told from a path</source>

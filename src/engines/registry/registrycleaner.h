@@ -8,6 +8,8 @@
 #include <optional>
 #include <set>
 
+class RegistryChecks;
+
 /// Finds registry entries that name files or programs which are no longer there, and removes them
 /// after a backup was written.
 ///
@@ -40,8 +42,7 @@ protected:
     void doClean() override;
 
 private:
-    struct Scan;
-    using Check = void (RegistryCleaner::*)(Scan &);
+    using Check = QList<CleanItem> (RegistryChecks::*)();
     struct Category {
         Check check;
         QString id;
@@ -55,17 +56,7 @@ private:
     struct Place;
     struct Unsaved;
 
-    void runCheck(const Category &category, Scan &scan);
-    void checkSoftware(Scan &scan);
-    void checkAppPaths(Scan &scan);
-    void checkUninstall(Scan &scan);
-    void checkFileAssociations(Scan &scan);
-    void checkCom(Scan &scan);
-    void checkFonts(Scan &scan);
-    void checkStartup(Scan &scan);
-    void checkSharedDlls(Scan &scan);
-    void checkMuiCache(Scan &scan);
-
+    void runCheck(const Category &category, RegistryChecks &checks);
     /// What a scan would list now, in the categories that are to be cleaned.
     [[nodiscard]] std::set<Place> findAgain(const platform::Registry &registry);
     void backUp(const ScanResult &due, const platform::Registry &registry);

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "pathcheck.h"
+#include "registry.h"
+#include "scanresult.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <QString>
+
+#include <atomic>
+
+/// Finds the registry entries that name missing files, one kind of entry a function.
+///
+/// RegistryCleaner makes one for each scan, and one for the second look before a clean, both on its
+/// worker thread. A stop request ends a check early; its list is then incomplete.
+class RegistryChecks final
+{
+    Q_DECLARE_TR_FUNCTIONS(RegistryChecks)
+    Q_DISABLE_COPY_MOVE(RegistryChecks)
+public:
+    /// Both must outlive the object.
+    RegistryChecks(const platform::Registry &registry, const std::atomic_bool &stopRequested);
+
+    [[nodiscard]] QList<CleanItem> findSoftware();
+    [[nodiscard]] QList<CleanItem> findFileAssociations();
+    [[nodiscard]] QList<CleanItem> findCom();
+    [[nodiscard]] QList<CleanItem> findFonts();
+    [[nodiscard]] QList<CleanItem> findStartup();
+    [[nodiscard]] QList<CleanItem> findSharedDlls();
+    [[nodiscard]] QList<CleanItem> findMuiCache();
+
+    /// Whether @p key is one whose values the checks list one by one, such as Run.
+    [[nodiscard]] static bool isValueList(const QString &key);
+    /// Whether @p keyPath begins with such a key and a separator. The path of a value there can
+    /// also be the path of a key below it. With an empty value name it is the path of the key
+    /// itself. No check lists these keys, so a clean must not remove them.
+    [[nodiscard]] static bool isBelowValueList(const QString &keyPath);
+
+private:
+    void addAppPaths(QList<CleanItem> &items);
+    void addUninstallKeys(QList<CleanItem> &items);
+
+    const platform::Registry &m_registry;
+    const std::atomic_bool &m_stopRequested;
+    PathCheck m_paths;
+};

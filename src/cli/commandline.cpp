@@ -41,9 +41,9 @@ QStringList wordsAfter(const QString &first)
 
 /// The commands that the option goes with. Where it goes with all that begin with the same word,
 /// this word stands for them.
-QStringList takersOf(Option option)
+QStringList commandsTaking(Option option)
 {
-    QStringList takers;
+    QStringList names;
     for (const Command &command : commands()) {
         if (!command.options.testFlag(option))
             continue;
@@ -52,10 +52,10 @@ QStringList takersOf(Option option)
             commands().begin(), commands().end(), [&first, option](const Command &other) {
                 return wordsOf(other).constFirst() != first || other.options.testFlag(option);
             });
-        takers.append(isForAll ? first : QString(command.name));
+        names.append(isForAll ? first : QString(command.name));
     }
-    takers.removeDuplicates();
-    return takers;
+    names.removeDuplicates();
+    return names;
 }
 
 QString programHelp()
@@ -77,8 +77,8 @@ QString programHelp()
 
 QString optionHelp(const OptionInfo &option)
 {
-    const QStringList takers = takersOf(option.option);
-    return (takers == firstWords() ? QString() : takers.join(", "_L1) + ": "_L1) + option.help;
+    const QStringList names = commandsTaking(option.option);
+    return (names == firstWords() ? QString() : names.join(", "_L1) + ": "_L1) + option.help;
 }
 
 /// Null when there is none of this name.
@@ -96,11 +96,11 @@ ExitStatus refuseCommand(const QStringList &words)
 {
     if (words.isEmpty())
         return refuse(u"a command is wanted, such as 'scan junk'"_s);
-    const QStringList following = wordsAfter(words.constFirst());
-    if (following.isEmpty())
+    const QStringList nextWords = wordsAfter(words.constFirst());
+    if (nextWords.isEmpty())
         return refuse(u"there is no command '%1'"_s.arg(words.constFirst()));
     return refuse(u"one of these words is wanted after '%1': %2"_s.arg(words.constFirst(),
-                                                                       following.join(", "_L1)));
+                                                                       nextWords.join(", "_L1)));
 }
 
 ExitStatus runCommand(const QCommandLineParser &parser)
@@ -109,19 +109,20 @@ ExitStatus runCommand(const QCommandLineParser &parser)
     const Command *command = findCommand(words);
     if (!command)
         return refuseCommand(words);
-    QMap<Option, QStringList> given;
+    QMap<Option, QStringList> givenOptions;
     for (const OptionInfo &option : options()) {
         if (!parser.isSet(option.name))
             continue;
         if (!command->options.testFlag(option.option))
-            return refuse(u"--%1 goes with '%2'"_s.arg(option.name,
-                                                       takersOf(option.option).join("' and '"_L1)));
-        given.insert(option.option, parser.values(option.name));
+            return refuse(u"--%1 goes with '%2'"_s.arg(
+                option.name, commandsTaking(option.option).join("' and '"_L1)));
+        givenOptions.insert(option.option, parser.values(option.name));
     }
     const QStringList arguments = words.sliced(wordsOf(*command).size());
-    if (arguments.size() < command->arguments.least || arguments.size() > command->arguments.most)
+    if (arguments.size() < command->arguments.minimum
+        || arguments.size() > command->arguments.maximum)
         return refuse(u"what is wanted is '%1'"_s.arg(command->help.form));
-    return command->run({arguments, given});
+    return command->run({arguments, givenOptions});
 }
 
 } // namespace

@@ -27,9 +27,9 @@ constexpr OptionInfo optionTable[] = {
      "from this size on, such as 64K, 100M (the default) or 2G."_L1},
 };
 
-constexpr ArgumentCount none{0, 0};
-constexpr ArgumentCount one{1, 1};
-constexpr ArgumentCount oneOrMore{1, std::numeric_limits<qsizetype>::max()};
+constexpr ArgumentCount noArguments{0, 0};
+constexpr ArgumentCount oneArgument{1, 1};
+constexpr ArgumentCount oneOrMoreArguments{1, std::numeric_limits<qsizetype>::max()};
 
 constexpr CommandHelp scanHelp{"scan ENGINE"_L1, "lists what could be cleaned; deletes nothing"_L1};
 constexpr CommandHelp cleanHelp{"clean ENGINE"_L1,
@@ -39,36 +39,36 @@ constexpr Options scanOptions = Option::Items | Option::Json;
 constexpr Options cleanOptions = Option::Json | Option::Yes | Option::Category;
 
 constexpr Command commandTable[] = {
-    {"scan junk"_L1, scanHelp, none, scanOptions, scanJunk},
-    {"scan browser"_L1, scanHelp, none, scanOptions | Option::Browser, scanBrowser},
-    {"scan registry"_L1, scanHelp, none, scanOptions, scanRegistry},
-    {"clean junk"_L1, cleanHelp, none, cleanOptions, cleanJunk},
-    {"clean browser"_L1, cleanHelp, none, cleanOptions | Option::Browser, cleanBrowser},
-    {"clean registry"_L1, cleanHelp, none, cleanOptions | Option::Backup | Option::NoBackup,
+    {"scan junk"_L1, scanHelp, noArguments, scanOptions, scanJunk},
+    {"scan browser"_L1, scanHelp, noArguments, scanOptions | Option::Browser, scanBrowser},
+    {"scan registry"_L1, scanHelp, noArguments, scanOptions, scanRegistry},
+    {"clean junk"_L1, cleanHelp, noArguments, cleanOptions, cleanJunk},
+    {"clean browser"_L1, cleanHelp, noArguments, cleanOptions | Option::Browser, cleanBrowser},
+    {"clean registry"_L1, cleanHelp, noArguments, cleanOptions | Option::Backup | Option::NoBackup,
      cleanRegistry},
     {"restore"_L1,
      {"restore FILE"_L1, "puts the registry entries of a backup back"_L1},
-     one,
+     oneArgument,
      Option::Json,
      restore},
     {"startup list"_L1,
      {"startup list"_L1, "lists what starts with the session"_L1},
-     none,
+     noArguments,
      Option::Json,
      listStartup},
     {"startup enable"_L1,
      {"startup enable NAME"_L1, "lets an installed program start with the session"_L1},
-     one,
+     oneArgument,
      Option::Json,
      enableStartup},
     {"startup disable"_L1,
      {"startup disable NAME"_L1, "keeps it from starting with the session"_L1},
-     one,
+     oneArgument,
      Option::Json,
      disableStartup},
     {"large-files"_L1,
      {"large-files PATH..."_L1, "lists the large files below, largest first"_L1},
-     oneOrMore,
+     oneOrMoreArguments,
      Option::Json | Option::MinSize,
      listLargeFiles},
 };

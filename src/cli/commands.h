@@ -19,8 +19,8 @@ struct OptionInfo {
 
 /// How many arguments may follow the name of a command.
 struct ArgumentCount {
-    qsizetype least = 0;
-    qsizetype most = 0;
+    qsizetype minimum = 0;
+    qsizetype maximum = 0;
 };
 
 /// Commands that show the same form, such as "scan ENGINE", are one line of the help.

@@ -40,9 +40,10 @@ void runScan(CleanEngine &engine)
 ExitStatus scan(const Target &target, const Invocation &invocation)
 {
     runScan(target.engine);
-    const auto items = invocation.has(Option::Items) ? report::Items::Listed : report::Items::Left;
+    const auto items =
+        invocation.has(Option::Items) ? report::Items::Listed : report::Items::Omitted;
     const ScanResult &result = std::as_const(target.engine).result();
-    return finish(
+    return printReport(
         invocation, [&] { return report::scanAsJson(target.subject, result, items); },
         [&] { return report::scanAsText(target.subject, result, items); });
 }
@@ -52,15 +53,16 @@ ExitStatus clean(const Target &target, const Invocation &invocation)
 {
     if (!invocation.has(Option::Yes))
         return refuse(u"cleaning deletes for good: say so with --yes"_s);
-    const QStringList wanted = invocation.values(Option::Category);
-    for (const QString &id : wanted) {
+    const QStringList chosenIds = invocation.values(Option::Category);
+    for (const QString &id : chosenIds) {
         if (!target.categories.contains(id))
             return refuse(u"there is no category '%1'"_s.arg(id));
     }
     CleanEngine &engine = target.engine;
     runScan(engine);
     for (CleanCategory &category : engine.result().categories)
-        category.checked = category.checked && (wanted.isEmpty() || wanted.contains(category.id));
+        category.checked =
+            category.checked && (chosenIds.isEmpty() || chosenIds.contains(category.id));
 
     report::CleanOutcome outcome;
     QObject::connect(&engine, &CleanEngine::cleanFinished, qApp,
@@ -75,13 +77,13 @@ ExitStatus clean(const Target &target, const Invocation &invocation)
     if (target.otherFailures)
         outcome.failures = target.otherFailures();
     outcome.failures += engine.failures();
-    return finish(
+    return printReport(
         invocation, [&] { return report::cleanAsJson(target.subject, outcome); },
         [&] { return report::cleanAsText(target.subject, outcome); },
         outcome.failures.isEmpty() ? Success : SomeFailed);
 }
 
-ExitStatus withJunk(Action action, const Invocation &invocation)
+ExitStatus runWithJunk(Action action, const Invocation &invocation)
 {
     JunkCleaner cleaner;
     cleaner.loadRules(u":/rules/junk_rules.json"_s);
@@ -93,19 +95,19 @@ ExitStatus withJunk(Action action, const Invocation &invocation)
     return action({cleaner, {u"junk"_s, report::Unit::Bytes}, categories}, invocation);
 }
 
-ExitStatus withBrowsers(Action action, const Invocation &invocation)
+ExitStatus runWithBrowsers(Action action, const Invocation &invocation)
 {
     BrowserCleaner cleaner;
     cleaner.loadRules(u":/rules/browser_rules.json"_s);
     if (cleaner.rules().isEmpty())
         return refuse(u"the browser rules could not be read"_s);
-    const QList<Browser> known = cleaner.browsers();
+    const QList<Browser> allBrowsers = cleaner.browsers();
     for (const QString &name : invocation.values(Option::Browser)) {
         const auto browser =
-            std::find_if(known.begin(), known.end(), [&name](const Browser &candidate) {
+            std::find_if(allBrowsers.begin(), allBrowsers.end(), [&name](const Browser &candidate) {
                 return browsers::isCalled(candidate, name);
             });
-        if (browser == known.end())
+        if (browser == allBrowsers.end())
             return refuse(u"there is no browser '%1'"_s.arg(name));
         cleaner.setBrowserEnabled(browser->type, true);
     }
@@ -122,12 +124,12 @@ Target registryTarget(RegistryCleaner &cleaner)
 
 ExitStatus scanJunk(const Invocation &invocation)
 {
-    return withJunk(scan, invocation);
+    return runWithJunk(scan, invocation);
 }
 
 ExitStatus scanBrowser(const Invocation &invocation)
 {
-    return withBrowsers(scan, invocation);
+    return runWithBrowsers(scan, invocation);
 }
 
 ExitStatus scanRegistry(const Invocation &invocation)
@@ -138,12 +140,12 @@ ExitStatus scanRegistry(const Invocation &invocation)
 
 ExitStatus cleanJunk(const Invocation &invocation)
 {
-    return withJunk(clean, invocation);
+    return runWithJunk(clean, invocation);
 }
 
 ExitStatus cleanBrowser(const Invocation &invocation)
 {
-    return withBrowsers(clean, invocation);
+    return runWithBrowsers(clean, invocation);
 }
 
 ExitStatus cleanRegistry(const Invocation &invocation)

@@ -99,7 +99,7 @@ ExitStatus listLargeFiles(const Invocation &invocation)
               [](const LargeFileInfo &left, const LargeFileInfo &right) {
                   return left.size != right.size ? left.size > right.size : left.path < right.path;
               });
-    return finish(
+    return printReport(
         invocation, [&] { return asJson(scanner, files); }, [&] { return asText(scanner, files); });
 }
 

@@ -8,10 +8,10 @@
 namespace {
 
 // The engines tell the debug output what they do; here that would mix with the report.
-void dropDebugOutput(QtMsgType type, const QMessageLogContext &, const QString &message)
+void writeWarningsOnly(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type != QtDebugMsg && type != QtInfoMsg)
-        cli::complain(message + u'\n');
+        cli::writeError(message + u'\n');
 }
 
 } // namespace
@@ -23,6 +23,6 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(appinfo::name);
     QCoreApplication::setApplicationVersion(appinfo::version);
     QCoreApplication::setOrganizationName(appinfo::organisation);
-    qInstallMessageHandler(dropDebugOutput);
+    qInstallMessageHandler(writeWarningsOnly);
     return cli::runCommandLine(QCoreApplication::arguments());
 }

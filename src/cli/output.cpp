@@ -23,19 +23,19 @@ QString exitStatusHelp()
     return texts.join(", "_L1);
 }
 
-void complain(const QString &text)
+void writeError(const QString &text)
 {
     std::fputs(qPrintable(text), stderr);
 }
 
 ExitStatus refuse(const QString &message)
 {
-    complain("sweepwise-cli: "_L1 + message + "\nSee sweepwise-cli --help.\n"_L1);
+    writeError("sweepwise-cli: "_L1 + message + "\nSee sweepwise-cli --help.\n"_L1);
     return WrongUse;
 }
 
-ExitStatus finish(const Invocation &invocation, const std::function<QJsonObject()> &asJson,
-                  const std::function<QString()> &asText, ExitStatus status)
+ExitStatus printReport(const Invocation &invocation, const std::function<QJsonObject()> &asJson,
+                       const std::function<QString()> &asText, ExitStatus status)
 {
     const QByteArray report =
         invocation.has(Option::Json) ? QJsonDocument(asJson()).toJson() : asText().toLocal8Bit();

@@ -108,7 +108,7 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
         if (category.riskLevel > LowRisk)
             stream << " (" << riskWord(category.riskLevel) << ')';
         stream << '\n';
-        if (items == Items::Left)
+        if (items == Items::Omitted)
             continue;
         for (const CleanItem &item : category.items) {
             // Which ones are meant has to be said of each only where it is not the same for all.
@@ -119,15 +119,15 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
             writeItem(stream, item, category, subject.unit);
         }
     }
-    const auto total = [&](int count, qint64 size) {
+    const auto writeTotal = [&](int count, qint64 size) {
         stream << count << " items";
         if (hasSizes)
             stream << ", " << formatSize(size);
     };
     stream << "Found ";
-    total(result.totalCount(), result.totalSize());
+    writeTotal(result.totalCount(), result.totalSize());
     stream << "; selected ";
-    total(result.checkedCount(), result.checkedSize());
+    writeTotal(result.checkedCount(), result.checkedSize());
     stream << ".\n";
     return text;
 }

@@ -9,7 +9,7 @@
 /// How a scan and a clean are told on standard output: the same shape for every engine.
 namespace report {
 
-enum class Items { Left, Listed };
+enum class Items { Omitted, Listed };
 enum class Unit { Bytes, Entries }; ///< Entries have no size: they are counted
 
 /// What is told of.

@@ -63,7 +63,7 @@ ExitStatus restore(const Invocation &invocation)
     const auto restored =
         std::count_if(outcomes.begin(), outcomes.end(),
                       [](const RegistryRestore::Outcome &outcome) { return outcome.isRestored; });
-    return finish(
+    return printReport(
         invocation, [&] { return asJson(outcomes, restored); },
         [&] { return asText(outcomes, restored); },
         restored == outcomes.size() ? Success : SomeFailed);

@@ -42,7 +42,7 @@ ExitStatus switchStartup(const Invocation &invocation, bool enable)
     const StartupApp changed = *std::find_if(apps.cbegin(), apps.cend(), hasName);
     if (changed.isStartup != enable)
         return refuse(u"'%1' was changed by another program meanwhile"_s.arg(app.name));
-    return finish(
+    return printReport(
         invocation, [&] { return asObject(changed); },
         [&] {
             return (enable ? u"%1 starts with the session now.\n"_s
@@ -66,7 +66,7 @@ ExitStatus listStartup(const Invocation &invocation)
 {
     StartupManager manager;
     const QList<StartupApp> &apps = manager.apps();
-    return finish(
+    return printReport(
         invocation,
         [&] {
             return QJsonObject{{u"apps"_s, jsonArray(apps, asObject)}};

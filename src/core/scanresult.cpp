@@ -11,7 +11,7 @@ constexpr qint64 kibi = 1024;
 constexpr qint64 mebi = kibi * 1024;
 constexpr qint64 gibi = mebi * 1024;
 
-QString number(qint64 bytes, qint64 unit, int decimals)
+QString formatNumber(qint64 bytes, qint64 unit, int decimals)
 {
     return QString::number(static_cast<double>(bytes) / static_cast<double>(unit), 'f', decimals);
 }
@@ -113,10 +113,10 @@ QString formatSize(qint64 bytes)
     if (bytes < 0)
         return QCoreApplication::translate("formatSize", "0 B");
     if (bytes >= gibi)
-        return QCoreApplication::translate("formatSize", "%1 GB").arg(number(bytes, gibi, 2));
+        return QCoreApplication::translate("formatSize", "%1 GB").arg(formatNumber(bytes, gibi, 2));
     if (bytes >= mebi)
-        return QCoreApplication::translate("formatSize", "%1 MB").arg(number(bytes, mebi, 1));
+        return QCoreApplication::translate("formatSize", "%1 MB").arg(formatNumber(bytes, mebi, 1));
     if (bytes < kibi)
         return QCoreApplication::translate("formatSize", "%1 B").arg(bytes);
-    return QCoreApplication::translate("formatSize", "%1 KB").arg(number(bytes, kibi, 1));
+    return QCoreApplication::translate("formatSize", "%1 KB").arg(formatNumber(bytes, kibi, 1));
 }

@@ -29,7 +29,7 @@ QString pageLanguage(const QString &locale)
     return languages::contains(code) ? code : u"en"_s;
 }
 
-void tell(QMessageBox::Icon icon, const QString &title, const QString &text, QWidget *parent)
+void showMessage(QMessageBox::Icon icon, const QString &title, const QString &text, QWidget *parent)
 {
     QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
@@ -153,8 +153,8 @@ bool LinkManager::openLink(const QString &category, const QString &key, QWidget 
     if (link.isEmpty()) {
         qDebug() << "[LinkManager] ✗ 无法打开链接:" << category << key;
         if (parent)
-            tell(QMessageBox::Critical, tr("配置错误"),
-                 tr("无法加载页面链接。\n\n请联系技术支持或重新安装软件。"), parent);
+            showMessage(QMessageBox::Critical, tr("配置错误"),
+                        tr("无法加载页面链接。\n\n请联系技术支持或重新安装软件。"), parent);
         return false;
     }
     if (openUrl(QUrl(link))) {
@@ -163,8 +163,8 @@ bool LinkManager::openLink(const QString &category, const QString &key, QWidget 
     }
     qDebug() << "[LinkManager] ⚠ 无法打开浏览器:" << link;
     if (parent)
-        tell(QMessageBox::Warning, tr("无法打开浏览器"),
-             tr("无法打开默认浏览器。\n\n请手动复制链接访问：\n%1").arg(link), parent);
+        showMessage(QMessageBox::Warning, tr("无法打开浏览器"),
+                    tr("无法打开默认浏览器。\n\n请手动复制链接访问：\n%1").arg(link), parent);
     return false;
 }
 

@@ -34,11 +34,11 @@ bool isExtension(const QString &folder)
 }
 
 /// Whether @p path lies in such a folder somewhere below @p profile, or is or holds one.
-bool touches(bool (*isMeant)(const QString &), const QString &path, const QString &profile)
+bool isInOrHolds(bool (*isSuchFolder)(const QString &), const QString &path, const QString &profile)
 {
     for (QString folder = QFileInfo(path).path(); folder.size() >= profile.size();
          folder = QFileInfo(folder).path()) {
-        if (isMeant(folder))
+        if (isSuchFolder(folder))
             return true;
     }
     if (!QFileInfo(path).isDir())
@@ -46,10 +46,10 @@ bool touches(bool (*isMeant)(const QString &), const QString &path, const QStrin
     QDirIterator it(path, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
                     QDirIterator::Subdirectories);
     while (it.hasNext()) {
-        if (isMeant(it.next()))
+        if (isSuchFolder(it.next()))
             return true;
     }
-    return isMeant(path);
+    return isSuchFolder(path);
 }
 
 void add(CleanCategory &category, const QFileInfo &info, const BrowserRule &rule)
@@ -75,8 +75,8 @@ void scanChromiumProfile(const QString &profile, const BrowserRule &rule, CleanC
         if (!rule.subPath.isEmpty())
             continue;
         CleanItem &item = category.items.last();
-        const bool isOfDatabase = touches(isDatabase, item.path, profile);
-        if (!isOfDatabase && !touches(isExtension, item.path, profile))
+        const bool isOfDatabase = isInOrHolds(isDatabase, item.path, profile);
+        if (!isOfDatabase && !isInOrHolds(isExtension, item.path, profile))
             continue;
         item.checked = false;
         item.riskLevel = HighRisk;

@@ -100,19 +100,20 @@ void makeDatabase(const TestTree &tree, const QString &folder)
 
 /// What of a category is not meant to be cleaned by default, below @p root and sorted. Checks that
 /// each of these says why, and that the others are what the rule makes them.
-QStringList held(const ScanResult &result, const QString &id, const QString &root)
+QStringList untickedPaths(const ScanResult &result, const QString &id, const QString &root)
 {
     QStringList list;
     const CleanCategory *category = find(result, id);
     if (!category)
         return {u"no such category"_s};
     for (const CleanItem &item : category->items) {
-        const bool isHeld = !item.checked;
-        if (isHeld)
+        const bool isUnticked = !item.checked;
+        if (isUnticked)
             list.append(item.path.mid(root.size() + 1));
         const bool isWarned = item.description.startsWith("Holds part of a database: "_L1)
             || item.description.startsWith("Belongs to an extension, "_L1);
-        if (isWarned != isHeld || (isHeld ? item.riskLevel != HighRisk : item.riskLevel != LowRisk))
+        if (isWarned != isUnticked
+            || (isUnticked ? item.riskLevel != HighRisk : item.riskLevel != LowRisk))
             list.append("wrongly described: "_L1 + item.path);
     }
     list.sort();
@@ -124,16 +125,16 @@ QStringList held(const ScanResult &result, const QString &id, const QString &roo
 #ifdef Q_OS_UNIX
 namespace {
 
-int removalsUntilThen = -1; ///< below 0 never
-std::function<void()> happensThen;
+int removalsBeforeHook = -1; ///< below 0 never
+std::function<void()> removalHook;
 
 } // namespace
 
 // Every removal comes by here, so that a test can have something happen between two of them.
 extern "C" int unlinkat(int folder, const char *name, int flags) noexcept
 {
-    if (removalsUntilThen >= 0 && --removalsUntilThen < 0)
-        happensThen();
+    if (removalsBeforeHook >= 0 && --removalsBeforeHook < 0)
+        removalHook();
     return static_cast<int>(::syscall(SYS_unlinkat, folder, name, flags));
 }
 #endif
@@ -441,7 +442,7 @@ private Q_SLOTS:
 
     // --- databases
 
-    void whatANameHitsInADatabaseStartsUnticked()
+    void aFileMatchedByNameInADatabaseStartsUnticked()
     {
         const TestTree tree;
         const QString profile = chromeProfile();
@@ -465,7 +466,7 @@ private Q_SLOTS:
         cleaner.loadRules(shipped);
         scan(cleaner);
         const QString root = tree.path(profile);
-        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, root),
+        QCOMPARE(untickedPaths(cleaner.result(), u"google_chrome_logs"_s, root),
                  (QStringList{u"Local Storage/leveldb/000003.log"_s,
                               u"shared_proto_db/000003.log"_s, u"shared_proto_db/lost/000002.log"_s,
                               u"shared_proto_db/metadata/000003.log"_s}));
@@ -507,10 +508,11 @@ private Q_SLOTS:
         BrowserCleaner cleaner(foldersOf(tree));
         cleaner.loadRules(shipped);
         scan(cleaner);
-        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, tree.path(profile)), expected);
+        QCOMPARE(untickedPaths(cleaner.result(), u"google_chrome_logs"_s, tree.path(profile)),
+                 expected);
         QVERIFY(paths(cleaner.result(), u"google_chrome_logs"_s, tree.path(profile))
                     .contains(u"harmless.log"_s));
-        QCOMPARE(held(cleaner.result(), u"google_chrome_favicons"_s, tree.path(profile)),
+        QCOMPARE(untickedPaths(cleaner.result(), u"google_chrome_favicons"_s, tree.path(profile)),
                  QStringList{u"Favicons"_s});
         // Nothing of the category would be cleaned; its own mark is the rule's all the same.
         const CleanCategory &favicons = *find(cleaner.result(), u"google_chrome_favicons"_s);
@@ -519,7 +521,7 @@ private Q_SLOTS:
     }
 
     // The files of an extension are what was installed, whatever their names.
-    void whatANameHitsInAnExtensionStartsUnticked()
+    void aFileMatchedByNameInAnExtensionStartsUnticked()
     {
         const TestTree tree;
         const QString profile = chromeProfile();
@@ -537,10 +539,10 @@ private Q_SLOTS:
         cleaner.loadRules(shipped);
         scan(cleaner);
         const QString root = tree.path(profile);
-        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, root),
+        QCOMPARE(untickedPaths(cleaner.result(), u"google_chrome_logs"_s, root),
                  (QStringList{u"Extensions/abcdef/1.0_0/db/000003.log"_s,
                               u"Extensions/abcdef/1.0_0/update.log"_s, u"whole.log"_s}));
-        QCOMPARE(held(cleaner.result(), u"google_chrome_favicons"_s, root),
+        QCOMPARE(untickedPaths(cleaner.result(), u"google_chrome_favicons"_s, root),
                  QStringList{u"Extensions/abcdef/1.0_0/icons/Favicons"_s});
         QCOMPARE(find(cleaner.result(), u"google_chrome_logs"_s)->items.size(), 5);
         for (const CleanItem &item : find(cleaner.result(), u"google_chrome_logs"_s)->items)
@@ -548,7 +550,7 @@ private Q_SLOTS:
                      item.path.contains("/db/"_L1));
     }
 
-    void aProfileThatIsADatabaseKeepsWhatNamesHit()
+    void filesMatchedByNameInAProfileThatIsADatabaseStartUnticked()
     {
         const TestTree tree;
         makeDatabase(tree, chromeProfile());
@@ -557,12 +559,13 @@ private Q_SLOTS:
         BrowserCleaner cleaner(foldersOf(tree));
         cleaner.loadRules(shipped);
         scan(cleaner);
-        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, tree.path(chromeProfile())),
-                 (QStringList{u"000003.log"_s, u"sub/a.log"_s}));
+        QCOMPARE(
+            untickedPaths(cleaner.result(), u"google_chrome_logs"_s, tree.path(chromeProfile())),
+            (QStringList{u"000003.log"_s, u"sub/a.log"_s}));
         QCOMPARE(cleaner.result().checkedCount(), 1);
     }
 
-    void aRuleSpeaksOfTheDatabasesInItsOwnFolder()
+    void aRuleWithItsOwnFolderTakesTheDatabasesInIt()
     {
         const TestTree tree;
         const QString profile = chromeProfile();
@@ -572,9 +575,10 @@ private Q_SLOTS:
         cleaner.loadRules(shipped);
         scan(cleaner);
         const QString root = tree.path(profile);
-        QCOMPARE(held(cleaner.result(), u"google_chrome_thumbnails"_s, root), QStringList());
+        QCOMPARE(untickedPaths(cleaner.result(), u"google_chrome_thumbnails"_s, root),
+                 QStringList());
         QCOMPARE(find(cleaner.result(), u"google_chrome_thumbnails"_s)->checkedCount(), 5);
-        QCOMPARE(held(cleaner.result(), u"google_chrome_logs"_s, root),
+        QCOMPARE(untickedPaths(cleaner.result(), u"google_chrome_logs"_s, root),
                  (QStringList{u"Local Storage/leveldb/000003.log"_s, u"Thumbnails/000003.log"_s}));
         const CleanCategory &storage = *find(cleaner.result(), u"google_chrome_local_storage"_s);
         QCOMPARE(storage.items.size(), 1 + 5);
@@ -585,7 +589,7 @@ private Q_SLOTS:
         }
     }
 
-    void aDefaultCleanLeavesDatabasesWholeAndATickTakesThem()
+    void aDefaultCleanKeepsDatabasesAndATickRemovesThem()
     {
         const TestTree tree;
         const QString profile = chromeProfile();
@@ -717,7 +721,7 @@ private Q_SLOTS:
                  (QStringList{u"brave"_s, u"cache"_s, u"Cache - more"_s}));
     }
 
-    void aProfileSweepsUpNoNeighbour()
+    void foldersThatAreNoProfilesAreNotScanned()
     {
         const TestTree tree;
         const QString root = u"Local/Google/Chrome/User Data/"_s;
@@ -752,7 +756,7 @@ private Q_SLOTS:
                  (QStringList{tree.path(root + "Default"_L1), tree.path(root + "Profile 2"_L1)}));
     }
 
-    void whatCannotBeLookedAtIsSaid()
+    void whatCannotBeReadIsLogged()
     {
         const TestTree tree;
         const QString chrome = tree.path(u"Local/Google/Chrome/User Data"_s);
@@ -961,7 +965,7 @@ private Q_SLOTS:
 
     // --- cleaning
 
-    void whatIsTickedGoesAndTheRestStays()
+    void aCleanRemovesWhatIsTickedAndNothingElse()
     {
         const TestTree tree;
         browserprofiles::makeAll(tree);
@@ -976,19 +980,19 @@ private Q_SLOTS:
         cleaner.loadRules(shipped);
         scan(cleaner);
         const ScanResult selected = cleaner.result().checkedOnly();
-        QStringList gone;
+        QStringList removed;
         qint64 bytes = 0;
         QSet<QString> seen;
         for (const CleanCategory &category : selected.categories) {
             for (const CleanItem &item : category.items) {
-                gone.append(item.path);
+                removed.append(item.path);
                 if (!item.isDirectory && !seen.contains(item.path))
                     bytes += item.size;
                 seen.insert(item.path);
             }
         }
         QMap<QString, QString> expected = tree.snapshot();
-        for (const QString &path : gone)
+        for (const QString &path : removed)
             expected.remove(path);
         SignalSpy progress(&cleaner, &CleanEngine::cleanProgress);
         SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
@@ -996,7 +1000,7 @@ private Q_SLOTS:
         clean(cleaner, finished);
         QCOMPARE(tree.snapshot(), expected);
         QCOMPARE(fence.snapshot(), fenceBefore);
-        const int count = static_cast<int>(gone.size());
+        const int count = static_cast<int>(removed.size());
         QCOMPARE(finished.constFirst(), (QList<QVariant>{bytes, count}));
         QCOMPARE(progress.size(), count);
         QCOMPARE(progress.constFirst(), (QList<QVariant>{1, count, qint64(0)}));
@@ -1009,7 +1013,7 @@ private Q_SLOTS:
         QVERIFY(!log.contains(u"is running"_s));
     }
 
-    void aCleanSurvivesAFolderThatWentWithItsParent()
+    void itemsRemovedWithTheirFolderAreNoFailures()
     {
         const TestTree tree;
         tree.file(chromeProfile() + "/Cache/Cache_Data/sub/b"_L1, "345");
@@ -1025,7 +1029,7 @@ private Q_SLOTS:
         QVERIFY(!tree.has(chromeProfile() + "/Cache/Cache_Data"_L1));
     }
 
-    void aFolderThatACancelLeavesIsNoFailure()
+    void aFolderPartlyRemovedBecauseOfACancelIsNoFailure()
     {
         const TestTree tree;
         for (int i = 0; i < 50; ++i)
@@ -1053,26 +1057,26 @@ private Q_SLOTS:
         QVERIFY(cleaner.failures().isEmpty());
     }
 
-    void whatIsGoneSinceTheScanIsACountedFailure()
+    void aFileRemovedSinceTheScanIsACountedFailure()
     {
         const TestTree tree;
-        const QString gone = tree.file(chromeProfile() + "/GPUCache/a"_L1, "1");
+        const QString removed = tree.file(chromeProfile() + "/GPUCache/a"_L1, "1");
         tree.file(chromeProfile() + "/GPUCache/b"_L1, "22");
         BrowserCleaner cleaner(foldersOf(tree));
         cleaner.loadRules(shipped);
         scan(cleaner);
-        QVERIFY(QFile::remove(gone));
+        QVERIFY(QFile::remove(removed));
         SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         const LogCapture log;
         clean(cleaner, finished);
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(2), 1}));
-        QCOMPARE(log.count(u"[WARN] Failed to delete: "_s + gone), 1);
+        QCOMPARE(log.count(u"[WARN] Failed to delete: "_s + removed), 1);
         QVERIFY(log.contains(u"Cleaned 1 items, 2 B. Failed: 1 items"_s));
         QCOMPARE(cleaner.failures().size(), 1);
-        QCOMPARE(cleaner.failures().constFirst().path, gone);
+        QCOMPARE(cleaner.failures().constFirst().path, removed);
     }
 
-    void aRunningBrowserIsWarnedOfAndCleanedAllTheSame()
+    void aRunningBrowserIsLoggedAndCleanedAnyway()
     {
         const TestTree tree;
         browserprofiles::makeChromium(tree, u"Roaming/Opera Software/Opera Stable/Default"_s);
@@ -1256,7 +1260,7 @@ private Q_SLOTS:
         QCOMPARE(finished.constFirst(), (QList<QVariant>{qint64(0), 0}));
     }
 
-    void aFolderItemThatBecameALinkGoesAsALink()
+    void aFolderItemThatBecameALinkIsRemovedAsALink()
     {
         const TestTree outside;
         outside.file(u"canary"_s);
@@ -1300,21 +1304,22 @@ private Q_SLOTS:
         scan(cleaner);
         const int found = cleaner.result().checkedCount();
         QVERIFY(found >= files);
-        happensThen = [&] {
+        removalHook = [&] {
             QVERIFY(QDir().rename(tree.path(folder), tree.path(u"away"_s)));
             QVERIFY(QDir().rename(tree.path(u"other"_s), tree.path(folder)));
         };
         if (isDuring)
-            removalsUntilThen = 20;
+            removalsBeforeHook = 20;
         else
-            happensThen();
+            removalHook();
         SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
         QCOMPARE(QDir(tree.path(folder)).entryList(QDir::Files).size(), files);
-        const auto left = QDir(tree.path(u"away"_s)).entryList(QDir::Files).size();
-        QVERIFY2(left >= files - (isDuring ? 20 + 32 : 0), qPrintable(QString::number(left)));
+        const auto remaining = QDir(tree.path(u"away"_s)).entryList(QDir::Files).size();
+        QVERIFY2(remaining >= files - (isDuring ? 20 + 32 : 0),
+                 qPrintable(QString::number(remaining)));
         const int cleaned = finished.constFirst().at(1).toInt();
-        QVERIFY2(cleaned <= files - left, qPrintable(QString::number(cleaned)));
+        QVERIFY2(cleaned <= files - remaining, qPrintable(QString::number(cleaned)));
         QCOMPARE(cleaner.failures().size(), found - cleaned);
         QCOMPARE(cleaner.failures().constLast().reason,
                  u"Its folder is not the one that was listed"_s);
@@ -1332,15 +1337,15 @@ private Q_SLOTS:
         BrowserCleaner cleaner(foldersOf(tree));
         cleaner.loadRules(shipped);
         scan(cleaner);
-        happensThen = [&] { QVERIFY(QDir().rename(tree.path(folder), tree.path(u"away"_s))); };
-        removalsUntilThen = 20;
+        removalHook = [&] { QVERIFY(QDir().rename(tree.path(folder), tree.path(u"away"_s))); };
+        removalsBeforeHook = 20;
         SignalSpy finished(&cleaner, &CleanEngine::cleanFinished);
         clean(cleaner, finished);
-        const auto left = QDir(tree.path(u"away"_s)).entryList(QDir::Files).size();
-        QVERIFY(left > 0);
+        const auto remaining = QDir(tree.path(u"away"_s)).entryList(QDir::Files).size();
+        QVERIFY(remaining > 0);
         const int cleaned = finished.constFirst().at(1).toInt();
-        QVERIFY2(cleaned <= files - left, qPrintable(QString::number(cleaned)));
-        QVERIFY(cleaner.failures().size() >= left);
+        QVERIFY2(cleaned <= files - remaining, qPrintable(QString::number(cleaned)));
+        QVERIFY(cleaner.failures().size() >= remaining);
     }
 
     void aLinkCountsForItsOwnSize()

@@ -44,9 +44,9 @@ public:
     {
     }
 
-    bool enter(const CleanItem &item, const platform::FileRemover::Outcome &outcome)
+    bool record(const CleanItem &item, const platform::FileRemover::Outcome &outcome)
     {
-        const std::optional<qint64> freed = m_ledger.enter(item, outcome);
+        const std::optional<qint64> freed = m_ledger.record(item, outcome);
         ++(freed ? m_cleanedCount : m_failedCount);
         m_cleanedSize += freed.value_or(0);
         return freed.has_value();
@@ -71,83 +71,83 @@ private Q_SLOTS:
     void filesAreCountedOneByOne()
     {
         Clean ledger(selectionOf({}));
-        QVERIFY(ledger.enter(file(u"/p/a"_s, 3), removed));
-        QVERIFY(ledger.enter(file(u"/p/b"_s, 4), removed));
-        QVERIFY(!ledger.enter(file(u"/p/c"_s, 5), stuck));
-        QVERIFY(!ledger.enter(file(u"/p/d"_s, 6), missing));
+        QVERIFY(ledger.record(file(u"/p/a"_s, 3), removed));
+        QVERIFY(ledger.record(file(u"/p/b"_s, 4), removed));
+        QVERIFY(!ledger.record(file(u"/p/c"_s, 5), stuck));
+        QVERIFY(!ledger.record(file(u"/p/d"_s, 6), missing));
         expect(ledger, 7, 2, 2);
     }
 
-    void whatWentWithItsFolderIsCleanedAndCountedOnce()
+    void anItemRemovedWithItsFolderIsCleanedAndCountedOnce()
     {
         const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
                                      folder(u"/p/f/g"_s, 6), file(u"/p/f/g/b"_s, 6)};
         Clean ledger(selectionOf(items));
-        QVERIFY(ledger.enter(items.at(0), removed));
+        QVERIFY(ledger.record(items.at(0), removed));
         for (int i = 1; i < 4; ++i)
-            QVERIFY(ledger.enter(items.at(i), missing));
+            QVERIFY(ledger.record(items.at(i), missing));
         expect(ledger, 10, 4, 0);
     }
 
-    void whatWentBeforeItsFolderIsCountedOnce()
+    void anItemRemovedBeforeItsFolderIsCountedOnce()
     {
         const QList<CleanItem> items{file(u"/p/f/g/b"_s, 6), folder(u"/p/f/g"_s, 7),
                                      folder(u"/p/f"_s, 10)};
         Clean ledger(selectionOf(items));
         for (const CleanItem &item : items)
-            QVERIFY(ledger.enter(item, removed));
+            QVERIFY(ledger.record(item, removed));
         expect(ledger, 10, 3, 0);
     }
 
     void aFileThatTwoRulesTakeIsCountedOnce()
     {
         Clean ledger(selectionOf({}));
-        QVERIFY(ledger.enter(file(u"/p/History"_s, 9), removed));
-        QVERIFY(ledger.enter(file(u"/p/History"_s, 9), missing));
-        QVERIFY(ledger.enter(file(u"/p/History"_s, 9), removed));
+        QVERIFY(ledger.record(file(u"/p/History"_s, 9), removed));
+        QVERIFY(ledger.record(file(u"/p/History"_s, 9), missing));
+        QVERIFY(ledger.record(file(u"/p/History"_s, 9), removed));
         expect(ledger, 9, 3, 0);
     }
 
-    void ofAFolderThatStayedWhatIsGoneIsCounted()
+    void theRemovedItemsOfAPartlyRemovedFolderAreCounted()
     {
         const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
                                      folder(u"/p/f/g"_s, 6), file(u"/p/f/g/b"_s, 6)};
         Clean ledger(selectionOf(items));
-        QVERIFY(!ledger.enter(items.at(0), partly));
-        QVERIFY(ledger.enter(items.at(1), missing));
-        QVERIFY(!ledger.enter(items.at(2), partly));
-        QVERIFY(!ledger.enter(items.at(3), stuck));
+        QVERIFY(!ledger.record(items.at(0), partly));
+        QVERIFY(ledger.record(items.at(1), missing));
+        QVERIFY(!ledger.record(items.at(2), partly));
+        QVERIFY(!ledger.record(items.at(3), stuck));
         expect(ledger, 4, 1, 3);
     }
 
-    void whatWasReplacedIsNeverCleaned()
+    void aReplacedItemIsNeverCleaned()
     {
         const QList<CleanItem> items{folder(u"/p/f"_s, 10), file(u"/p/f/a"_s, 4),
                                      file(u"/p/f/b"_s, 6)};
         Clean ledger(selectionOf(items));
-        QVERIFY(!ledger.enter(items.at(0), replacedFolder));
-        QVERIFY(!ledger.enter(items.at(1), replaced));
-        QVERIFY(!ledger.enter(items.at(2), missing));
+        QVERIFY(!ledger.record(items.at(0), replacedFolder));
+        QVERIFY(!ledger.record(items.at(1), replaced));
+        QVERIFY(!ledger.record(items.at(2), missing));
         expect(ledger, 0, 0, 3);
     }
 
-    void whatWasReplacedInAFolderThatStayedIsNotCleaned()
+    void aReplacedItemInAPartlyRemovedFolderIsNotCleaned()
     {
         const QList<CleanItem> items{folder(u"/p/f"_s, 10), folder(u"/p/f/g"_s, 6),
                                      file(u"/p/f/g/b"_s, 6)};
         Clean ledger(selectionOf(items));
-        QVERIFY(!ledger.enter(items.at(0), partly));
-        QVERIFY(!ledger.enter(items.at(1), replacedFolder));
-        QVERIFY(!ledger.enter(items.at(2), replaced));
+        QVERIFY(!ledger.record(items.at(0), partly));
+        QVERIFY(!ledger.record(items.at(1), replacedFolder));
+        QVERIFY(!ledger.record(items.at(2), replaced));
         expect(ledger, 0, 0, 3);
     }
 
     void aNeighbourWithALikeNameIsNotBelow()
     {
         Clean ledger(selectionOf({folder(u"C:/p/f"_s, 1)}));
-        QVERIFY(ledger.enter(folder(u"C:/p/f"_s, 1), removed));
-        QVERIFY(!ledger.enter(file(u"C:/p/f2/a"_s, 1), missing));
-        QVERIFY(!ledger.enter(file(u"f"_s, 1), missing));
+        QVERIFY(ledger.record(folder(u"C:/p/f"_s, 1), removed));
+        QVERIFY(!ledger.record(file(u"C:/p/f2/a"_s, 1), missing));
+        QVERIFY(!ledger.record(file(u"f"_s, 1), missing));
     }
 
 private:

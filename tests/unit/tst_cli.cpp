@@ -114,7 +114,7 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    void whatCouldNotBeCleanedIsNamedAndCounted()
+    void failuresAreNamedAndCounted()
     {
         // One file that two rules list: the second removal finds nothing.
         const QString windows = m_home.setFolderVariable("WINDIR", u"windows"_s);
@@ -129,7 +129,7 @@ private Q_SLOTS:
         QVERIFY(!log.exists());
     }
 
-    void whatStartsUntickedInATickedCategoryIsTold()
+    void untickedItemsOfATickedCategoryAreShown()
     {
         m_home.setFolderVariable("LOCALAPPDATA", u"local"_s);
         const auto unset = qScopeGuard([] { qunsetenv("LOCALAPPDATA"); });

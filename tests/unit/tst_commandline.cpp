@@ -103,7 +103,7 @@ private Q_SLOTS:
     {
         QFETCH(Use, use);
         QFETCH(QString, option);
-        nothingIsDoneBy(use, use.line + QStringList{option}, nameOf(option));
+        expectRefused(use, use.line + QStringList{option}, nameOf(option));
     }
 
     void noCleanStartsWithoutAYes_data()
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QFETCH(Use, use);
         QStringList line = use.line;
         QCOMPARE(line.removeAll("--yes"_L1), 1);
-        nothingIsDoneBy(use, line, u"--yes"_s);
+        expectRefused(use, line, u"--yes"_s);
     }
 
     void anOptionOfItsOwnIsTaken_data()
@@ -348,7 +348,7 @@ private:
 
     /// Runs the command with @p line and requires that it is refused with a message that has
     /// @p word in it, and that it changes nothing.
-    void nothingIsDoneBy(const Use &use, const QStringList &line, const QString &word) const
+    void expectRefused(const Use &use, const QStringList &line, const QString &word) const
     {
         Run refused;
         runWithoutEffect(use, line, refused);

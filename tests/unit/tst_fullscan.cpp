@@ -129,7 +129,7 @@ private Q_SLOTS:
         QVERIFY(progressed.at(2).at(1).toString().startsWith("path "_L1));
     }
 
-    void anEngineThatIsNotThereCountsAsDone()
+    void aMissingEngineCountsAsDone()
     {
         junk().progress = {{1, 4}};
         junk().items = 1;
@@ -156,7 +156,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatAnInterruptedScanStillHasToSayIsDropped()
+    void lateReportsOfAnInterruptedScanAreDropped()
     {
         junk().progress = {{9, 10}, {10, 10}};
         junk().hold = true;
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(progressed.constFirst().at(1).toString(), u"path 1"_s);
     }
 
-    void whatAnEngineHasSaidOfARunThatItsPageReplacedIsDropped()
+    void lateReportsOfARunThatItsPageReplacedAreDropped()
     {
         const SignalSpy progressed(m_scan.get(), &FullScan::progressed);
         const SignalSpy finished(m_scan.get(), &FullScan::finished);
@@ -231,7 +231,7 @@ private Q_SLOTS:
         QCOMPARE(finished.size(), 1);
     }
 
-    void anEngineOfAnEarlierStartIsLetGo()
+    void anEngineOfAnEarlierStartIsDisconnected()
     {
         const SignalSpy progressed(m_scan.get(), &FullScan::progressed);
         const SignalSpy finished(m_scan.get(), &FullScan::finished);

@@ -524,7 +524,7 @@ private Q_SLOTS:
         QCOMPARE(category ? names(category) : QStringList(), found);
     }
 
-    void whatLiesBehindAFolderThatMayOnlyBePassedThroughIsFound()
+    void aFolderThatMayOnlyBePassedThroughHidesNothing()
     {
         const TestTree tree;
         tree.file(u"closed/junk/a"_s);
@@ -658,7 +658,7 @@ private Q_SLOTS:
         QVERIFY(outside.has(u"precious"_s));
     }
 
-    void whatBecameAFolderOrALinkSinceTheScanGoesAsWhatItIs()
+    void aFileReplacedByAFolderOrALinkIsRemovedAsWhatItIs()
     {
         const TestTree outside;
         outside.file(u"precious"_s);

@@ -81,7 +81,7 @@ private Q_SLOTS:
         QVERIFY(!translator.load(u":/translations/Sweepwise_%1.qm"_s.arg(code)));
     }
 
-    void everyCatalogueSpeaksForProgramRulesAndToolkit_data()
+    void everyCatalogueTranslatesProgramRulesAndToolkit_data()
     {
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("clean");
@@ -104,7 +104,7 @@ private Q_SLOTS:
         QTest::newRow("it") << u"it"_s << u"Pulisci ora"_s << u"Esci"_s << u"Cookie"_s << u"Sì"_s;
     }
 
-    void everyCatalogueSpeaksForProgramRulesAndToolkit()
+    void everyCatalogueTranslatesProgramRulesAndToolkit()
     {
         QFETCH(QString, code);
         QSettings(appinfo::organisation, appinfo::name).setValue("language"_L1, code);

@@ -219,7 +219,7 @@ private Q_SLOTS:
         QCOMPARE(largeFileType(name), type);
     }
 
-    void onlyRecyclersAndRestorePointsAreLeftOut()
+    void onlyRecycleBinsAndRestorePointsAreExcluded()
     {
         const TestTree tree;
         tree.file(u"$Recycle.Bin/S-1/deleted"_s);
@@ -272,7 +272,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatIsLeftOutMakesNoProgress()
+    void excludedFilesReportNoProgress()
     {
         const TestTree tree;
         fill(tree, 250, u"$Recycle.Bin"_s);
@@ -392,7 +392,7 @@ private Q_SLOTS:
         QCOMPARE(finished.constFirst(), (QVariantList{300, qint64(300)}));
     }
 
-    void aScannerGoesWhileItScans()
+    void aScannerMayBeDeletedWhileItScans()
     {
         const TestTree tree;
         fill(tree, 2000);
@@ -429,7 +429,7 @@ private Q_SLOTS:
         QVERIFY2(longest < 500, qPrintable(QString::number(longest)));
     }
 
-    void theNextScanStartsFromNothing()
+    void theNextScanStartsEmpty()
     {
         const TestTree first;
         fill(first, 120);
@@ -486,7 +486,7 @@ private Q_SLOTS:
         QCOMPARE(scanner.totalSize(), 2);
     }
 
-    void aPathThatNobodyFoundCanBeDeleted()
+    void aPathThatNoScanFoundCanBeDeleted()
     {
         const TestTree tree;
         const QString path = tree.file(u"f"_s);
@@ -592,12 +592,12 @@ private Q_SLOTS:
         expected.clearBit(1);
         QCOMPARE(finished.constFirst(), (QVariantList{expected, 3}));
         QCOMPARE(progress.constFirst(), (QVariantList{0, 3, qint64(0)}));
-        QStringList left;
+        QStringList remaining;
         for (int i = 0; i < 6; ++i) {
             if (tree.has(u"f%1"_s.arg(i)))
-                left.append(u"f%1"_s.arg(i));
+                remaining.append(u"f%1"_s.arg(i));
         }
-        QCOMPARE(left, (QStringList{u"f0"_s, u"f2"_s, u"f5"_s}));
+        QCOMPARE(remaining, (QStringList{u"f0"_s, u"f2"_s, u"f5"_s}));
         // What could not be deleted stays among the results, as it was found.
         QCOMPARE(scanner.results().size(), 4);
         QCOMPARE(scanner.totalSize(), 6 + 4 + 3 + 1);
@@ -627,7 +627,7 @@ private Q_SLOTS:
             QVERIFY(QFile::exists(info.path));
     }
 
-    void theScannerMayGoWhileItDeletes()
+    void aScannerMayBeDeletedWhileItDeletes()
     {
         const TestTree tree;
         fill(tree, 300);
@@ -640,7 +640,7 @@ private Q_SLOTS:
         QCOMPARE(finished.size(), 0);
     }
 
-    void noPathButAnAbsoluteOneIsDeleted()
+    void onlyAnAbsolutePathIsDeleted()
     {
         LargeFileScanner scanner;
         for (const QString &path : {QString(), u"/"_s, u"relative"_s, u".."_s, u"C:"_s, u"C:/"_s})
@@ -734,7 +734,7 @@ private Q_SLOTS:
         QVERIFY(tree.has(u"moved/f"_s));
     }
 
-    void ofALinkToAFileTheLinkGoes()
+    void aLinkToAFileIsRemovedAsALink()
     {
         const TestTree outside;
         outside.file(u"f"_s, "123456");

@@ -156,7 +156,7 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    void aFullDiskTearsNoLine()
+    void aFullDiskLeavesNoPartialLine()
     {
         const TestTree tree;
         const QByteArray disk = QFile::encodeName(tree.folder(u"disk"_s));

@@ -41,7 +41,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("exists");
-        const QString file = existing(u"Program File.exe"_s);
+        const QString file = makeFile(u"Program File.exe"_s);
         const QString folder = file.first(file.lastIndexOf(u'\\'));
         QTest::newRow("empty") << QString() << false;
         QTest::newRow("file") << file << true;
@@ -82,7 +82,7 @@ private Q_SLOTS:
     }
 
     // Nobody but the system can tell: such an entry is not called broken.
-    void everyDoubtIsForTheEntry_data()
+    void whatOnlyTheSystemCanResolveCountsAsExisting_data()
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("short name of a folder") << u"C:\\PROGRA~1\\None\\app.exe"_s;
@@ -103,21 +103,21 @@ private Q_SLOTS:
         QTest::newRow("tabulator behind") << missing + "\t-x"_L1;
         QTest::newRow("below the current folder of a drive") << u"C:sweepwise none.exe"_s;
     }
-    void everyDoubtIsForTheEntry()
+    void whatOnlyTheSystemCanResolveCountsAsExisting()
     {
         QFETCH(QString, text);
         QVERIFY(PathCheck(platform::Registry()).exists(text));
         QVERIFY(PathCheck(platform::Registry()).exists(u'"' + text + u'"'));
     }
 
-    void noDoubtIsMadeOfOrdinaryNames_data()
+    void ordinaryNamesAreNotTakenForAliases_data()
     {
         QTest::addColumn<QString>("name");
         for (const char *name : {"~1", "LONGNAME~1.EXE", "a~b.exe", "A~1.html", "a~1~2.exe", "..",
                                  ".", ".hidden", "a .b", "a.b.c"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
-    void noDoubtIsMadeOfOrdinaryNames()
+    void ordinaryNamesAreNotTakenForAliases()
     {
         QFETCH(QString, name);
         QVERIFY(!PathCheck(platform::Registry())
@@ -158,7 +158,7 @@ private Q_SLOTS:
     // As the system finds a program that is named alone, or without what its file ends in.
     void programsAreLookedUpWhereTheSystemDoes()
     {
-        const QString there = existing(u"Sweepwise Tool.exe"_s);
+        const QString there = makeFile(u"Sweepwise Tool.exe"_s);
         const QString folder = there.first(there.lastIndexOf(u'\\'));
         RegistryFixture fixture(m_home);
         const QString appPaths = u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\"
@@ -257,7 +257,7 @@ private Q_SLOTS:
         const bool wasSet = qEnvironmentVariableIsSet(variable.constData());
         const QByteArray before = qgetenv(variable.constData());
 #ifdef Q_OS_WIN
-        const QString file = existing(u"in variable.exe"_s);
+        const QString file = makeFile(u"in variable.exe"_s);
         const qsizetype cut = file.lastIndexOf(u'\\');
         qputenv(variable.constData(), file.first(cut).toUtf8());
         const bool isFound = PathCheck(platform::Registry()).exists(placeholder + file.mid(cut));
@@ -270,7 +270,7 @@ private Q_SLOTS:
         const bool isFound =
             PathCheck(platform::Registry()).exists(placeholder + "\\in variable.exe"_L1);
 #endif
-        const bool isMissed =
+        const bool isMissingFileFound =
             PathCheck(platform::Registry()).exists(placeholder + "\\sweepwise missing"_L1);
 #ifdef Q_OS_WIN
         // Unset, it stands for nothing.
@@ -285,7 +285,7 @@ private Q_SLOTS:
         else
             qunsetenv(variable.constData());
         QVERIFY(isFound);
-        QVERIFY(!isMissed);
+        QVERIFY(!isMissingFileFound);
         QVERIFY(isGone);
     }
 
@@ -338,7 +338,7 @@ private Q_SLOTS:
         m_home.folder(u"prefix/drive_c/Closed/Inside"_s);
         const QString locked = m_home.folder(u"prefix/drive_c/Locked"_s);
         m_home.folder(u"prefix/drive_c/Locked/Inside"_s);
-        openTheWay();
+        letOthersEnter();
         QVERIFY(QFile::setPermissions(closed,
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
                                           | QFile::ExeGroup | QFile::ExeOther));
@@ -376,7 +376,7 @@ private Q_SLOTS:
 
 private:
     // The Windows path of a file that is there, below a folder with a blank in its name.
-    [[nodiscard]] QString existing(const QString &name) const
+    [[nodiscard]] QString makeFile(const QString &name) const
     {
 #ifdef Q_OS_WIN
         const QString folder = m_home.folder(u"Sweepwise Files"_s);
@@ -393,7 +393,7 @@ private:
 
 #ifndef Q_OS_WIN
     // Others may come as far as the prefix's drive.
-    void openTheWay() const
+    void letOthersEnter() const
     {
         for (const QString &folder :
              {m_home.path(), m_home.folder(u"prefix"_s), m_home.folder(u"prefix/drive_c"_s),

@@ -390,7 +390,7 @@ private Q_SLOTS:
         QVERIFY2(error.startsWith(place), qPrintable(error));
     }
 
-    void damagedTextIsSurvived()
+    void damagedTextCausesNoCrash()
     {
         const QString good = header + '['_L1 + testKey
             + "]\r\n@=\"a\\\\b\\\"c\r\n\"\r\n\"n\"=hex(7):01,02,\\\r\n  03\r\n\"d\"=dword:0000000a\r\n\r\n; x\r\n"_L1;

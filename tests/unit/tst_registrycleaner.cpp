@@ -134,7 +134,7 @@ private Q_SLOTS:
 
     void programPathsAndUninstallEntries()
     {
-        const QString present = existing(u"present.exe"_s);
+        const QString present = makeFile(u"present.exe"_s);
         const QString key = machine + appPaths;
         m_fixture->addText(key + "\\Sweepwise missing.exe"_L1, {}, missing);
         m_fixture->addText(key + "\\Sweepwise present.exe"_L1, {}, present);
@@ -181,7 +181,7 @@ private Q_SLOTS:
         };
         type(u".Sweepwise1"_s, u"SweepwiseGone"_s, u'"' + missing + "\" \"%1\""_L1);
         type(u".Sweepwise2"_s, u"SweepwisePresent"_s,
-             u'"' + existing(u"viewer app.exe"_s) + "\" \"%1\""_L1);
+             u'"' + makeFile(u"viewer app.exe"_s) + "\" \"%1\""_L1);
         type(u".Sweepwise3"_s, u"SweepwiseEmpty"_s, {});
         m_fixture->addKey(classes + ".Sweepwise4"_L1);
         m_fixture->write();
@@ -221,12 +221,12 @@ private Q_SLOTS:
         m_fixture->addText(key + "\\InprocServer32"_L1, {}, missing);
         m_fixture->addText(key + "\\LocalServer32"_L1, {}, u'"' + missing + "\" -Embedding"_L1);
         const QString good = classes + "CLSID\\{00000000-0000-0000-0000-Sweepwise0002}"_L1;
-        m_fixture->addText(good + "\\InprocServer32"_L1, {}, existing(u"good.dll"_s));
+        m_fixture->addText(good + "\\InprocServer32"_L1, {}, makeFile(u"good.dll"_s));
         m_fixture->addText(good + "\\LocalServer32"_L1, {},
-                           u'"' + existing(u"good.exe"_s) + "\" -Embedding"_L1);
+                           u'"' + makeFile(u"good.exe"_s) + "\" -Embedding"_L1);
         const QString unquoted = classes + "CLSID\\{00000000-0000-0000-0000-Sweepwise0003}"_L1;
         m_fixture->addText(unquoted + "\\LocalServer32"_L1, {},
-                           existing(u"good.exe"_s) + " -Embedding"_L1);
+                           makeFile(u"good.exe"_s) + " -Embedding"_L1);
         m_fixture->write();
         scan();
         const auto items = ownItems(m_cleaner->result(), u"invalid_com"_s);
@@ -262,7 +262,7 @@ private Q_SLOTS:
         const QString key = machine + fonts;
         m_fixture->addText(key, u"Sweepwise Bare"_s, u"sweepwise-none.ttf"_s);
         m_fixture->addText(key, u"Sweepwise Gone"_s, u"C:/Sweepwise Missing/f.ttf"_s);
-        m_fixture->addText(key, u"Sweepwise Present"_s, existing(u"f.ttf"_s));
+        m_fixture->addText(key, u"Sweepwise Present"_s, makeFile(u"f.ttf"_s));
         m_fixture->addText(key, u"Sweepwise Empty"_s, {});
         m_fixture->write();
         scan();
@@ -276,7 +276,7 @@ private Q_SLOTS:
 
     void startupCommands()
     {
-        const QString spaced = existing(u"app.exe"_s); // below a folder with a blank in its name
+        const QString spaced = makeFile(u"app.exe"_s); // below a folder with a blank in its name
         m_fixture->addText(machine + runKey, u"Sweepwise a"_s, missing + " -x"_L1);
         m_fixture->addText(machine + runOnceKey, u"Sweepwise b"_s, missing);
         m_fixture->addText(user + runKey, u"Sweepwise c"_s, u'"' + missing + "\" -x"_L1);
@@ -300,7 +300,7 @@ private Q_SLOTS:
 
     void sharedLibrariesStartUnchecked()
     {
-        const QString present = existing(u"shared.dll"_s);
+        const QString present = makeFile(u"shared.dll"_s);
         const QString gone = u"C:\\Sweepwise Missing\\shared.dll"_s;
         m_fixture->addBytes(machine + sharedDlls, gone, 4, QByteArray("\1\0\0\0", 4));
         m_fixture->addBytes(machine + sharedDlls, present, 4, QByteArray("\1\0\0\0", 4));
@@ -319,7 +319,7 @@ private Q_SLOTS:
 
     void namesOfTheMuiCache()
     {
-        const QString present = existing(u"known app.exe"_s);
+        const QString present = makeFile(u"known app.exe"_s);
         const QString key = user + muiCache;
         for (const QString &name :
              {missing + ".FriendlyAppName"_L1, missing + ".ApplicationCompany"_L1,
@@ -515,7 +515,7 @@ private Q_SLOTS:
     // The list shows the key; what bears its name beside it was never looked at.
     void aListedKeyIsNotTakenForAValueOfItsName()
     {
-        const QString good = existing(u"good.exe"_s);
+        const QString good = makeFile(u"good.exe"_s);
         m_fixture->addText(machine + appPaths, u"Sweepwise a"_s, good);
         m_fixture->addText(machine + appPaths + "\\Sweepwise a"_L1, {}, missing);
         m_fixture->addText(user + runKey, u"Sweepwise b"_s, missing);
@@ -534,21 +534,21 @@ private Q_SLOTS:
         QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise b"_s));
     }
 
-    void whatLeadsSomewhereByNowStays()
+    void anEntryThatWasRepairedSinceTheScanStays()
     {
-        const QString good = existing(u"good.exe"_s);
-        const QString toCome = existing(u"to come"_s);
-        QVERIFY(QFile::remove(platform::localPath(toCome)));
+        const QString good = makeFile(u"good.exe"_s);
+        const QString laterFile = makeFile(u"to come"_s);
+        QVERIFY(QFile::remove(platform::localPath(laterFile)));
         m_fixture->addText(user + runKey, u"Sweepwise repaired"_s, missing);
         m_fixture->addText(user + runKey, u"Sweepwise broken"_s, missing);
-        m_fixture->addText(machine + uninstall + "\\Sweepwise"_L1, u"InstallLocation"_s, toCome);
+        m_fixture->addText(machine + uninstall + "\\Sweepwise"_L1, u"InstallLocation"_s, laterFile);
         m_fixture->write();
         scan();
         keepOwnOnly();
         QCOMPARE(m_cleaner->result().checkedCount(), 3);
         m_fixture->addText(user + runKey, u"Sweepwise repaired"_s, u'"' + good + u'"');
         m_fixture->write();
-        existing(u"to come"_s);
+        makeFile(u"to come"_s);
         const QString path = m_home.folder(u"backup"_s) + "/changed.reg"_L1;
         m_cleaner->setBackupPath(path);
         QCOMPARE(clean().constFirst().at(1).toInt(), 1);
@@ -567,7 +567,7 @@ private Q_SLOTS:
     }
 
     // To the registry they are two, whatever a comparison of texts makes of them.
-    void namesThatOnlyLookAlikeBothGo()
+    void namesThatOnlyLookAlikeAreBothRemoved()
     {
         m_fixture->addText(user + runKey, u"Sweepwise K"_s, missing);
         m_fixture->addText(user + runKey, u"Sweepwise \u212a"_s, missing); // the Kelvin sign
@@ -579,7 +579,7 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->hasValue(user + runKey, u"Sweepwise \u212a"_s));
     }
 
-    void aCancelledCleanTellsHowFarItCame()
+    void aCancelledCleanReportsWhatWasRemoved()
     {
         const QString key = u"Software\\Sweepwise Test"_s;
         for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
@@ -878,7 +878,7 @@ private Q_SLOTS:
 
     // The same class in both hives: what is listed of the user's goes from there and from nowhere
     // else, twice listed or not, and comes back there.
-    void ofAClassInBothHivesTheListedOneGoesAndComesBack_data()
+    void aClassInBothHivesIsRemovedFromAndRestoredToTheListedOne_data()
     {
         QTest::addColumn<QString>("brokenHive");
         QTest::addColumn<bool>("isListedTwice");
@@ -886,12 +886,12 @@ private Q_SLOTS:
         QTest::newRow("the user's, listed twice") << user << true;
         QTest::newRow("the machine's, listed once") << machine << false;
     }
-    void ofAClassInBothHivesTheListedOneGoesAndComesBack()
+    void aClassInBothHivesIsRemovedFromAndRestoredToTheListedOne()
     {
         QFETCH(QString, brokenHive);
         QFETCH(bool, isListedTwice);
         const QString key = u"Software\\Classes\\CLSID\\{!Sweepwise both}"_s;
-        const QString good = existing(u"both.dll"_s);
+        const QString good = makeFile(u"both.dll"_s);
         const bool isUsers = brokenHive == user;
         const QString goodHive = isUsers ? machine : user;
         // The user's class wins value by value: the machine's server shows where the user has none.
@@ -937,7 +937,7 @@ private Q_SLOTS:
                      before.text(Hive::ClassesRoot, shown, name));
     }
 
-    void ofAFileTypeTheListedHiveLosesIt()
+    void aFileTypeIsRemovedFromTheListedHiveOnly()
     {
         const QString type = u"Software\\Classes\\.sweepwiseboth"_s;
         m_fixture->addText(user + type, {}, u"SweepwiseBroken"_s);
@@ -945,7 +945,7 @@ private Q_SLOTS:
         m_fixture->addText(machine + type, u"Content Type"_s, u"x/y"_s);
         m_fixture->addText(classes + "SweepwiseBroken\\shell\\open\\command"_L1, {}, missing);
         m_fixture->addText(classes + "SweepwiseGood\\shell\\open\\command"_L1, {},
-                           existing(u"good.exe"_s));
+                           makeFile(u"good.exe"_s));
         // Of this one the user's key has no word on what it is.
         const QString other = u"Software\\Classes\\.sweepwiseother"_s;
         m_fixture->addText(user + other, u"mine"_s, u"x"_s);
@@ -1019,7 +1019,7 @@ private Q_SLOTS:
 #endif
     }
 
-    void keysBelowAreRemovedAndNotRestored()
+    void subkeysAreRemovedAndNotRestored()
     {
         const QString key = appPaths + "\\Sweepwise with keys"_L1;
         m_fixture->addText(machine + key, {}, missing);
@@ -1036,7 +1036,7 @@ private Q_SLOTS:
 
 #ifndef Q_OS_WIN
     // The machine's file is replaced, then the user's cannot be.
-    void ofTwoHivesOnlyWhatWasWrittenIsReported()
+    void onlyTheHiveThatWasWrittenIsReported()
     {
         m_fixture->addText(machine + runKey, u"Sweepwise a"_s, missing);
         m_fixture->addText(machine + runKey, u"Sweepwise b"_s, missing);
@@ -1115,7 +1115,7 @@ private:
     }
 
     // The Windows path of a file that is there, below a folder with a blank in its name.
-    QString existing(const QString &name)
+    QString makeFile(const QString &name)
     {
 #ifdef Q_OS_WIN
         const QString folder = m_home.folder(u"Sweepwise Files"_s);

@@ -71,7 +71,7 @@ private Q_SLOTS:
         QCOMPARE(heard.size(), 6);
     }
 
-    void whatAnEarlierRunHasPostedIsDropped()
+    void callsPostedByAnEarlierRunAreDropped()
     {
         Speaker speaker;
         QList<int> heard;
@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(heard, (QList<int>{11, 12}));
     }
 
-    void whatAnEndedRunPostsIsDropped()
+    void callsPostedByAnEndedRunAreDropped()
     {
         Speaker speaker;
         QList<int> heard;
@@ -177,7 +177,7 @@ private Q_SLOTS:
         QCOMPARE(heard, (QList<int>{2, 3}));
     }
 
-    void aReceiverThatIsGoneHearsNothing()
+    void aDeletedReceiverHearsNothing()
     {
         Speaker speaker;
         auto receiver = speaker.runSignals.makeReceiver();
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(heard, (QList<int>{1, 2, 3}));
     }
 
-    void aReceiverMayGoInItsOwnSlot()
+    void aReceiverMayBeDeletedInItsOwnSlot()
     {
         Speaker speaker;
         auto receiver = speaker.runSignals.makeReceiver();
@@ -212,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(!receiver);
     }
 
-    void theOwnerMayGoWhileItsSignalsAreQueued()
+    void theOwnerMayBeDeletedWhileItsSignalsAreQueued()
     {
         auto speaker = std::make_unique<Speaker>();
         const auto receiver = speaker->runSignals.makeReceiver();
@@ -227,7 +227,7 @@ private Q_SLOTS:
         QVERIFY(heard.isEmpty());
     }
 
-    void receiversMayComeAndGoWhileTheWorkerSpeaks()
+    void receiversMayBeMadeAndDeletedWhileTheWorkerEmits()
     {
         Speaker speaker;
         std::mutex mutex;

@@ -52,9 +52,9 @@ private Q_SLOTS:
 
     void theThreeListsAreReadInOrder()
     {
-        const QString a = existing(u"a/a.exe"_s);
-        const QString b = existing(u"b/b.exe"_s);
-        const QString c = existing(u"c/c.exe"_s);
+        const QString a = makeFile(u"a/a.exe"_s);
+        const QString b = makeFile(u"b/b.exe"_s);
+        const QString c = makeFile(u"c/c.exe"_s);
         product(userList, u"c"_s, u"From user"_s, c);
         product(machineList32, u"b"_s, u"From 32 bits"_s, b);
         product(machineList, u"a"_s, u"From 64 bits"_s, a);
@@ -64,7 +64,7 @@ private Q_SLOTS:
         const LogCapture log;
         QCOMPARE(names(manager),
                  (QStringList{u"From 64 bits"_s, u"From 32 bits"_s, u"From user"_s}));
-        const StartupApp app = own(manager).constFirst();
+        const StartupApp app = testApps(manager).constFirst();
         QCOMPARE(app.id, u"Sweepwise a"_s);
         QCOMPARE(app.exePath, a);
         QCOMPARE(app.iconPath, a);
@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void aProductInTwoListsAppearsOnce()
     {
-        const QString path = existing(u"a/tool.exe"_s);
+        const QString path = makeFile(u"a/tool.exe"_s);
         product(machineList, u"1"_s, u"Tool"_s, path);
         product(machineList32, u"2"_s, u"Tool (32-bit)"_s, path.toUpper());
         m_fixture->write();
@@ -84,25 +84,25 @@ private Q_SLOTS:
         QCOMPARE(names(manager), QStringList{u"Tool"_s});
     }
 
-    void whatIsNoProgramOfTheUsersIsLeftOut()
+    void systemPartsAndProductsWithoutAProgramAreNotListed()
     {
         const auto add = [this](const QString &name) {
-            product(userList, name, name, existing(name.simplified().remove(u' ') + "/x.exe"_L1));
+            product(userList, name, name, makeFile(name.simplified().remove(u' ') + "/x.exe"_L1));
         };
         for (const QString &name :
              {u"Microsoft Visual C++ 2019"_s, u"Old Microsoft .NET Parts"_s, u"Windows Terminal"_s,
               u"Update for Things"_s, u"A Hotfix"_s, u"The Security Update 3"_s, u"WindowsApp"_s,
               u"microsoft visual c++"_s, u"My Windows Tool"_s})
             add(name);
-        product(userList, u"component"_s, u"Component"_s, existing(u"component/x.exe"_s));
+        product(userList, u"component"_s, u"Component"_s, makeFile(u"component/x.exe"_s));
         m_fixture->addBytes(userList + "Sweepwise component"_L1, u"SystemComponent"_s, 4,
                             QByteArray("\1\0\0\0", 4));
-        product(userList, u"no component"_s, u"No Component"_s, existing(u"nocomponent/x.exe"_s));
+        product(userList, u"no component"_s, u"No Component"_s, makeFile(u"nocomponent/x.exe"_s));
         m_fixture->addBytes(userList + "Sweepwise no component"_L1, u"SystemComponent"_s, 4,
                             QByteArray(4, '\0'));
-        product(userList, u"child"_s, u"Child"_s, existing(u"child/x.exe"_s));
+        product(userList, u"child"_s, u"Child"_s, makeFile(u"child/x.exe"_s));
         m_fixture->addText(userList + "Sweepwise child"_L1, u"ParentDisplayName"_s, u"Parent"_s);
-        product(userList, u"nameless"_s, {}, existing(u"nameless/x.exe"_s));
+        product(userList, u"nameless"_s, {}, makeFile(u"nameless/x.exe"_s));
         product(userList, u"gone"_s, u"Gone"_s, u"C:\\Sweepwise Missing\\x.exe"_s);
         m_fixture->write();
         StartupManager manager;
@@ -130,14 +130,14 @@ private Q_SLOTS:
     {
         QFETCH(QString, icon);
         QFETCH(bool, found);
-        const QString path = existing(u"App Folder/app.exe"_s);
-        existing(u"App Folder/app.exe.ico"_s);
+        const QString path = makeFile(u"App Folder/app.exe"_s);
+        makeFile(u"App Folder/app.exe.ico"_s);
         product(userList, u"1"_s, u"App"_s, icon.replace("%1"_L1, path));
         m_fixture->write();
         StartupManager manager;
-        QCOMPARE(own(manager).size(), found ? 1 : 0);
+        QCOMPARE(testApps(manager).size(), found ? 1 : 0);
         if (found)
-            QCOMPARE(own(manager).constFirst().exePath, path);
+            QCOMPARE(testApps(manager).constFirst().exePath, path);
     }
 
     void theExecutableOfAnInstallFolder_data()
@@ -169,10 +169,10 @@ private Q_SLOTS:
         QFETCH(QString, files);
         QFETCH(QString, name);
         QFETCH(QString, chosen);
-        QString folder = existing(u"Install Folder/readme.txt"_s);
+        QString folder = makeFile(u"Install Folder/readme.txt"_s);
         folder.truncate(folder.lastIndexOf(u'\\'));
         for (const QString &file : files.split(u' '))
-            existing("Install Folder/"_L1 + file);
+            makeFile("Install Folder/"_L1 + file);
         const QString expected = chosen.isEmpty() ? QString() : folder + u'\\' + chosen;
         QCOMPARE(StartupManager::findExecutable(folder, name), expected);
         QCOMPARE(StartupManager::findExecutable(folder + u'\\', name), expected);
@@ -182,7 +182,7 @@ private Q_SLOTS:
     {
         QVERIFY(StartupManager::findExecutable({}, u"x"_s).isEmpty());
         QVERIFY(StartupManager::findExecutable(u"C:\\Sweepwise Missing"_s, u"x"_s).isEmpty());
-        QVERIFY(StartupManager::findExecutable(existing(u"file.exe"_s), u"x"_s).isEmpty());
+        QVERIFY(StartupManager::findExecutable(makeFile(u"file.exe"_s), u"x"_s).isEmpty());
     }
 
     // What is no whole path would be looked for wherever this program was started.
@@ -200,7 +200,7 @@ private Q_SLOTS:
         m_fixture->addText(key, u"InstallLocation"_s, u"folder"_s);
         m_fixture->write();
         StartupManager manager;
-        const auto found = own(manager).size();
+        const auto found = testApps(manager).size();
         const QString program = StartupManager::commandPath(u"here.exe --x"_s);
         const QString inFolder = StartupManager::findExecutable(u"folder"_s, u"here"_s);
         const QString inThis = StartupManager::findExecutable(u"."_s, u"here"_s);
@@ -228,45 +228,45 @@ private Q_SLOTS:
     {
         QFETCH(QString, command);
         QFETCH(QString, path);
-        const QString file = existing(u"with blank.exe"_s);
+        const QString file = makeFile(u"with blank.exe"_s);
         QCOMPARE(StartupManager::commandPath(command.replace("%1"_L1, file)),
                  path.replace("%1"_L1, file));
     }
 
     void programsOfTheRunKeyAreMarked()
     {
-        const QString a = existing(u"a/a.exe"_s);
-        const QString b = existing(u"b/b.exe"_s);
+        const QString a = makeFile(u"a/a.exe"_s);
+        const QString b = makeFile(u"b/b.exe"_s);
         product(userList, u"a"_s, u"A"_s, a);
         product(userList, u"b"_s, u"B"_s, b);
         m_fixture->addText(runKey, u"Sweepwise other name"_s,
                            "  \""_L1 + a.toUpper() + "\" --minimized "_L1);
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(own(manager).at(0).isStartup);
-        QVERIFY(!own(manager).at(1).isStartup);
+        QVERIFY(testApps(manager).at(0).isStartup);
+        QVERIFY(!testApps(manager).at(1).isStartup);
     }
 
     void switchingOnAndOff()
     {
-        const QString path = existing(u"a b/app.exe"_s);
+        const QString path = makeFile(u"a b/app.exe"_s);
         product(userList, u"app"_s, u"Sweepwise App/Tool"_s, path);
         m_fixture->addText(runKey, u"Sweepwise keep"_s, u"x"_s);
         m_fixture->addText(runKey, u"Sweepwise App\\Tool"_s, u"x"_s);
         m_fixture->write();
         StartupManager manager;
         const LogCapture log;
-        QVERIFY(manager.setStartup(own(manager).constFirst(), true));
-        QVERIFY(own(manager).constFirst().isStartup);
+        QVERIFY(manager.setStartup(testApps(manager).constFirst(), true));
+        QVERIFY(testApps(manager).constFirst().isStartup);
         QVERIFY(log.contains(u"[INFO] Added to startup: Sweepwise App/Tool"_s));
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise App/Tool"_s));
         QCOMPARE(platform::Registry().text(Hive::CurrentUser, runPath, u"Sweepwise App/Tool"_s),
                  u'"' + path + u'"');
 
         StartupManager again;
-        QVERIFY(own(again).constFirst().isStartup);
-        QVERIFY(again.setStartup(own(again).constFirst(), false));
-        QVERIFY(!own(again).constFirst().isStartup);
+        QVERIFY(testApps(again).constFirst().isStartup);
+        QVERIFY(again.setStartup(testApps(again).constFirst(), false));
+        QVERIFY(!testApps(again).constFirst().isStartup);
         QVERIFY(log.contains(u"[INFO] Removed from startup: Sweepwise App/Tool"_s));
         QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise App/Tool"_s));
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise keep"_s));
@@ -275,22 +275,22 @@ private Q_SLOTS:
 
     void switchingOffTakesTheEntryThatStartsTheProgram()
     {
-        const QString path = existing(u"a/app.exe"_s);
+        const QString path = makeFile(u"a/app.exe"_s);
         product(userList, u"app"_s, u"Sweepwise Shown"_s, path);
         m_fixture->addText(runKey, u"Sweepwise\\odd/name"_s, u'"' + path.toUpper() + "\" -x"_L1);
         m_fixture->addText(runKey, u"Sweepwise Shown"_s, u"something else"_s);
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(own(manager).constFirst().isStartup);
-        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
+        QVERIFY(testApps(manager).constFirst().isStartup);
+        QVERIFY(manager.setStartup(testApps(manager).constFirst(), false));
         QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise\\odd/name"_s));
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise Shown"_s));
         // Without such an entry the one of the program's own name goes.
-        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
+        QVERIFY(manager.setStartup(testApps(manager).constFirst(), false));
         QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise Shown"_s));
     }
 
-    void anEmptyNameClearsNothing()
+    void anEmptyNameRemovesNothing()
     {
         m_fixture->addText(runKey, u"Sweepwise keep"_s, u"x"_s);
         m_fixture->addText(runKey + "\\Sweepwise Sub"_L1, u"keep"_s, u"x"_s);
@@ -311,7 +311,7 @@ private Q_SLOTS:
     // Else the program would go on to start.
     void switchingOffTakesEveryEntryThatStartsTheProgram()
     {
-        const QString path = existing(u"twice/app.exe"_s);
+        const QString path = makeFile(u"twice/app.exe"_s);
         product(userList, u"app"_s, u"Sweepwise Twice"_s, path);
         m_fixture->addText(runKey, u"Sweepwise one"_s, u'"' + path + "\" -x \"an argument\""_L1);
         m_fixture->addText(runKey, u"Sweepwise two"_s, path.toUpper());
@@ -319,39 +319,39 @@ private Q_SLOTS:
         m_fixture->addText(runKey, u"Sweepwise other"_s, path + "x"_L1);
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(own(manager).constFirst().isStartup);
+        QVERIFY(testApps(manager).constFirst().isStartup);
         const LogCapture log;
-        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
-        QVERIFY(!own(manager).constFirst().isStartup);
+        QVERIFY(manager.setStartup(testApps(manager).constFirst(), false));
+        QVERIFY(!testApps(manager).constFirst().isStartup);
         for (const QString &name : {u"Sweepwise one"_s, u"Sweepwise two"_s})
             QVERIFY2(!m_fixture->hasValue(runKey, name), qPrintable(name));
         QVERIFY(!platform::Registry().value(Hive::CurrentUser, runPath, {}));
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise other"_s));
-        QVERIFY(!own(manager).constFirst().isStartup);
+        QVERIFY(!testApps(manager).constFirst().isStartup);
         // The arguments are not lost.
         QVERIFY(log.contains("Startup command of Sweepwise one before it was removed: \""_L1 + path
                              + "\" -x \"an argument\""_L1));
         QVERIFY(log.contains("Startup command of Sweepwise two before it was removed: "_L1
                              + path.toUpper()));
         StartupManager again;
-        QVERIFY(!own(again).constFirst().isStartup);
+        QVERIFY(!testApps(again).constFirst().isStartup);
     }
 
     // Programs write there themselves, also while the list is shown.
-    void whatHasChangedSinceItWasLoadedIsNotLost()
+    void aCommandThatChangedSinceTheLoadIsKeptInTheLog()
     {
-        const QString path = existing(u"changed/app.exe"_s);
+        const QString path = makeFile(u"changed/app.exe"_s);
         product(userList, u"app"_s, u"Sweepwise Changed"_s, path);
         m_fixture->addText(runKey, u"Sweepwise one"_s, u'"' + path + "\" --old"_L1);
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(own(manager).constFirst().isStartup);
+        QVERIFY(testApps(manager).constFirst().isStartup);
         m_fixture->addText(runKey, u"Sweepwise one"_s, u'"' + path + "\" --new"_L1);
         m_fixture->addText(runKey, u"Sweepwise two"_s, u'"' + path + "\" --second"_L1);
         m_fixture->write();
         const LogCapture log;
-        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
-        QVERIFY(!own(manager).constFirst().isStartup);
+        QVERIFY(manager.setStartup(testApps(manager).constFirst(), false));
+        QVERIFY(!testApps(manager).constFirst().isStartup);
         QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise two"_s));
         const QString line = u"Startup command of Sweepwise %1 before it was removed: %2"_s;
         QVERIFY(log.contains(line.arg(u"one"_s, u'"' + path + "\" --new"_L1)));
@@ -359,14 +359,14 @@ private Q_SLOTS:
 
         m_fixture->addText(runKey, u"Sweepwise Changed"_s, u'"' + path + "\" --own"_L1);
         m_fixture->write();
-        QVERIFY(manager.setStartup(own(manager).constFirst(), true));
+        QVERIFY(manager.setStartup(testApps(manager).constFirst(), true));
         QVERIFY(log.contains("Startup command of Sweepwise Changed before it was replaced: \""_L1
                              + path + "\" --own"_L1));
     }
 
     void switchingOffTakesEverySpellingOfTheProgram()
     {
-        const QString path = existing(u"spelled/app.exe"_s);
+        const QString path = makeFile(u"spelled/app.exe"_s);
         product(userList, u"app"_s, u"Sweepwise Spelled"_s, path);
         const QStringList commands{u'"' + QString(path).replace(u'\\', u'/') + u'"',
                                    path.toUpper() + " -x"_L1,
@@ -378,8 +378,8 @@ private Q_SLOTS:
             m_fixture->addText(runKey, u"Sweepwise other %1"_s.arg(i), others.at(i));
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(manager.setStartup(own(manager).constFirst(), false));
-        QVERIFY(!own(manager).constFirst().isStartup);
+        QVERIFY(manager.setStartup(testApps(manager).constFirst(), false));
+        QVERIFY(!testApps(manager).constFirst().isStartup);
         for (qsizetype i = 0; i < commands.size(); ++i)
             QVERIFY2(!m_fixture->hasValue(runKey, u"Sweepwise %1"_s.arg(i)),
                      qPrintable(commands.at(i)));
@@ -390,29 +390,29 @@ private Q_SLOTS:
 
     void aCommandThatIsOverwrittenIsKeptInTheLog()
     {
-        const QString path = existing(u"kept/app.exe"_s);
+        const QString path = makeFile(u"kept/app.exe"_s);
         product(userList, u"app"_s, u"Sweepwise Kept"_s, path);
         m_fixture->addText(runKey, u"sweepwise kept"_s, u"C:\\old.exe --with arguments"_s);
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(!own(manager).constFirst().isStartup);
+        QVERIFY(!testApps(manager).constFirst().isStartup);
         const LogCapture log;
-        QVERIFY(manager.setStartup(own(manager).constFirst(), true));
+        QVERIFY(manager.setStartup(testApps(manager).constFirst(), true));
         QVERIFY(log.contains(u"Startup command of sweepwise kept before it was replaced: "
                              "C:\\old.exe --with arguments"_s));
-        QVERIFY(own(manager).constFirst().isStartup);
+        QVERIFY(testApps(manager).constFirst().isStartup);
     }
 
 #ifndef Q_OS_WIN
     // Somebody else has written the registry since it was read here.
-    void afterAFailureTheFlagsAreTheRegistrys()
+    void afterAFailureTheFlagsFollowTheRegistry()
     {
-        const QString path = existing(u"flag/app.exe"_s);
+        const QString path = makeFile(u"flag/app.exe"_s);
         product(userList, u"app"_s, u"Sweepwise Flag"_s, path);
         m_fixture->addText(runKey, u"Sweepwise Flag"_s, u'"' + path + u'"');
         m_fixture->write();
         StartupManager manager;
-        const StartupApp app = own(manager).constFirst();
+        const StartupApp app = testApps(manager).constFirst();
         QVERIFY(app.isStartup);
         struct stat data {
         };
@@ -426,14 +426,14 @@ private Q_SLOTS:
         QVERIFY(!manager.setStartup(app, false));
         QVERIFY(log.contains(u"[ERROR] Failed to remove startup: Sweepwise Flag"_s));
         QVERIFY(manager.errorString().contains("end them and try again"_L1));
-        QVERIFY(own(manager).constFirst().isStartup);
+        QVERIFY(testApps(manager).constFirst().isStartup);
         // It is gone by other hands: the next failure finds that out.
         QFile hive(m_fixture->file(u"HKEY_CURRENT_USER"_s));
         QVERIFY(hive.open(QIODevice::WriteOnly));
         hive.write("WINE REGISTRY Version 2\n\n#arch=win64\n");
         hive.close();
         QVERIFY(!manager.setStartup(app, true));
-        QVERIFY(!own(manager).constFirst().isStartup);
+        QVERIFY(!testApps(manager).constFirst().isStartup);
         server.kill();
         QVERIFY(server.waitForFinished());
     }
@@ -484,32 +484,32 @@ private Q_SLOTS:
 
     void aProductIsFoundByItsInstallFolder()
     {
-        QString folder = existing(u"Installed/unins000.exe"_s);
+        QString folder = makeFile(u"Installed/unins000.exe"_s);
         folder.truncate(folder.lastIndexOf(u'\\'));
         const QString key = userList + "Sweepwise installed"_L1;
         m_fixture->addText(key, u"DisplayName"_s, u"Photo Studio"_s);
         m_fixture->addText(key, u"InstallLocation"_s, folder);
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(own(manager).isEmpty()); // nothing but its uninstaller
-        existing(u"Installed/bin/photostudio.exe"_s);
+        QVERIFY(testApps(manager).isEmpty()); // nothing but its uninstaller
+        makeFile(u"Installed/bin/photostudio.exe"_s);
         manager.loadInstalledApps();
-        QCOMPARE(own(manager).size(), 1);
-        QCOMPARE(own(manager).constFirst().exePath, folder + "\\bin\\photostudio.exe"_L1);
+        QCOMPARE(testApps(manager).size(), 1);
+        QCOMPARE(testApps(manager).constFirst().exePath, folder + "\\bin\\photostudio.exe"_L1);
     }
 
     void anOverwrittenEntryUnmarksTheProgramItStarted()
     {
-        const QString a = existing(u"a/a.exe"_s);
-        const QString b = existing(u"b/b.exe"_s);
+        const QString a = makeFile(u"a/a.exe"_s);
+        const QString b = makeFile(u"b/b.exe"_s);
         product(userList, u"a"_s, u"Sweepwise Same"_s, a);
         product(userList, u"b"_s, u"Sweepwise Same"_s, b);
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(manager.setStartup(own(manager).at(0), true));
-        QVERIFY(manager.setStartup(own(manager).at(1), true));
-        QVERIFY(!own(manager).at(0).isStartup);
-        QVERIFY(own(manager).at(1).isStartup);
+        QVERIFY(manager.setStartup(testApps(manager).at(0), true));
+        QVERIFY(manager.setStartup(testApps(manager).at(1), true));
+        QVERIFY(!testApps(manager).at(0).isStartup);
+        QVERIFY(testApps(manager).at(1).isStartup);
     }
 
     void readingMakesNoKeys()
@@ -561,15 +561,15 @@ private Q_SLOTS:
         QVERIFY(server.waitForFinished());
     }
 
-    void aWholeDriveIsLookedIntoTwoFoldersDeep()
+    void onlyTheDirectSubfoldersOfADriveAreSearched()
     {
-        existing(u"photo.exe"_s); // two folders below the drive's top
-        existing(u"deep/photo.exe"_s);
+        makeFile(u"photo.exe"_s); // two folders below the drive's top
+        makeFile(u"deep/photo.exe"_s);
         QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).endsWith("\\photo.exe"_L1));
         QVERIFY(QFile::remove(m_home.folder(filesFolder()) + "/photo.exe"_L1));
         QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
         // A hidden folder is no place for what people start.
-        existing(u"../Hidden/photo.exe"_s);
+        makeFile(u"../Hidden/photo.exe"_s);
         const QString hidden = m_home.folder(u"prefix/drive_c/Hidden"_s);
         QVERIFY(!StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
         if (::setxattr(QFile::encodeName(hidden).constData(), "user.DOSATTRIB", "0x2", 3, 0) == 0)
@@ -593,7 +593,7 @@ private:
     }
 
     // The Windows path of a file that is there.
-    QString existing(const QString &relative)
+    QString makeFile(const QString &relative)
     {
         const QString folder = m_home.folder(filesFolder());
         QDir().mkpath(QFileInfo(folder + u'/' + relative).path());
@@ -616,7 +616,7 @@ private:
     }
 
     // The live registry has products of its own.
-    static QList<StartupApp> own(StartupManager &manager)
+    static QList<StartupApp> testApps(StartupManager &manager)
     {
         QList<StartupApp> list;
         for (const StartupApp &app : manager.apps()) {
@@ -628,7 +628,7 @@ private:
     static QStringList names(StartupManager &manager)
     {
         QStringList list;
-        for (const StartupApp &app : own(manager))
+        for (const StartupApp &app : testApps(manager))
             list.append(app.name);
         return list;
     }

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestSettingsFile = 1'048'576; // bytes
+constexpr qint64 maxSettingsFileSize = 1'048'576; // bytes
 
 } // namespace
 
@@ -21,12 +21,12 @@ void setAsideDamagedSettings(const QString &fileName)
         platform::settingsFolder() + u'/' + appinfo::organisation + u'/' + fileName;
     const QFileInfo info(path);
     const bool isMissing = !info.exists() && !info.isSymLink();
-    if (isMissing || (info.isFile() && info.size() <= largestSettingsFile))
+    if (isMissing || (info.isFile() && info.size() <= maxSettingsFileSize))
         return;
-    const QString aside = path + ".damaged"_L1;
-    QFile::remove(aside);
-    if (QFile::rename(path, aside))
-        qWarning() << "Unusable settings were set aside:" << aside;
+    const QString damagedPath = path + ".damaged"_L1;
+    QFile::remove(damagedPath);
+    if (QFile::rename(path, damagedPath))
+        qWarning() << "Unusable settings were set aside:" << damagedPath;
     else
         qWarning() << "Unusable settings could not be set aside:" << path;
 }

@@ -50,20 +50,20 @@ void Logger::init(const QString &logDirectory)
     const QMutexLocker lock(&m_mutex);
     if (m_file.isOpen())
         m_file.close();
-    m_fileReady = false;
+    m_isFileReady = false;
 
     QDir().mkpath(logDirectory);
     const QDateTime now = QDateTime::currentDateTime();
     m_file.setFileName(logDirectory + "/sweepwise_"_L1 + now.toString(u"yyyyMMdd"_s) + ".log"_L1);
     if (!m_file.open(QIODevice::Append | QIODevice::Text))
         return;
-    m_fileReady = true;
+    m_isFileReady = true;
 
-    const QString rule(40, u'=');
+    const QString separator(40, u'=');
     QTextStream stream(&m_file);
-    stream << '\n' << rule << '\n';
+    stream << '\n' << separator << '\n';
     stream << "Sweepwise Log Started: " << now.toString(Qt::TextDate) << '\n';
-    stream << rule << '\n';
+    stream << separator << '\n';
 }
 
 void Logger::log(int level, const QString &message)
@@ -76,7 +76,7 @@ void Logger::log(int level, const QString &message)
                               levelText(level), singleLine(message));
     qDebug().noquote() << line;
 
-    if (!m_fileReady)
+    if (!m_isFileReady)
         return;
     const QMutexLocker lock(&m_mutex);
     if (!m_file.isOpen())

@@ -44,5 +44,5 @@ private:
     QFile m_file;
     QMutex m_mutex;
     std::atomic_int m_minimumLevel = Info;
-    std::atomic_bool m_fileReady = false;
+    std::atomic_bool m_isFileReady = false;
 };

@@ -11,9 +11,9 @@ bool isHarmless(QChar c)
     const char16_t code = c.unicode();
     const bool isControl = code < 0x20 || (code >= 0x7f && code < 0xa0);
     const bool isSeparator = code == 0x2028 || code == 0x2029;
-    const bool turnsDirection = code == 0x200e || code == 0x200f || code == 0x061c
+    const bool isDirectionMark = code == 0x200e || code == 0x200f || code == 0x061c
         || (code >= 0x202a && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
-    return !isControl && !isSeparator && !turnsDirection;
+    return !isControl && !isSeparator && !isDirectionMark;
 }
 
 } // namespace

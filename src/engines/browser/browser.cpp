@@ -53,13 +53,13 @@ constexpr std::array descriptions{
 };
 
 // There is an icon for it, though it is not cleaned.
-constexpr QLatin1StringView otherIcon = "safari"_L1;
+constexpr QLatin1StringView iconOnlyBrowser = "safari"_L1;
 
-constexpr qint64 longestProfilesIni = 1'048'576;
+constexpr qint64 maxProfilesIniSize = 1'048'576;
 
 // Links in the data folders are their owner's wish; what a browser makes below them is not
 // followed.
-QString below(const DataFolders &folders, DataFolder folder, const QString &relative)
+QString locateIn(const DataFolders &folders, DataFolder folder, const QString &relative)
 {
     const QString base = folder == DataFolder::Local ? folders.local : folders.roaming;
     QString problem;
@@ -72,7 +72,7 @@ QString below(const DataFolders &folders, DataFolder folder, const QString &rela
 // Without its data folder nothing of the browser is there either; it is told where it would be.
 QString dataRoot(const DataFolders &folders, const Description &browser)
 {
-    const QString located = below(folders, browser.folder, browser.root);
+    const QString located = locateIn(folders, browser.folder, browser.root);
     if (!located.isEmpty())
         return located;
     return (browser.folder == DataFolder::Local ? folders.local : folders.roaming) + u'/'
@@ -83,7 +83,7 @@ QString dataRoot(const DataFolders &folders, const Description &browser)
 class InstalledPrograms
 {
 public:
-    bool hasNameWith(const QString &text)
+    bool hasNameContaining(const QString &text)
     {
         if (!m_names)
             m_names = read();
@@ -110,7 +110,7 @@ private:
 // To be installed a browser's folder may well be a link, which is then not scanned.
 bool hasData(const DataFolders &folders, int type, const QString &dataRoot)
 {
-    const auto isThere = [](const QString &path) {
+    const auto isFolder = [](const QString &path) {
         if (path.isEmpty())
             return false;
         const platform::Entry entry = platform::inspect(path);
@@ -119,10 +119,11 @@ bool hasData(const DataFolders &folders, int type, const QString &dataRoot)
         return QFileInfo(path).isDir();
     };
     if (type != Browser::Firefox)
-        return isThere(dataRoot);
-    return QFileInfo::exists(below(folders, DataFolder::Roaming, u"Mozilla/Firefox/profiles.ini"_s))
-        || isThere(dataRoot)
-        || isThere(below(folders, DataFolder::Local, u"Mozilla/Firefox/Profiles"_s));
+        return isFolder(dataRoot);
+    return QFileInfo::exists(
+               locateIn(folders, DataFolder::Roaming, u"Mozilla/Firefox/profiles.ini"_s))
+        || isFolder(dataRoot)
+        || isFolder(locateIn(folders, DataFolder::Local, u"Mozilla/Firefox/Profiles"_s));
 }
 
 /// The real folders right below @p folder that are not hidden, in the order of their names.
@@ -154,7 +155,7 @@ QByteArray readProfilesIni(const QString &path)
         Logger::instance().warning(u"Cannot read file: %1 - %2"_s.arg(path, file.errorString()));
         return {};
     }
-    return file.read(longestProfilesIni);
+    return file.read(maxProfilesIniSize);
 }
 
 /// The folder that a group of profiles.ini names, resolved; empty when it names none.
@@ -169,7 +170,7 @@ QString profileFolder(const IniGroup &group, const QString &root)
     return platform::locate(located.isEmpty() ? root + u'/' + path : located, {});
 }
 
-QString idOf(const QString &name)
+QString makeId(const QString &name)
 {
     return name.toLower().replace(u' ', u'_');
 }
@@ -178,7 +179,7 @@ QString idOf(const QString &name)
 QString browserIdOf(const QString &categoryId)
 {
     for (const Description &description : descriptions) {
-        const QString id = idOf(QString::fromLatin1(description.name));
+        const QString id = makeId(QString::fromLatin1(description.name));
         if (categoryId.startsWith(id))
             return id;
     }
@@ -204,12 +205,12 @@ QList<Browser> detect(const DataFolders &folders)
         Browser browser;
         const QString name = QString::fromLatin1(description.name);
         browser.type = static_cast<int>(list.size());
-        browser.id = idOf(name);
+        browser.id = makeId(name);
         browser.name = QCoreApplication::translate("BrowserCleaner", description.name);
         browser.dataRoot = dataRoot(folders, description);
         browser.processName = description.process;
         browser.installed =
-            hasData(folders, browser.type, browser.dataRoot) || programs.hasNameWith(name);
+            hasData(folders, browser.type, browser.dataRoot) || programs.hasNameContaining(name);
         list.append(browser);
     }
     return list;
@@ -217,7 +218,7 @@ QList<Browser> detect(const DataFolders &folders)
 
 bool isCalled(const Browser &browser, const QString &name)
 {
-    const QString id = idOf(name);
+    const QString id = makeId(name);
     return browser.id == id || browser.id.split(u'_').contains(id);
 }
 
@@ -227,8 +228,8 @@ QString iconName(const QString &name)
         if (name.contains(description.icon, Qt::CaseInsensitive))
             return "browser-"_L1 + description.icon;
     }
-    if (name.contains(otherIcon, Qt::CaseInsensitive))
-        return "browser-"_L1 + otherIcon;
+    if (name.contains(iconOnlyBrowser, Qt::CaseInsensitive))
+        return "browser-"_L1 + iconOnlyBrowser;
     return u"browser"_s;
 }
 
@@ -255,14 +256,15 @@ QStringList chromiumProfiles(const QString &dataRoot)
     if (!isScannable(dataRoot))
         return {};
     QStringList profiles;
-    if (const QString first = platform::locate(dataRoot, u"Default"_s); isScannable(first))
-        profiles.append(first);
+    if (const QString defaultProfile = platform::locate(dataRoot, u"Default"_s);
+        isScannable(defaultProfile))
+        profiles.append(defaultProfile);
     return profiles + subfolders(dataRoot, {u"Profile *"_s});
 }
 
 QString firefoxRoot(const DataFolders &folders)
 {
-    const QString root = below(folders, DataFolder::Roaming, u"Mozilla/Firefox"_s);
+    const QString root = locateIn(folders, DataFolder::Roaming, u"Mozilla/Firefox"_s);
     return isScannable(root) ? root : QString();
 }
 
@@ -292,7 +294,7 @@ QStringList firefoxProfiles(const DataFolders &folders)
         }
     }
     for (const DataFolder data : {DataFolder::Roaming, DataFolder::Local}) {
-        const QString folder = below(folders, data, u"Mozilla/Firefox/Profiles"_s);
+        const QString folder = locateIn(folders, data, u"Mozilla/Firefox/Profiles"_s);
         if (!isScannable(folder))
             continue;
         const QStringList found = subfolders(folder);

@@ -183,7 +183,7 @@ CleanEngine::Removal BrowserCleaner::removeItem(platform::FileRemover &remover,
     const platform::FileRemover::Outcome outcome = remover.remove(item.path, &stopFlag());
     if (outcome.status == Status::Failed && outcome.wasFolder && isStopRequested())
         return {Removal::NotCounted, 0, {}}; // left in the middle, not failed
-    if (const std::optional<qint64> freed = ledger.enter(item, outcome))
+    if (const std::optional<qint64> freed = ledger.record(item, outcome))
         return {Removal::Cleaned, *freed, {}};
     Logger::instance().warning(u"Failed to delete: %1"_s.arg(item.path));
     QString reason = outcome.error;

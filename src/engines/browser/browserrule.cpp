@@ -14,7 +14,7 @@ BrowserRule BrowserRule::fromJson(const QJsonObject &object)
     return rule;
 }
 
-bool BrowserRule::takesEverything() const
+bool BrowserRule::matchesEverything() const
 {
-    return rulefile::takesNearlyAll(patterns);
+    return rulefile::matchesNearlyAll(patterns);
 }

@@ -21,5 +21,5 @@ struct BrowserRule {
     [[nodiscard]] static BrowserRule fromJson(const QJsonObject &object);
 
     /// Whether the rule takes nearly everything in its folder.
-    [[nodiscard]] bool takesEverything() const;
+    [[nodiscard]] bool matchesEverything() const;
 };

@@ -35,7 +35,7 @@ private:
     using RulesByFolder = QHash<QString, std::vector<std::size_t>>;
     class Visitor;
 
-    [[nodiscard]] RulesByFolder foldersOf(const QString &profile) const;
+    [[nodiscard]] RulesByFolder ruleFolders(const QString &profile) const;
 
     const QList<BrowserRule> &m_rules;
     platform::ListedFolders &m_listed;
@@ -60,11 +60,11 @@ public:
 
 private:
     struct Source;
-    struct Taker;
+    struct RuleFilter;
     static const std::vector<Source> &sources();
 
     void scan(const QString &folder, bool isShared, ItemsByRule &found) const;
-    void scanFolder(const QString &folder, bool isTree, const std::vector<Taker> &takers,
+    void scanFolder(const QString &folder, bool isTree, const std::vector<RuleFilter> &ruleFilters,
                     ItemsByRule &found) const;
 
     const QList<BrowserRule> &m_rules;

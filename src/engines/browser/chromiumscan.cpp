@@ -17,7 +17,7 @@ namespace {
 
 /// What makes the entries of a folder one thing, of which a part cannot be removed without harm to
 /// the rest.
-enum class Unit {
+enum class Bundle {
     None,
     /// Browsers keep dozens of this kind in a profile. It consists of a file that names the current
     /// list of its parts, the lists and the parts. One of those, named like "000003.log", is no log
@@ -27,7 +27,7 @@ enum class Unit {
     Extension,
 };
 
-Unit unitOf(const std::vector<platform::ListedEntry> &entries)
+Bundle bundleOf(const std::vector<platform::ListedEntry> &entries)
 {
     const auto has = [&entries](auto matches) {
         return std::any_of(
@@ -43,13 +43,13 @@ Unit unitOf(const std::vector<platform::ListedEntry> &entries)
         return name.startsWith("MANIFEST-"_L1, Qt::CaseInsensitive);
     };
     if (has(isCalled("CURRENT"_L1)) && has(isList))
-        return Unit::Database;
-    return has(isCalled("manifest.json"_L1)) ? Unit::Extension : Unit::None;
+        return Bundle::Database;
+    return has(isCalled("manifest.json"_L1)) ? Bundle::Extension : Bundle::None;
 }
 
-QString warningOf(Unit unit)
+QString warningOf(Bundle bundle)
 {
-    return unit == Unit::Extension
+    return bundle == Bundle::Extension
         ? QCoreApplication::translate(
             "BrowserCleaner", "Belongs to an extension, which does not work without all its files")
         : QCoreApplication::translate(
@@ -72,7 +72,7 @@ public:
     Visitor(const ChromiumScan &scan, std::vector<std::size_t> rules, RulesByFolder &remaining,
             ItemsByRule &found)
         : m_scan(scan)
-        , m_active(std::move(rules))
+        , m_activeRules(std::move(rules))
         , m_remaining(remaining)
         , m_found(found)
     {
@@ -80,25 +80,25 @@ public:
 
     void takeListing(const std::vector<platform::ListedEntry> &entries, bool isShown) override
     {
-        const Unit unit = unitOf(entries);
-        if (unit == Unit::None)
+        const Bundle bundle = bundleOf(entries);
+        if (bundle == Bundle::None)
             return;
-        for (const OpenFolder &folder : m_open) {
+        for (const OpenFolder &folder : m_openFolders) {
             for (const auto &[rule, item] : folder.items)
-                guard(rule, m_found[rule][item], unit);
+                markRisky(rule, m_found[rule][item], bundle);
         }
         // In a hidden folder there is nothing to offer.
         if (!isShown)
             return;
-        m_units.push_back(unit);
-        if (!m_open.empty())
-            m_open.back().isUnit = true;
+        m_bundles.push_back(bundle);
+        if (!m_openFolders.empty())
+            m_openFolders.back().isBundle = true;
     }
 
     void meetEntry(platform::WalkedEntry &&entry) override
     {
-        OpenFolder folder{entry.path, m_active.size(), {}, false};
-        for (const std::size_t rule : m_active) {
+        OpenFolder folder{entry.path, m_activeRules.size(), {}, false};
+        for (const std::size_t rule : m_activeRules) {
             if (!m_scan.m_filters[rule].matches(entry.name))
                 continue;
             add(rule, entry);
@@ -106,18 +106,18 @@ public:
         }
         if (!entry.isFolder)
             return;
-        if (const auto own = m_remaining.constFind(entry.path); own != m_remaining.cend())
-            m_active.insert(m_active.end(), own->begin(), own->end());
-        m_open.push_back(std::move(folder));
+        if (const auto ownRules = m_remaining.constFind(entry.path); ownRules != m_remaining.cend())
+            m_activeRules.insert(m_activeRules.end(), ownRules->begin(), ownRules->end());
+        m_openFolders.push_back(std::move(folder));
     }
 
     void leaveFolder(qint64 size, bool wasRead) override
     {
-        const OpenFolder folder = std::move(m_open.back());
-        m_open.pop_back();
-        m_active.resize(folder.activeOutside);
-        if (folder.isUnit)
-            m_units.pop_back();
+        const OpenFolder folder = std::move(m_openFolders.back());
+        m_openFolders.pop_back();
+        m_activeRules.resize(folder.outerRuleCount);
+        if (folder.isBundle)
+            m_bundles.pop_back();
         for (const auto &[rule, item] : folder.items)
             m_found[rule][item].size = size;
         if (wasRead)
@@ -127,9 +127,9 @@ public:
 private:
     struct OpenFolder {
         QString path;
-        std::size_t activeOutside; ///< how many rules take from around the folder
+        std::size_t outerRuleCount; ///< how many rules take from around the folder
         std::vector<std::pair<std::size_t, qsizetype>> items; ///< that the folder itself became
-        bool isUnit;
+        bool isBundle;
     };
 
     void add(std::size_t index, const platform::WalkedEntry &entry)
@@ -139,27 +139,27 @@ private:
         item.checked = rule.defaultChecked;
         item.riskLevel = rule.riskLevel;
         item.isDirectory = entry.isFolder;
-        for (const Unit unit : m_units)
-            guard(index, item, unit);
+        for (const Bundle bundle : m_bundles)
+            markRisky(index, item, bundle);
     }
 
-    void guard(std::size_t index, CleanItem &item, Unit unit) const
+    void markRisky(std::size_t index, CleanItem &item, Bundle bundle) const
     {
         if (!m_scan.m_rules.at(static_cast<qsizetype>(index)).subPath.isEmpty())
             return;
         item.checked = false;
         item.riskLevel = HighRisk;
         // Lost data are the worse of the two.
-        if (item.description.isEmpty() || unit == Unit::Database)
-            item.description = warningOf(unit);
+        if (item.description.isEmpty() || bundle == Bundle::Database)
+            item.description = warningOf(bundle);
     }
 
     const ChromiumScan &m_scan;
-    std::vector<std::size_t> m_active; ///< the rules that take from the current folder
+    std::vector<std::size_t> m_activeRules; ///< the rules that take from the current folder
     RulesByFolder &m_remaining;
     ItemsByRule &m_found;
-    std::vector<OpenFolder> m_open; ///< the way down to the current folder
-    std::vector<Unit> m_units; ///< on that way, the root included
+    std::vector<OpenFolder> m_openFolders; ///< the way down to the current folder
+    std::vector<Bundle> m_bundles; ///< on that way, the root included
 };
 
 ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
@@ -173,7 +173,7 @@ ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFold
         m_filters.emplace_back(rule.patterns);
 }
 
-ChromiumScan::RulesByFolder ChromiumScan::foldersOf(const QString &profile) const
+ChromiumScan::RulesByFolder ChromiumScan::ruleFolders(const QString &profile) const
 {
     RulesByFolder folders;
     for (qsizetype i = 0; i < m_rules.size(); ++i) {
@@ -182,8 +182,8 @@ ChromiumScan::RulesByFolder ChromiumScan::foldersOf(const QString &profile) cons
             rule.subPath.isEmpty() ? profile : platform::locate(profile, rule.subPath);
         if (!folders.contains(folder) && !isScannable(folder))
             continue;
-        if (rule.takesEverything() && platform::holdsProtectedPlace(folder)) {
-            logTakesEverything(folder, rule.id);
+        if (rule.matchesEverything() && platform::holdsProtectedPlace(folder)) {
+            logTooBroadRule(folder, rule.id);
             continue;
         }
         folders[folder].push_back(static_cast<std::size_t>(i));
@@ -197,7 +197,7 @@ void ChromiumScan::scanProfile(const QString &profile, ItemsByRule &found) const
 {
     if (m_stopRequested)
         return;
-    RulesByFolder remaining = foldersOf(profile);
+    RulesByFolder remaining = ruleFolders(profile);
     while (!remaining.isEmpty() && !m_stopRequested) {
         const QStringList folders = remaining.keys();
         const QString outermost = *std::min_element(

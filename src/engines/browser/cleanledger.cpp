@@ -20,14 +20,15 @@ CleanLedger::CleanLedger(const ScanResult &selection)
     }
 }
 
-std::optional<qint64> CleanLedger::enter(const CleanItem &item,
-                                         const platform::FileRemover::Outcome &outcome)
+std::optional<qint64> CleanLedger::record(const CleanItem &item,
+                                          const platform::FileRemover::Outcome &outcome)
 {
     using Status = platform::FileRemover::Status;
     if (outcome.status == Status::Removed) {
-        const bool isAgain = m_removed.contains(item.path);
+        const bool wasRemovedBefore = m_removed.contains(item.path);
         return addCleaned(
-            item.path, isAgain ? 0 : qMax<qint64>(0, item.size - m_countedBelow.value(item.path)));
+            item.path,
+            wasRemovedBefore ? 0 : qMax<qint64>(0, item.size - m_countedBelow.value(item.path)));
     }
     if (outcome.status == Status::NotFound) {
         if (m_removed.contains(item.path) || isBelow(m_removed, item.path))

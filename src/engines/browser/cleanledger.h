@@ -22,8 +22,8 @@ public:
     explicit CleanLedger(const ScanResult &selection);
 
     /// Enters what became of @p item; the bytes that were freed, or nothing when it is a failure.
-    [[nodiscard]] std::optional<qint64> enter(const CleanItem &item,
-                                              const platform::FileRemover::Outcome &outcome);
+    [[nodiscard]] std::optional<qint64> record(const CleanItem &item,
+                                               const platform::FileRemover::Outcome &outcome);
 
 private:
     /// Returns @p size.

@@ -47,7 +47,7 @@ struct FirefoxScan::Source {
     QStringList patterns; ///< empty takes every file
 };
 
-struct FirefoxScan::Taker {
+struct FirefoxScan::RuleFilter {
     std::size_t rule;
     platform::NameFilter filter;
 };
@@ -57,37 +57,41 @@ struct FirefoxScan::Taker {
 // such as the saved bookmarks, which end like the saved sessions.
 const std::vector<FirefoxScan::Source> &FirefoxScan::sources()
 {
-    const QString top;
+    const QString ownFolder;
     static const std::vector<Source> list{
         {{u"Crash Reports"_s}, true, true, {u"crash_reports"_s}, {u"*.dmp"_s, u"*.extra"_s}},
-        {{top}, false, true, {u"logs"_s}, {u"update.log"_s, u"install.log"_s, u"*.log"_s}},
+        {{ownFolder}, false, true, {u"logs"_s}, {u"update.log"_s, u"install.log"_s, u"*.log"_s}},
         {{u"cache2/entries"_s, u"cache2"_s, u"Cache"_s}, true, false, {u"cache"_s}, {}},
         {{u"shader-cache"_s}, true, false, {u"shader_cache"_s}, {}},
         {{u"storage/default"_s}, true, false, {u"local_storage"_s, u"indexeddb"_s}, {}},
         {{u"thumbnails"_s}, true, false, {u"thumbnails"_s}, {}},
-        {{top}, false, false, {u"session"_s}, {u"sessionstore.jsonlz4"_s, u"*.jsonlz4"_s}},
+        {{ownFolder}, false, false, {u"session"_s}, {u"sessionstore.jsonlz4"_s, u"*.jsonlz4"_s}},
         {{u"sessionstore-backups"_s},
          false,
          false,
          {u"session"_s},
          {u"sessionstore.jsonlz4"_s, u"*.jsonlz4"_s}},
-        {{top},
+        {{ownFolder},
          false,
          false,
          {u"cookies"_s},
          {u"cookies.sqlite"_s, u"cookies.sqlite-wal"_s, u"cookies.sqlite-shm"_s}},
-        {{top},
+        {{ownFolder},
          false,
          false,
          {u"history"_s},
          {u"places.sqlite"_s, u"places.sqlite-wal"_s, u"places.sqlite-shm"_s}},
-        {{top}, false, false, {u"downloads"_s}, {u"downloads.sqlite"_s, u"downloads.sqlite-wal"_s}},
-        {{top},
+        {{ownFolder},
+         false,
+         false,
+         {u"downloads"_s},
+         {u"downloads.sqlite"_s, u"downloads.sqlite-wal"_s}},
+        {{ownFolder},
          false,
          false,
          {u"form_data"_s},
          {u"formhistory.sqlite"_s, u"formhistory.sqlite-wal"_s}},
-        {{top},
+        {{ownFolder},
          false,
          false,
          {u"favicons"_s},
@@ -118,12 +122,12 @@ void FirefoxScan::scan(const QString &folder, bool isShared, ItemsByRule &found)
 {
     if (m_stopRequested)
         return;
-    struct Job {
+    struct FolderJob {
         QString folder;
         bool isTree;
-        std::vector<Taker> takers;
+        std::vector<RuleFilter> ruleFilters;
     };
-    std::vector<Job> jobs; // a folder that several rules take from is one
+    std::vector<FolderJob> jobs; // a folder that several rules take from is one
     for (const Source &source : sources()) {
         if (source.isShared != isShared)
             continue;
@@ -134,45 +138,45 @@ void FirefoxScan::scan(const QString &folder, bool isShared, ItemsByRule &found)
                 break;
         }
         auto job = std::find_if(jobs.begin(), jobs.end(),
-                                [&path](const Job &other) { return other.folder == path; });
+                                [&path](const FolderJob &other) { return other.folder == path; });
         if (job == jobs.end())
-            job = jobs.insert(jobs.end(), Job{path, source.isTree, {}});
+            job = jobs.insert(jobs.end(), FolderJob{path, source.isTree, {}});
         for (qsizetype i = 0; i < m_rules.size(); ++i) {
             if (source.ruleIds.contains(m_rules.at(i).id))
-                job->takers.push_back(
+                job->ruleFilters.push_back(
                     {static_cast<std::size_t>(i), platform::NameFilter(source.patterns)});
         }
     }
-    for (const Job &job : jobs) {
+    for (const FolderJob &job : jobs) {
         if (m_stopRequested)
             return;
-        if (!job.takers.empty())
-            scanFolder(job.folder, job.isTree, job.takers, found);
+        if (!job.ruleFilters.empty())
+            scanFolder(job.folder, job.isTree, job.ruleFilters, found);
     }
 }
 
-void FirefoxScan::scanFolder(const QString &folder, bool isTree, const std::vector<Taker> &takers,
-                             ItemsByRule &found) const
+void FirefoxScan::scanFolder(const QString &folder, bool isTree,
+                             const std::vector<RuleFilter> &ruleFilters, ItemsByRule &found) const
 {
     if (!isScannable(folder))
         return;
     if (isTree && platform::holdsProtectedPlace(folder)) {
-        logTakesEverything(folder);
+        logTooBroadRule(folder);
         return;
     }
-    const auto take = [&](const QString &name, const QString &path, qint64 size) {
-        for (const Taker &taker : takers) {
-            if (!taker.filter.matches(name))
+    const auto addItems = [&](const QString &name, const QString &path, qint64 size) {
+        for (const RuleFilter &ruleFilter : ruleFilters) {
+            if (!ruleFilter.filter.matches(name))
                 continue;
-            const BrowserRule &rule = m_rules.at(static_cast<qsizetype>(taker.rule));
-            CleanItem &item = found[taker.rule].emplaceBack(name, path, size);
+            const BrowserRule &rule = m_rules.at(static_cast<qsizetype>(ruleFilter.rule));
+            CleanItem &item = found[ruleFilter.rule].emplaceBack(name, path, size);
             item.checked = rule.defaultChecked;
             item.riskLevel = rule.riskLevel;
         }
     };
     if (isTree) {
-        FilesOnly visitor([&take](const platform::WalkedEntry &entry) {
-            take(entry.name, entry.path, entry.size);
+        FilesOnly visitor([&addItems](const platform::WalkedEntry &entry) {
+            addItems(entry.name, entry.path, entry.size);
         });
         logWalkFailures(folder,
                         platform::walkEntries(folder, visitor, &m_stopRequested, &m_listed));
@@ -183,6 +187,7 @@ void FirefoxScan::scanFolder(const QString &folder, bool isTree, const std::vect
     options.stopRequested = &m_stopRequested;
     const platform::WalkReport report = platform::walkFiles(
         folder, options,
-        [&take](platform::WalkedFile &&file) { take(file.name, file.path, file.size); }, &m_listed);
+        [&addItems](platform::WalkedFile &&file) { addItems(file.name, file.path, file.size); },
+        &m_listed);
     logWalkFailures(folder, report);
 }

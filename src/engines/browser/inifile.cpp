@@ -9,8 +9,8 @@ QList<IniGroup> parseIni(const QByteArray &content)
     if (text.startsWith(QChar::ByteOrderMark))
         text.remove(0, 1);
     const QStringList lines = text.replace(u'\r', u'\n').split(u'\n', Qt::SkipEmptyParts);
-    for (const QString &whole : lines) {
-        const QString line = whole.trimmed();
+    for (const QString &rawLine : lines) {
+        const QString line = rawLine.trimmed();
         if (line.startsWith(u';') || line.startsWith(u'#'))
             continue;
         if (line.startsWith(u'[') && line.endsWith(u']')) {

@@ -165,8 +165,8 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
     const platform::Entry entry = platform::inspect(path);
     switch (entry.kind) {
     case platform::EntryKind::Folder:
-        if (rule.takesWholeTrees() && platform::isProtectedRoot(path)) {
-            logTakesEverything(path, rule.id);
+        if (rule.matchesWholeTrees() && platform::isProtectedRoot(path)) {
+            logTooBroadRule(path, rule.id);
             return;
         }
         scanDirectory(path, rule.patterns, items, rule.recursive);

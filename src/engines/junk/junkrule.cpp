@@ -13,7 +13,7 @@ JunkRule JunkRule::fromJson(const QJsonObject &object)
     return rule;
 }
 
-bool JunkRule::takesWholeTrees() const
+bool JunkRule::matchesWholeTrees() const
 {
-    return recursive && rulefile::takesNearlyAll(patterns);
+    return recursive && rulefile::matchesNearlyAll(patterns);
 }

@@ -21,5 +21,5 @@ struct JunkRule {
     [[nodiscard]] static JunkRule fromJson(const QJsonObject &object);
 
     /// Whether the rule takes every file of every folder below its locations.
-    [[nodiscard]] bool takesWholeTrees() const;
+    [[nodiscard]] bool matchesWholeTrees() const;
 };

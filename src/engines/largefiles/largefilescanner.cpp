@@ -24,66 +24,67 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int filesPerProgress = 100;
-constexpr int longestWait = 3000; // milliseconds
+constexpr int cancelTimeout = 3000; // milliseconds
 // More walkers than this wait for each other and for the disk.
-constexpr int mostWalkers = 2;
+constexpr int maxWalkers = 2;
 // How many files a walker looks at before it tells the others, when there are any.
-constexpr int filesPerCount = 25;
-constexpr qint64 deleteProgressPause = 50; // milliseconds
+constexpr int filesPerBatch = 25;
+constexpr qint64 deleteProgressInterval = 50; // milliseconds
 
 /// Whether a path is left out, asked of its folder and its name one after the other: none of the
 /// texts reaches over a slash. The two with a backslash match no path with forward slashes; what
 /// lies below "Windows/WinSxS" is meant to be listed.
-bool isLeftOut(QStringView part)
+bool isExcluded(QStringView part)
 {
-    static constexpr std::array excluded{"$Recycle.Bin"_L1, "System Volume Information"_L1,
-                                         "Windows\\WinSxS"_L1, "Windows\\Installer"_L1};
-    return std::any_of(excluded.begin(), excluded.end(),
+    static constexpr std::array excludedParts{"$Recycle.Bin"_L1, "System Volume Information"_L1,
+                                              "Windows\\WinSxS"_L1, "Windows\\Installer"_L1};
+    return std::any_of(excludedParts.begin(), excludedParts.end(),
                        [part](QLatin1StringView text) { return part.contains(text); });
 }
 
 } // namespace
 
 /// Takes what one walker meets: counts every file, keeps the large ones.
-class LargeFileScanner::Sweep final : public platform::TreeVisitor
+class LargeFileScanner::FileCollector final : public platform::TreeVisitor
 {
-    Q_DISABLE_COPY_MOVE(Sweep)
+    Q_DISABLE_COPY_MOVE(FileCollector)
 public:
-    explicit Sweep(LargeFileScanner &scanner)
+    explicit FileCollector(LargeFileScanner &scanner)
         : m_scanner(scanner)
         , m_minSize(scanner.m_scannedMinSize)
-        , m_batch(scanner.m_scanningWalkers > 1 ? filesPerCount : 1)
+        , m_batchSize(scanner.m_scanningWalkers > 1 ? filesPerBatch : 1)
     {
     }
 
     [[nodiscard]] Wanted enterFolder(const QString &path) override
     {
-        finish();
+        flushCount();
         m_folder = path;
-        m_isLeftOut = isLeftOut(path);
-        return m_isLeftOut ? Wanted::Names : Wanted::SizesAndTimes;
+        m_isExcluded = isExcluded(path);
+        return m_isExcluded ? Wanted::Names : Wanted::SizesAndTimes;
     }
 
     void meetFile(const platform::MetFile &file) override
     {
-        if (!m_isLeftOut && file.size >= m_minSize)
-            keep(file);
-        if (++m_uncounted == m_batch && count() && !m_isLeftOut && !isLeftOut(file.name.toString()))
+        if (!m_isExcluded && file.size >= m_minSize)
+            addFile(file);
+        if (++m_uncounted == m_batchSize && addToCount() && !m_isExcluded
+            && !isExcluded(file.name.toString()))
             m_scanner.reportProgress(m_folder);
     }
 
     /// Counts what has not been counted yet.
-    void finish()
+    void flushCount()
     {
-        if (m_uncounted > 0 && count() && !m_isLeftOut)
+        if (m_uncounted > 0 && addToCount() && !m_isExcluded)
             m_scanner.reportProgress(m_folder);
     }
 
 private:
-    void keep(const platform::MetFile &file)
+    void addFile(const platform::MetFile &file)
     {
         const QString name = file.name.toString();
-        if (isLeftOut(name))
+        if (isExcluded(name))
             return;
         m_scanner.m_listed.add(m_folder, file.folder->id());
         m_scanner.addResult({platform::joinedPath(m_folder, name), name, m_folder, file.size,
@@ -92,7 +93,7 @@ private:
     }
 
     /// Whether progress is due.
-    bool count()
+    bool addToCount()
     {
         const int before = m_scanner.m_filesScanned.fetch_add(m_uncounted);
         const bool isDue = before / filesPerProgress != (before + m_uncounted) / filesPerProgress;
@@ -102,15 +103,15 @@ private:
 
     LargeFileScanner &m_scanner;
     const qint64 m_minSize;
-    const int m_batch;
+    const int m_batchSize;
     int m_uncounted = 0;
     QString m_folder;
-    bool m_isLeftOut = false;
+    bool m_isExcluded = false;
 };
 
 LargeFileScanner::LargeFileScanner(QObject *parent)
     : QObject(parent)
-    , m_walkerCount(std::clamp(QThread::idealThreadCount(), 1, mostWalkers))
+    , m_walkerCount(std::clamp(QThread::idealThreadCount(), 1, maxWalkers))
 {
     qRegisterMetaType<LargeFileInfo>();
 }
@@ -139,13 +140,13 @@ void LargeFileScanner::setWalkerCount(int count)
 
 void LargeFileScanner::startScan()
 {
-    if (m_running || m_deleting)
+    if (m_isRunning || m_isDeleting)
         return;
     if (m_worker)
         m_worker->wait();
     const RunSignals::Run run = m_runSignals.open();
-    m_running = true;
-    m_cancelled = false;
+    m_isRunning = true;
+    m_isCancelled = false;
     m_scannedDrives = m_drives;
     m_scannedMinSize = m_minSize;
     m_scanningWalkers = m_walkerCount;
@@ -153,7 +154,7 @@ void LargeFileScanner::startScan()
     {
         const QMutexLocker locker(&m_mutex);
         discarded = std::exchange(m_results, {});
-        m_followed.clear();
+        m_followedLinks.clear();
         m_totalSize = 0;
     }
     m_filesScanned = 0;
@@ -182,17 +183,17 @@ void LargeFileScanner::startWorker(std::unique_ptr<QThread> worker)
 
 void LargeFileScanner::cancel()
 {
-    m_cancelled = true;
+    m_isCancelled = true;
     if (m_worker && m_worker->isRunning())
-        m_worker->wait(longestWait);
+        m_worker->wait(cancelTimeout);
     // A deletion still tells its end.
-    if (m_running.exchange(false))
+    if (m_isRunning.exchange(false))
         m_runSignals.end();
 }
 
 void LargeFileScanner::onWorkerFinished()
 {
-    m_running = false;
+    m_isRunning = false;
     const auto found = static_cast<int>(results().size());
     Q_EMIT scanFinished(found, totalSize());
 }
@@ -214,12 +215,12 @@ void LargeFileScanner::doScan()
     Logger::instance().info(
         u"Starting large file scan, min size: %1 MB"_s.arg(m_scannedMinSize / 1'048'576));
     for (const QString &drive : std::as_const(m_scannedDrives)) {
-        if (m_cancelled)
+        if (m_isCancelled)
             break;
         Logger::instance().info(u"Scanning drive: %1"_s.arg(drive));
         scanDrive(drive);
     }
-    if (!m_cancelled)
+    if (!m_isCancelled)
         sortResults();
     Logger::instance().info(u"Scan completed. Found %1 files, total size: %2"_s.arg(
         QString::number(results().size()), formatSize(totalSize())));
@@ -227,23 +228,23 @@ void LargeFileScanner::doScan()
 
 void LargeFileScanner::scanDrive(const QString &drive)
 {
-    if (m_cancelled || drive.isEmpty())
+    if (m_isCancelled || drive.isEmpty())
         return;
-    std::vector<std::unique_ptr<Sweep>> sweeps;
+    std::vector<std::unique_ptr<FileCollector>> collectors;
     QList<platform::TreeVisitor *> walkers;
     for (int i = 0; i < m_scanningWalkers; ++i)
-        walkers.append(sweeps.emplace_back(std::make_unique<Sweep>(*this)).get());
+        walkers.append(collectors.emplace_back(std::make_unique<FileCollector>(*this)).get());
 
-    const platform::WalkOptions options{{}, true, &m_cancelled, platform::Reach::Everywhere};
+    const platform::WalkOptions options{{}, true, &m_isCancelled, platform::Reach::Everywhere};
     const platform::WalkReport report =
         platform::walkTree(QDir::cleanPath(QFileInfo(drive).absoluteFilePath()), options, walkers);
-    for (const auto &sweep : sweeps)
-        sweep->finish();
+    for (const auto &collector : collectors)
+        collector->flushCount();
     if (report.failureCount > 0)
         Logger::instance().warning(
             u"Cannot read %1 folders below %2"_s.arg(QString::number(report.failureCount), drive));
     const QMutexLocker locker(&m_mutex);
-    m_followed += report.followed;
+    m_followedLinks += report.followed;
 }
 
 // The largest first, and those of one size in the order of their arrival.
@@ -289,12 +290,12 @@ void LargeFileScanner::reportProgress(const QString &folder)
     Q_EMIT scanProgress(0, folder, found, size);
 }
 
-QString LargeFileScanner::withoutFollowedLinks(const QString &path) const
+QString LargeFileScanner::resolveFollowedLinks(const QString &path) const
 {
     const QMutexLocker locker(&m_mutex);
     QString best = path;
     qsizetype longest = 0;
-    for (const platform::FollowedLink &link : m_followed) {
+    for (const platform::FollowedLink &link : m_followedLinks) {
         const QString folder = platform::joinedPath(link.path, QString());
         if (folder.size() > longest && path.startsWith(folder)) {
             longest = folder.size();
@@ -308,15 +309,15 @@ bool LargeFileScanner::deleteFile(const QString &path)
 {
     platform::FileRemover remover;
     remover.setListed(&m_listed);
-    if (!removeFound(remover, recordOf(path)))
+    if (!removeListedFile(remover, recordOf(path)))
         return false;
-    dropResults({path});
+    removeResults({path});
     return true;
 }
 
-bool LargeFileScanner::removeFound(platform::FileRemover &remover, const LargeFileInfo &file)
+bool LargeFileScanner::removeListedFile(platform::FileRemover &remover, const LargeFileInfo &file)
 {
-    const QString path = withoutFollowedLinks(file.path);
+    const QString path = resolveFollowedLinks(file.path);
     if (path != file.path)
         m_listed.add(platform::folderOf(path), m_listed.idOf(platform::folderOf(file.path)));
     std::optional<platform::FileRemover::ListedFile> listed;
@@ -344,34 +345,34 @@ LargeFileInfo LargeFileScanner::recordOf(const QString &path) const
     return unknown;
 }
 
-void LargeFileScanner::dropResults(const QSet<QString> &paths)
+void LargeFileScanner::removeResults(const QSet<QString> &paths)
 {
     const QMutexLocker locker(&m_mutex);
     m_results.removeIf([&](const LargeFileInfo &info) {
-        const bool isGone = paths.contains(info.path);
-        if (isGone)
+        const bool isRemoved = paths.contains(info.path);
+        if (isRemoved)
             m_totalSize -= info.size;
-        return isGone;
+        return isRemoved;
     });
 }
 
 void LargeFileScanner::startDelete(const QList<LargeFileInfo> &files)
 {
-    if (m_running || m_deleting)
+    if (m_isRunning || m_isDeleting)
         return;
     if (m_worker)
         m_worker->wait();
     const RunSignals::Run run = m_runSignals.open();
-    m_deleting = true;
-    m_cancelled = false;
+    m_isDeleting = true;
+    m_isCancelled = false;
     startWorker(
         std::unique_ptr<QThread>(QThread::create([this, run, files] { doDelete(run, files); })));
 }
 
 void LargeFileScanner::cancelDelete()
 {
-    if (m_deleting)
-        m_cancelled = true;
+    if (m_isDeleting)
+        m_isCancelled = true;
 }
 
 void LargeFileScanner::doDelete(const RunSignals::Run &run, const QList<LargeFileInfo> &files)
@@ -379,25 +380,25 @@ void LargeFileScanner::doDelete(const RunSignals::Run &run, const QList<LargeFil
     platform::FileRemover remover;
     remover.setListed(&m_listed);
     QBitArray deleted(files.size());
-    QSet<QString> gone;
+    QSet<QString> removedPaths;
     qint64 size = 0;
     int tried = 0;
     QElapsedTimer sinceProgress;
-    for (; tried < files.size() && !m_cancelled; ++tried) {
-        if (!sinceProgress.isValid() || sinceProgress.elapsed() >= deleteProgressPause) {
+    for (; tried < files.size() && !m_isCancelled; ++tried) {
+        if (!sinceProgress.isValid() || sinceProgress.elapsed() >= deleteProgressInterval) {
             Q_EMIT deleteProgress(tried, static_cast<int>(files.size()), size);
             sinceProgress.start();
         }
         const LargeFileInfo &file = files.at(tried);
-        if (!removeFound(remover, file))
+        if (!removeListedFile(remover, file))
             continue;
         deleted.setBit(tried);
-        gone.insert(file.path);
+        removedPaths.insert(file.path);
         size += file.size;
     }
-    dropResults(gone);
+    removeResults(removedPaths);
     run.post([this, deleted, tried] {
-        m_deleting = false;
+        m_isDeleting = false;
         Q_EMIT deleteFinished(deleted, tried);
     });
 }

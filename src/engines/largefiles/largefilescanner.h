@@ -64,7 +64,7 @@ public:
         return m_runSignals.makeReceiver();
     }
 
-    [[nodiscard]] bool isRunning() const { return m_running; }
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
     /// What the last scan has found so far and nobody has deleted: in the order of arrival while it
     /// runs and after it was cancelled, the largest first once it has finished.
     [[nodiscard]] QList<LargeFileInfo> results() const;
@@ -84,7 +84,7 @@ public:
     void startDelete(const QList<LargeFileInfo> &files);
     /// Lets a deletion end after the file that is in hand. Does not wait.
     void cancelDelete();
-    [[nodiscard]] bool isDeleting() const { return m_deleting; }
+    [[nodiscard]] bool isDeleting() const { return m_isDeleting; }
 
 Q_SIGNALS:
     void scanStarted();
@@ -103,7 +103,7 @@ private Q_SLOTS:
     void doScan();
 
 private:
-    class Sweep;
+    class FileCollector;
 
     void startWorker(std::unique_ptr<QThread> worker);
     void scanDrive(const QString &drive);
@@ -111,14 +111,14 @@ private:
     void onWorkerFinished();
     void doDelete(const RunSignals::Run &run, const QList<LargeFileInfo> &files);
     /// Whether @p file was removed; the log tells either way.
-    bool removeFound(platform::FileRemover &remover, const LargeFileInfo &file);
+    bool removeListedFile(platform::FileRemover &remover, const LargeFileInfo &file);
     /// The record of what is listed at @p path; else one that knows no more than that.
     [[nodiscard]] LargeFileInfo recordOf(const QString &path) const;
-    void dropResults(const QSet<QString> &paths);
+    void removeResults(const QSet<QString> &paths);
     /// Takes a file over; on the worker or a helper.
     void addResult(const LargeFileInfo &info);
     void reportProgress(const QString &folder);
-    [[nodiscard]] QString withoutFollowedLinks(const QString &path) const;
+    [[nodiscard]] QString resolveFollowedLinks(const QString &path) const;
 
     std::unique_ptr<QThread> m_worker;
     QStringList m_drives;
@@ -129,11 +129,11 @@ private:
     int m_scanningWalkers = 1;
     QList<LargeFileInfo> m_results;
     QSet<QString> m_foundPaths; ///< of a scan of several drives
-    QList<platform::FollowedLink> m_followed;
+    QList<platform::FollowedLink> m_followedLinks;
     platform::ListedFolders m_listed; ///< those with a result, by the last scan
-    std::atomic_bool m_running = false;
-    std::atomic_bool m_deleting = false;
-    std::atomic_bool m_cancelled = false; ///< the scan or the deletion
+    std::atomic_bool m_isRunning = false;
+    std::atomic_bool m_isDeleting = false;
+    std::atomic_bool m_isCancelled = false; ///< the scan or the deletion
     mutable QMutex m_mutex;
     std::atomic_int m_filesScanned = 0;
     qint64 m_totalSize = 0;

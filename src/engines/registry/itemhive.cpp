@@ -4,9 +4,9 @@ using platform::Hive;
 
 namespace {
 
-ItemHive hiveOf(const CleanItem &item, Hive unknown)
+ItemHive hiveOf(const CleanItem &item, Hive defaultHive)
 {
-    const Hive named = platform::hiveNamed(item.registryRoot).value_or(unknown);
+    const Hive named = platform::hiveNamed(item.registryRoot).value_or(defaultHive);
     if (named != Hive::ClassesRoot)
         return {named, named};
     return {named, item.isUserClass ? Hive::CurrentUser : Hive::LocalMachine};

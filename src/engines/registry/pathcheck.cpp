@@ -48,7 +48,7 @@ bool hasScheme(const QString &path)
 }
 
 // How the system takes blanks in front and characters that no name has is its own affair.
-bool isOddlyWritten(const QString &text)
+bool hasUnusualCharacters(const QString &text)
 {
     return text.startsWith(u' ')
         || std::any_of(text.begin(), text.end(), [](QChar c) { return c < u' '; });
@@ -56,7 +56,7 @@ bool isOddlyWritten(const QString &text)
 
 // The system knows many files by names that no listing has: the short form of a long name, and any
 // name with blanks and dots at its end. A slash may well begin the arguments of a program.
-bool hasOtherName(const QString &path)
+bool mayBeAlias(const QString &path)
 {
     static const QRegularExpression shortName(
         u"(^|[\\\\/])[^~. \\\\/]{1,6}~[0-9]{1,6}(\\.[^.\\\\/]{0,3})?($|[\\\\/])"_s);
@@ -119,7 +119,7 @@ bool PathCheck::exists(const QString &text)
     }
     if (path.startsWith(u'%') && path.size() < 4)
         return true; // too short to hold a placeholder
-    if (isOddlyWritten(path))
+    if (hasUnusualCharacters(path))
         return true;
     for (const auto &[placeholder, value] : std::as_const(m_placeholders)) {
         if (!value && path.contains(placeholder))
@@ -133,12 +133,12 @@ bool PathCheck::exists(const QString &text)
     if (path.startsWith("\\\\?\\"_L1) && platform::isOnDrive(path.mid(4)))
         path.remove(0, 4);
     if (platform::isOnDrive(path))
-        return existsOnDrive(path) || hasOtherName(path);
+        return existsOnDrive(path) || mayBeAlias(path);
     // Of the current drive, of another machine, or of the system's own names for things: nobody
     // here can tell.
     const bool isRooted = isSeparator(path.at(0));
-    const bool isBelowCurrent = path.size() >= 2 && path.at(1) == u':';
-    if (isRooted || isBelowCurrent || hasOtherName(path) || hasScheme(path))
+    const bool isDriveRelative = path.size() >= 2 && path.at(1) == u':';
+    if (isRooted || isDriveRelative || mayBeAlias(path) || hasScheme(path))
         return true;
     const bool isFound =
         std::any_of(m_searchFolders.cbegin(), m_searchFolders.cend(),
@@ -148,21 +148,21 @@ bool PathCheck::exists(const QString &text)
 
 bool PathCheck::existsOnDrive(const QString &path)
 {
-    const auto isThere = [this](const QString &file) {
+    const auto mayExist = [this](const QString &file) {
         return m_lookup.presenceOf(file) != platform::Presence::Missing;
     };
-    if (isThere(path))
+    if (mayExist(path))
         return true;
     const auto name = std::find_if(path.rbegin(), path.rend(), isSeparator).base();
     return std::find(name, path.end(), u'.') == path.end()
         && std::any_of(programSuffixes.begin(), programSuffixes.end(),
-                       [&](QLatin1StringView suffix) { return isThere(path + suffix); });
+                       [&](QLatin1StringView suffix) { return mayExist(path + suffix); });
 }
 
 bool PathCheck::existsAsAppPath(const QString &name)
 {
-    for (const QString &known : {name.toCaseFolded(), name.toCaseFolded() + ".exe"_L1}) {
-        QString path = m_appPaths.value(known);
+    for (const QString &fileName : {name.toCaseFolded(), name.toCaseFolded() + ".exe"_L1}) {
+        QString path = m_appPaths.value(fileName);
         if (path.startsWith(u'"'))
             path = quotedPart(path);
         if (platform::isOnDrive(path) && existsOnDrive(path))

@@ -22,8 +22,8 @@ using platform::RegistryValue;
 
 namespace {
 
-constexpr qsizetype longestListedValue = 65536; ///< bytes; a key's longer values are left out
-constexpr int longestLine = 70; ///< characters of a list of bytes before it is wrapped
+constexpr qsizetype maxListedValueSize = 65536; ///< bytes; a key's longer values are left out
+constexpr int maxLineLength = 70; ///< characters of a list of bytes before it is wrapped
 
 struct Text {
     Q_DECLARE_TR_FUNCTIONS(RegistryBackup)
@@ -45,7 +45,7 @@ QString hexList(const QByteArray &data)
             list += u',';
             ++column;
         }
-        if (column > longestLine) {
+        if (column > maxLineLength) {
             list += "\\\r\n  "_L1;
             column = 2;
         }
@@ -71,18 +71,18 @@ QString keyLine(const ItemHive &hive, const QString &key)
     return mark + u'[' + hiveName(hive.named) + u'\\' + key + "]\r\n"_L1;
 }
 
-bool breaksLine(const QString &text)
+bool hasLineBreak(const QString &text)
 {
     return text.contains(u'\r') || text.contains(u'\n');
 }
 
 // A path with an empty name in it would be read as another key's.
-bool canBeWritten(const QString &key)
+bool canExport(const QString &key)
 {
-    return !breaksLine(key) && Registry::isKeyPath(key);
+    return !hasLineBreak(key) && Registry::isKeyPath(key);
 }
 
-QString warning(const ItemHive &hive, const QString &path, QLatin1StringView what)
+QString warningLine(const ItemHive &hive, const QString &path, QLatin1StringView what)
 {
     return "; WARNING: Could not read registry "_L1 + what + ": "_L1 + hiveName(hive.named) + u'\\'
         + singleLine(path) + "\r\n"_L1;
@@ -91,15 +91,15 @@ QString warning(const ItemHive &hive, const QString &path, QLatin1StringView wha
 // Empty when the key cannot be opened.
 QString exportKey(const Registry &registry, const ItemHive &hive, const QString &key)
 {
-    const auto values = canBeWritten(key)
-        ? registry.values(hive.stored, hive.storedPath(key), longestListedValue)
+    const auto values = canExport(key)
+        ? registry.values(hive.stored, hive.storedPath(key), maxListedValueSize)
         : std::nullopt;
     if (!values)
         return {};
     QString block = keyLine(hive, key);
     for (const RegistryValue &value : *values)
-        block += breaksLine(value.name) ? warning(hive, key + u'\\' + value.name, "entry"_L1)
-                                        : RegistryBackup::valueLine(value);
+        block += hasLineBreak(value.name) ? warningLine(hive, key + u'\\' + value.name, "entry"_L1)
+                                          : RegistryBackup::valueLine(value);
     return block + "\r\n"_L1;
 }
 
@@ -107,7 +107,7 @@ QString exportKey(const Registry &registry, const ItemHive &hive, const QString 
 QString exportValue(const Registry &registry, const ItemHive &hive, const QString &key,
                     const QString &name)
 {
-    std::optional<RegistryValue> value = canBeWritten(key) && !breaksLine(name)
+    std::optional<RegistryValue> value = canExport(key) && !hasLineBreak(name)
         ? registry.value(hive.stored, hive.storedPath(key), name)
         : std::nullopt;
     if (!value)
@@ -128,7 +128,7 @@ QString exportItem(const Registry &registry, const CleanItem &item)
         block = exportKey(registry, hive, path);
     if (!block.isEmpty())
         return block;
-    return warning(hive, path, separator < 0 ? "key"_L1 : "entry"_L1) + "\r\n"_L1;
+    return warningLine(hive, path, separator < 0 ? "key"_L1 : "entry"_L1) + "\r\n"_L1;
 }
 
 } // namespace

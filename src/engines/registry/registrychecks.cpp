@@ -22,7 +22,7 @@ const QString fonts = u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts"_
 const QString muiCache =
     u"SOFTWARE\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"_s;
 
-constexpr int examinedClasses = 1000; ///< the key may hold many thousands
+constexpr int maxExaminedClasses = 1000; ///< the key may hold many thousands
 
 // Types that Windows itself looks after, in lower case.
 bool isProtectedExtension(const QString &extension)
@@ -72,14 +72,15 @@ CleanItem makeItem(RegistryEntry entry, const QString &name, const QString &desc
     return item;
 }
 
-CleanItem keyItem(const QString &name, const QString &description, Hive hive, const QString &key)
+CleanItem makeKeyItem(const QString &name, const QString &description, Hive hive,
+                      const QString &key)
 {
     return makeItem(RegistryEntry::Key, name, description, hive, key);
 }
 
 // Of a value the location that is shown is its key's.
-CleanItem valueItem(const QString &name, const QString &description, Hive hive, const QString &key,
-                    const QString &value)
+CleanItem makeValueItem(const QString &name, const QString &description, Hive hive,
+                        const QString &key, const QString &value)
 {
     CleanItem item = makeItem(RegistryEntry::Value, name, description, hive, key);
     item.registryKey += u'\\' + value;
@@ -124,7 +125,7 @@ void RegistryChecks::addAppPaths(QList<CleanItem> &items)
         const QString key = appPaths + u'\\' + name;
         const QString value = m_registry.text(Hive::LocalMachine, key, {});
         if (!value.isEmpty() && !m_paths.exists(value))
-            items.append(keyItem(name, tr("Path: %1").arg(value), Hive::LocalMachine, key));
+            items.append(makeKeyItem(name, tr("Path: %1").arg(value), Hive::LocalMachine, key));
     }
 }
 
@@ -145,7 +146,7 @@ void RegistryChecks::addUninstallKeys(QList<CleanItem> &items)
             continue;
         const QString displayName = text(u"DisplayName"_s);
         items.append(
-            keyItem(displayName.isEmpty() ? name : displayName, {}, Hive::LocalMachine, key));
+            makeKeyItem(displayName.isEmpty() ? name : displayName, {}, Hive::LocalMachine, key));
     }
 }
 
@@ -164,8 +165,8 @@ QList<CleanItem> RegistryChecks::findFileAssociations()
             m_registry.classText(type.text + "\\shell\\open\\command"_L1, {}).text;
         if (command.isEmpty() || m_paths.exists(PathCheck::programPath(command)))
             continue;
-        items.append(keyItem(extension + " -> "_L1 + type.text, tr("Command: %1").arg(command),
-                             Hive::ClassesRoot, extension));
+        items.append(makeKeyItem(extension + " -> "_L1 + type.text, tr("Command: %1").arg(command),
+                                 Hive::ClassesRoot, extension));
         items.last().isUserClass = type.hive == Hive::CurrentUser;
     }
     return items;
@@ -176,12 +177,13 @@ QList<CleanItem> RegistryChecks::findCom()
     QList<CleanItem> items;
     int count = 0;
     for (const QString &id : m_registry.subkeys(Hive::ClassesRoot, u"CLSID"_s)) {
-        if (m_stopRequested || ++count > examinedClasses)
+        if (m_stopRequested || ++count > maxExaminedClasses)
             return items;
         const QString key = "CLSID\\"_L1 + id;
         const auto add = [&](const QString &description, Hive hive) {
             const QString name = m_registry.classText(key, {}).text;
-            items.append(keyItem(name.isEmpty() ? id : name, description, Hive::ClassesRoot, key));
+            items.append(
+                makeKeyItem(name.isEmpty() ? id : name, description, Hive::ClassesRoot, key));
             items.last().isUserClass = hive == Hive::CurrentUser;
         };
         const auto [library, libraryHive] = m_registry.classText(key + "\\InprocServer32"_L1, {});
@@ -210,8 +212,8 @@ QList<CleanItem> RegistryChecks::findFonts()
             file = *windows + "\\Fonts\\"_L1 + file;
         }
         if (!m_paths.exists(file))
-            items.append(
-                valueItem(name, tr("Font file: %1").arg(file), Hive::LocalMachine, fonts, name));
+            items.append(makeValueItem(name, tr("Font file: %1").arg(file), Hive::LocalMachine,
+                                       fonts, name));
     }
     return items;
 }
@@ -227,7 +229,7 @@ QList<CleanItem> RegistryChecks::findStartup()
                 const QString command = m_registry.text(hive, key, name);
                 if (command.isEmpty() || m_paths.exists(PathCheck::programPath(command)))
                     continue;
-                items.append(valueItem(name, tr("Command: %1").arg(command), hive, key, name));
+                items.append(makeValueItem(name, tr("Command: %1").arg(command), hive, key, name));
                 items.last().registryRoot = platform::shortHiveName(hive);
             }
         }
@@ -242,8 +244,8 @@ QList<CleanItem> RegistryChecks::findSharedDlls()
         if (m_stopRequested)
             return items;
         if (!m_paths.exists(name))
-            items.append(valueItem(fileName(name), tr("DLL path: %1").arg(name), Hive::LocalMachine,
-                                   sharedDlls, name));
+            items.append(makeValueItem(fileName(name), tr("DLL path: %1").arg(name),
+                                       Hive::LocalMachine, sharedDlls, name));
     }
     return items;
 }
@@ -259,7 +261,7 @@ QList<CleanItem> RegistryChecks::findMuiCache()
             name.endsWith(".FriendlyAppName"_L1) || name.endsWith(".ApplicationCompany"_L1);
         const QString path = dot > 0 && hasSuffix ? name.first(dot) : name;
         if (!m_paths.exists(path))
-            items.append(valueItem(fileName(path), name, Hive::CurrentUser, muiCache, name));
+            items.append(makeValueItem(fileName(path), name, Hive::CurrentUser, muiCache, name));
     }
     return items;
 }

@@ -31,13 +31,13 @@ struct RegistryCleaner::Place {
     {
         const ItemHive hive = ItemHive::forClean(item);
         // Without a name it would be the key that holds all classes.
-        const bool isNoClass = hive.isClass() && !Registry::isKeyPath(item.registryKey);
-        return {hive.stored, isNoClass ? QString() : hive.storedPath(item.registryKey)};
+        const bool isIncompleteClass = hive.isClass() && !Registry::isKeyPath(item.registryKey);
+        return {hive.stored, isIncompleteClass ? QString() : hive.storedPath(item.registryKey)};
     }
 };
 
 /// An entry that was removed, until that is saved.
-struct RegistryCleaner::Unsaved {
+struct RegistryCleaner::UnsavedRemoval {
     Hive hive;
     QString entry; ///< for people
 };
@@ -126,27 +126,28 @@ void RegistryCleaner::doClean()
 {
     Logger::instance().info(u"Starting registry clean..."_s);
     Registry registry;
-    const std::set<Place> listed = findAgain(registry);
-    const auto hasChanged = [&listed](const CleanItem &item) {
-        return item.registryEntry != RegistryEntry::Unknown && !listed.contains(Place::of(item));
+    const std::set<Place> currentPlaces = findCurrentPlaces(registry);
+    const auto hasChanged = [&currentPlaces](const CleanItem &item) {
+        return item.registryEntry != RegistryEntry::Unknown
+            && !currentPlaces.contains(Place::of(item));
     };
-    ScanResult due = selection();
-    for (CleanCategory &category : due.categories)
+    ScanResult toRemove = selection();
+    for (CleanCategory &category : toRemove.categories)
         category.items.removeIf(hasChanged);
-    backUp(due, registry);
+    backUp(toRemove, registry);
 
-    QList<Unsaved> removals;
-    std::set<Place> gone;
+    QList<UnsavedRemoval> removals;
+    std::set<Place> removedPlaces;
     CleanTotals totals = cleanSelection([&](const CleanItem &item) -> Removal {
         const Place place = Place::of(item);
-        if (gone.contains(place)) // a class may stand in the list twice
+        if (removedPlaces.contains(place)) // a class may stand in the list twice
             return {Removal::NotCounted, 0, {}};
         const QString entry = item.registryRoot + u'\\' + item.registryKey;
         QString reason = tr("It has changed since the scan");
         if (hasChanged(item) || !removeEntry(registry, item, reason))
             return {Removal::Failed, 0, {entry, reason}};
         removals.append({place.hive, entry});
-        gone.insert(place);
+        removedPlaces.insert(place);
         return {};
     });
     totals.cleaned = saveChanges(registry, removals);
@@ -156,7 +157,7 @@ void RegistryCleaner::doClean()
 }
 
 // What is not what it was would be another entry than the one that was shown.
-std::set<RegistryCleaner::Place> RegistryCleaner::findAgain(const Registry &registry)
+std::set<RegistryCleaner::Place> RegistryCleaner::findCurrentPlaces(const Registry &registry)
 {
     std::set<Place> found;
     RegistryChecks checks(registry, stopFlag());
@@ -174,20 +175,20 @@ std::set<RegistryCleaner::Place> RegistryCleaner::findAgain(const Registry &regi
     return found;
 }
 
-void RegistryCleaner::backUp(const ScanResult &due, const Registry &registry)
+void RegistryCleaner::backUp(const ScanResult &toRemove, const Registry &registry)
 {
     m_backupError.reset();
     if (m_backupPath.isEmpty()) {
         Logger::instance().info(u"Registry backup skipped (no backup path specified)"_s);
         return;
     }
-    if (due.checkedCount() == 0 && QFileInfo::exists(m_backupPath)) {
+    if (toRemove.checkedCount() == 0 && QFileInfo::exists(m_backupPath)) {
         // The last backup is worth more than an empty one.
         Logger::instance().info(u"Registry backup skipped (nothing to remove)"_s);
         return;
     }
     Logger::instance().info("Creating registry backup to: "_L1 + m_backupPath);
-    const QString text = RegistryBackup::text(due, registry, QDateTime::currentDateTime());
+    const QString text = RegistryBackup::text(toRemove, registry, QDateTime::currentDateTime());
     QString error;
     if (RegistryBackup::write(m_backupPath, text, error)) {
         Logger::instance().info("Registry backup created: "_L1 + m_backupPath);
@@ -230,14 +231,14 @@ bool RegistryCleaner::removeEntry(Registry &registry, const CleanItem &item, QSt
     return !isListed && item.registryEntry != RegistryEntry::Value && deleteKey();
 }
 
-int RegistryCleaner::saveChanges(Registry &registry, const QList<Unsaved> &removals)
+int RegistryCleaner::saveChanges(Registry &registry, const QList<UnsavedRemoval> &removals)
 {
     if (removals.isEmpty())
         return 0;
     if (!registry.save())
         Logger::instance().error("Failed to save the registry: "_L1 + registry.errorString());
     int count = 0;
-    for (const Unsaved &removal : removals) {
+    for (const UnsavedRemoval &removal : removals) {
         if (registry.isSaved(removal.hive))
             ++count;
         else

@@ -54,16 +54,16 @@ private:
         bool checked = true;
     };
     struct Place;
-    struct Unsaved;
+    struct UnsavedRemoval;
 
     void runCheck(const Category &category, RegistryChecks &checks);
     /// What a scan would list now, in the categories that are to be cleaned.
-    [[nodiscard]] std::set<Place> findAgain(const platform::Registry &registry);
-    void backUp(const ScanResult &due, const platform::Registry &registry);
+    [[nodiscard]] std::set<Place> findCurrentPlaces(const platform::Registry &registry);
+    void backUp(const ScanResult &toRemove, const platform::Registry &registry);
     /// True when the entry is gone now; otherwise @p reason says why not.
     static bool removeEntry(platform::Registry &registry, const CleanItem &item, QString &reason);
     /// Makes the removals last and returns how many of them did.
-    int saveChanges(platform::Registry &registry, const QList<Unsaved> &removals);
+    int saveChanges(platform::Registry &registry, const QList<UnsavedRemoval> &removals);
 
     QList<Category> m_categories;
     QString m_backupPath;

@@ -43,8 +43,8 @@ public:
     }
 
 private:
-    [[nodiscard]] bool isAtEnd() const { return m_at >= m_text.size(); }
-    [[nodiscard]] QChar current() const { return isAtEnd() ? QChar() : m_text.at(m_at); }
+    [[nodiscard]] bool isAtEnd() const { return m_position >= m_text.size(); }
+    [[nodiscard]] QChar current() const { return isAtEnd() ? QChar() : m_text.at(m_position); }
     void fail(const QString &message)
     {
         if (m_error.isEmpty())
@@ -52,15 +52,15 @@ private:
     }
     bool take(QLatin1StringView wanted)
     {
-        if (!QStringView(m_text).sliced(m_at).startsWith(wanted))
+        if (!QStringView(m_text).sliced(m_position).startsWith(wanted))
             return false;
-        m_at += wanted.size();
+        m_position += wanted.size();
         return true;
     }
     // The end of a line, or of the text.
     bool takeLineEnd()
     {
-        const qsizetype start = m_at;
+        const qsizetype start = m_position;
         take("\r"_L1);
         if (isAtEnd())
             return true;
@@ -68,17 +68,17 @@ private:
             ++m_line;
             return true;
         }
-        m_at = start;
+        m_position = start;
         return false;
     }
     bool takeLine(QLatin1StringView wanted) { return take(wanted) && takeLineEnd(); }
     [[nodiscard]] QString restOfLine()
     {
-        qsizetype end = m_text.indexOf(u'\n', m_at);
+        qsizetype end = m_text.indexOf(u'\n', m_position);
         if (end < 0)
             end = m_text.size();
-        const qsizetype start = m_at;
-        m_at = end;
+        const qsizetype start = m_position;
+        m_position = end;
         if (end > start && m_text.at(end - 1) == u'\r')
             --end;
         return m_text.sliced(start, end - start);
@@ -104,7 +104,7 @@ private:
         if (!line.endsWith(u']'))
             return fail(Text::tr("the key has no end"));
         const QString name = line.sliced(1, line.size() - 2);
-        const Hive classes =
+        const Hive classHive =
             std::exchange(m_isUserClass, false) ? Hive::CurrentUser : Hive::LocalMachine;
         const std::optional<platform::HivePath> path = platform::hivePath(name);
         if (!path)
@@ -112,7 +112,7 @@ private:
         if (!Registry::isKeyPath(path->key))
             return fail(Text::tr("the key's path is not complete"));
         if (path->hive == Hive::ClassesRoot)
-            m_keys.append({classes, Registry::classPath(path->key), name, {}});
+            m_keys.append({classHive, Registry::classPath(path->key), name, {}});
         else
             m_keys.append({path->hive, path->key, name, {}});
     }
@@ -147,13 +147,13 @@ private:
         QString string;
         const int firstLine = m_line;
         while (!isAtEnd()) {
-            QChar c = m_text.at(m_at++);
+            QChar c = m_text.at(m_position++);
             if (c == u'"')
                 return string;
             if (c == u'\\') {
                 if (isAtEnd())
                     break;
-                c = m_text.at(m_at++);
+                c = m_text.at(m_position++);
                 if (c != u'\\' && c != u'"') {
                     fail(Text::tr("a backslash stands before something else than a quote or a "
                                   "backslash"));
@@ -218,7 +218,7 @@ private:
     {
         quint32 number = 0;
         qsizetype count = 0;
-        for (; count < maximum && !isAtEnd(); ++count, ++m_at) {
+        for (; count < maximum && !isAtEnd(); ++count, ++m_position) {
             const char16_t c = current().unicode();
             if (c >= u'0' && c <= u'9')
                 number = number * 16 + (c - u'0');
@@ -231,7 +231,7 @@ private:
     }
 
     const QString m_text;
-    qsizetype m_at = 0;
+    qsizetype m_position = 0;
     int m_line = 1;
     bool m_isUserClass = false; ///< the next key, by the comment right before it
     QString m_error;
@@ -256,10 +256,10 @@ QList<RegistryRestore::Outcome> RegistryRestore::restore(Registry &registry,
         return isRestored;
     };
     for (const RestoredKey &key : keys) {
-        const bool isThere = add(key, key.name, registry.createKey(key.hive, key.path));
+        const bool isKeyMade = add(key, key.name, registry.createKey(key.hive, key.path));
         for (const RegistryValue &value : key.values)
             add(key, key.name + u' ' + (value.name.isEmpty() ? u"@"_s : value.name),
-                isThere && registry.setValue(key.hive, key.path, value));
+                isKeyMade && registry.setValue(key.hive, key.path, value));
     }
     if (registry.save())
         return outcomes;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr QByteArrayView utf8ByteOrderMark("\xEF\xBB\xBF");
 
-Content failed(Content content, Problem problem, const QString &error)
+Content withProblem(Content content, Problem problem, const QString &error)
 {
     content.problem = problem;
     content.error = error;
@@ -27,7 +27,7 @@ Content read(const QString &path)
     Content content;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return failed(content, Problem::NotOpened, file.errorString());
+        return withProblem(content, Problem::NotOpened, file.errorString());
     QByteArray text = file.readAll();
     content.size = text.size();
     content.hasByteOrderMark = text.startsWith(utf8ByteOrderMark);
@@ -38,7 +38,7 @@ Content read(const QString &path)
     content.document = QJsonDocument::fromJson(text, &parsing);
     if (parsing.error != QJsonParseError::NoError) {
         content.errorOffset = parsing.offset;
-        return failed(content, Problem::NoJson, parsing.errorString());
+        return withProblem(content, Problem::NoJson, parsing.errorString());
     }
     if (!content.document.isObject())
         content.problem = Problem::NoObject;
@@ -59,7 +59,7 @@ QStringList stringList(const QJsonValue &value)
     return list;
 }
 
-bool takesNearlyAll(const QStringList &patterns)
+bool matchesNearlyAll(const QStringList &patterns)
 {
     // "*.*" and the like leave out a few names only.
     const auto isNearlyAll = [](const QString &pattern) {

@@ -39,7 +39,7 @@ struct Content {
 [[nodiscard]] QStringList stringList(const QJsonValue &value);
 
 /// Whether file-name wildcards leave out hardly any name; no wildcards leave out none.
-[[nodiscard]] bool takesNearlyAll(const QStringList &patterns);
+[[nodiscard]] bool matchesNearlyAll(const QStringList &patterns);
 
 /// Sets what the rules of every file have. A member that is missing or of another type gives an
 /// empty text or list, a rule that starts ticked and the lowest risk. For @p context see text().

@@ -8,10 +8,10 @@ void logWalkFailures(const QString &root, const platform::WalkReport &report)
 {
     for (const platform::WalkFailure &failure : report.failures)
         logUnreadable(failure.path, failure.reason);
-    const qint64 unnamed = report.failureCount - report.failures.size();
-    if (unnamed > 0)
+    const qint64 unlistedCount = report.failureCount - report.failures.size();
+    if (unlistedCount > 0)
         Logger::instance().warning(
-            u"Cannot read %1 more folders below %2"_s.arg(QString::number(unnamed), root));
+            u"Cannot read %1 more folders below %2"_s.arg(QString::number(unlistedCount), root));
 }
 
 void logUnreadable(const QString &folder, const QString &reason)
@@ -24,7 +24,7 @@ void logSkipped(const QString &path, const QString &reason)
     Logger::instance().warning(u"Skipped %1: %2"_s.arg(path, reason));
 }
 
-void logTakesEverything(const QString &folder, const QString &ruleId)
+void logTooBroadRule(const QString &folder, const QString &ruleId)
 {
     const QString rule = ruleId.isEmpty() ? u"a rule"_s : "rule "_L1 + ruleId;
     logSkipped(folder, rule + " would take everything in it"_L1);

@@ -16,7 +16,7 @@ void logSkipped(const QString &path, const QString &reason);
 
 /// Tells the log that @p folder is passed over because a rule would leave nothing in it. @p ruleId
 /// is empty where several rules may have asked for it.
-void logTakesEverything(const QString &folder, const QString &ruleId = {});
+void logTooBroadRule(const QString &folder, const QString &ruleId = {});
 
 /// Tells the log why what stands at @p path is passed over: a link leads elsewhere, where nothing
 /// is ours, and some things cannot be looked at. That nothing is there is no word worth.

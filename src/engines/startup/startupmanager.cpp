@@ -22,14 +22,14 @@ using platform::Registry;
 namespace {
 
 // A name alone is none that we could find: it would be looked for in our own current folder.
-bool isWhole(const QString &windowsPath)
+bool isFullPath(const QString &windowsPath)
 {
     return platform::isOnDrive(windowsPath) || windowsPath.startsWith("\\\\"_L1);
 }
 
 bool fileExists(const QString &windowsPath)
 {
-    return isWhole(windowsPath) && QFileInfo(platform::localPath(windowsPath)).isFile();
+    return isFullPath(windowsPath) && QFileInfo(platform::localPath(windowsPath)).isFile();
 }
 
 // Parts of the system that nobody starts.
@@ -51,7 +51,7 @@ bool isHelperProgram(const QString &fileName)
                        [&lower](QLatin1StringView part) { return lower.contains(part); });
 }
 
-QString normalised(const QString &name)
+QString normalisedName(const QString &name)
 {
     QString letters;
     for (const QChar c : name) {
@@ -76,7 +76,7 @@ QString iconFile(const QString &displayIcon)
 
 // One spelling for all that mean the same to the system: with backslashes, in small letters, and
 // with what the known placeholders stand for.
-QString oneSpelling(const QString &path)
+QString normalisedPath(const QString &path)
 {
     QString result = path;
     for (qsizetype begin = result.indexOf(u'%'); begin >= 0;
@@ -95,15 +95,15 @@ QString oneSpelling(const QString &path)
 // Whatever the spelling; without quotes the system tries each blank as the end of the program.
 bool startsProgram(const QString &command, const QString &exePath)
 {
-    const QString program = oneSpelling(exePath);
+    const QString program = normalisedPath(exePath);
     if (command.startsWith(u'"'))
-        return oneSpelling(StartupManager::commandPath(command)) == program;
-    const QString line = oneSpelling(command);
+        return normalisedPath(StartupManager::commandPath(command)) == program;
+    const QString line = normalisedPath(command);
     return line == program || line.startsWith(program + u' ') || line.startsWith(program + u'\t');
 }
 
 // The programs of one folder, by name, below it with a prefix.
-QStringList programsIn(const QString &folder, const QString &prefix)
+QStringList listPrograms(const QString &folder, const QString &prefix)
 {
     QStringList names;
     platform::WalkOptions options;
@@ -124,7 +124,7 @@ StartupManager::StartupManager(QObject *parent)
 
 const QList<StartupApp> &StartupManager::apps()
 {
-    if (!m_loaded)
+    if (!m_isLoaded)
         loadInstalledApps();
     return m_apps;
 }
@@ -132,7 +132,7 @@ const QList<StartupApp> &StartupManager::apps()
 void StartupManager::loadInstalledApps()
 {
     m_apps.clear();
-    m_loaded = true;
+    m_isLoaded = true;
     const Registry registry;
     readStartupTable(registry);
     for (const auto &[hive, root] : registrykeys::uninstallLists()) {
@@ -147,19 +147,19 @@ void StartupManager::loadInstalledApps()
 
 void StartupManager::readStartupTable(const Registry &registry)
 {
-    m_startup.clear();
+    m_entries.clear();
     for (const QString &name : registry.valueNames(Hive::CurrentUser, registrykeys::userRun)) {
         const QString command =
             registry.text(Hive::CurrentUser, registrykeys::userRun, name).trimmed();
         const QString path = commandPath(command);
-        m_startup.append({name, path, command});
+        m_entries.append({name, path, command});
     }
 }
 
 QList<StartupManager::Entry> StartupManager::entriesOf(const QString &exePath) const
 {
     QList<Entry> entries;
-    for (const Entry &entry : m_startup) {
+    for (const Entry &entry : m_entries) {
         if (entry.exePath.compare(exePath, Qt::CaseInsensitive) == 0
             || startsProgram(entry.command, exePath))
             entries.append(entry);
@@ -208,33 +208,33 @@ void StartupManager::readUninstallKey(const Registry &registry, Hive hive, const
 
 QString StartupManager::findExecutable(const QString &folder, const QString &name)
 {
-    if (!isWhole(folder))
+    if (!isFullPath(folder))
         return {};
     const QString local = QFileInfo(platform::localPath(folder)).canonicalFilePath();
     if (local.isEmpty() || !QFileInfo(local).isDir())
         return {};
     // No deeper: an install folder may be a whole drive or a share.
-    QStringList programs = programsIn(local, {});
-    QStringList below;
+    QStringList programs = listPrograms(local, {});
+    QStringList subfolders;
     for (const platform::ListedEntry &entry : platform::FolderLister().list(local).entries) {
         if (entry.kind == platform::ListedKind::Folder && !entry.isHidden)
-            below.append(entry.name);
+            subfolders.append(entry.name);
     }
-    below.sort(Qt::CaseInsensitive);
-    for (const QString &subfolder : std::as_const(below))
-        programs += programsIn(platform::joinedPath(local, subfolder), subfolder + u'\\');
+    subfolders.sort(Qt::CaseInsensitive);
+    for (const QString &subfolder : std::as_const(subfolders))
+        programs += listPrograms(platform::joinedPath(local, subfolder), subfolder + u'\\');
     programs.removeIf([](const QString &program) {
         return isHelperProgram(program.mid(program.lastIndexOf(u'\\') + 1));
     });
     if (programs.isEmpty())
         return {};
-    const QString product = normalised(name);
-    const auto isNamedAlike = [&product](const QString &program) {
+    const QString product = normalisedName(name);
+    const auto hasSimilarName = [&product](const QString &program) {
         const QString file = program.mid(program.lastIndexOf(u'\\') + 1);
         const QString base = file.first(file.indexOf(u'.')).toLower();
         return product.contains(base) || base.contains(product);
     };
-    const auto best = std::find_if(programs.cbegin(), programs.cend(), isNamedAlike);
+    const auto best = std::find_if(programs.cbegin(), programs.cend(), hasSimilarName);
     QString root = folder;
     while (root.endsWith(u'\\') || root.endsWith(u'/'))
         root.chop(1);
@@ -245,14 +245,14 @@ bool StartupManager::addToStartup(const QString &name, const QString &exePath)
 {
     const QString command = u'"' + exePath + u'"';
     readStartupTable(Registry()); // others write there too
-    keepCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
+    logCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
     const bool isDone = platform::registrysettings::setText(
         Hive::CurrentUser, registrykeys::userRun, name, command, m_error);
     if (isDone)
         Logger::instance().info(u"Added to startup: %1"_s.arg(name));
     else
         Logger::instance().error(u"Failed to add startup: %1"_s.arg(name));
-    readStates();
+    updateStates();
     return isDone;
 }
 
@@ -275,18 +275,18 @@ bool StartupManager::setStartup(const StartupApp &app, bool enable)
 
 bool StartupManager::removeEntries(const QStringList &valueNames)
 {
-    keepCommands(valueNames, u"Startup command of %1 before it was removed: %2"_s);
+    logCommands(valueNames, u"Startup command of %1 before it was removed: %2"_s);
     const bool isDone = platform::registrysettings::remove(Hive::CurrentUser, registrykeys::userRun,
                                                            valueNames, m_error);
-    const QList<Entry> before = m_startup;
-    readStates();
+    const QList<Entry> before = m_entries;
+    updateStates();
     const auto has = [](const QList<Entry> &entries, const QString &name) {
         return std::any_of(entries.cbegin(), entries.cend(), [&name](const Entry &entry) {
             return entry.valueName.compare(name, Qt::CaseInsensitive) == 0;
         });
     };
     for (const QString &name : valueNames) {
-        if (isDone || (has(before, name) && !has(m_startup, name)))
+        if (isDone || (has(before, name) && !has(m_entries, name)))
             Logger::instance().info(u"Removed from startup: %1"_s.arg(name));
         else
             Logger::instance().error(u"Failed to remove startup: %1"_s.arg(name));
@@ -294,15 +294,15 @@ bool StartupManager::removeEntries(const QStringList &valueNames)
     return isDone;
 }
 
-void StartupManager::keepCommands(const QStringList &valueNames, const QString &line) const
+void StartupManager::logCommands(const QStringList &valueNames, const QString &line) const
 {
-    for (const Entry &entry : m_startup) {
+    for (const Entry &entry : m_entries) {
         if (valueNames.contains(entry.valueName, Qt::CaseInsensitive))
             Logger::instance().info(line.arg(entry.valueName, entry.command));
     }
 }
 
-void StartupManager::readStates()
+void StartupManager::updateStates()
 {
     readStartupTable(Registry());
     for (StartupApp &app : m_apps)

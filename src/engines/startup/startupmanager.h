@@ -70,12 +70,12 @@ private:
     [[nodiscard]] QList<Entry> entriesOf(const QString &exePath) const;
     bool removeEntries(const QStringList &valueNames);
     /// Writes the commands of these entries, which are about to go, to the log.
-    void keepCommands(const QStringList &valueNames, const QString &line) const;
+    void logCommands(const QStringList &valueNames, const QString &line) const;
     /// Takes the table and the programs' flags from the registry as it is now.
-    void readStates();
+    void updateStates();
 
     QList<StartupApp> m_apps;
-    bool m_loaded = false;
-    QList<Entry> m_startup; ///< the start-up list, in the registry's order
+    bool m_isLoaded = false;
+    QList<Entry> m_entries; ///< the start-up list, in the registry's order
     QString m_error;
 };

@@ -17,7 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// What the application owns. Deleted in the reverse order: the window before its engines.
+/// What the application owns. Members are destroyed in reverse order: the window before its
+/// engines.
 class Application::Private
 {
 public:

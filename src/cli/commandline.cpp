@@ -39,8 +39,8 @@ QStringList wordsAfter(const QString &first)
     return words;
 }
 
-/// The commands that the option goes with. Where it goes with all that begin with the same word,
-/// this word stands for them.
+/// The names of the commands that accept the option. If all commands with the same first word
+/// accept it, that word stands for them.
 QStringList commandsTaking(Option option)
 {
     QStringList names;
@@ -81,7 +81,7 @@ QString optionHelp(const OptionInfo &option)
     return (names == firstWords() ? QString() : names.join(", "_L1) + ": "_L1) + option.help;
 }
 
-/// Null when there is none of this name.
+/// The command whose name begins @p words; null when there is none.
 const Command *findCommand(const QStringList &words)
 {
     const auto command =

@@ -7,14 +7,15 @@
 
 #include <span>
 
-/// The two tables that say all about the command line: the options and the commands.
+/// The two tables that define the command line: the options and the commands.
 namespace cli {
 
+/// One row of the table of options.
 struct OptionInfo {
     Option option = {};
     QLatin1StringView name; ///< without the dashes
-    QLatin1StringView value; ///< what the help calls it; empty when the option has none
-    QLatin1StringView help; ///< which commands take it is added from their table
+    QLatin1StringView value; ///< its name in the help; empty when the option has no value
+    QLatin1StringView help; ///< the names of the commands that accept it are put before it
 };
 
 /// How many arguments may follow the name of a command.
@@ -23,17 +24,19 @@ struct ArgumentCount {
     qsizetype maximum = 0;
 };
 
-/// Commands that show the same form, such as "scan ENGINE", are one line of the help.
+/// The line of a command in the help. Neighbouring commands with the same form, such as "scan
+/// ENGINE", share one line.
 struct CommandHelp {
     QLatin1StringView form;
     QLatin1StringView text;
 };
 
+/// One row of the table of commands.
 struct Command {
-    QLatin1StringView name; ///< one or two words; none is the beginning of another's
+    QLatin1StringView name; ///< one or two words; no name is the beginning of another
     CommandHelp help;
     ArgumentCount arguments;
-    Options options; ///< that go with it; any other one is refused
+    Options options; ///< that it accepts; any other option is refused
     ExitStatus (*run)(const Invocation &invocation) = nullptr;
 };
 

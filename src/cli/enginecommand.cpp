@@ -18,12 +18,12 @@ namespace cli {
 
 namespace {
 
-/// An engine that is ready to scan, with what the command line and the report call its parts.
+/// An engine that is ready to scan, with the names for the command line and the report.
 struct Target {
     CleanEngine &engine;
     report::Subject subject;
-    QStringList categories; ///< the ids of all that it can find
-    /// What went wrong in a clean beside the engine's failures; stands before them.
+    QStringList categories; ///< the ids of all categories that it can find
+    /// The failures of a clean that are not in the engine's list. They come first in the report.
     std::function<QList<CleanFailure>()> otherFailures = {};
 };
 
@@ -48,7 +48,7 @@ ExitStatus scan(const Target &target, const Invocation &invocation)
         [&] { return report::scanAsText(target.subject, result, items); });
 }
 
-/// Every clean starts here, so that this is the one place that asks whether the user wants it.
+/// Every clean starts here, so --yes is checked in one place only.
 ExitStatus clean(const Target &target, const Invocation &invocation)
 {
     if (!invocation.has(Option::Yes))
@@ -150,7 +150,7 @@ ExitStatus cleanBrowser(const Invocation &invocation)
 
 ExitStatus cleanRegistry(const Invocation &invocation)
 {
-    // An empty name is none: with it no backup would be written.
+    // An empty name counts as none, because no backup would be written to it.
     const QString backup = invocation.value(Option::Backup);
     if (backup.isEmpty() == !invocation.has(Option::NoBackup))
         return refuse(u"say where the removed entries are to be kept with --backup FILE, or "

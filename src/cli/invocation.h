@@ -8,7 +8,7 @@
 
 namespace cli {
 
-/// Every option but those for help and version; commands.cpp declares each by its name.
+/// All options except those for help and version. commands.cpp gives each its name.
 enum class Option {
     Items = 1 << 0,
     Json = 1 << 1,
@@ -22,8 +22,8 @@ enum class Option {
 Q_DECLARE_FLAGS(Options, Option)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Options)
 
-/// What the user gave to a command: its arguments, and its options by name. Made once the command
-/// line was found to be right: there is no option that does not go with the command.
+/// The arguments and options that the user gave to a command. It is made after the command line was
+/// checked: every option in it is one that the command accepts.
 class Invocation final
 {
 public:
@@ -33,12 +33,12 @@ public:
     {
     }
 
-    /// What follows the name of the command; as many as the command wants.
+    /// The words after the name of the command. Their number is one that the command accepts.
     [[nodiscard]] const QStringList &arguments() const { return m_arguments; }
     [[nodiscard]] bool has(Option option) const { return m_options.contains(option); }
-    /// In the order in which they were given; none without the option.
+    /// The values of the option in the order in which they were given. Empty without the option.
     [[nodiscard]] QStringList values(Option option) const { return m_options.value(option); }
-    /// The last one; empty without the option, and also where the user gave an empty one.
+    /// The last value. Empty without the option, and also when the user gave an empty value.
     [[nodiscard]] QString value(Option option) const
     {
         const QStringList all = values(option);

@@ -53,7 +53,7 @@ QString asText(const LargeFileScanner &scanner, const QList<LargeFileInfo> &file
     return text;
 }
 
-// Nothing for what is no size, or less than one byte.
+// Nothing when the text is not a size or is less than one byte.
 std::optional<qint64> parseSize(const QString &text)
 {
     static constexpr QLatin1StringView units("KMG");

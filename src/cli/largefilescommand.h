@@ -5,9 +5,9 @@
 
 namespace cli {
 
-/// "large-files PATH...": lists the files from a size on below the folders, largest first. The size
-/// is a text such as "500", "64K", "100M" or "2G", in binary units; without one 100 MiB. Runs the
-/// application's event loop.
+/// "large-files PATH...": lists the files of a minimum size below the folders, largest first. The
+/// size is a text such as "500", "64K", "100M" or "2G", in binary units; the default is 100 MiB.
+/// Runs the application's event loop.
 [[nodiscard]] ExitStatus listLargeFiles(const Invocation &invocation);
 
 } // namespace cli

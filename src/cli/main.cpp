@@ -7,7 +7,8 @@
 
 namespace {
 
-// The engines tell the debug output what they do; here that would mix with the report.
+// The engines write what they do to the debug output. Here that would mix with the report, so it is
+// dropped.
 void writeWarningsOnly(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type != QtDebugMsg && type != QtInfoMsg)

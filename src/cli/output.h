@@ -8,30 +8,32 @@
 
 #include <functional>
 
-/// What every command says and how it ends.
+/// What all commands share: their output and their exit status.
 namespace cli {
 
+/// The exit status of the program; exitStatusHelp() has the meanings.
 enum ExitStatus { Success = 0, SomeFailed = 1, WrongUse = 2 };
 
 /// Every exit status with what it means, for the help.
 [[nodiscard]] QString exitStatusHelp();
 
+/// Writes @p text to standard error.
 void writeError(const QString &text);
 
-/// Tells on standard error why the command does not go on; returns WrongUse.
+/// Writes to standard error why the command stops. Returns WrongUse.
 ExitStatus refuse(const QString &message);
 
-/// Prints what the command found or did: as one JSON object with --json, else as text. Returns
-/// @p status, or refuses when the report did not get out, for instance because the disk is full.
+/// Prints the result of the command: one JSON object with --json, otherwise text. Returns
+/// @p status. If the output cannot be written, for example on a full disk, it is refused.
 [[nodiscard]] ExitStatus printReport(const Invocation &invocation,
                                      const std::function<QJsonObject()> &asJson,
                                      const std::function<QString()> &asText,
                                      ExitStatus status = Success);
 
-/// The box before a line of a list, with a blank after it.
+/// The tick box before a line of a list, followed by a blank.
 [[nodiscard]] QString tickMark(Qt::CheckState state);
 
-/// @p asObject of each in @p list.
+/// An array of asObject(entry) for each entry of @p list.
 template<typename List, typename AsObject>
 [[nodiscard]] QJsonArray jsonArray(const List &list, AsObject asObject)
 {

@@ -111,7 +111,7 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
         if (items == Items::Omitted)
             continue;
         for (const CleanItem &item : category.items) {
-            // Which ones are meant has to be said of each only where it is not the same for all.
+            // Each item has its own tick box only when the items of the category differ.
             const bool isPartial = state == Qt::PartiallyChecked;
             stream << (isPartial ? "  " : "      ")
                    << (isPartial ? cli::tickMark(item.checked ? Qt::Checked : Qt::Unchecked)

@@ -6,23 +6,26 @@
 #include <QJsonObject>
 #include <QString>
 
-/// How a scan and a clean are told on standard output: the same shape for every engine.
+/// Formats the results of a scan and of a clean for standard output, in the same way for every
+/// engine.
 namespace report {
 
+/// Whether a report lists the items of the categories.
 enum class Items { Omitted, Listed };
-enum class Unit { Bytes, Entries }; ///< Entries have no size: they are counted
+enum class Unit { Bytes, Entries }; ///< entries have no size and are only counted
 
-/// What is told of.
+/// What a report is about.
 struct Subject {
     QString engine; ///< as the command line names it
     Unit unit = Unit::Bytes;
 };
 
-/// @p result with members that are named as the records' fields are.
+/// @p result as JSON. The members have the names of the fields of the records.
 [[nodiscard]] QJsonObject scanAsJson(const Subject &subject, const ScanResult &result, Items items);
-/// @p result as text for people, one line a category and, when listed, one an item.
+/// @p result as text for people: one line for each category and, if listed, one for each item.
 [[nodiscard]] QString scanAsText(const Subject &subject, const ScanResult &result, Items items);
 
+/// The result of a clean.
 struct CleanOutcome {
     qint64 cleanedSize = 0; ///< bytes
     int cleanedCount = 0;

@@ -5,7 +5,7 @@
 
 namespace cli {
 
-/// "restore FILE": puts the registry entries of a backup back.
+/// "restore FILE": restores the registry entries of a backup.
 [[nodiscard]] ExitStatus restore(const Invocation &invocation);
 
 } // namespace cli

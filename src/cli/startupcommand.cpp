@@ -36,7 +36,8 @@ ExitStatus switchStartup(const Invocation &invocation, bool enable)
                                   : u"several installed programs are called '%1'"_s)
                           .arg(name));
     const StartupApp app = *std::find_if(apps.cbegin(), apps.cend(), hasName);
-    // An entry of that name may belong to another program.
+    // Nothing is done when the state is already right: an entry of that name may belong to another
+    // program.
     if (app.isStartup != enable && !manager.setStartup(app, enable))
         return refuse(u"'%1' was not changed: %2"_s.arg(app.name, manager.errorString()));
     const StartupApp changed = *std::find_if(apps.cbegin(), apps.cend(), hasName);

@@ -3,7 +3,7 @@
 #include "invocation.h"
 #include "output.h"
 
-/// "startup list", "startup enable NAME" and "startup disable NAME".
+/// The commands "startup list", "startup enable NAME" and "startup disable NAME".
 namespace cli {
 
 [[nodiscard]] ExitStatus listStartup(const Invocation &invocation);

@@ -25,8 +25,8 @@ void CleanEngine::startScan()
     stopAndWait();
     const RunSignals::Run run = m_runSignals.open();
     m_stopRequested = false;
-    // A million records take a noticeable time to free: the worker does it, once the pages have let
-    // go.
+    // Freeing a million records takes noticeable time, so the worker does it. By then the pages
+    // have let go of them, because of the new state.
     QList<CleanCategory> discarded = std::exchange(m_result.categories, {});
     setState(State::Scanning);
 
@@ -132,8 +132,8 @@ void CleanEngine::startWorker(std::unique_ptr<QThread> worker)
     m_worker->start();
 }
 
-// Posted by the worker. cancel() may have overtaken it; and who hears of the new state may start
-// the next run.
+// The worker posts this call. cancel() may have been called since, so the state is checked. A
+// receiver of stateChanged() may start the next run, so the run is checked too.
 void CleanEngine::completeScan(const RunSignals::Run &run)
 {
     Q_ASSERT(m_isWorkerDone);

@@ -16,29 +16,29 @@ class QThread;
 /// One thing that a clean could not remove.
 struct CleanFailure {
     QString path;
-    QString reason; ///< for people; outside text in it is as it came
+    QString reason; ///< for people; may contain unchanged text from outside
 };
 
-/// The frame of the rule-driven engines: the last result, one worker thread per run, the state and
-/// the signals.
+/// The base of the engines that scan and clean: the last result, one worker thread per run, the
+/// state and the signals.
 ///
-/// Lives on the GUI thread; doScan() and doClean() run on the worker, of which there is never more
-/// than one. Who touches what:
+/// Lives on the GUI thread. doScan() and doClean() run on the worker. There is never more than one
+/// worker. Which thread uses which member:
 ///  - state, stop flag: both threads, atomic;
 ///  - result: the worker while a scan runs, otherwise the GUI thread;
-///  - selection: set on the GUI thread before a clean's worker starts, read and dropped by the
-///  worker;
+///  - selection: the GUI thread sets it before a clean's worker starts; the worker reads and drops
+///    it;
 ///  - failures: the worker while a clean runs, otherwise the GUI thread;
 ///  - worker, run signals: the GUI thread;
-///  - worker done: atomic; set by the worker when it is done with the rest, so that whoever has
-///  seen it sees all that the run wrote.
+///  - worker done: atomic. The worker sets it last. A thread that sees it set also sees everything
+///    that the run wrote.
 ///
-/// Progress and the end of a clean are emitted by the worker. Who must not hear of a run that is
-/// over connects to an object of makeRunReceiver().
+/// The worker emits progress and the end of a clean. A receiver that must not hear of an earlier
+/// run is connected through an object of makeRunReceiver().
 ///
-/// Pages bind their widgets to the records inside result(). They take the records through the
-/// non-const accessor once, after scanFinished(), and let go of them when the state becomes
-/// Scanning; between the two nothing may reallocate the lists. Whoever keeps a copy reads it only.
+/// Pages bind their widgets to the records inside result(). A page takes the records through the
+/// non-const accessor once, after scanFinished(). It lets go of them when the state becomes
+/// Scanning. Between the two, nothing may reallocate the lists. A copy of the result is only read.
 class CleanEngine : public QObject
 {
     Q_OBJECT
@@ -55,32 +55,33 @@ public:
     Q_ENUM(State)
 
     explicit CleanEngine(QObject *parent = nullptr);
-    /// Stops and joins the worker. Each concrete engine does so in its own destructor first, since
-    /// the worker runs its virtual functions.
+    /// Stops and joins the worker. The worker calls virtual functions, so each concrete engine does
+    /// this in its own destructor first.
     ~CleanEngine() override;
 
     [[nodiscard]] State state() const { return m_state.load(); }
-    /// What the last scan found. While a scan runs it belongs to the worker.
+    /// What the last scan found. While a scan runs, the result belongs to the worker.
     [[nodiscard]] const ScanResult &result() const { return m_result; }
     [[nodiscard]] ScanResult &result() { return m_result; }
-    /// What the last clean could not remove. While a clean runs it belongs to the worker.
+    /// What the last clean could not remove. While a clean runs, the list belongs to the worker.
     [[nodiscard]] const QList<CleanFailure> &failures() const { return m_failures; }
-    /// An object to connect the engine's signals to: what a worker emitted is dropped there once
-    /// the next run begins or the engine is gone. GUI thread.
+    /// Makes an object to connect the engine's signals to. Queued signals of a run are dropped
+    /// there when the next run begins or the engine is deleted. GUI thread.
     [[nodiscard]] std::unique_ptr<QObject> makeRunReceiver() const
     {
         return m_runSignals.makeReceiver();
     }
 
-    /// Reads the engine's rule file; the base has none.
+    /// Reads the engine's rule file. The base class has none and does nothing.
     virtual void loadRules(const QString &path);
 
 public Q_SLOTS:
-    /// Starts a scan. A run that is still busy is stopped and waited for, however long that takes.
+    /// Starts a scan. Stops a run that is still busy first and waits for its end, without a time
+    /// limit.
     virtual void startScan();
-    /// Starts removing what is checked at this moment; later ticks do not reach the worker.
+    /// Starts to remove what is checked now. Later changes of check marks do not reach the worker.
     virtual void startClean();
-    /// Asks the worker to stop and becomes Cancelled at once, without waiting.
+    /// Asks the worker to stop and sets the state Cancelled at once, without waiting.
     virtual void cancel();
 
 public:
@@ -96,44 +97,44 @@ Q_SIGNALS:
     void errorOccurred(QString error);
 
 protected:
-    /// Fills the result's categories; on the worker.
+    /// Fills the result's categories. Runs on the worker.
     virtual void doScan() = 0;
-    /// Removes selection(), as a rule with cleanSelection(), and then tells of it with
-    /// reportClean(), cancelled or not; on the worker.
+    /// Removes what selection() holds, normally with cleanSelection(). Then calls reportClean(),
+    /// also after a cancel. Runs on the worker.
     virtual void doClean() = 0;
 
     void setState(State state);
-    /// Ends a clean as @p end, unless cancel() was quicker and the state is no longer Cleaning.
+    /// Ends a clean in the state @p end. Does nothing when cancel() has already changed the state.
     void endClean(State end);
     [[nodiscard]] bool isStopRequested() const { return m_stopRequested.load(); }
     [[nodiscard]] const std::atomic_bool &stopFlag() const { return m_stopRequested; }
     /// The checked items as they were when the clean was started.
     [[nodiscard]] const ScanResult &selection() const { return m_selection; }
 
-    /// What became of one item of a clean.
+    /// The result of removing one item.
     struct Removal {
         enum Result { Cleaned, Failed, NotCounted };
         Result result = Cleaned;
-        qint64 freed = 0; ///< bytes; where it was cleaned
-        CleanFailure failure; ///< where it failed
+        qint64 freed = 0; ///< bytes; set for Cleaned
+        CleanFailure failure; ///< set for Failed
     };
     /// What a clean has done so far.
     struct CleanTotals {
         qint64 freed = 0; ///< bytes
         int cleaned = 0;
         int failed = 0;
-        bool isStopped = false; ///< before its end
+        bool isStopped = false; ///< the clean ended before its last item
     };
     using RemoveItem = std::function<Removal(const CleanItem &)>;
     using EnterCategory = std::function<void(const CleanCategory &)>;
 
-    /// Hands each item of selection() to @p remove, after telling of its turn with cleanProgress(),
-    /// and each category to @p enter before its items. Keeps the failures. A stop that is requested
-    /// ends it before the next item.
+    /// Calls @p remove for each item of selection(), after cleanProgress() for that item. Calls
+    /// @p enter for each category before its items. Keeps the failures. Returns before the next
+    /// item when a stop is requested.
     [[nodiscard]] CleanTotals cleanSelection(const RemoveItem &remove,
                                              const EnterCategory &enter = {});
-    /// Sets the state in which the clean ends and emits cleanFinished(). What the log says of the
-    /// end is each engine's own, and so is whether it says it before or after.
+    /// Sets the state in which the clean ends and emits cleanFinished(). Each engine writes its own
+    /// log line about the end, before or after this call.
     void reportClean(const CleanTotals &totals);
     void addFailure(const CleanFailure &failure) { m_failures.append(failure); }
 

@@ -8,31 +8,32 @@
 
 class CleanEngine;
 
-/// One scan over the junk, the browser and the registry engine together, which run at the same
-/// time. GUI thread.
+/// One scan by the junk, browser and registry engines, which run at the same time. The main window
+/// owns it. GUI thread.
 ///
-/// It stays attached to the engines of the last start: a scan that one of their pages starts later
-/// is reported as well, with the other two at 100 percent, and brings the totals up to date. An
-/// engine that is cancelled or fails leaves the scan open until a later scan of it ends.
+/// It stays connected to the engines of the last start. So it also reports a scan that the page of
+/// one engine starts later: the other two engines count as 100 percent, and the totals are updated.
+/// When an engine is cancelled or fails, the scan stays open until a later scan of that engine
+/// ends.
 class FullScan final : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FullScan)
 public:
-    /// Junk, browser, registry; null for an engine that there is not, which counts as done.
+    /// Junk, browser, registry. A null engine counts as done.
     using Engines = std::array<CleanEngine *, 3>;
 
     using QObject::QObject;
 
-    /// Starts all of @p engines, which are not owned. What an engine is busy with is stopped; what
-    /// an earlier run still has to report is dropped.
+    /// Starts all of @p engines, which it does not own. A busy engine is stopped first. Late
+    /// signals of its earlier run are dropped.
     void start(const Engines &engines);
 
 Q_SIGNALS:
-    /// The mean of the three percentages, rounded down, and what is being looked at.
+    /// The mean of the three percentages, rounded down, and what the engine is looking at.
     void progressed(int percent, QString currentPath);
-    /// Every engine has finished; sizes in bytes. May come twice: a page that shows one engine's
-    /// result lets the others report in the middle of it.
+    /// Every engine has finished; sizes are in bytes. May be emitted twice: while a page shows one
+    /// engine's result, the other engines may report.
     void finished(qint64 junkSize, qint64 browserSize, int registryCount);
 
 private:
@@ -41,5 +42,5 @@ private:
 
     Engines m_engines{};
     std::array<int, 3> m_percents{};
-    std::array<std::unique_ptr<QObject>, 3> m_receivers; ///< of the engines' signals
+    std::array<std::unique_ptr<QObject>, 3> m_receivers; ///< one for the signals of each engine
 };

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The key as it comes back from the file.
+// The key as an INI file returns it.
 QString keyInFile(QLatin1StringView key)
 {
     QString name = key;

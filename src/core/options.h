@@ -4,16 +4,17 @@
 
 class QSettings;
 
-/// The options that the settings keep: switches, each under a key and with a default.
+/// The on/off options in the settings. Each has a key and a default value.
 ///
-/// They are read and written by these functions alone: an INI file gives back the group "general",
-/// whose name has a meaning of its own there, as "General", which is another one where capitals
-/// count.
+/// They must be read and written with these functions only. In an INI file the group name "general"
+/// has a special meaning: it is read back as "General". Where the case of key names counts, that is
+/// another group.
 namespace options {
 
+/// One on/off option of the settings.
 struct Option {
     QLatin1StringView key;
-    bool defaultValue = false; ///< where the settings do not have the key
+    bool defaultValue = false; ///< used when the settings do not have the key
 };
 
 /// Start with the session.
@@ -22,10 +23,10 @@ inline constexpr Option autoStart{QLatin1StringView("general/autoStart"), false}
 inline constexpr Option minimizeToTray{QLatin1StringView("general/minimizeToTray"), false};
 /// Ask before a clean.
 inline constexpr Option confirmClean{QLatin1StringView("clean/confirmClean"), true};
-/// Kept for the user; a registry clean always asks for its backup.
+/// Stored for the user without further effect: a registry clean always asks for its backup.
 inline constexpr Option backupRegistry{QLatin1StringView("clean/backupRegistry"), true};
 
-/// The code of the language, a text that is empty by default. Alone in a store of its own:
+/// The language code, a text that is empty by default. It is the only key of a separate store:
 /// QSettings(appinfo::organisation, appinfo::name).
 inline constexpr QLatin1StringView language("language");
 

@@ -28,7 +28,7 @@ void RunSignals::end()
 std::unique_ptr<QObject> RunSignals::makeReceiver() const
 {
     auto receiver = std::make_unique<QObject>();
-    // A connection that is cut does not take back what it has queued: only its removal does.
+    // Disconnecting does not remove signals that are already queued, so they are removed here.
     connect(this, &RunSignals::ended, receiver.get(), [receiver = receiver.get()] {
         QCoreApplication::removePostedEvents(receiver, QEvent::MetaCall);
     });

@@ -5,28 +5,31 @@
 #include <memory>
 #include <utility>
 
-/// Keeps what a worker has sent in one run from arriving in a later one.
+/// Keeps signals and calls of one run from arriving during a later run.
 ///
-/// Belongs to the object that has the worker, and lives on its thread. That object opens each run
-/// here, after the worker of the run before has been joined and before the next one starts.
-/// - What the worker posts through the Run is dropped once that run is no longer the current one.
-/// - Signals that the worker emits itself reach a receiver on the owner's thread through the event
-///   loop. Who connects them to an object of makeReceiver() gets those of the current run only:
-///   what is still queued there is removed when the run ends or the next one opens. Signals that
-///   the owner's thread emits arrive there at once, as anywhere.
+/// The object that has the worker owns it. It lives on that object's thread. The owner opens each
+/// run here: after it has joined the worker of the previous run, and before it starts the next
+/// worker.
+/// - A call that the worker posts through Run is dropped when that run is no longer the current
+///   one.
+/// - Signals that the worker emits reach a receiver on the owner's thread through the event loop.
+///   An object of makeReceiver() receives those of the current run only. What is still queued for
+///   it is removed when the run ends or the next one opens. Signals that the owner's thread emits
+///   arrive there at once, as at any receiver.
 class RunSignals final : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(RunSignals)
 public:
-    /// One run, as its worker holds it.
+    /// The handle of one run, which its worker holds.
     class Run final
     {
     public:
-        /// On the owner's thread.
+        /// Must be called on the owner's thread.
         [[nodiscard]] bool isCurrent() const { return m_signals->m_current == m_number; }
 
-        /// Has @p call made on the owner's thread, unless the run is over by then. From any thread.
+        /// Calls @p call on the owner's thread later, unless the run is over by then. May be called
+        /// on any thread.
         template<class Call>
         void post(Call call) const
         {
@@ -50,7 +53,7 @@ public:
     };
 
     explicit RunSignals(QObject *owner);
-    /// Nothing that is still queued arrives any more.
+    /// Drops everything that is still queued.
     ~RunSignals() override;
 
     /// Ends the current run and opens the next.
@@ -58,13 +61,14 @@ public:
     /// Ends the current run, if there is one.
     void end();
 
-    /// An object to connect the owner's signals to, which must be used on the owner's thread. The
-    /// connections end with it. It may outlive the owner.
+    /// Makes an object to connect the owner's signals to. It must be used on the owner's thread.
+    /// Its connections end when it is deleted. It may outlive the owner.
     [[nodiscard]] std::unique_ptr<QObject> makeReceiver() const;
 
 Q_SIGNALS:
     void ended();
 
 private:
-    quint64 m_current = 0; ///< counts opened and ended runs, so that an ended one is never current
+    /// Increases when a run opens or ends, so that an ended run is never the current one.
+    quint64 m_current = 0;
 };

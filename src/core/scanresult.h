@@ -9,7 +9,8 @@
 /// Levels of CleanItem::riskLevel and CleanCategory::riskLevel.
 enum RiskLevel { LowRisk = 0, MediumRisk = 1, HighRisk = 2 };
 
-/// Which of the two a registry entry is: a key and a value of the key above it may share a name.
+/// Whether a registry entry is a key or a value. A key and a value of its parent key may share a
+/// name.
 enum class RegistryEntry : quint8 { Unknown, Key, Value };
 
 /// One removable thing: a file, a folder that a walk found, a registry entry.
@@ -21,17 +22,17 @@ struct CleanItem {
     {
     }
 
-    QString name; ///< for files without the folder
+    QString name; ///< of a file: without its folder
     QString path; ///< absolute; what the engine deletes
-    qint64 size; ///< bytes; 0 where the thing has no size
+    qint64 size; ///< bytes; 0 when the item has no size
     bool checked = true;
     int riskLevel = LowRisk;
     QString description;
     bool isDirectory = false;
     QString registryRoot; ///< such as "HKEY_CLASSES_ROOT"; empty for files
     QString registryKey; ///< below the root; empty for files
-    bool isUserClass =
-        false; ///< of HKEY_CLASSES_ROOT: read from the user's hive, not the machine's
+    /// Of an entry of HKEY_CLASSES_ROOT: the scan read it from the user's hive, not the machine's.
+    bool isUserClass = false;
     RegistryEntry registryEntry = RegistryEntry::Unknown;
 };
 
@@ -48,8 +49,8 @@ struct CleanCategory {
     [[nodiscard]] int checkedCount() const;
     [[nodiscard]] qint64 checkedSize() const; ///< bytes
     [[nodiscard]] qint64 totalSize() const; ///< bytes, whether checked or not
-    /// What a check box in front of the category shows: how many of its items a clean would take.
-    /// Without items it is the category's own mark.
+    /// The state for a check box of the category: whether a clean would remove all, some or none of
+    /// its items. A category without items has the state of its own mark.
     [[nodiscard]] Qt::CheckState checkState() const;
     /// Sets every item and then the category itself.
     void setChecked(bool on);
@@ -62,12 +63,13 @@ struct CleanCategory {
     bool expanded = false;
     int riskLevel = LowRisk;
     QList<CleanItem> items; ///< in the order in which the scan found them
-    QString browserId; ///< whose data it is; empty for what is no browser's
-    QString ruleId; ///< of a browser's data: the rule, the same for every browser
-    QString ruleName; ///< of a browser's data: the name without the browser's
+    QString browserId; ///< the browser that has the data; empty for other categories
+    QString ruleId; ///< of browser data: the id of the rule, without the browser
+    QString ruleName; ///< of browser data: the rule's name, without the browser's
 };
 
-/// What a scan found, and with its check marks what a clean is to remove.
+/// What a scan found. Its check marks say what a clean is to remove. An engine owns its last
+/// result.
 ///
 /// Selection has two levels: an item counts as checked only within a checked category.
 struct ScanResult {
@@ -76,8 +78,8 @@ struct ScanResult {
     [[nodiscard]] int checkedCount() const;
     [[nodiscard]] qint64 checkedSize() const; ///< bytes
 
-    /// A copy that shares no record with this one and holds only what is checked, in the same
-    /// order.
+    /// A copy that holds only what is checked, in the same order. It shares no record with this
+    /// one.
     [[nodiscard]] ScanResult checkedOnly() const;
 
     QList<CleanCategory> categories;

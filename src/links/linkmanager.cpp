@@ -18,12 +18,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The language of the pages for a system in @p locale.
+// The language of the help pages for a system with this @p locale.
 QString pageLanguage(const QString &locale)
 {
     if (locale == "zh_TW"_L1 || locale == "zh_HK"_L1)
         return u"zh_TW"_s;
-    // Those who write simplified Chinese read the English pages more easily than the traditional
+    // Readers of simplified Chinese read the English pages more easily than the traditional Chinese
     // ones.
     const QString code = locale.left(2).toLower();
     return languages::contains(code) ? code : u"en"_s;
@@ -33,7 +33,7 @@ void showMessage(QMessageBox::Icon icon, const QString &title, const QString &te
 {
     QMessageBox box(icon, title, text, QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
-    // An address can be copied.
+    // The user can copy an address from the box.
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.exec();
 }

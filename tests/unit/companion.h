@@ -7,7 +7,7 @@
 class RegistryFixture;
 class TestHome;
 
-/// What the tests of the companion share: it is run as its users run it, as a process.
+/// What the tests of the companion share. They run it as its users do, as a process.
 namespace companion {
 
 struct Run {
@@ -19,15 +19,15 @@ struct Run {
 /// Runs the companion to its end, with the environment of the test.
 [[nodiscard]] Run run(const QStringList &arguments);
 
-/// Lets the temporary folder of the companion be one that has nothing but "a.tmp" (3 bytes) and
-/// "sub/b" (1500 bytes) in it. Returns its path.
+/// Gives the companion a temporary folder that contains only "a.tmp" (3 bytes) and "sub/b" (1500
+/// bytes). Returns its path.
 QString fillTemporaryFolder(const TestHome &home);
 
 /// Makes the file @p folder / @p name of @p size bytes.
 void writeFile(const QString &folder, const QString &name, int size);
 
-/// Adds a program to the list of the installed ones and makes its file. Returns the path of that
-/// as the registry has it. The fixture is not written yet.
+/// Adds a program to the list of the installed ones and makes its file. Returns the path of the
+/// file as the registry has it. The fixture is not written yet.
 QString addProgram(RegistryFixture &fixture, const TestHome &home, const QString &name);
 
 } // namespace companion

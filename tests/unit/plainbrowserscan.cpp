@@ -33,7 +33,7 @@ bool isExtension(const QString &folder)
     return !QDir(folder).entryList({u"manifest.json"_s}, filters).isEmpty();
 }
 
-/// Whether @p path lies in such a folder somewhere below @p profile, or is or holds one.
+/// Whether @p path is or contains such a folder, or is in one at or below @p profile.
 bool isInOrHolds(bool (*isSuchFolder)(const QString &), const QString &path, const QString &profile)
 {
     for (QString folder = QFileInfo(path).path(); folder.size() >= profile.size();

@@ -74,7 +74,7 @@ QStringList paths(const ScanResult &result, const QString &id, const QString &ro
     return list;
 }
 
-/// Everything that an item says, one line each.
+/// All fields of the items, one line for each item.
 QStringList described(const QList<CleanCategory> &categories)
 {
     QStringList lines;
@@ -98,8 +98,9 @@ void makeDatabase(const TestTree &tree, const QString &folder)
         tree.file(folder + u'/' + name);
 }
 
-/// What of a category is not meant to be cleaned by default, below @p root and sorted. Checks that
-/// each of these says why, and that the others are what the rule makes them.
+/// The paths of the unticked items of a category, below @p root and sorted. An extra line stands
+/// for an unticked item without a warning, or for a ticked item whose values are not those of the
+/// rule.
 QStringList untickedPaths(const ScanResult &result, const QString &id, const QString &root)
 {
     QStringList list;
@@ -125,12 +126,12 @@ QStringList untickedPaths(const ScanResult &result, const QString &id, const QSt
 #ifdef Q_OS_UNIX
 namespace {
 
-int removalsBeforeHook = -1; ///< below 0 never
+int removalsBeforeHook = -1; ///< a negative number: the hook is not called
 std::function<void()> removalHook;
 
 } // namespace
 
-// Every removal comes by here, so that a test can have something happen between two of them.
+// Replaces the system call of every removal, so that a test can act between two removals.
 extern "C" int unlinkat(int folder, const char *name, int flags) noexcept
 {
     if (removalsBeforeHook >= 0 && --removalsBeforeHook < 0)
@@ -449,12 +450,12 @@ private Q_SLOTS:
         makeDatabase(tree, profile + "/Local Storage/leveldb"_L1);
         tree.file(profile + "/Local Storage/beside.log"_L1);
         tree.file(profile + "/chrome_debug.log"_L1);
-        // A folder of a database belongs to it, and may be another one.
+        // A folder in a database belongs to it, and may be a database itself.
         makeDatabase(tree, profile + "/shared_proto_db/metadata"_L1);
         makeDatabase(tree, profile + "/shared_proto_db"_L1);
         tree.file(profile + "/shared_proto_db/lost/000002.log"_L1);
         tree.file(profile + "/after.log"_L1);
-        // Half of the marks make no database.
+        // One of the two marker files alone makes no database.
         tree.file(profile + "/No List/CURRENT"_L1);
         tree.file(profile + "/No List/a.log"_L1);
         tree.file(profile + "/No Name/MANIFEST-000001"_L1);
@@ -514,13 +515,13 @@ private Q_SLOTS:
                     .contains(u"harmless.log"_s));
         QCOMPARE(untickedPaths(cleaner.result(), u"google_chrome_favicons"_s, tree.path(profile)),
                  QStringList{u"Favicons"_s});
-        // Nothing of the category would be cleaned; its own mark is the rule's all the same.
+        // No item would be cleaned. The category's own mark is still that of the rule.
         const CleanCategory &favicons = *find(cleaner.result(), u"google_chrome_favicons"_s);
         QVERIFY(favicons.checked);
         QCOMPARE(favicons.checkState(), Qt::Unchecked);
     }
 
-    // The files of an extension are what was installed, whatever their names.
+    // An extension needs all its files, whatever their names.
     void aFileMatchedByNameInAnExtensionStartsUnticked()
     {
         const TestTree tree;
@@ -532,7 +533,7 @@ private Q_SLOTS:
         makeDatabase(tree, package + "/db"_L1);
         tree.file(profile + "/whole.log/2.0_0/MANIFEST.JSON"_L1);
         tree.file(profile + "/Extensions/left.log"_L1);
-        // A list of parts is no manifest.
+        // This is not the name of a manifest.
         tree.file(profile + "/Other/manifest-json"_L1);
         tree.file(profile + "/Other/a.log"_L1);
         BrowserCleaner cleaner(foldersOf(tree));
@@ -737,7 +738,7 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    // As the same scan does in the prefix itself.
+    // A scan in the prefix itself does the same.
     void aHiddenProfileIsPassedOver()
     {
         const TestTree tree;
@@ -1090,7 +1091,7 @@ private Q_SLOTS:
         const QString program = tree.path(u"Opera.exe"_s);
         QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
         QProcess process;
-        // A busy Wine refuses now and then to start what has just been written.
+        // A busy Wine sometimes refuses to start a program that has just been written.
         const auto start = [&process, &program] {
             process.start(program, {QString::fromLatin1(sleepArgument)});
             return process.waitForStarted();
@@ -1189,7 +1190,8 @@ private Q_SLOTS:
         const TestTree tree;
         const QString root = u"Local/Google/Chrome/User Data/"_s;
         browserprofiles::makeChromium(tree, root + "Default"_L1);
-        // In the place of a profile, of a rule's folder, of one on the way there, and inside.
+        // In place of a profile, of a rule's folder, of a folder on the way to it, and of an entry
+        // in it.
         tree.link(outside.path(u"profile"_s), root + "Profile 7"_L1);
         tree.link(outside.path(), root + "Default/Cache/Cache_Data/folder"_L1);
         tree.link(outside.path(u"plain"_s), root + "Default/Cache/Cache_Data/file"_L1);
@@ -1325,8 +1327,8 @@ private Q_SLOTS:
                  u"Its folder is not the one that was listed"_s);
     }
 
-    // The folder is an item, and so is each file in it: they are not gone because they are not
-    // where they were.
+    // The folder is an item, and so is each file in it. The files are not at their paths any more,
+    // but they are not removed.
     void aFolderThatWasMovedAwayDuringACleanIsNotCounted()
     {
         constexpr int files = 300;
@@ -1437,7 +1439,7 @@ private Q_SLOTS:
         QVERIFY(browsers::firefoxProfiles(foldersOf(tree)).isEmpty());
     }
 
-    // A portable browser keeps its profile where programs lie.
+    // A portable browser keeps its profile in a program folder.
     void aProfileInsideTheProgramFolderIsCleaned()
     {
         const TestTree tree;
@@ -1487,7 +1489,7 @@ private Q_SLOTS:
     {
         const TestTree tree;
         browserprofiles::makeChromium(tree, u"Local/Google/Chrome/User Data/Default"_s);
-        // Below the folders of several rules, and of those that take the whole profile.
+        // The folder is below the folders of several rules, and of rules for the whole profile.
         const QString closed = tree.folder(chromeProfile() + "/Cache/Cache_Data/closed"_L1);
         const auto everyone = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner
             | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;

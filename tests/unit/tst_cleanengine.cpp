@@ -23,7 +23,7 @@ CleanCategory category(const QString &id, int items)
     return result;
 }
 
-/// An engine whose runs the test holds in its hands.
+/// An engine whose runs the test controls.
 class ScriptedEngine final : public CleanEngine
 {
 public:
@@ -277,7 +277,7 @@ private Q_SLOTS:
         SignalSpy stateSpy(&engine, &CleanEngine::stateChanged);
         engine.startScan();
         done.acquire();
-        QThread::msleep(50); // the completion is queued by now; this thread has not run its loop
+        QThread::msleep(50); // the completion is queued now; this thread has not run its event loop
         engine.cancel();
         QTest::qWait(50);
         QCOMPARE(finished.size(), 0);
@@ -511,7 +511,7 @@ private Q_SLOTS:
         QCOMPARE(heard,
                  (QStringList{u"state 2"_s, u"state 4"_s, u"state 1"_s, u"scanProgress"_s,
                               u"state 3"_s, u"scanFinished"_s}));
-        QCOMPARE(cleaned.size(), 1); // who connects as usual hears of it
+        QCOMPARE(cleaned.size(), 1); // an ordinary connection still receives it
     }
 
     void aRunReceiverHearsTheEndOfACleanThatIsCancelledTooLate()

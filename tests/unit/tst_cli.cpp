@@ -229,7 +229,7 @@ private Q_SLOTS:
         QVERIFY(!fixture.hasKey(key));
         QVERIFY(fixture.hasValue(dlls, u"sweepwise.dll"_s));
 
-        // It is not lost to the next clean.
+        // The next clean does not overwrite it.
         const Run again = run({u"clean"_s, u"registry"_s, u"--backup"_s, backup, u"--yes"_s});
         QCOMPARE(again.exitCode, 2);
         QVERIFY(again.error.contains("there is a file of this name already: "));

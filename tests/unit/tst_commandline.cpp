@@ -20,14 +20,14 @@ namespace {
 using companion::Run;
 using companion::run;
 
-/// What a use of the companion would change in the registry.
+/// The change that a use of the companion would make in the registry.
 struct RegistryEffect {
     QString key; ///< empty for none
-    QString value; ///< whose presence tells; empty for the default value
-    bool isThere = false; ///< before
+    QString value; ///< the value that is added or removed; empty for the default value
+    bool isThere = false; ///< before the use
 };
 
-/// A complete use of one command, which does something, and every option that goes with it.
+/// A complete use of one command that does something, and every option that the command accepts.
 struct Use {
     QString command;
     QStringList line; ///< after the command's name
@@ -52,7 +52,7 @@ const QString restoredKey = u"HKEY_CURRENT_USER\\Software\\Sweepwise use"_s;
 
 Q_DECLARE_METATYPE(Use)
 
-/// Which uses of the companion's commands and options are taken and which are refused.
+/// Which commands and options the companion accepts, and which it refuses.
 class TestCommandLine : public QObject
 {
     Q_OBJECT
@@ -141,7 +141,7 @@ private Q_SLOTS:
         const auto fixture = registryFor(use);
         const auto remove = qScopeGuard([this] { QFile::remove(backupToWrite()); });
         QStringList line = use.line;
-        // The one or the other.
+        // --backup and --no-backup exclude each other.
         if (nameOf(option) == "--backup"_L1)
             line.removeAll("--no-backup"_L1);
         if (!line.contains(option))
@@ -276,7 +276,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Every command with every option that goes with it, written down once more.
+    /// Every command with the options that it accepts. Written down independently of the tables.
     [[nodiscard]] QList<Use> uses() const
     {
         const QString run = currentVersion + "Run"_L1;
@@ -318,7 +318,7 @@ private:
         return m_home.folder(u"backups"_s) + "/new.reg"_L1;
     }
 
-    /// Writes it, too.
+    /// Also writes the file.
     [[nodiscard]] QString backupToRestore() const
     {
         const QString path = m_home.folder(u"backups"_s) + "/kept.reg"_L1;
@@ -372,7 +372,7 @@ private:
 
     const TestHome &m_home;
     QString m_temp;
-    QStringList m_files; ///< that only a clean removes
+    QStringList m_files; ///< the files that only a clean removes
 };
 
 SWEEPWISE_TEST_MAIN(TestCommandLine, QCoreApplication)

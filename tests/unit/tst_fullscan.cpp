@@ -17,7 +17,7 @@ namespace {
 
 constexpr int patience = 10'000; // milliseconds, for what happens at once on an idle machine
 
-/// An engine that reports what it is told to, and then waits until it is let go.
+/// An engine that reports the given progress and then waits until the test releases it.
 class HeldEngine final : public CleanEngine
 {
 public:
@@ -162,7 +162,7 @@ private Q_SLOTS:
         junk().hold = true;
         const SignalSpy progressed(m_scan.get(), &FullScan::progressed);
         start();
-        // Its reports wait in the queue; nobody has read it yet.
+        // Its reports are queued; the event loop has not run yet.
         while (!junk().reported)
             QThread::msleep(1);
         junk().stopAndWait();
@@ -224,7 +224,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(registry().state(), State::Finished, patience);
         QTest::qWait(50);
         QCOMPARE(finished.size(), 0);
-        // Its own page finishes what it has cancelled.
+        // A later scan of the cancelled engine ends the full scan.
         browser().hold = false;
         browser().startScan();
         QVERIFY(finished.wait(patience));

@@ -32,7 +32,7 @@ private Q_SLOTS:
         const auto path = platform::hivePath(inFull + u"\\a\\b"_s);
         QVERIFY(path && path->hive == hive);
         QCOMPARE(path->key, u"a\\b"_s);
-        // A file or a setting has the name in full and nothing else.
+        // Files and settings accept only the full name.
         QVERIFY(!platform::hivePath(inShort + u"\\a"_s));
         QVERIFY(!platform::hivePath(inFull));
         QVERIFY(!platform::hivePath(inFull.toLower() + u"\\a"_s));

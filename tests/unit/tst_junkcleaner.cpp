@@ -275,7 +275,8 @@ private Q_SLOTS:
         const qint64 elapsed = timer.elapsed();
         QVERIFY(prefix.removeRecursively());
         m_home.folder(u"prefix"_s);
-        QVERIFY2(elapsed < 2'000, qPrintable(QString::number(elapsed))); // once takes 20 or more
+        // Reading the registry once takes 20 or more.
+        QVERIFY2(elapsed < 2'000, qPrintable(QString::number(elapsed)));
     }
 #endif
 
@@ -480,7 +481,7 @@ private Q_SLOTS:
         QVERIFY(log.contains(u": rule r would take everything in it"_s));
     }
 
-    // The prefix's environment says where its programs keep temporary files: here, on a whole
+    // The prefix's environment names the folder for temporary files. Here that folder is a whole
     // drive.
     void aDriveOfThePrefixIsNeverEmptied_data()
     {
@@ -892,7 +893,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(tree.path(u"d"_s)).entryList(QDir::Files).size(), 150);
     }
 
-    // Also for a stop that comes with the last item, which is removed all the same.
+    // The same holds for a stop at the last item, which is still removed.
     void theLogTellsOfTheEndAfterTheSignal_data()
     {
         QTest::addColumn<int>("cancelledAt");

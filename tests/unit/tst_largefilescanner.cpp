@@ -32,7 +32,7 @@ QStringList paths(const LargeFileScanner &scanner)
     return found;
 }
 
-/// Scans to the end; the emission of scanFinished.
+/// Scans to the end. Returns the arguments of scanFinished().
 QVariantList scan(LargeFileScanner &scanner, const QStringList &drives, qint64 minSize = 1)
 {
     const SignalSpy finished(&scanner, &LargeFileScanner::scanFinished);
@@ -82,7 +82,7 @@ private:
     QMetaObject::Connection m_connection;
 };
 
-/// Has the worker delete all results; the paths of those that it has removed.
+/// Has the worker delete all results. Returns the paths of the deleted files.
 QStringList deleteAll(LargeFileScanner &scanner)
 {
     const QList<LargeFileInfo> files = scanner.results();
@@ -159,7 +159,7 @@ private Q_SLOTS:
         LargeFileScanner scanner;
         const SignalSpy finished(&scanner, &LargeFileScanner::scanFinished);
         scanner.setDrives({tree.path()});
-        scanner.startScan(); // with the size that holds when none was set
+        scanner.startScan(); // with the default size
         QVERIFY(finished.wait(patience));
         QCOMPARE(paths(scanner), (QStringList{tree.path(u"above"_s), tree.path(u"exact"_s)}));
         QCOMPARE(finished.constFirst(), (QVariantList{2, qint64(209'715'201)}));
@@ -229,7 +229,7 @@ private Q_SLOTS:
                                  tree.file(u"Windows/Installer/package.msi"_s),
                                  tree.file(u"Windows/WinSxS/component"_s)};
 #ifdef Q_OS_UNIX
-        // Only here can a name hold what the other two texts hold.
+        // Only on this system can a name contain the other two excluded texts.
         tree.file(u"Windows\\WinSxS"_s);
         tree.file(u"Windows\\Installer/package.msi"_s);
         constexpr int files = 8;
@@ -239,7 +239,7 @@ private Q_SLOTS:
         LargeFileScanner scanner;
         scan(scanner, {tree.path()});
         QCOMPARE(paths(scanner), listed);
-        // What is left out has been looked at all the same.
+        // Excluded files are counted all the same.
         QCOMPARE(scanner.filesScanned(), files);
     }
 
@@ -342,7 +342,7 @@ private Q_SLOTS:
         QVERIFY(!scanner.isRunning());
         const qsizetype found = scanner.results().size();
         QVERIFY2(found >= 1 && found < 1000, qPrintable(QString::number(found)));
-        // The second drive is not begun, and the summary is written all the same.
+        // The second drive is not scanned. The summary is written anyway.
         QCOMPARE(log.count(u"Scanning drive: "_s), 1);
         QCOMPARE(log.count(u"Scan completed. Found %1 files"_s.arg(found)), 1);
     }
@@ -378,7 +378,7 @@ private Q_SLOTS:
         scanner.setDrives({tree.path()});
         scanner.setMinSize(1);
         scanner.startScan();
-        scanner.cancel(); // its end is on the way now
+        scanner.cancel(); // its end is queued now
         Gate gate(scanner);
         scanner.startScan();
         QVERIFY(gate.waitUntilReached());
@@ -425,7 +425,8 @@ private Q_SLOTS:
             scanner.cancel();
             longest = std::max(longest, timer.elapsed());
         }
-        // Far above what it takes, for busy machines, and far below what the rest would take.
+        // The limit is far above the usual time, for busy machines. It is far below the time of a
+        // whole scan.
         QVERIFY2(longest < 500, qPrintable(QString::number(longest)));
     }
 
@@ -537,7 +538,7 @@ private Q_SLOTS:
         QVERIFY(tree.has(u"d/f"_s));
         QVERIFY(tree.has(u"away/f"_s));
         QCOMPARE(paths(scanner), QStringList{path});
-        // What the next scan lists counts from then on.
+        // From the next scan on, the folder that it lists is the right one.
         scan(scanner, {tree.path(u"d"_s)});
         QVERIFY(scanner.deleteFile(path));
         QVERIFY(!tree.has(u"d/f"_s));
@@ -560,7 +561,7 @@ private Q_SLOTS:
         for (const LargeFileInfo &info : scanner.results())
             sizes.append(info.size);
         QCOMPARE(sizes, (QList<qint64>{9, 9, 3, 3, 3, 1}));
-        // Those of one size stay in the order in which they came.
+        // Files of one size keep their order of arrival.
         const QList<LargeFileInfo> results = scanner.results();
         for (qsizetype i = 1; i < results.size(); ++i) {
             if (results.at(i - 1).size == results.at(i).size)
@@ -598,7 +599,7 @@ private Q_SLOTS:
                 remaining.append(u"f%1"_s.arg(i));
         }
         QCOMPARE(remaining, (QStringList{u"f0"_s, u"f2"_s, u"f5"_s}));
-        // What could not be deleted stays among the results, as it was found.
+        // A file that could not be deleted stays among the results, unchanged.
         QCOMPARE(scanner.results().size(), 4);
         QCOMPARE(scanner.totalSize(), 6 + 4 + 3 + 1);
         scan(scanner, {tree.path()});
@@ -612,7 +613,8 @@ private Q_SLOTS:
         LargeFileScanner scanner;
         scan(scanner, {tree.path()});
         const SignalSpy finished(&scanner, &LargeFileScanner::deleteFinished);
-        // The worker asks after each file; its first word comes before the first of them.
+        // The worker looks for a cancel after each file. Its first progress comes before the first
+        // file.
         connect(
             &scanner, &LargeFileScanner::deleteProgress, &scanner,
             [&scanner] { scanner.cancelDelete(); }, Qt::DirectConnection);
@@ -671,7 +673,7 @@ private Q_SLOTS:
         LargeFileScanner scanner;
         scan(scanner, {tree.path()});
         QCOMPARE(paths(scanner), QStringList{tree.path(u"link/sub/f"_s)});
-        // The link leads elsewhere by now.
+        // The link leads elsewhere now.
         QVERIFY(QFile::remove(tree.path(u"link"_s)));
         tree.link(elsewhere.path(), u"link"_s);
         QVERIFY(scanner.deleteFile(tree.path(u"link/sub/f"_s)));
@@ -704,7 +706,7 @@ private Q_SLOTS:
         LargeFileScanner scanner;
         scan(scanner, {tree.path()});
         QCOMPARE(scanner.results().size(), 3);
-        // Kept, so that no other file is given its number.
+        // The files are kept, so that no other file gets their numbers.
         for (const QString &path : listed)
             QVERIFY(QFile::rename(path, path + ".away"_L1));
         tree.link(precious, u"became-a-link"_s);
@@ -742,7 +744,7 @@ private Q_SLOTS:
         const TestTree tree;
         const QString link = tree.link(outside.path(u"f"_s), u"link.iso"_s);
         LargeFileScanner scanner;
-        // It is as large as the path in it, however large the file is.
+        // Its size is that of the path in it, however large the file is.
         QCOMPARE(scan(scanner, {tree.path()}), (QVariantList{1, outside.path(u"f"_s).size()}));
         QCOMPARE(paths(scanner), QStringList{link});
         QVERIFY(scanner.deleteFile(link));

@@ -18,8 +18,7 @@ const QString missing = u"C:\\Sweepwise Missing\\app.exe"_s;
 
 } // namespace
 
-/// Whether the file that a registry entry names is there: the live system's under Windows, a
-/// prefix's elsewhere.
+/// PathCheck on the live system under Windows, and on a prefix elsewhere.
 class TestPathCheck : public QObject
 {
     Q_OBJECT
@@ -81,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(RegistryCleaner::pathExists(text), exists);
     }
 
-    // Nobody but the system can tell: such an entry is not called broken.
+    // Only the system can resolve these paths, so the entry counts as existing.
     void whatOnlyTheSystemCanResolveCountsAsExisting_data()
     {
         QTest::addColumn<QString>("text");
@@ -124,7 +123,7 @@ private Q_SLOTS:
                      .exists(u"C:\\Sweepwise Missing\\sub\\"_s + name + u"\\none.exe"_s));
     }
 
-    // A name alone is looked for where the system looks, never where this program happens to be.
+    // A bare name is looked up where the system looks, never in the current folder of this program.
     void namesAreNotLookedUpInTheCurrentFolder()
     {
         const TestTree tree;
@@ -155,7 +154,7 @@ private Q_SLOTS:
         QVERIFY(!paths.exists(u"sweepwise none.dll"_s));
     }
 
-    // As the system finds a program that is named alone, or without what its file ends in.
+    // The system also finds a program by its bare name, or without its suffix.
     void programsAreLookedUpWhereTheSystemDoes()
     {
         const QString there = makeFile(u"Sweepwise Tool.exe"_s);
@@ -177,7 +176,7 @@ private Q_SLOTS:
     }
 
 #ifndef Q_OS_WIN
-    // Of the prefix, and of the machine's part as well as of the user's.
+    // The search path of the prefix has a part of the machine and one of the user.
     void theSearchPathCounts()
     {
         for (const char *folder : {"Sweepwise One", "Sweepwise Two", "windows/Sweepwise Three"}) {
@@ -265,7 +264,7 @@ private Q_SLOTS:
         QFile file(m_home.folder("prefix/drive_c/"_L1 + inPrefix) + "/in variable.exe"_L1);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
-        // What is set here means nothing to the prefix.
+        // The variables of this process mean nothing to the prefix.
         qputenv(variable.constData(), "C:\\Sweepwise Elsewhere");
         const bool isFound =
             PathCheck(platform::Registry()).exists(placeholder + "\\in variable.exe"_L1);
@@ -273,7 +272,7 @@ private Q_SLOTS:
         const bool isMissingFileFound =
             PathCheck(platform::Registry()).exists(placeholder + "\\sweepwise missing"_L1);
 #ifdef Q_OS_WIN
-        // Unset, it stands for nothing.
+        // An unset variable is replaced by nothing.
         qunsetenv(variable.constData());
         const bool isGone = PathCheck(platform::Registry()).exists(placeholder + file);
 #else
@@ -333,7 +332,7 @@ private Q_SLOTS:
 
     void whatCannotBeLookedAtCountsAsPresent()
     {
-        // The listing is closed to others, so that the case of a name cannot be told.
+        // Others cannot list the folder, so the case of a name is unknown to them.
         const QString closed = m_home.folder(u"prefix/drive_c/Closed"_s);
         m_home.folder(u"prefix/drive_c/Closed/Inside"_s);
         const QString locked = m_home.folder(u"prefix/drive_c/Locked"_s);
@@ -375,7 +374,7 @@ private Q_SLOTS:
 #endif
 
 private:
-    // The Windows path of a file that is there, below a folder with a blank in its name.
+    // Makes a file in a folder with a blank in its name. Returns its Windows path.
     [[nodiscard]] QString makeFile(const QString &name) const
     {
 #ifdef Q_OS_WIN
@@ -392,7 +391,7 @@ private:
     }
 
 #ifndef Q_OS_WIN
-    // Others may come as far as the prefix's drive.
+    // Lets others enter the folders down to the prefix's drive.
     void letOthersEnter() const
     {
         for (const QString &folder :

@@ -52,7 +52,7 @@ ScanResult resultOf(const QList<CleanItem> &items)
 
 const QString categoryLine = u"; === Category: Some Kind ===\r\n\r\n"_s;
 
-// How many damaged inputs are tried; a longer run is asked for by the environment.
+// How many damaged texts are tried. The environment may ask for a longer run.
 int fuzzRounds()
 {
     bool isNumber = false;
@@ -62,7 +62,7 @@ int fuzzRounds()
 
 } // namespace
 
-/// What the backup's text says, byte for byte, and how the file is written and read.
+/// The text of the backup, byte for byte, and how the file is written and read.
 class TestRegistryBackup : public QObject
 {
     Q_OBJECT
@@ -153,7 +153,7 @@ private Q_SLOTS:
         ScanResult result = resultOf({item(evil, u"HKCU"_s, testPath + u'\\' + evil)});
         result.categories[0].name = evil;
         QVERIFY(!RegistryBackup::text(result, registry, created).contains("\n["_L1));
-        // Also not when such a key is really there.
+        // The same holds when such a key really exists.
         QVERIFY(registry.createKey(Hive::CurrentUser, testPath + "\\x\r\n[y]"_L1));
         result = resultOf({item(u"n"_s, u"HKCU"_s, testPath + "\\x\r\n[y]"_L1)});
         const QString text = RegistryBackup::text(result, registry, created);

@@ -98,7 +98,7 @@ bool renamesOfUserHiveFail = false;
 } // namespace
 
 #ifndef Q_OS_WIN
-// How a file of the registry takes the place of the old one.
+// Replaces the system call that puts a new file of the registry in the place of the old one.
 extern "C" int rename(const char *from, const char *to) noexcept
 {
     if (renamesOfUserHiveFail && QByteArrayView(to).endsWith("/user.reg")) {
@@ -208,7 +208,7 @@ private Q_SLOTS:
         m_fixture->addText(classes + ".z"_L1, {}, u"InternetShortcut"_s);
         m_fixture->write();
         scan();
-        // The class in mixed case stands in the list and protects nothing.
+        // The list has this class in mixed case, so it protects nothing.
         QCOMPARE(names(find(m_cleaner->result(), u"invalid_file_assoc"_s)->items),
                  (QStringList{u".x -> Gone"_s, u".z -> InternetShortcut"_s}));
 #endif
@@ -249,7 +249,7 @@ private Q_SLOTS:
         m_fixture->write();
         scan();
         const auto items = ownItems(m_cleaner->result(), u"invalid_com"_s);
-        // The live registry may have one or the other that comes before.
+        // The live registry may have a few components that come first.
         const qsizetype before =
             Registry().subkeys(Hive::ClassesRoot, u"CLSID"_s).indexOf(u"{!Sweepwise0000}"_s);
         QVERIFY(before >= 0 && before < 10);
@@ -451,7 +451,7 @@ private Q_SLOTS:
         m_fixture->addText(machine + sharedDlls, missing, u"1"_s);
         m_fixture->addText(machine + sharedDlls + "\\Sweepwise Sub\\Key"_L1, u"v"_s, u"1"_s);
         m_fixture->write();
-        // The second one's name happens to lead to a key that nobody was shown.
+        // The name of the second value leads to a key that no scan has listed.
         choose({item(u"HKEY_LOCAL_MACHINE"_s, sharedDlls + u'\\' + missing),
                 item(u"HKEY_LOCAL_MACHINE"_s, sharedDlls + "\\Sweepwise Sub\\Key"_L1),
                 item(u"HKEY_LOCAL_MACHINE"_s, sharedDlls + "\\Sweepwise Sub\\Key\\v"_L1)});
@@ -512,7 +512,7 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->hasKey(user + key + "\\Same"_L1));
     }
 
-    // The list shows the key; what bears its name beside it was never looked at.
+    // The scan lists the key. It has not looked at a value of the same name beside the key.
     void aListedKeyIsNotTakenForAValueOfItsName()
     {
         const QString good = makeFile(u"good.exe"_s);
@@ -566,7 +566,7 @@ private Q_SLOTS:
         QVERIFY(!backup.contains("Uninstall\\Sweepwise"_L1));
     }
 
-    // To the registry they are two, whatever a comparison of texts makes of them.
+    // The registry takes them for two names, even if a comparison of texts does not.
     void namesThatOnlyLookAlikeAreBothRemoved()
     {
         m_fixture->addText(user + runKey, u"Sweepwise K"_s, missing);
@@ -653,7 +653,7 @@ private Q_SLOTS:
         QCOMPARE(m_cleaner->backupPath(), path);
     }
 
-    // What stands at the path of the backup is never lost to it.
+    // A backup replaces nothing but a plain file.
     void nothingButAFileIsReplacedByTheBackup_data()
     {
         QTest::addColumn<QString>("what");
@@ -720,7 +720,7 @@ private Q_SLOTS:
         choose({item(u"HKCU"_s, key + "\\a"_L1)});
         m_cleaner->setBackupPath(path);
         const LogCapture log;
-        QCOMPARE(clean().constFirst().at(1).toInt(), 1); // without a backup if need be
+        QCOMPARE(clean().constFirst().at(1).toInt(), 1); // even without a backup
         QCOMPARE(m_cleaner->backupError().has_value(), !isWritten);
         QCOMPARE(log.contains(u"[ERROR] Failed to create registry backup"_s), !isWritten);
         QVERIFY(!m_fixture->hasValue(user + key, u"a"_s));
@@ -735,7 +735,7 @@ private Q_SLOTS:
             QVERIFY(QFileInfo(path).size() > 100);
     }
 
-    // Whoever cleans twice still has what the first clean took.
+    // After a second clean the user still has the backup of the first one.
     void aCleanOfNothingLeavesTheLastBackupAlone()
     {
         m_fixture->addText(user + runKey, u"Sweepwise"_s, missing);
@@ -868,7 +868,8 @@ private Q_SLOTS:
         m_cleaner->setBackupPath(path);
         clean();
         restore(path);
-        // The last character is taken for the terminator; values too long for a key's export go.
+        // The last character is taken for the terminator. Values that are too long are left out of
+        // the export of a key.
         const QByteArray kept = stored.size() == 6 ? stored.first(4) : stored.first(6);
         QCOMPARE(Registry().value(Hive::LocalMachine, key, u"open"_s)->data,
                  kept + QByteArray(2, '\0'));
@@ -876,8 +877,8 @@ private Q_SLOTS:
         QVERIFY(m_fixture->hasValue(machine + key, {}));
     }
 
-    // The same class in both hives: what is listed of the user's goes from there and from nowhere
-    // else, twice listed or not, and comes back there.
+    // The same class is in both hives. Only the listed one is removed, even if it is listed twice.
+    // It is restored into its own hive.
     void aClassInBothHivesIsRemovedFromAndRestoredToTheListedOne_data()
     {
         QTest::addColumn<QString>("brokenHive");
@@ -894,7 +895,8 @@ private Q_SLOTS:
         const QString good = makeFile(u"both.dll"_s);
         const bool isUsers = brokenHive == user;
         const QString goodHive = isUsers ? machine : user;
-        // The user's class wins value by value: the machine's server shows where the user has none.
+        // The user's class hides the machine's, value by value. The machine's server shows where
+        // the user has none.
         const QString server = isUsers ? u"\\InprocServer32"_s : u"\\LocalServer32"_s;
         m_fixture->addText(brokenHive + key, {}, u"Broken"_s);
         m_fixture->addText(brokenHive + key, u"Only here"_s, u"x"_s);
@@ -946,7 +948,7 @@ private Q_SLOTS:
         m_fixture->addText(classes + "SweepwiseBroken\\shell\\open\\command"_L1, {}, missing);
         m_fixture->addText(classes + "SweepwiseGood\\shell\\open\\command"_L1, {},
                            makeFile(u"good.exe"_s));
-        // Of this one the user's key has no word on what it is.
+        // The user's key of this extension has no default value.
         const QString other = u"Software\\Classes\\.sweepwiseother"_s;
         m_fixture->addText(user + other, u"mine"_s, u"x"_s);
         m_fixture->addText(machine + other, {}, u"SweepwiseBroken"_s);
@@ -1035,7 +1037,7 @@ private Q_SLOTS:
     }
 
 #ifndef Q_OS_WIN
-    // The machine's file is replaced, then the user's cannot be.
+    // The machine's file is written, then writing the user's file fails.
     void onlyTheHiveThatWasWrittenIsReported()
     {
         m_fixture->addText(machine + runKey, u"Sweepwise a"_s, missing);
@@ -1059,7 +1061,7 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->hasValue(machine + runKey, u"Sweepwise b"_s));
         QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise c"_s));
 
-        // The same when they are brought back.
+        // The same holds for a restore.
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QString error;
@@ -1067,7 +1069,7 @@ private Q_SLOTS:
             RegistryBackup::decode(file.readAll()).value_or(QString()), error);
         QVERIFY2(keys, qPrintable(error));
         Registry registry;
-        // Something of the user's that has to be written.
+        // A change in the user's hive, so that its file must be written.
         QVERIFY(registry.deleteValue(Hive::CurrentUser, runKey, u"Sweepwise c"_s));
         QVERIFY(registry.save());
         renamesOfUserHiveFail = true;
@@ -1105,7 +1107,7 @@ private Q_SLOTS:
 #endif
 
 private:
-    // Unticks what the live registry holds besides.
+    // Unticks the entries that belong to the live registry.
     void keepOwnOnly()
     {
         for (CleanCategory &category : m_cleaner->result().categories) {
@@ -1114,7 +1116,7 @@ private:
         }
     }
 
-    // The Windows path of a file that is there, below a folder with a blank in its name.
+    // Makes a file in a folder with a blank in its name. Returns its Windows path.
     QString makeFile(const QString &name)
     {
 #ifdef Q_OS_WIN

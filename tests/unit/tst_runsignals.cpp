@@ -15,14 +15,14 @@ namespace {
 
 constexpr int patience = 10'000; // milliseconds, for what happens at once on an idle machine
 
-/// The owner of a worker, which says numbers.
+/// An owner whose worker emits numbers.
 class Speaker final : public QObject
 {
     Q_OBJECT
 public:
     RunSignals runSignals{this};
 
-    /// Has a worker say the numbers from @p first to @p last, and joins it.
+    /// Has a worker emit the numbers from @p first to @p last, and joins it.
     void say(int first, int last)
     {
         std::thread worker([&] {
@@ -64,7 +64,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(heard, (QList<int>{1, 2, 3, 4, 5}));
         QCOMPARE(thread, speaker.thread());
-        // Also from the owner's thread itself they come later.
+        // A call that the owner's thread posts is queued as well.
         run.post([&heard] { heard.append(6); });
         QCOMPARE(heard.size(), 5);
         QCoreApplication::processEvents();
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QVERIFY(!first.isCurrent());
         QVERIFY(second.isCurrent());
         post(second, 11, 12, heard);
-        post(first, 3, 4, heard); // its worker did not hear of it in time
+        post(first, 3, 4, heard); // as a worker does that has not noticed the new run
         QCoreApplication::processEvents();
         QCOMPARE(heard, (QList<int>{11, 12}));
     }
@@ -145,7 +145,7 @@ private Q_SLOTS:
         for (const auto &receiver : receivers)
             connect(&speaker, &Speaker::said, receiver.get(),
                     [&heard](int number) { heard.append(number); });
-        // Who connects as usual hears everything.
+        // An ordinary connection receives the signals of all runs.
         QObject other;
         QList<int> heardByOther;
         connect(&speaker, &Speaker::said, &other,
@@ -239,7 +239,7 @@ private Q_SLOTS:
                     const std::lock_guard lock(mutex);
                     Q_EMIT speaker.said(i);
                 }
-                QThread::usleep(10); // else it says more than anybody can listen to
+                QThread::usleep(10); // otherwise the receivers cannot keep up
             }
         });
         bool isOnOwnersThread = true;
@@ -302,8 +302,8 @@ private Q_SLOTS:
     }
 
 private:
-    /// Lets what is queued arrive while the worker waits: the thread sanitizer does not see the
-    /// locks of the toolkit's event queue, only this one.
+    /// Handles queued events while the worker waits. The thread sanitizer does not see the locks of
+    /// the event queue of Qt, only this one.
     static void processEvents(std::mutex &mutex)
     {
         const std::lock_guard lock(mutex);

@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(one.checkState(), Qt::Checked);
         one.items[0].checked = false;
         QCOMPARE(one.checkState(), Qt::PartiallyChecked);
-        // Nothing of it would be cleaned, whatever its own mark says.
+        // No item would be cleaned, whatever the category's own mark says.
         one.items[1].checked = false;
         QCOMPARE(one.checkState(), Qt::Unchecked);
         QVERIFY(one.checked);
@@ -123,7 +123,7 @@ private Q_SLOTS:
         const ScanResult chosen = result.checkedOnly();
         bound->checked = false;
         QVERIFY(chosen.categories.at(0).items.at(0).checked);
-        // The original was not detached by the copy either: the bound record is still the result's
+        // The copy has not detached the original either: the bound record is still the result's
         // own.
         QCOMPARE(&result.categories[0].items[0], bound);
     }

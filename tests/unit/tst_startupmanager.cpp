@@ -185,7 +185,7 @@ private Q_SLOTS:
         QVERIFY(StartupManager::findExecutable(makeFile(u"file.exe"_s), u"x"_s).isEmpty());
     }
 
-    // What is no whole path would be looked for wherever this program was started.
+    // A path that is not a full one would be resolved against this program's current folder.
     void namesAreNotLookedUpInTheCurrentFolder()
     {
         const TestTree tree;
@@ -285,7 +285,7 @@ private Q_SLOTS:
         QVERIFY(manager.setStartup(testApps(manager).constFirst(), false));
         QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise\\odd/name"_s));
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise Shown"_s));
-        // Without such an entry the one of the program's own name goes.
+        // Without such an entry, the one named after the program is removed.
         QVERIFY(manager.setStartup(testApps(manager).constFirst(), false));
         QVERIFY(!m_fixture->hasValue(runKey, u"Sweepwise Shown"_s));
     }
@@ -301,14 +301,14 @@ private Q_SLOTS:
         QVERIFY(!manager.addToStartup({}, u"C:\\x.exe"_s));
         QVERIFY(log.contains(u"[ERROR] Failed to add startup: "_s));
         QVERIFY(!manager.errorString().isEmpty());
-        // A slash alone would be the same to some.
+        // Some programs treat a single slash like an empty name.
         QVERIFY(manager.removeFromStartup(u"/"_s));
         QVERIFY(manager.removeFromStartup(u"Sweepwise Sub/keep"_s));
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise keep"_s));
         QVERIFY(m_fixture->hasValue(runKey + "\\Sweepwise Sub"_L1, u"keep"_s));
     }
 
-    // Else the program would go on to start.
+    // Otherwise the program would still start.
     void switchingOffTakesEveryEntryThatStartsTheProgram()
     {
         const QString path = makeFile(u"twice/app.exe"_s);
@@ -328,7 +328,7 @@ private Q_SLOTS:
         QVERIFY(!platform::Registry().value(Hive::CurrentUser, runPath, {}));
         QVERIFY(m_fixture->hasValue(runKey, u"Sweepwise other"_s));
         QVERIFY(!testApps(manager).constFirst().isStartup);
-        // The arguments are not lost.
+        // The log keeps the arguments.
         QVERIFY(log.contains("Startup command of Sweepwise one before it was removed: \""_L1 + path
                              + "\" -x \"an argument\""_L1));
         QVERIFY(log.contains("Startup command of Sweepwise two before it was removed: "_L1
@@ -337,7 +337,7 @@ private Q_SLOTS:
         QVERIFY(!testApps(again).constFirst().isStartup);
     }
 
-    // Programs write there themselves, also while the list is shown.
+    // Programs change the list themselves, even while it is shown.
     void aCommandThatChangedSinceTheLoadIsKeptInTheLog()
     {
         const QString path = makeFile(u"changed/app.exe"_s);
@@ -404,7 +404,7 @@ private Q_SLOTS:
     }
 
 #ifndef Q_OS_WIN
-    // Somebody else has written the registry since it was read here.
+    // Another program has written the registry since it was read here.
     void afterAFailureTheFlagsFollowTheRegistry()
     {
         const QString path = makeFile(u"flag/app.exe"_s);
@@ -427,7 +427,7 @@ private Q_SLOTS:
         QVERIFY(log.contains(u"[ERROR] Failed to remove startup: Sweepwise Flag"_s));
         QVERIFY(manager.errorString().contains("end them and try again"_L1));
         QVERIFY(testApps(manager).constFirst().isStartup);
-        // It is gone by other hands: the next failure finds that out.
+        // Another program removes the entry. The next failure notices that.
         QFile hive(m_fixture->file(u"HKEY_CURRENT_USER"_s));
         QVERIFY(hive.open(QIODevice::WriteOnly));
         hive.write("WINE REGISTRY Version 2\n\n#arch=win64\n");
@@ -491,7 +491,7 @@ private Q_SLOTS:
         m_fixture->addText(key, u"InstallLocation"_s, folder);
         m_fixture->write();
         StartupManager manager;
-        QVERIFY(testApps(manager).isEmpty()); // nothing but its uninstaller
+        QVERIFY(testApps(manager).isEmpty()); // the folder has only an uninstaller
         makeFile(u"Installed/bin/photostudio.exe"_s);
         manager.loadInstalledApps();
         QCOMPARE(testApps(manager).size(), 1);
@@ -563,12 +563,12 @@ private Q_SLOTS:
 
     void onlyTheDirectSubfoldersOfADriveAreSearched()
     {
-        makeFile(u"photo.exe"_s); // two folders below the drive's top
+        makeFile(u"photo.exe"_s); // in a subfolder of the drive
         makeFile(u"deep/photo.exe"_s);
         QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).endsWith("\\photo.exe"_L1));
         QVERIFY(QFile::remove(m_home.folder(filesFolder()) + "/photo.exe"_L1));
         QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
-        // A hidden folder is no place for what people start.
+        // A hidden folder is passed over.
         makeFile(u"../Hidden/photo.exe"_s);
         const QString hidden = m_home.folder(u"prefix/drive_c/Hidden"_s);
         QVERIFY(!StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
@@ -592,7 +592,7 @@ private:
 #endif
     }
 
-    // The Windows path of a file that is there.
+    // Makes a file. Returns its Windows path.
     QString makeFile(const QString &relative)
     {
         const QString folder = m_home.folder(filesFolder());

@@ -13,9 +13,9 @@ class RegistryCleaner;
 /// The one object that owns what the whole program shares: settings, engines, main window. GUI
 /// thread.
 ///
-/// Made on first use and never deleted. When the program quits the engines are cancelled and
-/// joined. The window and its pages know this class by its declaration alone, which is a library
-/// of its own: what owns the window is defined above it.
+/// Made on first use and never deleted. When the program quits, it cancels and joins the engines.
+/// The window and its pages see only this declaration, which is a library of its own. The
+/// definition owns the window, so it belongs to a higher layer.
 class Application final : public QObject
 {
     Q_OBJECT
@@ -25,12 +25,12 @@ public:
     ~Application() override;
 
     /// Opens settings, data folders and log, makes the engines and loads their rules. Called once.
-    /// Nothing that fails here ends the program.
+    /// A failure in it does not end the program.
     void initialize();
     /// Shows the main window, which is made on the first call.
     void showMainWindow();
 
-    // Null before initialize(), respectively showMainWindow().
+    // Null before initialize(). The window is null before showMainWindow().
     [[nodiscard]] JunkCleaner *junkCleaner() const;
     [[nodiscard]] BrowserCleaner *browserCleaner() const;
     [[nodiscard]] RegistryCleaner *registryCleaner() const;

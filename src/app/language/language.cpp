@@ -18,7 +18,8 @@ namespace {
 
 QString catalogueFor(const QString &language)
 {
-    // Every Chinese locale asks for a catalogue that is not there, and so gets the source texts.
+    // All Chinese locales get the code of a catalogue that does not exist, so the source texts are
+    // shown.
     if (language == "zh"_L1)
         return u"zh_TW"_s;
     return languages::contains(language) ? language : u"en"_s;

@@ -2,9 +2,9 @@
 
 #include <QString>
 
-/// Sets a settings file aside that must not be opened, before anybody opens it: one that is no
-/// regular file, or far larger than a handful of options can be. Reading it would hold up the
-/// start, or never end. It is renamed to "<name>.damaged", and the program goes on with defaults.
+/// Renames a damaged settings file to "<name>.damaged" before anything opens it. The program then
+/// starts with defaults. A damaged file is not a regular file, or it is far too large for a few
+/// options. Reading it would delay the start or never end.
 ///
-/// @p fileName is the name below the organisation's folder, such as "Sweepwise.ini".
+/// @p fileName is the name in the organisation's folder, such as "Sweepwise.ini".
 void setAsideDamagedSettings(const QString &fileName);

@@ -32,7 +32,7 @@ QLatin1StringView levelText(int level)
 
 Logger &Logger::instance()
 {
-    // Never destroyed: engines may still log while static objects are taken down.
+    // Never destroyed: engines may still log while static objects are destroyed.
     static auto *const logger = new Logger;
     return *logger;
 }

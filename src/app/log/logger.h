@@ -7,11 +7,11 @@
 
 #include <atomic>
 
-/// The program's log: one text file a day, appended to across runs, every line echoed to the debug
-/// output.
+/// The program's log: one text file a day. Later runs append to it. Every line also goes to the
+/// debug output.
 ///
-/// Any thread may log. The mutex guards the file; the minimum level and the ready flag are read
-/// without it.
+/// Any thread may log. The mutex guards the file. The minimum level and the ready flag are atomic
+/// and are read without it. instance() is never deleted.
 class Logger final : public QObject
 {
     Q_OBJECT
@@ -24,20 +24,20 @@ public:
     Logger();
     ~Logger() override;
 
-    /// Opens "sweepwise_<yyyyMMdd>.log" below @p logDirectory, which is made if need be, and writes
-    /// the start banner. If that fails nothing is reported: lines then reach the debug output
-    /// alone.
+    /// Opens "sweepwise_<yyyyMMdd>.log" in @p logDirectory and writes the start banner. Makes the
+    /// directory if it is missing. A failure is not reported: lines then reach only the debug
+    /// output.
     void init(const QString &logDirectory);
 
-    /// Writes "[time] [level] message" as one line, flushed at once. Control characters in the
-    /// message are replaced, so that a hostile file name cannot forge a line. A message below Info
-    /// is dropped.
+    /// Writes "[time] [level] message" as one line and flushes it at once. Control characters in
+    /// the message are replaced, so that a file name cannot forge a line. A message below Info is
+    /// dropped.
     void log(int level, const QString &message);
     void info(const QString &message) { log(Info, message); }
     void warning(const QString &message) { log(Warning, message); }
     void error(const QString &message) { log(Error, message); }
 
-    /// The day's file, once init() has been called.
+    /// The path of the day's file; empty before init().
     [[nodiscard]] QString fileName() const { return m_file.fileName(); }
 
 private:

@@ -27,18 +27,19 @@ namespace browsers {
 
 namespace {
 
+// The member of DataFolders that a path starts from.
 enum class DataFolder { Local, Roaming };
 
+/// One known browser: a row of the table below.
 struct Description {
-    const char *name = nullptr; ///< as the uninstall lists know it; the id is made of it
+    const char *name = nullptr; ///< as in the uninstall lists; the id is made from it
     DataFolder folder = DataFolder::Local;
-    QLatin1StringView root; ///< below the folder
+    QLatin1StringView root; ///< below the data folder
     QLatin1StringView process;
-    QLatin1StringView icon; ///< what the icon's name ends in: a word of the browser's name
+    QLatin1StringView icon; ///< the end of the icon's name: a word of the browser's name
 };
 
-// All that is known of a browser. The order is that of Browser::Type, and the one in which they are
-// scanned and shown.
+// The known browsers. Their order is that of Browser::Type, of a scan and of the page.
 constexpr std::array descriptions{
     Description{QT_TRANSLATE_NOOP("BrowserCleaner", "Google Chrome"), DataFolder::Local,
                 "Google/Chrome/User Data"_L1, "chrome.exe"_L1, "chrome"_L1},
@@ -52,13 +53,13 @@ constexpr std::array descriptions{
                 "BraveSoftware/Brave-Browser/User Data"_L1, "brave.exe"_L1, "brave"_L1},
 };
 
-// There is an icon for it, though it is not cleaned.
+// This browser has an icon but is not cleaned.
 constexpr QLatin1StringView iconOnlyBrowser = "safari"_L1;
 
 constexpr qint64 maxProfilesIniSize = 1'048'576;
 
-// Links in the data folders are their owner's wish; what a browser makes below them is not
-// followed.
+// The path of @p relative in a data folder; empty when it cannot be used. Links on the way to the
+// data folder are the user's wish and are followed. Links below the data folder are not.
 QString locateIn(const DataFolders &folders, DataFolder folder, const QString &relative)
 {
     const QString base = folder == DataFolder::Local ? folders.local : folders.roaming;
@@ -69,7 +70,7 @@ QString locateIn(const DataFolders &folders, DataFolder folder, const QString &r
     return path;
 }
 
-// Without its data folder nothing of the browser is there either; it is told where it would be.
+// The browser's data root. If it cannot be located, the path where it would be.
 QString dataRoot(const DataFolders &folders, const Description &browser)
 {
     const QString located = locateIn(folders, browser.folder, browser.root);
@@ -79,7 +80,7 @@ QString dataRoot(const DataFolders &folders, const Description &browser)
         + browser.root;
 }
 
-/// The names of what is installed, read from the registry on the first question.
+/// The names of the installed programs. The first call reads them from the registry.
 class InstalledPrograms
 {
 public:
@@ -107,7 +108,8 @@ private:
     std::optional<QStringList> m_names;
 };
 
-// To be installed a browser's folder may well be a link, which is then not scanned.
+// Whether the browser has data, which makes it count as installed. Its folder may be a link; a scan
+// then skips it.
 bool hasData(const DataFolders &folders, int type, const QString &dataRoot)
 {
     const auto isFolder = [](const QString &path) {
@@ -126,7 +128,7 @@ bool hasData(const DataFolders &folders, int type, const QString &dataRoot)
         || isFolder(locateIn(folders, DataFolder::Local, u"Mozilla/Firefox/Profiles"_s));
 }
 
-/// The real folders right below @p folder that are not hidden, in the order of their names.
+/// The subfolders directly in @p folder, sorted by name, without links and hidden folders.
 QStringList subfolders(const QString &folder, const QStringList &nameFilters = {})
 {
     const platform::FolderListing listing = platform::FolderLister().list(folder);
@@ -148,7 +150,7 @@ QStringList subfolders(const QString &folder, const QStringList &nameFilters = {
 QByteArray readProfilesIni(const QString &path)
 {
     QFile file(path);
-    // Opening a pipe would wait for somebody to write into it.
+    // Opening a pipe would block until another program writes into it.
     if (!QFileInfo(path).isFile())
         return {};
     if (!file.open(QIODevice::ReadOnly)) {
@@ -158,7 +160,8 @@ QByteArray readProfilesIni(const QString &path)
     return file.read(maxProfilesIniSize);
 }
 
-/// The folder that a group of profiles.ini names, resolved; empty when it names none.
+/// The profile folder that a group of profiles.ini names, with links resolved. Empty when it names
+/// none.
 QString profileFolder(const IniGroup &group, const QString &root)
 {
     const QString path = group.values.value(u"path"_s);
@@ -190,8 +193,8 @@ QString browserIdOf(const QString &categoryId)
 
 DataFolders dataFolders()
 {
-    // Roaming data is looked for in the home itself, wherever other programs are told to keep
-    // theirs.
+    // The roaming folder is always AppData/Roaming in the home folder, even if the environment
+    // names another one.
     const QString roaming = platform::locate(platform::homeFolder(), u"AppData/Roaming"_s);
     return {platform::localDataFolder(),
             roaming.isEmpty() ? platform::homeFolder() + "/AppData/Roaming"_L1 : roaming};

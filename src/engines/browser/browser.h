@@ -5,41 +5,41 @@
 
 struct CleanCategory;
 
-/// A browser that can be cleaned, and whether it is here.
+/// A browser that can be cleaned, and whether it is installed.
 struct Browser {
-    /// The browser's place in the list of those that are known. The values are fixed: pages keep
-    /// them in a property.
+    /// The browser's index in the list of known browsers. Pages store the value in a property, so
+    /// it must not change.
     enum Type { Chrome = 0, Edge = 1, Firefox = 2, Opera = 3, Brave = 4 };
 
     int type = Chrome;
-    QString id; ///< what its category ids begin with, such as "google_chrome"
+    QString id; ///< the start of its category ids, such as "google_chrome"
     QString name; ///< for people, translated
-    QString dataRoot; ///< where its profiles lie, absolute; need not exist
+    QString dataRoot; ///< the folder of its profiles, absolute; may be missing
     QString processName; ///< in lower case
     bool installed = false;
-    bool selected = true; ///< set by the page, see BrowserCleaner::setBrowserEnabled()
+    bool selected = true; ///< set by the page; see BrowserCleaner::setBrowserEnabled()
 };
 
 namespace browsers {
 
-/// Where programs keep a user's data; absolute.
+/// The folders where programs keep a user's data; absolute paths.
 struct DataFolders {
     QString local;
     QString roaming;
 };
 
-/// Those of the user who runs the program.
+/// The folders of the user who runs the program.
 [[nodiscard]] DataFolders dataFolders();
 
-/// The five browsers in their fixed order, with what the system says of them now.
+/// The five browsers in their fixed order. Their state is read from the system now.
 [[nodiscard]] QList<Browser> detect(const DataFolders &folders);
 
-/// Whether a user who writes @p name means @p browser: by its id ("google_chrome"), its name
-/// ("Google Chrome") or a word of that ("chrome").
+/// Whether @p name means @p browser. It may be the id ("google_chrome"), the name ("Google Chrome")
+/// or a word of the name ("chrome").
 [[nodiscard]] bool isCalled(const Browser &browser, const QString &name);
 
-/// The icon of the browser that @p name names in any case, such as "browser-chrome"; "browser" for
-/// any other name.
+/// The icon name of the browser that @p name contains, such as "browser-chrome". Case is ignored.
+/// Any other name gives "browser".
 [[nodiscard]] QString iconName(const QString &name);
 
 /// The browser and the rule that a category of browser data comes from.
@@ -54,16 +54,18 @@ struct CategoryOrigin {
 /// the first " - " of the category's name.
 [[nodiscard]] CategoryOrigin originOf(const CleanCategory &category);
 
-/// The profile folders of a Chromium browser, absolute and link-free, in the order in which they
-/// are scanned. A folder that is a link is left out, with a warning in the log.
+/// The profile folders of a Chromium browser in scan order. The paths are absolute and contain no
+/// links. A folder that is a link is left out, with a warning in the log.
 [[nodiscard]] QStringList chromiumProfiles(const QString &dataRoot);
 
-/// Where Firefox keeps what belongs to no profile; empty when there is no such folder.
+/// The folder where Firefox keeps data that belongs to no profile. Empty when there is no such
+/// folder.
 [[nodiscard]] QString firefoxRoot(const DataFolders &folders);
 
-/// Firefox's profile folders, each once: those that profiles.ini names, then those below the
-/// roaming and the local profiles folder. What the file names may lie anywhere and is resolved; a
-/// link below a profiles folder that it does not name is left out.
+/// Firefox's profile folders, each once. First come those that profiles.ini names, then the
+/// subfolders of the roaming and the local profiles folder. A path in profiles.ini may lead
+/// anywhere; links in it are resolved. A link in a profiles folder is left out unless profiles.ini
+/// names it.
 [[nodiscard]] QStringList firefoxProfiles(const DataFolders &folders);
 
 } // namespace browsers

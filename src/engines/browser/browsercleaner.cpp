@@ -156,7 +156,7 @@ void BrowserCleaner::doClean()
     CleanTotals totals =
         cleanSelection([&](const CleanItem &item) { return removeItem(remover, item, ledger); },
                        [this](const CleanCategory &category) { warnIfRunning(category); });
-    // A stop leaves the last folder in the middle.
+    // A stop may leave the last folder partly removed.
     totals.isStopped = isStopRequested();
     if (!totals.isStopped)
         Logger::instance().info(
@@ -182,7 +182,7 @@ CleanEngine::Removal BrowserCleaner::removeItem(platform::FileRemover &remover,
     using Status = platform::FileRemover::Status;
     const platform::FileRemover::Outcome outcome = remover.remove(item.path, &stopFlag());
     if (outcome.status == Status::Failed && outcome.wasFolder && isStopRequested())
-        return {Removal::NotCounted, 0, {}}; // left in the middle, not failed
+        return {Removal::NotCounted, 0, {}}; // partly removed because of the stop; not a failure
     if (const std::optional<qint64> freed = ledger.record(item, outcome))
         return {Removal::Cleaned, *freed, {}};
     Logger::instance().warning(u"Failed to delete: %1"_s.arg(item.path));

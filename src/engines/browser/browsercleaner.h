@@ -14,15 +14,16 @@ namespace platform {
 class FileRemover;
 }
 
-/// Finds and removes what browsers keep in their profiles: caches, logs, history, cookies. What it
-/// looks for stands in a rule file, and for Firefox in FirefoxScan.
+/// Finds and removes what browsers keep in their profiles: caches, logs, history, cookies. A rule
+/// file says what to look for, and FirefoxScan where to look for it in Firefox.
 ///
-/// One browser and rule become one category. A rule of a Chromium browser lists a folder and what
-/// is in it as items of their own. What a rule finds by name inside a database is listed unticked,
-/// with a high risk and the reason. The browsers and their selection belong to the GUI thread. The
-/// rules and the copy of the selected browsers that startScan() makes are written there while no
-/// worker runs, and only read by the workers, to which the listed folders belong. For everything
-/// else see CleanEngine.
+/// A browser and a rule together become one category. In a Chromium browser a folder and the
+/// entries in it are separate items. An entry that a rule finds by name inside a database is
+/// unticked, with a high risk and the reason.
+///
+/// The browsers and their selection belong to the GUI thread. The GUI thread also writes the rules,
+/// and in startScan() a copy of the selected browsers, while no worker runs. The worker only reads
+/// these two. The listed folders belong to the worker. For everything else see CleanEngine.
 class BrowserCleaner final : public CleanEngine
 {
     Q_OBJECT
@@ -33,24 +34,24 @@ public:
     explicit BrowserCleaner(const browsers::DataFolders &folders, QObject *parent = nullptr);
     ~BrowserCleaner() override;
 
-    /// Replaces the rules by those of the JSON file at @p path. Not while a run is busy. A file
-    /// that cannot be read or is no JSON object is logged as an error and leaves the engine without
-    /// rules.
+    /// Replaces the rules with those of the JSON file at @p path. Must not be called while a run is
+    /// busy. If the file cannot be read or is not a JSON object, an error is logged and the engine
+    /// has no rules.
     void loadRules(const QString &path) override;
     [[nodiscard]] const QList<BrowserRule> &rules() const { return m_rules; }
 
-    /// Looks which browsers are installed; the constructor does so once.
+    /// Finds out which browsers are installed. The constructor calls it once.
     void detectBrowsers();
     /// The five browsers in their fixed order.
     [[nodiscard]] const QList<Browser> &browsers() const { return m_browsers; }
 
-    /// What a scan calls that which @p rule finds of @p browser, without the items.
+    /// The category for what @p rule finds in @p browser, without items.
     [[nodiscard]] static CleanCategory categoryOf(const Browser &browser, const BrowserRule &rule);
     /// The ids of all categories that a scan can find.
     [[nodiscard]] QStringList categoryIds() const;
 
-    /// Records whether a browser is to be scanned, from the next scan on. As long as nothing is
-    /// recorded every installed browser is; afterwards only those that are recorded as enabled.
+    /// Records whether the next scans include a browser. While nothing is recorded, every installed
+    /// browser is scanned. Afterwards only those recorded as enabled are scanned.
     void setBrowserEnabled(int type, bool enabled);
     [[nodiscard]] bool isBrowserEnabled(int type) const;
 
@@ -64,13 +65,13 @@ protected:
 private:
     void scanBrowser(const Browser &browser);
     void warnIfRunning(const CleanCategory &category) const;
-    /// A failure is in the log as well.
+    /// Removes one item and records it in @p ledger. A failure is also written to the log.
     Removal removeItem(platform::FileRemover &remover, const CleanItem &item, CleanLedger &ledger);
 
     const browsers::DataFolders m_folders;
     QList<BrowserRule> m_rules;
     QList<Browser> m_browsers;
     QMap<int, bool> m_enabled;
-    QList<Browser> m_scanned; ///< those of the last scan
-    platform::ListedFolders m_listed; ///< by the last scan
+    QList<Browser> m_scanned; ///< of the last scan
+    platform::ListedFolders m_listed; ///< of the last scan
 };

@@ -11,15 +11,15 @@ struct BrowserRule {
     QString name;
     QString description;
     QString subPath; ///< folder below a Chromium profile; empty for the profile itself
-    QString firefoxSubPath; ///< for readers of the file: Firefox has a mapping of its own
+    QString firefoxSubPath; ///< not used by a scan: FirefoxScan has its own mapping
     QStringList patterns; ///< file-name wildcards for Chromium profiles; empty takes everything
-    QStringList firefoxPatterns; ///< for readers of the file
+    QStringList firefoxPatterns; ///< not used by a scan
     bool defaultChecked = true;
     int riskLevel = 0;
 
     /// @p object as a rule. A member that is missing or of another type gets the default above.
     [[nodiscard]] static BrowserRule fromJson(const QJsonObject &object);
 
-    /// Whether the rule takes nearly everything in its folder.
+    /// Whether the rule matches nearly everything in its folder.
     [[nodiscard]] bool matchesEverything() const;
 };

@@ -12,26 +12,28 @@
 #include <atomic>
 #include <vector>
 
-/// The items of each rule, in the rules' order.
+/// The items of each rule, in the order of the rules.
 using ItemsByRule = std::vector<QList<CleanItem>>;
 
-/// Finds what the rules take from the profiles of a Chromium browser, reading each profile's tree
-/// once for all of them.
+/// Finds what the rules match in the profiles of a Chromium browser. Reads each profile's tree once
+/// for all rules.
+///
+/// BrowserCleaner makes one for each browser, on its worker.
 class ChromiumScan final
 {
     Q_DISABLE_COPY_MOVE(ChromiumScan)
 public:
-    /// All three must outlive the object. The folders that it reads are recorded in @p listed.
+    /// All three must outlive the object. It records the folders that it reads in @p listed.
     ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
                  const std::atomic_bool &stopRequested);
 
-    /// Appends what lies in the folder @p profile (absolute, link-free) to @p found. Each rule's
-    /// items come as a walk of the rule's own folder lists them: folders and files, each folder
-    /// before what is in it.
+    /// Appends the items of the folder @p profile to @p found. The path is absolute and contains no
+    /// links. A rule's items have the order in which a walk of the rule's own folder lists them:
+    /// each folder comes before the entries in it.
     void scanProfile(const QString &profile, ItemsByRule &found) const;
 
 private:
-    /// The rules that take from one folder, by that folder.
+    /// For each folder, the rules that look into it, as indexes.
     using RulesByFolder = QHash<QString, std::vector<std::size_t>>;
     class Visitor;
 
@@ -40,22 +42,24 @@ private:
     const QList<BrowserRule> &m_rules;
     platform::ListedFolders &m_listed;
     const std::atomic_bool &m_stopRequested;
-    std::vector<platform::NameFilter> m_filters; ///< by rule
+    std::vector<platform::NameFilter> m_filters; ///< one for each rule
 };
 
-/// Finds what the rules take from Firefox, of whose data the mapping from rule ids to folders is
-/// part of this class. Each folder is read once for all rules.
+/// Finds what the rules match in Firefox's data. This class has the mapping from rule ids to
+/// Firefox's folders. Reads each folder once for all rules.
+///
+/// BrowserCleaner makes one on its worker.
 class FirefoxScan final
 {
     Q_DISABLE_COPY_MOVE(FirefoxScan)
 public:
-    /// As the other.
+    /// The parameters are those of ChromiumScan.
     FirefoxScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
                 const std::atomic_bool &stopRequested);
 
-    /// Appends what belongs to no profile and lies below @p root.
+    /// Appends the items below @p root that belong to no profile.
     void scanShared(const QString &root, ItemsByRule &found) const;
-    /// Appends what lies in one profile. Both folders are absolute and link-free.
+    /// Appends the items of one profile. Both paths are absolute and contain no links.
     void scanProfile(const QString &profile, ItemsByRule &found) const;
 
 private:

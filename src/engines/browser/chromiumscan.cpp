@@ -15,15 +15,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What makes the entries of a folder one thing, of which a part cannot be removed without harm to
-/// the rest.
+/// A folder whose files only work together: removing one of them harms the others.
 enum class Bundle {
     None,
-    /// Browsers keep dozens of this kind in a profile. It consists of a file that names the current
-    /// list of its parts, the lists and the parts. One of those, named like "000003.log", is no log
-    /// but holds what was written last, which in a small database is all there is.
+    /// A profile holds dozens of such databases. Each has a file that names the current list of its
+    /// parts, the lists, and the parts. A part with a name like "000003.log" is not a log: it holds
+    /// the data that was written last. In a small database that is all the data.
     Database,
-    /// The files of an extension, as they were installed.
+    /// The installed files of a browser extension.
     Extension,
 };
 
@@ -60,12 +59,12 @@ QString warningOf(Bundle bundle)
 
 } // namespace
 
-/// Hands each entry of a walk to the rules whose folder it is below. The folders of rules that the
-/// walk comes through are taken from the ones still to be walked.
+/// Passes each entry of a walk to the rules whose folder contains it. When the walk has read a
+/// rule's own folder, that folder is removed from those that remain to be walked.
 ///
-/// What lies in a database or an extension, and a folder that holds one, is only offered by a rule
-/// that looks for names in the whole profile and knows nothing of them: it starts unticked. A rule
-/// with a folder of its own means what is in there.
+/// A rule without its own folder looks for names in the whole profile and knows nothing of bundles.
+/// An entry in a bundle, or a folder that contains a bundle, is therefore listed unticked for it. A
+/// rule with its own folder means everything in that folder.
 class ChromiumScan::Visitor final : public platform::EntryVisitor
 {
 public:
@@ -87,7 +86,7 @@ public:
             for (const auto &[rule, item] : folder.items)
                 markRisky(rule, m_found[rule][item], bundle);
         }
-        // In a hidden folder there is nothing to offer.
+        // No entry of a hidden folder is listed.
         if (!isShown)
             return;
         m_bundles.push_back(bundle);
@@ -125,10 +124,13 @@ public:
     }
 
 private:
+    /// A folder on the way from the root of the walk to the current folder.
     struct OpenFolder {
         QString path;
-        std::size_t outerRuleCount; ///< how many rules take from around the folder
-        std::vector<std::pair<std::size_t, qsizetype>> items; ///< that the folder itself became
+        /// How many rules were active outside the folder.
+        std::size_t outerRuleCount;
+        /// The items for the folder itself: rule and index in the list of its items.
+        std::vector<std::pair<std::size_t, qsizetype>> items;
         bool isBundle;
     };
 
@@ -149,17 +151,17 @@ private:
             return;
         item.checked = false;
         item.riskLevel = HighRisk;
-        // Lost data are the worse of the two.
+        // Lost data is worse than a broken extension.
         if (item.description.isEmpty() || bundle == Bundle::Database)
             item.description = warningOf(bundle);
     }
 
     const ChromiumScan &m_scan;
-    std::vector<std::size_t> m_activeRules; ///< the rules that take from the current folder
+    std::vector<std::size_t> m_activeRules; ///< the rules whose folder contains the current folder
     RulesByFolder &m_remaining;
     ItemsByRule &m_found;
-    std::vector<OpenFolder> m_openFolders; ///< the way down to the current folder
-    std::vector<Bundle> m_bundles; ///< on that way, the root included
+    std::vector<OpenFolder> m_openFolders; ///< from the root down to the current folder
+    std::vector<Bundle> m_bundles; ///< the bundles on that way, including the root
 };
 
 ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
@@ -191,8 +193,8 @@ ChromiumScan::RulesByFolder ChromiumScan::ruleFolders(const QString &profile) co
     return folders;
 }
 
-// A folder that the walk of an outer one does not come through, because it is hidden or something
-// is mounted there, is walked by itself.
+// The walk of an outer folder skips a folder that is hidden or a mount point. Such a folder is
+// walked by itself.
 void ChromiumScan::scanProfile(const QString &profile, ItemsByRule &found) const
 {
     if (m_stopRequested)

@@ -2,7 +2,7 @@
 
 namespace {
 
-// Empty at the top.
+// The folder of @p path; empty at the top.
 QString parentOf(const QString &path)
 {
     return path.left(qMax<qsizetype>(path.lastIndexOf(u'/'), 0));

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Passes the files of a walk on.
+/// Passes the files of a walk, without its folders, to a function.
 class FilesOnly final : public platform::EntryVisitor
 {
 public:
@@ -37,24 +37,25 @@ private:
 
 } // namespace
 
-/// A folder, what in it a rule takes, and whether the folders below belong to it. Where several are
-/// named the first that exists counts.
+/// One row of the mapping: a folder, the rules that use it and the file names that they match. Of
+/// several folders the first that exists is used.
 struct FirefoxScan::Source {
     QStringList folders; ///< below the profile or the shared folder; "" is that folder itself
-    bool isTree;
-    bool isShared;
+    bool isTree; ///< includes the subfolders
+    bool isShared; ///< below the shared folder, not below a profile
     QStringList ruleIds;
-    QStringList patterns; ///< empty takes every file
+    QStringList patterns; ///< empty matches every file
 };
 
+/// A rule, as an index, and the file names that it matches in one folder.
 struct FirefoxScan::RuleFilter {
     std::size_t rule;
     platform::NameFilter filter;
 };
 
-// The folders that hold one kind of data are taken with what is below them. A profile's own folder
-// is not: the kinds that are kept right in it have names that mean something else further down,
-// such as the saved bookmarks, which end like the saved sessions.
+// A folder that holds one kind of data is read with its subfolders. A profile's own folder is not:
+// further down, the same file names mean something else. For example, saved bookmarks end like
+// saved sessions.
 const std::vector<FirefoxScan::Source> &FirefoxScan::sources()
 {
     const QString ownFolder;
@@ -122,12 +123,13 @@ void FirefoxScan::scan(const QString &folder, bool isShared, ItemsByRule &found)
 {
     if (m_stopRequested)
         return;
+    /// A folder to read, and the rules that look into it.
     struct FolderJob {
         QString folder;
         bool isTree;
         std::vector<RuleFilter> ruleFilters;
     };
-    std::vector<FolderJob> jobs; // a folder that several rules take from is one
+    std::vector<FolderJob> jobs; // one for each folder, also when several rules look into it
     for (const Source &source : sources()) {
         if (source.isShared != isShared)
             continue;

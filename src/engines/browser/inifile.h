@@ -5,12 +5,12 @@
 #include <QMap>
 #include <QString>
 
-/// A group of an INI file with its plain text values; keys are in lower case.
+/// One group of an INI file with its text values. Keys are in lower case.
 struct IniGroup {
     QString name;
     QMap<QString, QString> values;
 };
 
-/// The groups of an INI file in their order. Values are taken as they stand: to QSettings the
-/// backslashes of a Windows path would be escapes and its commas a list.
+/// The groups of an INI file in their order. Values are not interpreted: QSettings would read the
+/// backslashes of a Windows path as escapes and its commas as a list.
 [[nodiscard]] QList<IniGroup> parseIni(const QByteArray &content);

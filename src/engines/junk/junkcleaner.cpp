@@ -22,8 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The application's own folder with its name taken out again: what is left ends in the
-// organisation's folder.
+// The application's data folder without the application's name. It ends in the organisation's
+// folder.
 QString organisationDataFolder()
 {
     QString folder =
@@ -31,7 +31,7 @@ QString organisationDataFolder()
     return folder.remove(u'/' + appinfo::name);
 }
 
-// The location's leading folder, which the environment names, and what the rule appends to it.
+// A location of a rule. The leading folder comes from the environment; the rule appends the rest.
 struct Location {
     QString base;
     QString relative;
@@ -99,7 +99,8 @@ void JunkCleaner::loadRules(const QString &path)
 QString JunkCleaner::expandPath(const QString &text)
 {
     QString path = text;
-    // To find some of the folders takes a look into the registry: only for a path that names one.
+    // Finding some of the folders reads the registry, so only those that the path names are looked
+    // up.
     const auto replace = [&path](QLatin1StringView placeholder, QString (*folder)()) {
         if (path.contains(placeholder))
             path.replace(placeholder, folder());
@@ -172,7 +173,7 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
         scanDirectory(path, rule.patterns, items, rule.recursive);
         return;
     case platform::EntryKind::File: {
-        // Where the rule means a folder of the environment the file would be somebody's drive.
+        // The rule means a folder of the environment. A file in its place may hold a whole drive.
         if (relative.isEmpty()) {
             logSkipped(path, u"it is no folder"_s);
             return;

@@ -10,12 +10,12 @@ namespace platform {
 class FileRemover;
 }
 
-/// Finds and removes system junk: temporary files, caches, logs, dumps. What it looks for stands in
-/// a rule file.
+/// Finds and removes system junk: temporary files, caches, logs, dumps. A rule file says what to
+/// look for.
 ///
-/// One rule becomes one category, every file that it matches one item. The rules are read on the
-/// GUI thread before any scan and only read by the worker, to which the listed folders belong; for
-/// everything else see CleanEngine.
+/// One rule becomes one category, and every file that it matches becomes one item. The GUI thread
+/// loads the rules before any scan; the worker only reads them. The listed folders belong to the
+/// worker. For everything else see CleanEngine.
 class JunkCleaner final : public CleanEngine
 {
     Q_OBJECT
@@ -24,12 +24,12 @@ public:
     explicit JunkCleaner(QObject *parent = nullptr);
     ~JunkCleaner() override;
 
-    /// Replaces the rules by those of the JSON file at @p path. A file that cannot be opened,
-    /// parsed or is not an object is logged as an error and leaves the rules as they were.
+    /// Replaces the rules with those of the JSON file at @p path. If the file cannot be opened or
+    /// parsed or is not an object, an error is logged and the rules stay as they were.
     void loadRules(const QString &path) override;
     [[nodiscard]] const QList<JunkRule> &rules() const { return m_rules; }
 
-    /// @p text with every placeholder replaced and native separators.
+    /// @p text with every known placeholder replaced and with native separators.
     [[nodiscard]] static QString expandPath(const QString &text);
 
 protected:
@@ -38,13 +38,13 @@ protected:
 
 private:
     void scanRule(const JunkRule &rule);
-    /// Adds what @p location holds; see expandPath() for its placeholders.
+    /// Appends the files of @p location to @p items. See expandPath() for its placeholders.
     void scanLocation(const QString &location, const JunkRule &rule, QList<CleanItem> &items);
     void scanDirectory(const QString &directory, const QStringList &patterns,
                        QList<CleanItem> &items, bool recursive);
-    /// Why an item could not be removed is in the log as well.
+    /// Removes one item. The reason of a failure is also written to the log.
     Removal removeItem(platform::FileRemover &remover, const CleanItem &item);
 
     QList<JunkRule> m_rules;
-    platform::ListedFolders m_listed; ///< by the last scan
+    platform::ListedFolders m_listed; ///< of the last scan
 };

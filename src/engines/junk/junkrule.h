@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// One rule of the junk rule file: where to look and what to take there.
+/// One rule of the junk rule file: where to look and which files to remove there.
 struct JunkRule {
     QString id;
     QString name;
@@ -16,10 +16,10 @@ struct JunkRule {
     int riskLevel = 0;
     bool recursive = true;
 
-    /// @p object as a rule. A member that is missing or of another type gets the default above; an
-    /// element of a list that is no string becomes an empty one and is kept.
+    /// @p object as a rule. A member that is missing or of another type gets the default above. A
+    /// list element that is not a string becomes an empty text and stays in the list.
     [[nodiscard]] static JunkRule fromJson(const QJsonObject &object);
 
-    /// Whether the rule takes every file of every folder below its locations.
+    /// Whether the rule matches nearly every file in all folders below its locations.
     [[nodiscard]] bool matchesWholeTrees() const;
 };

@@ -12,11 +12,11 @@ struct LargeFileInfo {
     qint64 size = 0; ///< bytes
     QDateTime modified;
     QString type; ///< "video", "audio", "archive", "image", "document" or "other"
-    quint64 number = 0; ///< of the file on its file system; 0 where the scan was not told
-    bool isLink = false; ///< a link to a file
+    quint64 number = 0; ///< the file's number on its file system; 0 when unknown
+    bool isLink = false; ///< the entry is a link to a file
 };
 
 Q_DECLARE_METATYPE(LargeFileInfo)
 
-/// The type of a file of this name, by what follows the last dot, ignoring case.
+/// The type of a file with this @p name. The part after the last dot decides; case is ignored.
 [[nodiscard]] QString largeFileType(const QString &name);

@@ -25,15 +25,15 @@ namespace {
 
 constexpr int filesPerProgress = 100;
 constexpr int cancelTimeout = 3000; // milliseconds
-// More walkers than this wait for each other and for the disk.
+// More walkers would only wait for each other and for the disk.
 constexpr int maxWalkers = 2;
-// How many files a walker looks at before it tells the others, when there are any.
+// With several walkers, each adds this many files at a time to the common count.
 constexpr int filesPerBatch = 25;
 constexpr qint64 deleteProgressInterval = 50; // milliseconds
 
-/// Whether a path is left out, asked of its folder and its name one after the other: none of the
-/// texts reaches over a slash. The two with a backslash match no path with forward slashes; what
-/// lies below "Windows/WinSxS" is meant to be listed.
+/// Whether a folder path or a file name is excluded. Both can be checked separately, since none of
+/// the texts contains a slash. Paths have forward slashes, so the two texts with a backslash match
+/// no folder. Files below "Windows/WinSxS" are listed on purpose.
 bool isExcluded(QStringView part)
 {
     static constexpr std::array excludedParts{"$Recycle.Bin"_L1, "System Volume Information"_L1,
@@ -44,7 +44,8 @@ bool isExcluded(QStringView part)
 
 } // namespace
 
-/// Takes what one walker meets: counts every file, keeps the large ones.
+/// Counts all files that one walker meets and keeps the large ones. One object for each walker,
+/// which alone uses it during a walk.
 class LargeFileScanner::FileCollector final : public platform::TreeVisitor
 {
     Q_DISABLE_COPY_MOVE(FileCollector)
@@ -73,7 +74,7 @@ public:
             m_scanner.reportProgress(m_folder);
     }
 
-    /// Counts what has not been counted yet.
+    /// Adds the files that are not counted yet to the common count. Reports progress if it is due.
     void flushCount()
     {
         if (m_uncounted > 0 && addToCount() && !m_isExcluded)
@@ -92,7 +93,7 @@ private:
                              file.number, file.isLink});
     }
 
-    /// Whether progress is due.
+    /// Adds the uncounted files to the common count. Returns whether progress is due.
     bool addToCount()
     {
         const int before = m_scanner.m_filesScanned.fetch_add(m_uncounted);
@@ -161,7 +162,7 @@ void LargeFileScanner::startScan()
     m_foundPaths.clear();
     Q_EMIT scanStarted();
 
-    // A million records take a noticeable time to free: the worker does it.
+    // Freeing a million records takes noticeable time, so the worker does it.
     std::unique_ptr<QThread> worker(QThread::create([this, old = std::move(discarded)]() mutable {
         old.clear();
         m_listed.clear();
@@ -186,7 +187,7 @@ void LargeFileScanner::cancel()
     m_isCancelled = true;
     if (m_worker && m_worker->isRunning())
         m_worker->wait(cancelTimeout);
-    // A deletion still tells its end.
+    // A cancelled deletion still emits deleteFinished(), so its run is not ended here.
     if (m_isRunning.exchange(false))
         m_runSignals.end();
 }
@@ -247,7 +248,7 @@ void LargeFileScanner::scanDrive(const QString &drive)
     m_followedLinks += report.followed;
 }
 
-// The largest first, and those of one size in the order of their arrival.
+// Sorts the results by size, largest first. Files of one size keep their order of arrival.
 void LargeFileScanner::sortResults()
 {
     const QList<LargeFileInfo> found = results();
@@ -267,7 +268,7 @@ void LargeFileScanner::sortResults()
 void LargeFileScanner::addResult(const LargeFileInfo &info)
 {
     const QMutexLocker locker(&m_mutex);
-    // A drive may be mounted below another one that is scanned too.
+    // A drive may be mounted below another scanned drive. Its files are then found twice.
     if (m_scannedDrives.size() > 1) {
         if (m_foundPaths.contains(info.path))
             return;

@@ -3,23 +3,24 @@
 #include "registry.h"
 #include "scanresult.h"
 
-/// Which hive the registry entry of an item is in, as a clean and as a backup take it.
+/// The hive of an item's registry entry, as a clean and as a backup see it.
 ///
-/// Both know the hive's name in full and short: the scan of the start-up lists stores it short. Any
-/// other text, which no scan stores, means the merged classes to a clean and the machine's hive to
-/// a backup. The two differ because the backup's format and the clean each lay down what such a
-/// text means; neither may be changed to the other.
+/// Both accept the full and the short name of a hive; the check of the start-up lists stores the
+/// short name. No scan stores any other text. A clean takes such a text for the merged classes, a
+/// backup takes it for the machine's hive. The clean and the format of the backup define this
+/// separately, so the two must stay different.
 struct ItemHive {
-    /// May be the merged classes.
+    /// The hive that the item names. May be the merged classes.
     platform::Hive named;
-    /// Never the merged classes: a class is in the hive that the scan read it from.
+    /// The hive that has the entry, never the merged classes. A class is in the hive from which the
+    /// scan read it.
     platform::Hive stored;
 
     [[nodiscard]] static ItemHive forClean(const CleanItem &item);
     [[nodiscard]] static ItemHive forBackup(const CleanItem &item);
 
     [[nodiscard]] bool isClass() const { return named == platform::Hive::ClassesRoot; }
-    /// Where the stored hive has the key that the named one knows as @p key.
+    /// The path in the stored hive of the key that the named hive has at @p key.
     [[nodiscard]] QString storedPath(const QString &key) const
     {
         return isClass() ? platform::Registry::classPath(key) : key;

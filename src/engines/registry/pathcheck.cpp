@@ -13,7 +13,7 @@ using platform::Registry;
 
 namespace {
 
-// In this order; a placeholder is written exactly so.
+// The placeholders are replaced in this order. exists() accepts only this spelling.
 constexpr std::array placeholderVariables{
     std::pair("%SystemRoot%"_L1, "SYSTEMROOT"_L1),
     std::pair("%ProgramFiles%"_L1, "PROGRAMFILES"_L1),
@@ -36,10 +36,10 @@ bool isSeparator(QChar c)
     return c == u'\\' || c == u'/';
 }
 
-// What a program's file may end in when its command does not say so.
+// The suffixes that a command may leave out.
 constexpr std::array programSuffixes{".exe"_L1, ".com"_L1, ".bat"_L1, ".cmd"_L1};
 
-// Something that a program is asked for, such as "https://..." or "shell:...", is no path. A single
+// Whether the text is an address, such as "https://..." or "shell:...", and not a path. A single
 // letter is a drive.
 bool hasScheme(const QString &path)
 {
@@ -47,15 +47,17 @@ bool hasScheme(const QString &path)
     return scheme.match(path).hasMatch();
 }
 
-// How the system takes blanks in front and characters that no name has is its own affair.
+// Whether the text has a blank in front or control characters. Only the system knows how it
+// interprets them.
 bool hasUnusualCharacters(const QString &text)
 {
     return text.startsWith(u' ')
         || std::any_of(text.begin(), text.end(), [](QChar c) { return c < u' '; });
 }
 
-// The system knows many files by names that no listing has: the short form of a long name, and any
-// name with blanks and dots at its end. A slash may well begin the arguments of a program.
+// Whether the path may be another name of a file than the one in a listing. The system also accepts
+// the short form of a long name, and blanks and dots at the end of a name. Only backslashes
+// separate names here, because a slash may begin the arguments of a program.
 bool mayBeAlias(const QString &path)
 {
     static const QRegularExpression shortName(
@@ -88,7 +90,7 @@ PathCheck::PathCheck(const Registry &registry)
     }
 }
 
-// What every program finds in its environment, from where the system itself takes it.
+// Reads PATH from the registry keys from which the system fills the environment of every program.
 void PathCheck::readSearchPath(const Registry &registry)
 {
     const QString environment = u"\\Control\\Session Manager\\Environment"_s;
@@ -134,8 +136,8 @@ bool PathCheck::exists(const QString &text)
         path.remove(0, 4);
     if (platform::isOnDrive(path))
         return existsOnDrive(path) || mayBeAlias(path);
-    // Of the current drive, of another machine, or of the system's own names for things: nobody
-    // here can tell.
+    // A path on the current drive or on another machine, or a name in the system's own form. It
+    // cannot be checked here.
     const bool isRooted = isSeparator(path.at(0));
     const bool isDriveRelative = path.size() >= 2 && path.at(1) == u':';
     if (isRooted || isDriveRelative || mayBeAlias(path) || hasScheme(path))

@@ -22,9 +22,11 @@ using platform::RegistryValue;
 
 namespace {
 
-constexpr qsizetype maxListedValueSize = 65536; ///< bytes; a key's longer values are left out
-constexpr int maxLineLength = 70; ///< characters of a list of bytes before it is wrapped
+/// Bytes; longer values are left out of a key's export.
+constexpr qsizetype maxListedValueSize = 65536;
+constexpr int maxLineLength = 70; ///< characters; a longer list of bytes is wrapped
 
+/// Gives the texts of this file the context of RegistryBackup.
 struct Text {
     Q_DECLARE_TR_FUNCTIONS(RegistryBackup)
 };
@@ -55,7 +57,7 @@ QString hexList(const QByteArray &data)
     return list;
 }
 
-// The characters but for the last, which is taken to be the terminating NUL, unseen.
+// All characters but the last. The last one is taken for the terminating NUL and not checked.
 QString storedText(const QByteArray &data)
 {
     QString text(std::max<qsizetype>(data.size() / 2 - 1, 0), Qt::Uninitialized);
@@ -76,7 +78,8 @@ bool hasLineBreak(const QString &text)
     return text.contains(u'\r') || text.contains(u'\n');
 }
 
-// A path with an empty name in it would be read as another key's.
+// Whether the path of a key can be written to the file. A path with an empty name in it would be
+// read as the path of another key.
 bool canExport(const QString &key)
 {
     return !hasLineBreak(key) && Registry::isKeyPath(key);
@@ -203,7 +206,7 @@ bool RegistryBackup::write(const QString &path, const QString &text, QString &er
     error = targetProblem(path);
     if (!error.isEmpty())
         return false;
-    // No text mode: the lines end in CR LF already, and it would double the CR.
+    // Not in text mode: the lines already end in CR LF, and text mode would double the CR.
     QSaveFile file(path);
     QByteArray bytes;
     QTextStream stream(&bytes);
@@ -213,7 +216,7 @@ bool RegistryBackup::write(const QString &path, const QString &text, QString &er
     stream.flush();
     const bool isWritten =
         file.open(QIODevice::WriteOnly) && platform::writeToDisk(file, bytes, error);
-    // It takes the place of what is there by now.
+    // The file replaces whatever is at the path now, so the path is checked again.
     if (isWritten)
         error = targetProblem(path);
     if (isWritten && error.isEmpty() && file.commit())
@@ -233,7 +236,7 @@ std::optional<QString> RegistryBackup::decode(const QByteArray &data)
                                 reinterpret_cast<char16_t *>(text.data()));
     if (text.startsWith(QChar(QChar::ByteOrderMark)))
         text.remove(0, 1);
-    // A text mode puts a CR before every LF, also those that have one.
+    // A text mode puts a CR before every LF, even after another CR.
     const qsizetype end = text.indexOf(u'\n');
     if (end >= 2 && text.at(end - 1) == u'\r' && text.at(end - 2) == u'\r')
         text.replace("\r\n"_L1, "\n"_L1);

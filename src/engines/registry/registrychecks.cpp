@@ -24,7 +24,7 @@ const QString muiCache =
 
 constexpr int maxExaminedClasses = 1000; ///< the key may hold many thousands
 
-// Types that Windows itself looks after, in lower case.
+// File types that Windows itself manages, in lower case.
 bool isProtectedExtension(const QString &extension)
 {
     static const QSet<QString> extensions{
@@ -40,8 +40,8 @@ bool isProtectedExtension(const QString &extension)
     return extensions.contains(extension);
 }
 
-// The classes of such types. They are looked up in lower case, so that "InternetShortcut" never
-// protects anything; it stays as it always was.
+// The classes of these file types. @p name is in lower case, so "InternetShortcut" never matches.
+// This is kept as it always was.
 bool isProtectedClass(const QString &name)
 {
     static const QSet<QString> classes{
@@ -78,7 +78,7 @@ CleanItem makeKeyItem(const QString &name, const QString &description, Hive hive
     return makeItem(RegistryEntry::Key, name, description, hive, key);
 }
 
-// Of a value the location that is shown is its key's.
+// An item for a value. Its shown path is the path of its key.
 CleanItem makeValueItem(const QString &name, const QString &description, Hive hive,
                         const QString &key, const QString &value)
 {

@@ -17,10 +17,10 @@ using namespace Qt::StringLiterals;
 using platform::Hive;
 using platform::Registry;
 
-/// The key or value that an item stands for, in the one hive that has it.
+/// The place of an item's key or value, in the hive that stores it.
 struct RegistryCleaner::Place {
     Hive hive;
-    QString path; ///< empty for what is no class
+    QString path; ///< empty for an incomplete path of a class
 
     [[nodiscard]] bool operator<(const Place &other) const
     {
@@ -30,13 +30,13 @@ struct RegistryCleaner::Place {
     [[nodiscard]] static Place of(const CleanItem &item)
     {
         const ItemHive hive = ItemHive::forClean(item);
-        // Without a name it would be the key that holds all classes.
+        // Without a name the path would be that of the key that holds all classes.
         const bool isIncompleteClass = hive.isClass() && !Registry::isKeyPath(item.registryKey);
         return {hive.stored, isIncompleteClass ? QString() : hive.storedPath(item.registryKey)};
     }
 };
 
-/// An entry that was removed, until that is saved.
+/// A removed entry whose removal is not saved yet.
 struct RegistryCleaner::UnsavedRemoval {
     Hive hive;
     QString entry; ///< for people
@@ -140,7 +140,7 @@ void RegistryCleaner::doClean()
     std::set<Place> removedPlaces;
     CleanTotals totals = cleanSelection([&](const CleanItem &item) -> Removal {
         const Place place = Place::of(item);
-        if (removedPlaces.contains(place)) // a class may stand in the list twice
+        if (removedPlaces.contains(place)) // a class may be listed twice
             return {Removal::NotCounted, 0, {}};
         const QString entry = item.registryRoot + u'\\' + item.registryKey;
         QString reason = tr("It has changed since the scan");
@@ -156,7 +156,7 @@ void RegistryCleaner::doClean()
         Logger::instance().info(u"Registry clean finished. Cleaned %1 items"_s.arg(totals.cleaned));
 }
 
-// What is not what it was would be another entry than the one that was shown.
+// An entry that has changed since the scan is not the one that was shown, so it must stay.
 std::set<RegistryCleaner::Place> RegistryCleaner::findCurrentPlaces(const Registry &registry)
 {
     std::set<Place> found;
@@ -183,7 +183,7 @@ void RegistryCleaner::backUp(const ScanResult &toRemove, const Registry &registr
         return;
     }
     if (toRemove.checkedCount() == 0 && QFileInfo::exists(m_backupPath)) {
-        // The last backup is worth more than an empty one.
+        // An existing backup is worth more than an empty one.
         Logger::instance().info(u"Registry backup skipped (nothing to remove)"_s);
         return;
     }

@@ -10,14 +10,14 @@
 
 class RegistryChecks;
 
-/// Finds registry entries that name files or programs which are no longer there, and removes them
-/// after a backup was written.
+/// Finds registry entries that name missing files or programs, and removes them after it has
+/// written a backup.
 ///
-/// One check becomes one category. Which hive an entry is in is decided when it is read: of the
-/// merged classes, another one would be found in its place once it is gone. The descriptions of the
-/// categories and the path of the backup are set on the GUI thread while no run is under way and
-/// only read by the worker; the last backup's error is written by it during a clean; for
-/// everything else see CleanEngine.
+/// One check becomes one category. The scan stores the hive of each entry: in the merged classes,
+/// after a removal, the same path may show an entry of the other hive. The GUI thread sets the
+/// descriptions of the categories and the path of the backup while no run is busy; the worker only
+/// reads them. The worker writes the error of the backup during a clean. For everything else see
+/// CleanEngine.
 class RegistryCleaner final : public CleanEngine
 {
     Q_OBJECT
@@ -27,11 +27,11 @@ public:
     ~RegistryCleaner() override;
 
     [[nodiscard]] QStringList categoryIds() const;
-    /// Where the next cleans write their backup; empty means none.
+    /// Where the next cleans write their backup. An empty path means no backup.
     void setBackupPath(const QString &path) { m_backupPath = path; }
     [[nodiscard]] const QString &backupPath() const { return m_backupPath; }
-    /// Why the last clean could not write the backup that it should have written, for people;
-    /// nothing when there was no such failure.
+    /// Why the last clean could not write its backup, for people. Nothing when no backup has
+    /// failed.
     [[nodiscard]] const std::optional<QString> &backupError() const { return m_backupError; }
 
     /// Whether the file or folder that an entry names exists, see PathCheck.
@@ -43,6 +43,7 @@ protected:
 
 private:
     using Check = QList<CleanItem> (RegistryChecks::*)();
+    /// One check and the category that shows what it finds.
     struct Category {
         Check check;
         QString id;
@@ -57,12 +58,12 @@ private:
     struct UnsavedRemoval;
 
     void runCheck(const Category &category, RegistryChecks &checks);
-    /// What a scan would list now, in the categories that are to be cleaned.
+    /// The places that a scan would list now, in the categories that are to be cleaned.
     [[nodiscard]] std::set<Place> findCurrentPlaces(const platform::Registry &registry);
     void backUp(const ScanResult &toRemove, const platform::Registry &registry);
-    /// True when the entry is gone now; otherwise @p reason says why not.
+    /// Removes the entry of @p item. If that fails, returns false and sets @p reason.
     static bool removeEntry(platform::Registry &registry, const CleanItem &item, QString &reason);
-    /// Makes the removals last and returns how many of them did.
+    /// Saves the registry. Returns how many of @p removals were saved; the others become failures.
     int saveChanges(platform::Registry &registry, const QList<UnsavedRemoval> &removals);
 
     QList<Category> m_categories;

@@ -14,11 +14,13 @@ using platform::RegistryValue;
 
 namespace {
 
+/// Gives the texts of this file the context of RegistryRestore.
 struct Text {
     Q_DECLARE_TR_FUNCTIONS(RegistryRestore)
 };
 
-// Goes through the text once; the first thing that no backup holds ends it with an error.
+// Reads the text once from start to end. The first part that cannot be in a backup ends it with an
+// error.
 class Parser
 {
 public:
@@ -33,7 +35,7 @@ public:
             fail(Text::tr("this is not a registry backup"));
         while (m_error.isEmpty() && !isAtEnd())
             readLine();
-        // A backup ends in an empty line, whatever is in it.
+        // Every backup ends in an empty line.
         if (!m_text.endsWith("\n\n"_L1) && !m_text.endsWith("\n\r\n"_L1))
             fail(Text::tr("the file breaks off here"));
         if (m_error.isEmpty())
@@ -57,7 +59,7 @@ private:
         m_position += wanted.size();
         return true;
     }
-    // The end of a line, or of the text.
+    // Skips the end of a line. Also true at the end of the text.
     bool takeLineEnd()
     {
         const qsizetype start = m_position;
@@ -141,7 +143,7 @@ private:
             m_keys.last().values.append(value);
     }
 
-    // What follows an opening quote, up to and with the closing one.
+    // Reads the text after an opening quote, including the closing quote.
     QString readString()
     {
         QString string;
@@ -188,7 +190,7 @@ private:
         qToLittleEndian(*number, value.data.data());
     }
 
-    // After "hex": the type in brackets, if it is not binary, and the list.
+    // Reads what follows "hex": the type in brackets unless it is binary, and the list of bytes.
     void readBytes(RegistryValue &value)
     {
         value.type = platform::RegistryBinary;
@@ -233,7 +235,7 @@ private:
     const QString m_text;
     qsizetype m_position = 0;
     int m_line = 1;
-    bool m_isUserClass = false; ///< the next key, by the comment right before it
+    bool m_isUserClass = false; ///< the comment before the next key is userClassMark
     QString m_error;
     QList<RestoredKey> m_keys;
 };
@@ -249,7 +251,7 @@ QList<RegistryRestore::Outcome> RegistryRestore::restore(Registry &registry,
                                                          const QList<RestoredKey> &keys)
 {
     QList<Outcome> outcomes;
-    QList<platform::Hive> hives; // of each outcome
+    QList<platform::Hive> hives; // the hive of each outcome
     const auto add = [&](const RestoredKey &key, const QString &entry, bool isRestored) {
         outcomes.append({entry, isRestored, isRestored ? QString() : registry.errorString()});
         hives.append(key.hive);

@@ -5,32 +5,34 @@
 #include <QList>
 #include <QString>
 
-/// One key of a backup with the values that go into it.
+/// One key of a backup with its values.
 struct RestoredKey {
-    platform::Hive hive = platform::Hive::LocalMachine; ///< that it goes into; never the merged one
+    /// The hive to restore into; never the merged classes.
+    platform::Hive hive = platform::Hive::LocalMachine;
     QString path; ///< below the hive
     QString name; ///< as the backup has it, such as "HKEY_CLASSES_ROOT\\.txt"
     QList<platform::RegistryValue> values;
 };
 
-/// Reads a file that RegistryBackup wrote and puts its keys and values back, classes into the hive
-/// that they came from.
+/// Reads a file that RegistryBackup wrote and restores its keys and values. A class is restored
+/// into the hive that it came from.
 class RegistryRestore final
 {
 public:
+    /// The result for one key or one value.
     struct Outcome {
-        QString entry; ///< a key's full path, for a value with its name after a blank
+        QString entry; ///< a key's full path; for a value also a blank and the value's name
         bool isRestored = false;
         QString error; ///< for people
     };
 
-    /// The keys of a backup's @p text. A file that is damaged anywhere yields nothing, and
-    /// @p error says in which line: half a backup would look like a whole one.
+    /// The keys in the @p text of a backup. A text that is damaged anywhere gives nothing, because
+    /// half a backup would look like a whole one. @p error then names the line.
     [[nodiscard]] static std::optional<QList<RestoredKey>> parse(const QString &text,
                                                                  QString &error);
 
-    /// Makes the keys where they are missing and writes the values; a value that is there is
-    /// overwritten. Returns what became of each key and value, in order.
+    /// Makes the missing keys and writes the values. Existing values are overwritten. Returns the
+    /// outcome for each key and value, in order.
     [[nodiscard]] static QList<Outcome> restore(platform::Registry &registry,
                                                 const QList<RestoredKey> &keys);
 };

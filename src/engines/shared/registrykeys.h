@@ -11,10 +11,10 @@ namespace registrykeys {
 inline const QString currentVersion =
     QStringLiteral("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\");
 
-/// Of the user's hive: what starts with the session.
+/// In the user's hive: the programs that start with the session.
 inline const QString userRun = QStringLiteral("Software\\Microsoft\\Windows\\CurrentVersion\\Run");
 
-/// A key with a key below it for each installed program.
+/// A key that has one subkey for each installed program.
 struct UninstallList {
     platform::Hive hive;
     QString key;

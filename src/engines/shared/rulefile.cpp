@@ -61,7 +61,7 @@ QStringList stringList(const QJsonValue &value)
 
 bool matchesNearlyAll(const QStringList &patterns)
 {
-    // "*.*" and the like leave out a few names only.
+    // Patterns such as "*.*" exclude only a few names.
     const auto isNearlyAll = [](const QString &pattern) {
         return pattern.contains(u'*') && std::all_of(pattern.begin(), pattern.end(), [](QChar c) {
                    return c == u'*' || c == u'?' || c == u'.';

@@ -7,10 +7,11 @@
 #include <QList>
 #include <QStringList>
 
-/// Reads the files that say what an engine looks for: JSON, an object whose "rules" are an array of
-/// objects, after an optional byte-order mark.
+/// Reads the rule files, which say what an engine looks for. A rule file is a JSON object with an
+/// array of objects named "rules". A byte-order mark may come first.
 namespace rulefile {
 
+/// Why a rule file cannot be used.
 enum class Problem {
     None,
     NotOpened,
@@ -18,31 +19,34 @@ enum class Problem {
     NoObject, ///< JSON, but an array
 };
 
+/// A rule file as it was read, and what is wrong with it.
 struct Content {
     Problem problem = Problem::None;
-    QString error; ///< why it was not opened or is no JSON, as the system or the parser says it
-    int errorOffset = 0; ///< bytes after the mark; where it is no JSON
+    QString error; ///< the reason for NotOpened or NoJson, from the system or the parser
+    int errorOffset = 0; ///< for NoJson: bytes after the byte-order mark
     bool hasByteOrderMark = false;
-    qsizetype size = 0; ///< bytes, the mark included
-    QString start; ///< its first 100 bytes after the mark
-    QJsonDocument document; ///< empty where it is no JSON
+    qsizetype size = 0; ///< bytes, including the byte-order mark
+    QString start; ///< the first 100 bytes after the byte-order mark
+    QJsonDocument document; ///< empty for NoJson
 };
 
-/// The file at @p path, a resource or on disk.
+/// Reads the file at @p path, a resource or a file on disk.
 [[nodiscard]] Content read(const QString &path);
 
-/// A name or description of a rule in the language of the interface: what the catalogue has for it
-/// under @p context, else as it stands.
+/// The name or description of a rule in the language of the interface. Without an entry under
+/// @p context in the catalogue it stays as it is.
 [[nodiscard]] QString text(const char *context, const QJsonValue &value);
 
-/// The array's elements as text; one that is no string becomes an empty one and is kept.
+/// The elements of the array as text. An element that is not a string becomes an empty text and
+/// stays in the list.
 [[nodiscard]] QStringList stringList(const QJsonValue &value);
 
-/// Whether file-name wildcards leave out hardly any name; no wildcards leave out none.
+/// Whether @p patterns match all file names or nearly all. An empty list matches all.
 [[nodiscard]] bool matchesNearlyAll(const QStringList &patterns);
 
-/// Sets what the rules of every file have. A member that is missing or of another type gives an
-/// empty text or list, a rule that starts ticked and the lowest risk. For @p context see text().
+/// Sets the members that the rules of every file have. A member that is missing or of another type
+/// becomes an empty text or list. A rule then starts ticked and has the lowest risk. See text() for
+/// @p context.
 template<typename Rule>
 void setCommonMembers(Rule &rule, const QJsonObject &object, const char *context)
 {
@@ -54,8 +58,8 @@ void setCommonMembers(Rule &rule, const QJsonObject &object, const char *context
     rule.riskLevel = object[QLatin1StringView("riskLevel")].toInt(0);
 }
 
-/// One rule for each element of the file's "rules": none where it has a problem or they are no
-/// array. What is no object is a rule without members.
+/// One rule for each element of the file's "rules". Empty when the file has a problem or "rules" is
+/// not an array. An element that is not an object gives a rule without members.
 template<typename Rule>
 [[nodiscard]] QList<Rule> rulesOf(const Content &content)
 {

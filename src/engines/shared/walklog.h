@@ -5,22 +5,23 @@
 
 #include <QString>
 
-/// Writes what a walk of @p root could not read to the log, as warnings.
+/// Writes warnings to the log: what a walk of @p root could not read.
 void logWalkFailures(const QString &root, const platform::WalkReport &report);
 
-/// Writes that @p folder could not be read to the log, as a warning.
+/// Writes a warning to the log: @p folder could not be read.
 void logUnreadable(const QString &folder, const QString &reason);
 
-/// Tells the log that what stands at @p path is passed over, and why.
+/// Writes a warning to the log: a scan skips @p path for this @p reason.
 void logSkipped(const QString &path, const QString &reason);
 
-/// Tells the log that @p folder is passed over because a rule would leave nothing in it. @p ruleId
-/// is empty where several rules may have asked for it.
+/// Writes a warning to the log: a scan skips @p folder because a rule would remove everything in
+/// it. @p ruleId is empty when several rules may name the folder.
 void logTooBroadRule(const QString &folder, const QString &ruleId = {});
 
-/// Tells the log why what stands at @p path is passed over: a link leads elsewhere, where nothing
-/// is ours, and some things cannot be looked at. That nothing is there is no word worth.
+/// Writes a warning when a scan skips @p path because of the kind of its @p entry. A link is
+/// skipped because its target may be anywhere. Some entries cannot be read. A missing entry, a file
+/// or a folder gives no warning.
 void logSkipped(const QString &path, const platform::Entry &entry);
 
-/// Whether @p folder is a real folder. Why something else is passed over is in the log.
+/// Whether @p folder is a real folder. If it is something else, the log says why it is skipped.
 [[nodiscard]] bool isScannable(const QString &folder);

@@ -21,7 +21,8 @@ using platform::Registry;
 
 namespace {
 
-// A name alone is none that we could find: it would be looked for in our own current folder.
+// Whether the path begins with a drive or a share. Any other path would be resolved against this
+// program's current folder.
 bool isFullPath(const QString &windowsPath)
 {
     return platform::isOnDrive(windowsPath) || windowsPath.startsWith("\\\\"_L1);
@@ -32,7 +33,7 @@ bool fileExists(const QString &windowsPath)
     return isFullPath(windowsPath) && QFileInfo(platform::localPath(windowsPath)).isFile();
 }
 
-// Parts of the system that nobody starts.
+// Parts of the system, which no user starts.
 bool isSystemSoftware(const QString &name)
 {
     static const std::array parts{"Microsoft Visual C++"_L1, "Microsoft .NET"_L1, "Update for"_L1,
@@ -61,7 +62,7 @@ QString normalisedName(const QString &name)
     return letters;
 }
 
-// Without the icon's number and the quotes around the path.
+// The path in a DisplayIcon value, without the icon's index and without quotes.
 QString iconFile(const QString &displayIcon)
 {
     QString path = displayIcon;
@@ -74,8 +75,8 @@ QString iconFile(const QString &displayIcon)
     return path;
 }
 
-// One spelling for all that mean the same to the system: with backslashes, in small letters, and
-// with what the known placeholders stand for.
+// The same text for all spellings of a path. Known placeholders are replaced, slashes become
+// backslashes, and letters become small.
 QString normalisedPath(const QString &path)
 {
     QString result = path;
@@ -92,7 +93,8 @@ QString normalisedPath(const QString &path)
     return result.replace(u'/', u'\\').toLower();
 }
 
-// Whatever the spelling; without quotes the system tries each blank as the end of the program.
+// Whether @p command starts the program, in any spelling. Without quotes the system tries each
+// blank as the end of the program's path.
 bool startsProgram(const QString &command, const QString &exePath)
 {
     const QString program = normalisedPath(exePath);
@@ -102,7 +104,7 @@ bool startsProgram(const QString &command, const QString &exePath)
     return line == program || line.startsWith(program + u' ') || line.startsWith(program + u'\t');
 }
 
-// The programs of one folder, by name, below it with a prefix.
+// The programs directly in @p folder, sorted by name, each with @p prefix before its name.
 QStringList listPrograms(const QString &folder, const QString &prefix)
 {
     QStringList names;
@@ -213,7 +215,7 @@ QString StartupManager::findExecutable(const QString &folder, const QString &nam
     const QString local = QFileInfo(platform::localPath(folder)).canonicalFilePath();
     if (local.isEmpty() || !QFileInfo(local).isDir())
         return {};
-    // No deeper: an install folder may be a whole drive or a share.
+    // Only one level deep: an install folder may be a whole drive or a share.
     QStringList programs = listPrograms(local, {});
     QStringList subfolders;
     for (const platform::ListedEntry &entry : platform::FolderLister().list(local).entries) {
@@ -244,7 +246,7 @@ QString StartupManager::findExecutable(const QString &folder, const QString &nam
 bool StartupManager::addToStartup(const QString &name, const QString &exePath)
 {
     const QString command = u'"' + exePath + u'"';
-    readStartupTable(Registry()); // others write there too
+    readStartupTable(Registry()); // other programs change the list too
     logCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
     const bool isDone = platform::registrysettings::setText(
         Hive::CurrentUser, registrykeys::userRun, name, command, m_error);

@@ -8,7 +8,7 @@
 
 /// One installed program and whether it starts with the user's session.
 struct StartupApp {
-    QString id; ///< the name of the uninstall key that it was found under
+    QString id; ///< the name of the program's uninstall key
     QString name;
     QString exePath; ///< never empty in the list; a Windows path
     QString iconPath;
@@ -16,11 +16,11 @@ struct StartupApp {
     bool isStartup = false;
 };
 
-/// Lists the installed programs, finds for each the executable that starts it, and switches its
-/// entry in the user's list of start-up programs on and off.
+/// Lists the installed programs, finds the executable of each, and switches its entry in the user's
+/// start-up list on and off.
 ///
-/// Works on its caller's thread; loading reads the registry and looks into install folders, which
-/// may take a while.
+/// The start-up page or a command of the companion owns it. It works on the caller's thread.
+/// Loading reads the registry and the install folders, which may take a while.
 class StartupManager final : public QObject
 {
     Q_OBJECT
@@ -28,23 +28,23 @@ class StartupManager final : public QObject
 public:
     explicit StartupManager(QObject *parent = nullptr);
 
-    /// The programs, loaded on the first call.
+    /// The programs. The first call loads them.
     [[nodiscard]] const QList<StartupApp> &apps();
-    /// Reads start-up list and programs anew.
+    /// Reads the start-up list and the programs again.
     void loadInstalledApps();
 
-    // Each of these goes by the start-up list as it is when it is called, whatever was loaded, and
-    // gives whether it was done; if not, the log has a line, errorString() says why,
-    // and the programs' flags are what the registry says all the same. A command that is
-    // overwritten or removed is kept in the log.
+    // Each of these functions reads the start-up list again first and returns whether the change
+    // was made. After a failure the log has a line and errorString() says why. In both cases the
+    // programs' flags are updated from the registry. A command that is overwritten or removed is
+    // written to the log.
 
-    /// Makes @p exePath start with the session, without arguments, under the value @p name; another
-    /// entry of that name is overwritten.
+    /// Makes @p exePath start with the session, without arguments. Writes the value @p name and
+    /// overwrites an entry of that name.
     bool addToStartup(const QString &name, const QString &exePath);
-    /// Removes the entry @p name, of which the empty one is the list's default value.
+    /// Removes the entry @p name. The empty name stands for the default value of the list.
     bool removeFromStartup(const QString &name);
-    /// Switches @p app; to switch it off, every entry that starts its executable is removed, under
-    /// whatever name it stands.
+    /// Switches @p app on or off. Switching off removes every entry that starts its executable,
+    /// whatever the entry's name. Without such an entry it removes the one named after @p app.
     bool setStartup(const StartupApp &app, bool enable);
 
     /// Why the last change failed; for people.
@@ -52,11 +52,12 @@ public:
 
     /// The executable of a start-up command.
     [[nodiscard]] static QString commandPath(const QString &command);
-    /// The program of an install folder that is most likely the one to start, by the product's
-    /// name; empty when there is none. Looks into the folder and those right below it.
+    /// The path of the program in the install folder @p folder that most likely starts the product
+    /// @p name. Empty when there is none. Looks into the folder and its direct subfolders.
     [[nodiscard]] static QString findExecutable(const QString &folder, const QString &name);
 
 private:
+    /// One value of the user's start-up list.
     struct Entry {
         QString valueName;
         QString exePath;
@@ -66,12 +67,13 @@ private:
     void readStartupTable(const platform::Registry &registry);
     void readUninstallKey(const platform::Registry &registry, platform::Hive hive,
                           const QString &root, const QString &id);
-    /// What starts @p exePath, however it is spelled.
+    /// The entries that start @p exePath, in any spelling of the path.
     [[nodiscard]] QList<Entry> entriesOf(const QString &exePath) const;
     bool removeEntries(const QStringList &valueNames);
-    /// Writes the commands of these entries, which are about to go, to the log.
+    /// Writes the command of each of these entries to the log, before the entries change. @p line
+    /// has the placeholders %1 for the name and %2 for the command.
     void logCommands(const QStringList &valueNames, const QString &line) const;
-    /// Takes the table and the programs' flags from the registry as it is now.
+    /// Reads the start-up list again and updates the programs' flags.
     void updateStates();
 
     QList<StartupApp> m_apps;

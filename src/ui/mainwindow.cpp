@@ -15,6 +15,7 @@
 #include "linkmanager.h"
 #include "navbutton.h"
 #include "options.h"
+#include "parts.h"
 #include "registrycleaner.h"
 #include "registrypage.h"
 #include "settingsdialog.h"
@@ -125,20 +126,12 @@ QWidget *MainWindow::buildLogo()
 
     auto *box = new QWidget(logo);
     box->setFixedSize(72, 72);
-    auto *broom = new QLabel(u"🧹"_s, box);
-    broom->setGeometry(10, 10, 52, 52);
-    broom->setAlignment(Qt::AlignCenter);
-    broom->setStyleSheet(theme::logoBox());
-    auto *badge = new QLabel(u"✨"_s, box);
-    badge->setGeometry(48, 0, 24, 24);
-    badge->setAlignment(Qt::AlignCenter);
-    badge->setStyleSheet(theme::logoBadge());
+    parts::centredLabel(u"🧹"_s, theme::logoBox(), box)->setGeometry(10, 10, 52, 52);
+    parts::centredLabel(u"✨"_s, theme::logoBadge(), box)->setGeometry(48, 0, 24, 24);
     layout->addWidget(box, 0, Qt::AlignCenter);
 
-    auto *label = new QLabel(u"Sweepwise 5.0"_s, logo);
+    QLabel *label = parts::centredLabel(u"Sweepwise 5.0"_s, theme::logoText(), logo);
     label->setObjectName("logoLabel"_L1);
-    label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(theme::logoText());
     layout->addWidget(label);
     return logo;
 }

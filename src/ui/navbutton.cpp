@@ -27,7 +27,7 @@ NavButton::NavButton(const QString &text, const QString &iconPath, QWidget *pare
     setAccessibleName(text);
 
     m_icon->setFixedSize(24, 24);
-    m_icon->setStyleSheet(u"background: transparent; border: none;"_s);
+    m_icon->setStyleSheet(theme::transparentGround());
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(14, 0, 14, 0);
     layout->setSpacing(12);

@@ -1,6 +1,7 @@
 #include "aboutdialog.h"
 
 #include "appinfo.h"
+#include "parts.h"
 #include "theme.h"
 
 #include <QLabel>
@@ -12,16 +13,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int shadow = 8; ///< pixels below the ground
-
-QLabel *addLabel(QVBoxLayout *layout, const QString &text, const QString &style)
-{
-    auto *label = new QLabel(text, layout->parentWidget());
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(style);
-    layout->addWidget(label);
-    return label;
-}
 
 // How high the texts are depends on font and language: spaces give way before a line is cut.
 void fitHeight(QVBoxLayout *layout, int height)
@@ -49,31 +40,33 @@ AboutDialog::AboutDialog(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(32, 32, 32, 32);
     layout->setSpacing(16);
-    QLabel *icon = addLabel(layout, u"🧹"_s, theme::aboutIcon());
+    QLabel *icon = parts::centredLabel(u"🧹"_s, theme::aboutIcon(), this);
     icon->setFixedSize(72, 72);
-    layout->setAlignment(icon, Qt::AlignHCenter);
-    addLabel(layout, u"Sweepwise"_s, theme::label(theme::text, 24, 700));
-    addLabel(layout, tr("Version %1").arg(appinfo::version), theme::label(theme::muted, 13));
-    QLabel *features = addLabel(layout,
-                                tr("Your Personal System Butler\n\n"
-                                   "🧹 Junk Cleaner - Free up valuable disk space\n"
-                                   "🌐 Browser Cleaner - Protect your privacy\n"
-                                   "🔧 Registry Cleaner - Boost system performance\n"
-                                   "⚡ Startup Manager - Speed up boot time"),
-                                theme::label(theme::faint, 13) + " line-height: 1.5;"_L1);
+    layout->addWidget(icon, 0, Qt::AlignHCenter);
+    layout->addWidget(
+        parts::centredLabel(u"Sweepwise"_s, theme::label(theme::text, 24, 700), this));
+    layout->addWidget(parts::centredLabel(tr("Version %1").arg(appinfo::version),
+                                          theme::label(theme::muted, 13), this));
+    QLabel *features = parts::label(tr("Your Personal System Butler\n\n"
+                                       "🧹 Junk Cleaner - Free up valuable disk space\n"
+                                       "🌐 Browser Cleaner - Protect your privacy\n"
+                                       "🔧 Registry Cleaner - Boost system performance\n"
+                                       "⚡ Startup Manager - Speed up boot time"),
+                                    theme::aboutFeatures(), this);
     features->setAlignment(Qt::AlignLeft);
     features->setWordWrap(true);
+    layout->addWidget(features);
     layout->addSpacing(12);
-    addLabel(layout, tr("© 2026 Norvak. All rights reserved."), theme::label(theme::faint, 11));
+    layout->addWidget(parts::centredLabel(tr("© 2026 Norvak. All rights reserved."),
+                                          theme::label(theme::faint, 11), this));
     layout->addStretch();
-    auto *ok = new QPushButton(tr("OK"), this);
-    ok->setObjectName("okBtn"_L1);
+    QPushButton *ok = parts::button(u"okBtn"_s, tr("OK"),
+                                    theme::dialogButton({.background = theme::accent,
+                                                         .colour = theme::onColour,
+                                                         .hovered = theme::accentHover,
+                                                         .fontSize = 14}),
+                                    this);
     ok->setFixedSize(100, 36);
-    ok->setCursor(Qt::PointingHandCursor);
-    ok->setStyleSheet(theme::dialogButton({.background = theme::accent,
-                                           .colour = theme::onColour,
-                                           .hovered = theme::accentHover,
-                                           .fontSize = 14}));
     ok->setDefault(true);
     layout->addWidget(ok, 0, Qt::AlignCenter);
     connect(ok, &QPushButton::clicked, this, &AboutDialog::accept);

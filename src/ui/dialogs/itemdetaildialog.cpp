@@ -3,6 +3,7 @@
 #include "ask.h"
 #include "detailitemwidget.h"
 #include "filemanager.h"
+#include "parts.h"
 #include "scanresult.h"
 #include "svgicon.h"
 #include "text.h"
@@ -86,31 +87,25 @@ QWidget *ItemDetailDialog::buildTitleBar()
     layout->setContentsMargins(12, 0, 20, 0);
     layout->setSpacing(12);
 
-    auto *back = new QPushButton(
-        QIcon(svgPixmap(u":/icons/chevron-left.svg"_s, {24, 24}, devicePixelRatioF())), {}, bar);
-    back->setObjectName("backBtn"_L1);
+    QPushButton *back = parts::button(u"backBtn"_s, {}, theme::detailBackButton(), bar);
+    back->setIcon(QIcon(svgPixmap(u":/icons/chevron-left.svg"_s, {24, 24}, devicePixelRatioF())));
     back->setIconSize({24, 24});
     back->setFixedSize(36, 36);
-    back->setCursor(Qt::PointingHandCursor);
     back->setToolTip(tr("Back"));
     back->setAccessibleName(tr("Back"));
     back->setAutoDefault(false);
-    back->setStyleSheet(theme::detailBackButton());
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
     layout->addWidget(back);
 
-    auto *name = new QLabel(singleLine(m_category->name), bar);
+    QLabel *name = parts::label(singleLine(m_category->name), theme::uncolouredLabel(16, 600), bar);
     name->setObjectName("detailTitle"_L1);
-    name->setTextFormat(Qt::PlainText);
-    name->setStyleSheet(u"font-size: 16px; font-weight: 600;"_s);
     layout->addWidget(name, 1);
-    auto *summary = new QLabel(hasFiles() ? tr("%1  |  %2 files")
-                                                .arg(formatSize(m_category->totalSize()),
-                                                     QString::number(m_category->items.size()))
-                                          : tr("%1 items").arg(m_category->items.size()),
-                               bar);
+    QLabel *summary = parts::label(hasFiles() ? tr("%1  |  %2 files")
+                                                    .arg(formatSize(m_category->totalSize()),
+                                                         QString::number(m_category->items.size()))
+                                              : tr("%1 items").arg(m_category->items.size()),
+                                   theme::uncolouredLabel(13), bar);
     summary->setObjectName("detailSummary"_L1);
-    summary->setStyleSheet(u"font-size: 13px;"_s);
     layout->addWidget(summary);
     return bar;
 }
@@ -126,8 +121,7 @@ QWidget *ItemDetailDialog::buildColumnHeader()
     layout->setContentsMargins(columnMargin + listBorder, 0, columnMargin + listBorder, 0);
     layout->setSpacing(12);
     const auto addColumn = [&](const QString &text, Qt::Alignment alignment, int width) {
-        auto *label = new QLabel(text, header);
-        label->setStyleSheet(theme::label(theme::muted, 12, 600));
+        QLabel *label = parts::label(text, theme::label(theme::muted, 12, 600), header);
         label->setAlignment(alignment | Qt::AlignVCenter);
         if (width > 0)
             label->setFixedWidth(width);

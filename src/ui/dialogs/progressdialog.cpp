@@ -1,5 +1,6 @@
 #include "progressdialog.h"
 
+#include "parts.h"
 #include "scanresult.h"
 #include "text.h"
 #include "theme.h"
@@ -12,32 +13,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QLabel *addCentredLabel(QVBoxLayout *layout, const QString &style)
-{
-    auto *label = new QLabel(layout->parentWidget());
-    label->setAlignment(Qt::AlignCenter);
-    label->setTextFormat(Qt::PlainText);
-    label->setStyleSheet(style);
-    layout->addWidget(label);
-    return label;
-}
-
-QPushButton *addButton(QVBoxLayout *layout, const QString &name, const QString &text,
-                       const QString &style)
-{
-    auto *button = new QPushButton(text, layout->parentWidget());
-    button->setObjectName(name);
-    button->setStyleSheet(style);
-    button->setCursor(Qt::PointingHandCursor);
-    button->setMinimumSize(120, 38);
-    layout->addWidget(button, 0, Qt::AlignCenter);
-    return button;
-}
-
-} // namespace
-
 ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
     : FramelessDialog(parent)
 {
@@ -48,18 +23,20 @@ ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
     layout->setContentsMargins(32, 28, 32, 24);
     layout->setSpacing(8);
 
-    m_icon = new QLabel(mode == Scanning ? u"🔍"_s : u"🧹"_s, this);
+    m_icon = parts::centredLabel(mode == Scanning ? u"🔍"_s : u"🧹"_s,
+                                 theme::resultIcon(theme::accent), this);
     m_icon->setFixedSize(64, 64);
-    m_icon->setAlignment(Qt::AlignCenter);
     layout->addWidget(m_icon, 0, Qt::AlignCenter);
-    setIconColour(theme::accent);
 
-    m_title = addCentredLabel(layout, theme::label(theme::text, 18, 600));
-    m_subtitle = addCentredLabel(layout, theme::label(theme::muted, 13));
-    m_detail = addCentredLabel(layout, theme::label(theme::muted, 12));
+    m_title = parts::centredLabel(mode == Scanning ? tr("Scanning...") : tr("Cleaning..."),
+                                  theme::label(theme::text, 18, 600), this);
+    m_subtitle =
+        parts::centredLabel(mode == Scanning ? tr("正在分析系统...") : tr("正在删除文件..."),
+                            theme::label(theme::muted, 13), this);
+    m_detail = parts::centredLabel({}, theme::label(theme::muted, 12), this);
     m_detail->setMinimumHeight(20);
-    m_title->setText(mode == Scanning ? tr("Scanning...") : tr("Cleaning..."));
-    m_subtitle->setText(mode == Scanning ? tr("正在分析系统...") : tr("正在删除文件..."));
+    for (QLabel *label : {m_title, m_subtitle, m_detail})
+        layout->addWidget(label);
     setWindowTitle(m_title->text());
 
     m_bar = new QProgressBar(this);
@@ -71,18 +48,25 @@ ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
     m_bar->setStyleSheet(theme::progressBar());
     m_bar->setAccessibleName(m_title->text());
     layout->addWidget(m_bar);
-    m_percentage = addCentredLabel(layout, theme::label(theme::accentText, 14, 600));
-    m_percentage->setText(tr("%1%").arg(0));
+    m_percentage =
+        parts::centredLabel(tr("%1%").arg(0), theme::label(theme::accentText, 14, 600), this);
+    layout->addWidget(m_percentage);
     layout->addStretch();
 
-    m_cancelButton = addButton(layout, u"cancelBtn"_s, tr("Cancel"),
-                               theme::quietButton({.radius = theme::buttonRadius, .fontSize = 14}));
-    m_closeButton = addButton(layout, u"closeBtn"_s, tr("Close"),
-                              theme::filledButton({.background = theme::accent,
-                                                   .hovered = theme::accentHover,
-                                                   .radius = theme::buttonRadius,
-                                                   .fontSize = 14,
-                                                   .padding = u"0 16px"_s}));
+    m_cancelButton =
+        parts::button(u"cancelBtn"_s, tr("Cancel"),
+                      theme::quietButton({.radius = theme::buttonRadius, .fontSize = 14}), this);
+    m_closeButton = parts::button(u"closeBtn"_s, tr("Close"),
+                                  theme::filledButton({.background = theme::accent,
+                                                       .hovered = theme::accentHover,
+                                                       .radius = theme::buttonRadius,
+                                                       .fontSize = 14,
+                                                       .padding = u"0 16px"_s}),
+                                  this);
+    for (QPushButton *button : {m_cancelButton, m_closeButton}) {
+        button->setMinimumSize(120, 38);
+        layout->addWidget(button, 0, Qt::AlignCenter);
+    }
     m_closeButton->hide();
     connect(m_cancelButton, &QPushButton::clicked, this, &ProgressDialog::cancelRequested);
     connect(m_closeButton, &QPushButton::clicked, this, &ProgressDialog::accept);
@@ -123,7 +107,7 @@ void ProgressDialog::showResult(bool success, const QString &message)
     m_title->setText(success ? tr("完成!") : tr("操作失败"));
     setWindowTitle(m_title->text());
     m_icon->setText(success ? u"✓"_s : u"✕"_s);
-    setIconColour(success ? theme::accent : theme::danger);
+    m_icon->setStyleSheet(theme::resultIcon(success ? theme::accent : theme::danger));
     m_subtitle->setText(message);
     m_subtitle->setWordWrap(true);
     m_detail->clear();
@@ -141,11 +125,6 @@ void ProgressDialog::reject()
         QDialog::reject();
     else
         Q_EMIT cancelRequested();
-}
-
-void ProgressDialog::setIconColour(theme::Colour colour)
-{
-    m_icon->setStyleSheet(theme::resultIcon(colour));
 }
 
 void ProgressDialog::paintEvent(QPaintEvent *)

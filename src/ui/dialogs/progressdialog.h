@@ -1,7 +1,6 @@
 #pragma once
 
 #include "framelessdialog.h"
-#include "tokens.h"
 
 class QLabel;
 class QProgressBar;
@@ -42,8 +41,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void setIconColour(theme::Colour colour);
-
     bool m_finished = false;
     QString m_cleanedSize;
     QLabel *m_icon;

@@ -1,6 +1,7 @@
 #include "registrybackupdialog.h"
 
 #include "ask.h"
+#include "parts.h"
 #include "registrybackup.h"
 #include "text.h"
 #include "theme.h"
@@ -51,13 +52,11 @@ RegistryBackupDialog::RegistryBackupDialog(int count, QWidget *parent)
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(12);
 
-    auto *title = new QLabel(tr("Clean Registry"), this);
-    title->setStyleSheet(theme::label(theme::text, 18, 600));
-    layout->addWidget(title);
-    auto *message =
-        new QLabel(tr("About to clean <b>%1</b> invalid registry entries").arg(count), this);
+    layout->addWidget(parts::label(tr("Clean Registry"), theme::label(theme::text, 18, 600), this));
+    QLabel *message =
+        parts::label(tr("About to clean <b>%1</b> invalid registry entries").arg(count),
+                     theme::label(theme::muted, 14), this);
     message->setTextFormat(Qt::RichText);
-    message->setStyleSheet(theme::label(theme::muted, 14));
     layout->addWidget(message);
 
     m_backupCheck->setObjectName("backupCheck"_L1);
@@ -67,11 +66,10 @@ RegistryBackupDialog::RegistryBackupDialog(int count, QWidget *parent)
     layout->addLayout(buildPathRow());
     connect(m_backupCheck, &QCheckBox::toggled, this, &RegistryBackupDialog::onBackupCheckChanged);
 
-    auto *hint = new QLabel(
+    QLabel *hint = parts::label(
         tr("⚠️ Backup file can be used to restore accidentally deleted registry entries"),
-        this);
+        theme::label(theme::muted, 12), this);
     hint->setWordWrap(true);
-    hint->setStyleSheet(theme::label(theme::muted, 12));
     layout->addWidget(hint);
     layout->addStretch();
     layout->addLayout(buildButtonRow());
@@ -81,9 +79,8 @@ QLayout *RegistryBackupDialog::buildPathRow()
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
-    auto *label = new QLabel(tr("Save to:"), this);
+    QLabel *label = parts::label(tr("Save to:"), theme::label(theme::text, 13), this);
     label->setFixedWidth(70);
-    label->setStyleSheet(theme::label(theme::text, 13));
     m_pathEdit = new QLineEdit(defaultPath(), this);
     m_pathEdit->setObjectName("backupPathEdit"_L1);
     m_pathEdit->setAccessibleName(tr("Backup file"));
@@ -91,12 +88,10 @@ QLayout *RegistryBackupDialog::buildPathRow()
     m_pathEdit->setMinimumHeight(34);
     m_pathEdit->setCursorPosition(0);
     label->setBuddy(m_pathEdit);
-    m_browseButton = new QPushButton(tr("Browse..."), this);
-    m_browseButton->setObjectName("browseBtn"_L1);
+    m_browseButton =
+        parts::button(u"browseBtn"_s, tr("Browse..."),
+                      theme::quietButton({.radius = theme::smallRadius, .fontSize = 12}), this);
     m_browseButton->setFixedSize(70, 34);
-    m_browseButton->setStyleSheet(
-        theme::quietButton({.radius = theme::smallRadius, .fontSize = 12}));
-    m_browseButton->setCursor(Qt::PointingHandCursor);
     m_browseButton->setAutoDefault(false);
     connect(m_browseButton, &QPushButton::clicked, this, &RegistryBackupDialog::browse);
     row->addWidget(label);
@@ -110,24 +105,22 @@ QLayout *RegistryBackupDialog::buildButtonRow()
     auto *row = new QHBoxLayout;
     row->setSpacing(12);
     row->addStretch();
-    auto *cancel = new QPushButton(tr("Cancel"), this);
-    cancel->setObjectName("cancelBtn"_L1);
+    QPushButton *cancel =
+        parts::button(u"cancelBtn"_s, tr("Cancel"),
+                      theme::quietButton({.radius = theme::controlRadius, .fontSize = 13}), this);
     cancel->setFixedSize(90, 38);
-    cancel->setStyleSheet(theme::quietButton({.radius = theme::controlRadius, .fontSize = 13}));
     cancel->setDefault(true);
-    auto *start = new QPushButton(tr("Start Cleaning"), this);
-    start->setObjectName("startCleanBtn"_L1);
+    QPushButton *start = parts::button(u"startCleanBtn"_s, tr("Start Cleaning"),
+                                       theme::filledButton({.background = theme::dangerHover,
+                                                            .hovered = theme::danger,
+                                                            .radius = theme::controlRadius,
+                                                            .fontSize = 12,
+                                                            .padding = u"0"_s}),
+                                       this);
     start->setFixedSize(100, 38);
-    start->setStyleSheet(theme::filledButton({.background = theme::dangerHover,
-                                              .hovered = theme::danger,
-                                              .radius = theme::controlRadius,
-                                              .fontSize = 12,
-                                              .padding = u"0"_s}));
     start->setAutoDefault(false);
-    for (QPushButton *button : {cancel, start}) {
-        button->setCursor(Qt::PointingHandCursor);
-        row->addWidget(button);
-    }
+    row->addWidget(cancel);
+    row->addWidget(start);
     connect(cancel, &QPushButton::clicked, this, &RegistryBackupDialog::reject);
     connect(start, &QPushButton::clicked, this, &RegistryBackupDialog::accept);
     return row;

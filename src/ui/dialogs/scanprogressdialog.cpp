@@ -1,5 +1,6 @@
 #include "scanprogressdialog.h"
 
+#include "parts.h"
 #include "scanresult.h"
 #include "text.h"
 #include "theme.h"
@@ -11,22 +12,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QLabel *addLabel(QVBoxLayout *layout, const QString &text, const QString &style)
-{
-    auto *label = new QLabel(text, layout->parentWidget());
-    label->setAlignment(Qt::AlignCenter);
-    label->setTextFormat(Qt::PlainText);
-    label->setStyleSheet(style);
-    // A text of any length leaves the layout as it is.
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    layout->addWidget(label);
-    return label;
-}
-
-} // namespace
-
 ScanProgressDialog::ScanProgressDialog(QWidget *parent)
     : FramelessDialog(parent)
 {
@@ -35,9 +20,9 @@ ScanProgressDialog::ScanProgressDialog(QWidget *parent)
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 20);
-    addLabel(layout, u"🔍"_s, u"font-size: 24px;"_s);
-    QLabel *title =
-        addLabel(layout, tr("Scanning for large files..."), theme::label(theme::text, 18, 600));
+    QLabel *symbol = parts::centredLabel(u"🔍"_s, theme::uncolouredLabel(24), this);
+    QLabel *title = parts::centredLabel(tr("Scanning for large files..."),
+                                        theme::label(theme::text, 18, 600), this);
     setWindowTitle(title->text());
 
     auto *bar = new QProgressBar(this);
@@ -46,23 +31,25 @@ ScanProgressDialog::ScanProgressDialog(QWidget *parent)
     bar->setFixedHeight(6);
     bar->setStyleSheet(theme::thinProgressBar(theme::accent, 3));
     bar->setAccessibleName(title->text());
-    layout->addWidget(bar);
 
-    m_path = addLabel(layout, tr("Preparing..."), theme::label(theme::faint, 12));
+    m_path = parts::centredLabel(tr("Preparing..."), theme::label(theme::faint, 12), this);
     m_path->setObjectName("scanPath"_L1);
     m_count =
-        addLabel(layout, tr("Found %1 large files (%2)").arg(QString::number(0), formatSize(0)),
-                 theme::label(theme::accent, 15, 500));
+        parts::centredLabel(tr("Found %1 large files (%2)").arg(QString::number(0), formatSize(0)),
+                            theme::label(theme::accent, 15, 500), this);
     m_count->setObjectName("scanCount"_L1);
 
-    auto *cancel = new QPushButton(tr("Cancel"), this);
-    cancel->setObjectName("cancelBtn"_L1);
+    QPushButton *cancel = parts::button(
+        u"cancelBtn"_s, tr("Cancel"),
+        theme::dangerButton({.radius = theme::controlRadius, .padding = u"0 6px"_s}), this);
     cancel->setFixedSize(100, 36);
-    cancel->setCursor(Qt::PointingHandCursor);
-    cancel->setStyleSheet(
-        theme::dangerButton({.radius = theme::controlRadius, .padding = u"0 6px"_s}));
-    layout->addWidget(cancel, 0, Qt::AlignCenter);
     connect(cancel, &QPushButton::clicked, this, &ScanProgressDialog::cancelRequested);
+
+    for (QLabel *label : {symbol, title, m_path, m_count})
+        parts::ignoreTextWidth(label);
+    for (QWidget *row : std::initializer_list<QWidget *>{symbol, title, bar, m_path, m_count})
+        layout->addWidget(row);
+    layout->addWidget(cancel, 0, Qt::AlignCenter);
 }
 
 void ScanProgressDialog::updateProgress(const QString &path, int foundCount, qint64 totalSize)

@@ -4,6 +4,7 @@
 #include "application.h"
 #include "autostart.h"
 #include "options.h"
+#include "parts.h"
 #include "theme.h"
 
 #include <QCheckBox>
@@ -15,10 +16,6 @@
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-} // namespace
 
 SettingsDialog::SettingsDialog(QWidget *parent)
     : FramelessDialog(parent)
@@ -40,9 +37,7 @@ SettingsDialog::SettingsDialog(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->setSpacing(20);
-    auto *title = new QLabel(tr("Settings"), this);
-    title->setStyleSheet(theme::label(theme::text, 20, 600));
-    layout->addWidget(title);
+    layout->addWidget(parts::label(tr("Settings"), theme::label(theme::text, 20, 600), this));
     buildGroup(layout, tr("General"), {m_autoStart, m_minimizeToTray});
     buildGroup(layout, tr("Cleaning"), {m_confirmClean, m_backupRegistry});
     layout->addStretch();
@@ -70,27 +65,26 @@ void SettingsDialog::buildButtons(QVBoxLayout *layout)
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(12);
-    const auto add = [this, row](const QString &name, const QString &text, const QString &style) {
-        auto *button = new QPushButton(text, this);
-        button->setObjectName(name);
-        button->setFixedSize(80, 36);
-        button->setCursor(Qt::PointingHandCursor);
-        button->setStyleSheet(style);
-        button->setAutoDefault(false);
-        row->addWidget(button);
-        return button;
-    };
-    const QPushButton *about = add(u"aboutBtn"_s, tr("About"), theme::framedButton());
-    row->addStretch();
-    const QPushButton *cancel = add(
+    QPushButton *about = parts::button(u"aboutBtn"_s, tr("About"), theme::framedButton(), this);
+    QPushButton *cancel = parts::button(
         u"cancelBtn"_s, tr("Cancel"),
         theme::dialogButton(
-            {.background = theme::buttonGround, .colour = theme::text, .hovered = theme::border}));
-    QPushButton *save = add(u"saveBtn"_s, tr("Save"),
-                            theme::dialogButton({.background = theme::accent,
-                                                 .colour = theme::onColour,
-                                                 .hovered = theme::accentHover}));
+            {.background = theme::buttonGround, .colour = theme::text, .hovered = theme::border}),
+        this);
+    QPushButton *save = parts::button(u"saveBtn"_s, tr("Save"),
+                                      theme::dialogButton({.background = theme::accent,
+                                                           .colour = theme::onColour,
+                                                           .hovered = theme::accentHover}),
+                                      this);
+    for (QPushButton *button : {about, cancel, save}) {
+        button->setFixedSize(80, 36);
+        button->setAutoDefault(false);
+    }
     save->setDefault(true);
+    row->addWidget(about);
+    row->addStretch();
+    row->addWidget(cancel);
+    row->addWidget(save);
     connect(about, &QPushButton::clicked, this, &SettingsDialog::onAboutClicked);
     connect(cancel, &QPushButton::clicked, this, &SettingsDialog::onCancelClicked);
     connect(save, &QPushButton::clicked, this, &SettingsDialog::onSaveClicked);

@@ -4,6 +4,7 @@
 #include "ask.h"
 #include "categorywidget.h"
 #include "options.h"
+#include "parts.h"
 #include "progressdialog.h"
 #include "svglabel.h"
 #include "theme.h"
@@ -69,10 +70,8 @@ void BasePage::setupHeader()
 
     auto *titles = new QVBoxLayout;
     titles->setSpacing(2);
-    m_title = new QLabel(this);
-    m_title->setStyleSheet(theme::label(theme::text, 24, 600));
-    m_subtitle = new QLabel(this);
-    m_subtitle->setStyleSheet(theme::label(theme::muted, 14));
+    m_title = parts::label({}, theme::label(theme::text, 24, 600), this);
+    m_subtitle = parts::label({}, theme::label(theme::muted, 14), this);
     for (QLabel *label : {m_title, m_subtitle})
         label->setIndent(2); // bold letters such as J reach to the left of where they begin
     titles->addWidget(m_title);
@@ -81,15 +80,13 @@ void BasePage::setupHeader()
 
     auto *statistic = new QVBoxLayout;
     statistic->setSpacing(2);
-    m_statisticCaption = new QLabel(this);
-    m_statisticCaption->setStyleSheet(theme::label(theme::muted, 13));
-    m_statisticCaption->setAlignment(Qt::AlignRight);
-    m_statisticValue = new QLabel(u"--"_s, this);
+    m_statisticCaption = parts::label({}, theme::label(theme::muted, 13), this);
+    m_statisticValue = parts::label(u"--"_s, theme::label(theme::accentText, 24, 700), this);
     m_statisticValue->setObjectName("statisticValue"_L1);
-    m_statisticValue->setStyleSheet(theme::label(theme::accentText, 24, 700));
-    m_statisticValue->setAlignment(Qt::AlignRight);
-    statistic->addWidget(m_statisticCaption);
-    statistic->addWidget(m_statisticValue);
+    for (QLabel *label : {m_statisticCaption, m_statisticValue}) {
+        label->setAlignment(Qt::AlignRight);
+        statistic->addWidget(label);
+    }
     header->addLayout(statistic);
     m_layout->addLayout(header);
 }
@@ -102,7 +99,7 @@ void BasePage::setupContent()
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     m_scrollArea->setFocusPolicy(Qt::NoFocus); // it follows the focus of what it holds
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scrollArea->setStyleSheet(u"QScrollArea { background: transparent; }"_s);
+    m_scrollArea->setStyleSheet(theme::transparentScrollArea());
     m_scrollArea->viewport()->setAutoFillBackground(false);
 
     auto *list = new QWidget(m_scrollArea);
@@ -114,12 +111,8 @@ void BasePage::setupContent()
     m_emptyState = new QWidget(list);
     m_emptyState->setObjectName("emptyState"_L1);
     auto *emptyLayout = new QVBoxLayout(m_emptyState);
-    auto *emptyIcon = new QLabel(u"🔍"_s, m_emptyState);
-    emptyIcon->setStyleSheet(u"font-size: 48px;"_s);
-    emptyIcon->setAlignment(Qt::AlignCenter);
-    m_emptyText = new QLabel(m_emptyState);
-    m_emptyText->setStyleSheet(theme::label(theme::faint, 14));
-    m_emptyText->setAlignment(Qt::AlignCenter);
+    QLabel *emptyIcon = parts::centredLabel(u"🔍"_s, theme::uncolouredLabel(48), m_emptyState);
+    m_emptyText = parts::centredLabel({}, theme::label(theme::faint, 14), m_emptyState);
     m_emptyText->setWordWrap(true);
     emptyLayout->addStretch();
     emptyLayout->addWidget(emptyIcon);
@@ -136,30 +129,27 @@ void BasePage::setupFooter()
 {
     auto *footer = new QHBoxLayout;
     footer->setSpacing(12);
-    m_selection = new QLabel(this);
+    m_selection = parts::label({}, theme::label(theme::muted, 13), this);
     m_selection->setObjectName("selectionLabel"_L1);
-    m_selection->setStyleSheet(theme::label(theme::muted, 13));
     footer->addWidget(m_selection, 1);
 
-    m_scanButton = new QPushButton(this);
-    m_scanButton->setObjectName("scanBtn"_L1);
-    m_scanButton->setStyleSheet(theme::filledButton({.background = theme::accent,
-                                                     .hovered = theme::accentHover,
-                                                     .radius = theme::buttonRadius,
-                                                     .fontSize = 14,
-                                                     .padding = u"0 22px"_s}));
-    m_cleanButton = new QPushButton(this);
-    m_cleanButton->setObjectName("cleanBtn"_L1);
-    m_cleanButton->setStyleSheet(theme::filledButton({.background = theme::danger,
-                                                      .hovered = theme::dangerHover,
-                                                      .radius = theme::buttonRadius,
-                                                      .fontSize = 14,
-                                                      .padding = u"0 22px"_s}));
+    m_scanButton = parts::tabButton(u"scanBtn"_s, {},
+                                    theme::filledButton({.background = theme::accent,
+                                                         .hovered = theme::accentHover,
+                                                         .radius = theme::buttonRadius,
+                                                         .fontSize = 14,
+                                                         .padding = u"0 22px"_s}),
+                                    this);
+    m_cleanButton = parts::tabButton(u"cleanBtn"_s, {},
+                                     theme::filledButton({.background = theme::danger,
+                                                          .hovered = theme::dangerHover,
+                                                          .radius = theme::buttonRadius,
+                                                          .fontSize = 14,
+                                                          .padding = u"0 22px"_s}),
+                                     this);
     m_cleanButton->setEnabled(false);
     for (QPushButton *button : {m_scanButton, m_cleanButton}) {
         button->setMinimumHeight(44);
-        button->setCursor(Qt::PointingHandCursor);
-        button->setFocusPolicy(Qt::TabFocus);
         footer->addWidget(button);
     }
     connect(m_scanButton, &QPushButton::clicked, this, &BasePage::startScan);

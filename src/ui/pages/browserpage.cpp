@@ -4,6 +4,7 @@
 #include "browsercleaner.h"
 #include "browsergroupwidget.h"
 #include "flowlayout.h"
+#include "parts.h"
 #include "scanresult.h"
 #include "theme.h"
 
@@ -29,9 +30,8 @@ void BrowserPage::buildSelectionBar()
     bar->setObjectName("browserSelectionBar"_L1);
     auto *row = new FlowLayout(bar);
     row->setSpacing(12, 6);
-    m_selectLabel = new QLabel(bar);
+    m_selectLabel = parts::label({}, theme::label(theme::muted, 13), bar);
     m_selectLabel->setObjectName("browserSelectionLabel"_L1);
-    m_selectLabel->setStyleSheet(theme::label(theme::muted, 13));
     row->addWidget(m_selectLabel);
     for (const Browser &browser : m_cleaner->browsers()) {
         if (!browser.installed)

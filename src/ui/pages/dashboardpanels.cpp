@@ -1,6 +1,7 @@
 #include "dashboardpanels.h"
 
 #include "circleprogresswidget.h"
+#include "parts.h"
 #include "statcard.h"
 #include "theme.h"
 
@@ -19,26 +20,6 @@ constexpr int trackHeight = 8;
 constexpr int fixedArc = 75; ///< percent of the circle that results show, whatever they are
 constexpr int fixedRegistryBar = 60; ///< pixels, likewise
 constexpr qint64 shortestBar = 20; ///< pixels
-
-QLabel *makeLabel(const QString &text, const QString &style, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(style);
-    return label;
-}
-
-QPushButton *makeButton(const QString &name, const QString &text, QSize size, const QString &style,
-                        QWidget *parent)
-{
-    auto *button = new QPushButton(text, parent);
-    button->setObjectName(name);
-    button->setFixedSize(size);
-    button->setStyleSheet(style);
-    button->setCursor(Qt::PointingHandCursor);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
-}
 
 // One decimal from KB on; unlike formatSize() also for GB.
 QString sizeText(qint64 bytes)
@@ -59,10 +40,11 @@ QString sizeText(qint64 bytes)
 
 DashboardStartPanel::DashboardStartPanel(QWidget *parent)
     : QWidget(parent)
-    , m_startButton(makeButton(u"startFullScanBtn"_s, tr("🔍  Start Full Scan"), {200, 50},
-                               theme::gradientButton({.radius = 12, .fontSize = 16}), this))
+    , m_startButton(parts::tabButton(u"startFullScanBtn"_s, tr("🔍  Start Full Scan"),
+                                     theme::gradientButton({.radius = 12, .fontSize = 16}), this))
 {
-    QLabel *emblem = makeLabel(u"🧹"_s, theme::emblem(), this);
+    m_startButton->setFixedSize(200, 50);
+    QLabel *emblem = parts::centredLabel(u"🧹"_s, theme::emblem(), this);
     emblem->setFixedSize(120, 120);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 8, 28, 20);
@@ -70,11 +52,12 @@ DashboardStartPanel::DashboardStartPanel(QWidget *parent)
     layout->addStretch(3);
     layout->addWidget(emblem, 0, Qt::AlignHCenter);
     layout->addSpacing(24);
-    layout->addWidget(
-        makeLabel(tr("Ready to Clean Your PC"), theme::label(theme::text, 20, 600), this));
+    layout->addWidget(parts::centredLabel(tr("Ready to Clean Your PC"),
+                                          theme::label(theme::text, 20, 600), this));
     layout->addSpacing(8);
-    QLabel *hint = makeLabel(tr("Click the button below to scan for junk files and free up space"),
-                             theme::label(theme::muted, 14), this);
+    QLabel *hint =
+        parts::centredLabel(tr("Click the button below to scan for junk files and free up space"),
+                            theme::label(theme::muted, 14), this);
     hint->setWordWrap(true);
     layout->addWidget(hint);
     layout->addSpacing(28);
@@ -89,7 +72,7 @@ QWidget *DashboardStartPanel::buildProgressArea()
 {
     auto *area = new QWidget(this);
     area->setObjectName("progressArea"_L1);
-    m_percent = makeLabel(tr("%1%").arg(0), theme::label(theme::accent, 24, 700), area);
+    m_percent = parts::centredLabel(tr("%1%").arg(0), theme::label(theme::accent, 24, 700), area);
     m_percent->setObjectName("percentLabel"_L1);
     auto *track = new QWidget(area);
     track->setAttribute(Qt::WA_StyledBackground);
@@ -100,11 +83,9 @@ QWidget *DashboardStartPanel::buildProgressArea()
     m_fill->setAttribute(Qt::WA_StyledBackground);
     m_fill->setFixedSize(0, trackHeight);
     m_fill->setStyleSheet(theme::gradientBar());
-    m_path = makeLabel(tr("Preparing..."), theme::label(theme::faint, 12), area);
+    m_path = parts::centredLabel(tr("Preparing..."), theme::label(theme::faint, 12), area);
     m_path->setObjectName("pathLabel"_L1);
-    m_path->setTextFormat(Qt::PlainText);
-    // A path of any width leaves the window as it is.
-    m_path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    parts::ignoreTextWidth(m_path);
 
     auto *layout = new QVBoxLayout(area);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -147,9 +128,9 @@ DashboardResultsPanel::DashboardResultsPanel(QWidget *parent)
     layout->setSpacing(14);
     auto *titles = new QVBoxLayout;
     titles->setSpacing(2);
-    QLabel *title = makeLabel(u"Sweepwise 5.0"_s, theme::label(theme::text, 24, 600), this);
-    QLabel *header =
-        makeLabel(tr("Keep Your PC Running at Peak Performance"), theme::dashboardSubtitle(), this);
+    QLabel *title = parts::label(u"Sweepwise 5.0"_s, theme::label(theme::text, 24, 600), this);
+    QLabel *header = parts::label(tr("Keep Your PC Running at Peak Performance"),
+                                  theme::dashboardSubtitle(), this);
     for (QLabel *label : {title, header}) {
         label->setAlignment(Qt::AlignLeft);
         titles->addWidget(label);
@@ -181,7 +162,7 @@ QLayout *DashboardResultsPanel::buildStatusRow()
     m_dot = new QLabel(this);
     m_dot->setObjectName("statusDot"_L1);
     m_dot->setFixedSize(10, 10);
-    m_status = makeLabel({}, theme::transparentLabel(theme::muted, 13), this);
+    m_status = parts::centredLabel({}, theme::transparentLabel(theme::muted, 13), this);
     m_status->setObjectName("statusLabel"_L1);
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
@@ -194,17 +175,19 @@ QLayout *DashboardResultsPanel::buildStatusRow()
 
 QLayout *DashboardResultsPanel::buildButtonRow()
 {
-    m_scanButton =
-        makeButton(u"dashboardScanBtn"_s, tr("🔍 Start Scan"), {145, 44},
-                   theme::gradientButton({.radius = theme::buttonRadius, .fontSize = 14}), this);
-    m_cleanButton = makeButton(
-        u"dashboardCleanBtn"_s, tr("🗑️ Clean All"), {145, 44},
+    m_scanButton = parts::tabButton(
+        u"dashboardScanBtn"_s, tr("🔍 Start Scan"),
+        theme::gradientButton({.radius = theme::buttonRadius, .fontSize = 14}), this);
+    m_cleanButton = parts::tabButton(
+        u"dashboardCleanBtn"_s, tr("🗑️ Clean All"),
         theme::dangerOutlineButton({.radius = theme::buttonRadius, .fontSize = 14}), this);
     auto *row = new QHBoxLayout;
     row->setSpacing(12);
     row->addStretch();
-    row->addWidget(m_scanButton);
-    row->addWidget(m_cleanButton);
+    for (QPushButton *button : {m_scanButton, m_cleanButton}) {
+        button->setFixedSize(145, 44);
+        row->addWidget(button);
+    }
     row->addStretch();
     setScanning(false);
     return row;
@@ -233,9 +216,10 @@ QWidget *DashboardResultsPanel::buildTip()
     tip->setObjectName("tipBox"_L1);
     tip->setFixedHeight(50);
     tip->setStyleSheet(theme::tipBox(tip->objectName()));
-    QLabel *text = makeLabel(tr("<span style='font-weight:600;'>Tip:</span> Regular cleaning can "
-                                "improve your PC performance by up to 30%"),
-                             theme::transparentLabel(theme::goodText, 13), tip);
+    QLabel *text =
+        parts::label(tr("<span style='font-weight:600;'>Tip:</span> Regular cleaning can "
+                        "improve your PC performance by up to 30%"),
+                     theme::transparentLabel(theme::goodText, 13), tip);
     text->setTextFormat(Qt::RichText);
     text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     text->setWordWrap(true);

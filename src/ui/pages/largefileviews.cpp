@@ -1,6 +1,7 @@
 #include "largefileviews.h"
 
 #include "filecardlist.h"
+#include "parts.h"
 #include "scanresult.h"
 #include "theme.h"
 
@@ -20,25 +21,6 @@ namespace {
 constexpr qint64 mebibyte = 1'048'576;
 constexpr int drivesPerRow = 4;
 
-QLabel *makeLabel(const QString &text, const QString &style, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setStyleSheet(style);
-    return label;
-}
-
-QPushButton *makeButton(const QString &name, const QString &text, const QString &style,
-                        QWidget *parent)
-{
-    auto *button = new QPushButton(text, parent);
-    button->setObjectName(name);
-    button->setStyleSheet(style);
-    button->setCursor(Qt::PointingHandCursor);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
-}
-
 } // namespace
 
 LargeFileSelectionView::LargeFileSelectionView(const QList<DriveInfo> &drives, QWidget *parent)
@@ -48,7 +30,7 @@ LargeFileSelectionView::LargeFileSelectionView(const QList<DriveInfo> &drives, Q
     setObjectName("selectionView"_L1);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setStyleSheet(u"QScrollArea { background: transparent; }"_s);
+    setStyleSheet(theme::transparentScrollArea());
     viewport()->setAutoFillBackground(false);
     setFocusPolicy(Qt::NoFocus);
     auto *content = new QWidget;
@@ -59,23 +41,23 @@ LargeFileSelectionView::LargeFileSelectionView(const QList<DriveInfo> &drives, Q
     auto *titles = new QVBoxLayout;
     titles->setSpacing(4);
     titles->addWidget(
-        makeLabel(tr("Find Large Files"), theme::label(theme::text, 24, 700), content));
-    titles->addWidget(makeLabel(tr("Scan and clean files that take up a lot of disk space"),
-                                theme::label(theme::muted, 14), content));
+        parts::label(tr("Find Large Files"), theme::label(theme::text, 24, 700), content));
+    titles->addWidget(parts::label(tr("Scan and clean files that take up a lot of disk space"),
+                                   theme::label(theme::muted, 14), content));
     layout->addLayout(titles);
     layout->addWidget(
-        makeLabel(tr("Select Scan Location"), theme::label(theme::text, 15, 600), content));
+        parts::label(tr("Select Scan Location"), theme::label(theme::text, 15, 600), content));
     layout->addLayout(buildDriveGrid(drives, content));
     layout->addLayout(buildSizeRow(content));
 
-    m_startButton = makeButton(u"startScanBtn"_s, tr("🔍 Start Scan"),
-                               theme::filledButton({.background = theme::accent,
-                                                    .hovered = theme::accentHover,
-                                                    .radius = 12,
-                                                    .fontSize = 16,
-                                                    .padding = u"0"_s,
-                                                    .weight = 600}),
-                               content);
+    m_startButton = parts::tabButton(u"startScanBtn"_s, tr("🔍 Start Scan"),
+                                     theme::filledButton({.background = theme::accent,
+                                                          .hovered = theme::accentHover,
+                                                          .radius = 12,
+                                                          .fontSize = 16,
+                                                          .padding = u"0"_s,
+                                                          .weight = 600}),
+                                     content);
     m_startButton->setFixedSize(140, 48);
     layout->addWidget(m_startButton);
     layout->addStretch();
@@ -104,7 +86,8 @@ QLayout *LargeFileSelectionView::buildSizeRow(QWidget *parent)
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(12);
-    QLabel *caption = makeLabel(tr("Minimum File Size:"), theme::label(theme::muted, 14), parent);
+    QLabel *caption =
+        parts::label(tr("Minimum File Size:"), theme::label(theme::muted, 14), parent);
     row->addWidget(caption);
     m_sizeCombo = new QComboBox(parent);
     m_sizeCombo->setObjectName("sizeCombo"_L1);
@@ -127,12 +110,12 @@ QLayout *LargeFileSelectionView::buildSizeRow(QWidget *parent)
 
 LargeFileResultsView::LargeFileResultsView(LargeFileModel *model, QWidget *parent)
     : QWidget(parent)
-    , m_summary(makeLabel(QString(), theme::label(theme::muted, 14), this))
-    , m_selected(makeLabel(QString(), theme::label(theme::muted, 14), this))
-    , m_backButton(makeButton(u"backBtn"_s, tr("← Back"),
-                              theme::quietButton({.radius = theme::buttonRadius, .fontSize = 14}),
-                              this))
-    , m_deleteButton(makeButton(
+    , m_summary(parts::label({}, theme::label(theme::muted, 14), this))
+    , m_selected(parts::label({}, theme::label(theme::muted, 14), this))
+    , m_backButton(parts::tabButton(
+          u"backBtn"_s, tr("← Back"),
+          theme::quietButton({.radius = theme::buttonRadius, .fontSize = 14}), this))
+    , m_deleteButton(parts::tabButton(
           u"deleteBtn"_s, tr("🗑️ Delete Selected"),
           theme::dangerButton({.radius = theme::buttonRadius, .padding = u"0 16px"_s}), this))
     , m_list(new FileCardList(model, this))
@@ -150,7 +133,7 @@ LargeFileResultsView::LargeFileResultsView(LargeFileModel *model, QWidget *paren
     layout->setSpacing(16);
     auto *header = new QHBoxLayout;
     header->setSpacing(16);
-    header->addWidget(makeLabel(tr("Scan Results"), theme::label(theme::text, 24, 700), this));
+    header->addWidget(parts::label(tr("Scan Results"), theme::label(theme::text, 24, 700), this));
     header->addWidget(m_summary, 1);
     header->addWidget(m_backButton);
     layout->addLayout(header);

@@ -2,6 +2,7 @@
 
 #include "ask.h"
 #include "logger.h"
+#include "parts.h"
 #include "startupcard.h"
 #include "theme.h"
 #include "windowspaths.h"
@@ -52,7 +53,7 @@ StartupPage::StartupPage(QWidget *parent)
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     m_scrollArea->setFocusPolicy(Qt::NoFocus); // it follows the focus of the cards
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scrollArea->setStyleSheet(u"QScrollArea { background: transparent; }"_s);
+    m_scrollArea->setStyleSheet(theme::transparentScrollArea());
     m_scrollArea->viewport()->setAutoFillBackground(false);
     auto *cards = new QWidget(m_scrollArea);
     m_list = new QVBoxLayout(cards);
@@ -74,16 +75,13 @@ QLayout *StartupPage::buildHeader()
     auto *header = new QHBoxLayout;
     auto *titles = new QVBoxLayout;
     titles->setSpacing(4);
-    auto *title = new QLabel(tr("Startup Manager"), this);
-    title->setStyleSheet(theme::labelSizeFirst(theme::text, 24, 700));
-    auto *subtitle = new QLabel(tr("Check programs to enable auto-start at boot"), this);
-    subtitle->setStyleSheet(theme::labelSizeFirst(theme::muted, 14));
-    titles->addWidget(title);
-    titles->addWidget(subtitle);
+    titles->addWidget(
+        parts::label(tr("Startup Manager"), theme::labelSizeFirst(theme::text, 24, 700), this));
+    titles->addWidget(parts::label(tr("Check programs to enable auto-start at boot"),
+                                   theme::labelSizeFirst(theme::muted, 14), this));
     header->addLayout(titles, 1);
-    m_counts = new QLabel(tr("%1 programs").arg(0), this);
+    m_counts = parts::label(tr("%1 programs").arg(0), theme::countBadge(), this);
     m_counts->setObjectName("countsLabel"_L1);
-    m_counts->setStyleSheet(theme::countBadge());
     header->addWidget(m_counts, 0, Qt::AlignTop);
     return header;
 }
@@ -101,15 +99,14 @@ QLayout *StartupPage::buildTools()
     m_search->setStyleSheet(theme::lineEdit(theme::controlRadius));
     connect(m_search, &QLineEdit::textChanged, this, &StartupPage::onSearchChanged);
     tools->addWidget(m_search);
-    auto *refresh = new QPushButton(tr("Refresh"), this);
-    refresh->setObjectName("refreshBtn"_L1);
+    QPushButton *refresh =
+        parts::button(u"refreshBtn"_s, tr("Refresh"),
+                      theme::quietButton({.radius = theme::controlRadius, .fontSize = 13}), this);
     refresh->setFixedSize(90, 36);
-    refresh->setCursor(Qt::PointingHandCursor);
-    refresh->setStyleSheet(theme::quietButton({.radius = theme::controlRadius, .fontSize = 13}));
     connect(refresh, &QPushButton::clicked, this, &StartupPage::onRefreshClicked);
     tools->addWidget(refresh);
-    auto *hint = new QLabel(tr("Checked programs will run automatically at startup"), this);
-    hint->setStyleSheet(theme::labelSizeFirst(theme::faint, 12));
+    QLabel *hint = parts::label(tr("Checked programs will run automatically at startup"),
+                                theme::labelSizeFirst(theme::faint, 12), this);
     hint->setWordWrap(true);
     tools->addWidget(hint, 1);
     return tools;
@@ -122,17 +119,14 @@ QWidget *StartupPage::buildLoadingPanel()
     auto *layout = new QVBoxLayout(m_loadingPanel);
     layout->setContentsMargins(0, 40, 0, 40);
     layout->setSpacing(8);
-    const auto add = [&](const QString &text, const QString &style) {
-        auto *label = new QLabel(text, m_loadingPanel);
-        label->setAlignment(Qt::AlignCenter);
-        label->setStyleSheet(style);
-        layout->addWidget(label);
-        return label;
-    };
-    m_loadingSymbol = add({}, theme::labelSizeFirst(theme::accent, 36));
+    m_loadingSymbol =
+        parts::centredLabel({}, theme::labelSizeFirst(theme::accent, 36), m_loadingPanel);
     m_loadingSymbol->setObjectName("loadingSymbol"_L1);
-    add(tr("Scanning installed programs..."), theme::labelSizeFirst(theme::muted, 15));
-    add(tr("First load may take a few seconds"), theme::labelSizeFirst(theme::faint, 13));
+    layout->addWidget(m_loadingSymbol);
+    layout->addWidget(parts::centredLabel(tr("Scanning installed programs..."),
+                                          theme::labelSizeFirst(theme::muted, 15), m_loadingPanel));
+    layout->addWidget(parts::centredLabel(tr("First load may take a few seconds"),
+                                          theme::labelSizeFirst(theme::faint, 13), m_loadingPanel));
     m_loadingPanel->hide();
     return m_loadingPanel;
 }

@@ -2,6 +2,8 @@
 
 #include "styletemplate.h"
 
+using namespace Qt::StringLiterals;
+
 namespace theme {
 
 QString card(const Card &look)
@@ -18,6 +20,12 @@ QString card(const Card &look)
     if (!look.isHoverable)
         return style;
     return style + fill(u"#{name}:hover { border-color: {accent}; }", {{"name", look.objectName}});
+}
+
+QString fileCardList()
+{
+    return fill(u"QAbstractScrollArea { background: transparent; }")
+        + card({.objectName = u"fileCard"_s, .isHoverable = true});
 }
 
 QString circleCard(const QString &objectName)

@@ -12,6 +12,8 @@ struct Card {
 };
 /// A white rounded box.
 [[nodiscard]] QString card(const Card &look);
+/// The list of large files with its cards.
+[[nodiscard]] QString fileCardList();
 /// The white card around the dashboard's circle.
 [[nodiscard]] QString circleCard(const QString &objectName);
 /// A card that can be clicked.

@@ -52,6 +52,11 @@ QString browserCheckBox()
                 "QCheckBox::indicator { width: 16px; height: 16px; }");
 }
 
+QString transparentScrollArea()
+{
+    return fill(u"QScrollArea { background: transparent; }");
+}
+
 QString groupBox()
 {
     return fill(u"QGroupBox { font-size: 14px; font-weight: 500; color: {text};"

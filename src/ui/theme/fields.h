@@ -9,6 +9,8 @@ namespace theme {
 [[nodiscard]] QString lineEdit(int radius);
 [[nodiscard]] QString comboBox();
 [[nodiscard]] QString browserCheckBox();
+/// A scroll area whose page shows through.
+[[nodiscard]] QString transparentScrollArea();
 /// A frame around a group of options.
 [[nodiscard]] QString groupBox();
 

@@ -8,9 +8,7 @@ namespace theme {
 
 QString label(Colour colour, int fontSize, int weight)
 {
-    const QString style = fill(u"color: {colour}; font-size: {fontSize}px;",
-                               {{"colour", colour}, {"fontSize", fontSize}});
-    return weight == 0 ? style : style + fill(u" font-weight: {weight};", {{"weight", weight}});
+    return fill(u"color: {colour}; ", {{"colour", colour}}) + uncolouredLabel(fontSize, weight);
 }
 
 QString labelSizeFirst(Colour colour, int fontSize, int weight)
@@ -24,7 +22,18 @@ QString labelSizeFirst(Colour colour, int fontSize, int weight)
 
 QString transparentLabel(Colour colour, int fontSize, int weight)
 {
-    return label(colour, fontSize, weight) + " background: transparent; border: none;"_L1;
+    return label(colour, fontSize, weight) + u' ' + transparentGround();
+}
+
+QString uncolouredLabel(int fontSize, int weight)
+{
+    const QString style = fill(u"font-size: {fontSize}px;", {{"fontSize", fontSize}});
+    return weight == 0 ? style : style + fill(u" font-weight: {weight};", {{"weight", weight}});
+}
+
+QString transparentGround()
+{
+    return fill(u"background: transparent; border: none;");
 }
 
 QString dashboardSubtitle()
@@ -102,6 +111,11 @@ QString resultIcon(Colour background)
 QString aboutIcon()
 {
     return fill(u"background-color: {accent}; border-radius: 16px; font-size: 36px;");
+}
+
+QString aboutFeatures()
+{
+    return label(faint, 13) + " line-height: 1.5;"_L1;
 }
 
 QString emblem()

@@ -12,6 +12,10 @@ namespace theme {
 [[nodiscard]] QString labelSizeFirst(Colour colour, int fontSize, int weight = 0);
 /// A text on a card or a tinted ground, which shows through.
 [[nodiscard]] QString transparentLabel(Colour colour, int fontSize, int weight = 0);
+/// A text that takes its colour from the widget around it.
+[[nodiscard]] QString uncolouredLabel(int fontSize, int weight = 0);
+/// A widget without a ground or a frame of its own.
+[[nodiscard]] QString transparentGround();
 /// The line below the dashboard's title.
 [[nodiscard]] QString dashboardSubtitle();
 /// The arrow at the end of a card that leads on.
@@ -49,6 +53,8 @@ struct Pill {
 [[nodiscard]] QString resultIcon(Colour background);
 /// The box with the program's emblem in the About dialog.
 [[nodiscard]] QString aboutIcon();
+/// The list of what the program can do in the About dialog.
+[[nodiscard]] QString aboutFeatures();
 /// The dashboard's round emblem.
 [[nodiscard]] QString emblem();
 

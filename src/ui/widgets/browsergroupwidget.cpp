@@ -2,6 +2,7 @@
 
 #include "browser.h"
 #include "browsersubitem.h"
+#include "parts.h"
 #include "scanresult.h"
 #include "svgicon.h"
 #include "svglabel.h"
@@ -63,16 +64,13 @@ void BrowserGroupWidget::buildHeader(const QString &name)
     icon->setSvg(iconPath(name), {28, 28});
     layout->addWidget(icon);
 
-    auto *title = new QLabel(name, m_header);
+    QLabel *title = parts::label(name, theme::label(theme::text, 15, 600), m_header);
     title->setObjectName("browserName"_L1);
-    title->setTextFormat(Qt::PlainText);
-    title->setStyleSheet(theme::label(theme::text, 15, 600));
     layout->addWidget(title);
 
-    m_count = new QLabel(m_header);
+    m_count = parts::label(
+        {}, theme::badge({.colour = theme::text, .background = theme::buttonGround}), m_header);
     m_count->setObjectName("browserItemCount"_L1);
-    m_count->setStyleSheet(
-        theme::badge({.colour = theme::text, .background = theme::buttonGround}));
     m_count->hide();
     layout->addWidget(m_count, 0, Qt::AlignVCenter);
     layout->addStretch();
@@ -83,13 +81,10 @@ void BrowserGroupWidget::buildHeader(const QString &name)
     connect(m_checkBox, &QCheckBox::stateChanged, this, &BrowserGroupWidget::onHeaderChanged);
     layout->addWidget(m_checkBox);
 
-    m_expandButton = new QPushButton(m_header);
+    m_expandButton = parts::button(u"browserExpandBtn"_s, {}, theme::iconButton(), m_header);
     setExpander(m_header, m_expandButton);
-    m_expandButton->setObjectName("browserExpandBtn"_L1);
     m_expandButton->setFixedSize(28, 28);
     m_expandButton->setIconSize({20, 20});
-    m_expandButton->setCursor(Qt::PointingHandCursor);
-    m_expandButton->setStyleSheet(theme::iconButton());
     m_expandButton->setAccessibleName(tr("Show the data of %1").arg(name));
     layout->addWidget(m_expandButton);
 }

@@ -2,6 +2,7 @@
 
 #include "browser.h"
 #include "itemdetaildialog.h"
+#include "parts.h"
 #include "risk.h"
 #include "scanresult.h"
 #include "svgicon.h"
@@ -25,8 +26,10 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
     : QWidget(parent)
     , m_category(category)
     , m_checkBox(new QCheckBox(this))
-    , m_size(new QLabel(this))
-    , m_detailsButton(new QPushButton(this))
+    , m_size(parts::label(formatSize(category->totalSize()), theme::label(theme::muted, 12, 500),
+                          this))
+    , m_detailsButton(
+          parts::button(u"viewDetailsBtn"_s, tr("View Details"), theme::linkButton(), this))
 {
     // Bound as they come, the items of an unselected category would be ticked.
     if (!category->checked)
@@ -49,38 +52,30 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
     connect(m_checkBox, &QCheckBox::stateChanged, this, &BrowserSubItem::onStateChanged);
     layout->addWidget(m_checkBox);
 
-    auto *label = new QLabel(name, this);
+    QLabel *label = parts::label(name, theme::label(theme::text, 13), this);
     label->setObjectName("subItemName"_L1);
-    label->setTextFormat(Qt::PlainText);
-    label->setStyleSheet(theme::label(theme::text, 13));
     layout->addWidget(label);
     if (category->riskLevel > LowRisk) {
-        auto *badge = new QLabel(risk::text(category->riskLevel), this);
+        QLabel *badge =
+            parts::label(risk::text(category->riskLevel), risk::style(category->riskLevel), this);
         badge->setObjectName("subItemRisk"_L1);
-        badge->setStyleSheet(risk::style(category->riskLevel));
         layout->addWidget(badge, 0, Qt::AlignVCenter);
     }
     layout->addStretch();
 
-    auto *count = new QLabel(tr("%1 items").arg(category->items.size()), this);
+    QLabel *count = parts::label(tr("%1 items").arg(category->items.size()),
+                                 theme::label(theme::muted, 12), this);
     count->setObjectName("subItemCount"_L1);
-    count->setStyleSheet(theme::label(theme::muted, 12));
     layout->addWidget(count);
 
     m_size->setObjectName("subItemSize"_L1);
-    m_size->setText(formatSize(category->totalSize()));
-    m_size->setStyleSheet(theme::label(theme::muted, 12, 500));
     m_size->setMinimumWidth(76);
     m_size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->addWidget(m_size);
 
-    m_detailsButton->setObjectName("viewDetailsBtn"_L1);
-    m_detailsButton->setText(tr("View Details"));
     m_detailsButton->setIcon(
         QIcon(svgPixmap(u":/icons/chevron-right.svg"_s, {16, 16}, devicePixelRatioF())));
     m_detailsButton->setLayoutDirection(Qt::RightToLeft); // the arrow after the text
-    m_detailsButton->setCursor(Qt::PointingHandCursor);
-    m_detailsButton->setStyleSheet(theme::linkButton());
     m_detailsButton->setAccessibleName(tr("View details of %1").arg(name));
     connect(m_detailsButton, &QPushButton::clicked, this, &BrowserSubItem::showDetails);
     layout->addWidget(m_detailsButton);

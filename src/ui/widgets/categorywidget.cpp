@@ -3,6 +3,7 @@
 #include "browser.h"
 #include "cleanitemwidget.h"
 #include "itemdetaildialog.h"
+#include "parts.h"
 #include "risk.h"
 #include "scanresult.h"
 #include "svglabel.h"
@@ -88,29 +89,24 @@ void CategoryWidget::buildHeader()
     icon->setSvg(iconPath(*m_category), {22, 22});
     layout->addWidget(icon);
 
-    m_name = new QLabel(singleLine(m_category->name), m_header);
-    m_name->setTextFormat(Qt::PlainText);
-    m_name->setStyleSheet(theme::label(theme::text, 14, 500));
+    m_name =
+        parts::label(singleLine(m_category->name), theme::label(theme::text, 14, 500), m_header);
     layout->addWidget(m_name);
 
-    m_count = new QPushButton(m_header);
-    m_count->setObjectName("itemCount"_L1);
-    m_count->setStyleSheet(theme::badgeButton());
-    m_count->setCursor(Qt::PointingHandCursor);
+    m_count = parts::button(u"itemCount"_s, {}, theme::badgeButton(), m_header);
     m_count->setToolTip(tr("View Details"));
     connect(m_count, &QPushButton::clicked, this, &CategoryWidget::showDetails);
     layout->addWidget(m_count);
     if (m_category->riskLevel > LowRisk) {
-        auto *risk = new QLabel(risk::text(m_category->riskLevel), m_header);
-        risk->setObjectName("categoryRisk"_L1);
-        risk->setStyleSheet(risk::style(m_category->riskLevel));
-        layout->addWidget(risk, 0, Qt::AlignVCenter);
+        QLabel *badge = parts::label(risk::text(m_category->riskLevel),
+                                     risk::style(m_category->riskLevel), m_header);
+        badge->setObjectName("categoryRisk"_L1);
+        layout->addWidget(badge, 0, Qt::AlignVCenter);
     }
     layout->addStretch();
 
-    m_size = new QLabel(m_header);
+    m_size = parts::label({}, theme::label(theme::accent, 13, 600), m_header);
     m_size->setObjectName("categorySize"_L1);
-    m_size->setStyleSheet(theme::label(theme::accent, 13, 600));
     layout->addWidget(m_size);
 
     m_checkBox = new QCheckBox(m_header);
@@ -121,13 +117,10 @@ void CategoryWidget::buildHeader()
     connect(m_checkBox, &QCheckBox::clicked, this, &CategoryWidget::setChecked);
     layout->addWidget(m_checkBox);
 
-    m_expandButton = new QPushButton(m_header);
+    m_expandButton = parts::button(u"expandBtn"_s, {}, theme::expandButton(), m_header);
     setExpander(m_header, m_expandButton);
     m_expandButton->setText(u"▼"_s);
-    m_expandButton->setObjectName("expandBtn"_L1);
     m_expandButton->setFixedSize(28, 28);
-    m_expandButton->setCursor(Qt::PointingHandCursor);
-    m_expandButton->setStyleSheet(theme::expandButton());
     m_expandButton->setAccessibleName(tr("Show items of %1").arg(m_name->text()));
     layout->addWidget(m_expandButton);
 }
@@ -193,10 +186,7 @@ void CategoryWidget::showRemaining()
         return;
     }
     if (!m_loadMoreButton) {
-        m_loadMoreButton = new QPushButton(m_content);
-        m_loadMoreButton->setObjectName("loadMoreBtn"_L1);
-        m_loadMoreButton->setStyleSheet(theme::loadMoreButton());
-        m_loadMoreButton->setCursor(Qt::PointingHandCursor);
+        m_loadMoreButton = parts::button(u"loadMoreBtn"_s, {}, theme::loadMoreButton(), m_content);
         connect(m_loadMoreButton, &QPushButton::clicked, this, &CategoryWidget::loadMore);
     }
     m_loadMoreButton->setText(tr("Load more (%1 remaining)").arg(remaining));

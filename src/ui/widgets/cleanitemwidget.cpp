@@ -1,6 +1,7 @@
 #include "cleanitemwidget.h"
 
 #include "elidedlabel.h"
+#include "parts.h"
 #include "risk.h"
 #include "scanresult.h"
 #include "text.h"
@@ -70,15 +71,12 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
     texts->addWidget(m_path);
     layout->addLayout(texts, 1);
 
-    m_risk = new QLabel(risk::text(item().riskLevel), this);
+    m_risk = parts::centredLabel(risk::text(item().riskLevel), risk::style(item().riskLevel), this);
     m_risk->setObjectName("itemRisk"_L1);
-    m_risk->setStyleSheet(risk::style(item().riskLevel));
     m_risk->setFixedWidth(riskWidth);
-    m_risk->setAlignment(Qt::AlignCenter);
     layout->addWidget(m_risk, 0, Qt::AlignVCenter);
-    m_size = new QLabel(formatSize(item().size), this);
+    m_size = parts::label(formatSize(item().size), theme::label(theme::muted, 12, 500), this);
     m_size->setObjectName("itemSize"_L1);
-    m_size->setStyleSheet(theme::label(theme::muted, 12, 500));
     m_size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_size->setFixedWidth(sizeWidth);
     layout->addWidget(m_size);

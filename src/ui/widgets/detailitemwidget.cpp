@@ -1,6 +1,7 @@
 #include "detailitemwidget.h"
 
 #include "elidedlabel.h"
+#include "parts.h"
 #include "scanresult.h"
 #include "svgicon.h"
 #include "text.h"
@@ -55,21 +56,18 @@ DetailItemWidget::DetailItemWidget(const CleanItem &item, bool striped, QWidget 
 
 void DetailItemWidget::addFileColumns(const CleanItem &item)
 {
-    auto *size = new QLabel(formatSize(item.size), this);
+    QLabel *size = parts::label(formatSize(item.size), theme::label(theme::muted, 12, 500), this);
     size->setObjectName("itemSize"_L1);
-    size->setStyleSheet(theme::label(theme::muted, 12, 500));
     size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     size->setFixedWidth(sizeColumn);
     layout()->addWidget(size);
 
-    auto *button = new QPushButton(
-        QIcon(svgPixmap(u":/icons/folder-open.svg"_s, {18, 18}, devicePixelRatioF())),
-        tr("Open file location"), this);
-    button->setObjectName("openLocationBtn"_L1);
+    QPushButton *button =
+        parts::button(u"openLocationBtn"_s, tr("Open file location"),
+                      theme::quietButton({.radius = theme::smallRadius, .fontSize = 12}), this);
+    button->setIcon(QIcon(svgPixmap(u":/icons/folder-open.svg"_s, {18, 18}, devicePixelRatioF())));
     button->setIconSize({18, 18});
-    button->setCursor(Qt::PointingHandCursor);
     button->setFixedWidth(actionColumn);
-    button->setStyleSheet(theme::quietButton({.radius = theme::smallRadius, .fontSize = 12}));
     button->setMinimumHeight(30);
     button->setAutoDefault(false);
     button->setAccessibleName(tr("Open file location of %1").arg(singleLine(item.name)));

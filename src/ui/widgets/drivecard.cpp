@@ -1,6 +1,7 @@
 #include "drivecard.h"
 
 #include "drives.h"
+#include "parts.h"
 #include "scanresult.h"
 #include "text.h"
 #include "theme.h"
@@ -22,14 +23,6 @@ constexpr int textWidth = 112; ///< of the card without its border and margins
 
 constexpr int nearlyFull = 71; // percent, from which on the bar warns
 constexpr int full = 91;
-
-QLabel *makeLabel(const QString &text, const QString &style, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setStyleSheet(style);
-    return label;
-}
 
 QString shortName(const DriveInfo &drive)
 {
@@ -72,7 +65,7 @@ DriveCard::DriveCard(const DriveInfo &drive, QWidget *parent)
 
     const DriveInfo named{drive.rootPath, drive.name.isEmpty() ? tr("Local Disk") : drive.name,
                           drive.isRemovable, drive.totalBytes, drive.freeBytes};
-    auto *name = makeLabel(shortName(named), theme::label(theme::muted, 12), this);
+    auto *name = parts::label(shortName(named), theme::label(theme::muted, 12), this);
     name->setObjectName("driveName"_L1);
     const QString fullName = named.isRemovable ? tr("%1 (Removable)").arg(named.name) : named.name;
     name->setToolTip(plainToolTip(fullName));
@@ -86,8 +79,9 @@ QLayout *DriveCard::buildTopRow(const DriveInfo &drive)
 {
     auto *row = new QHBoxLayout;
     row->addWidget(m_checkBox);
-    row->addWidget(makeLabel(drive.isRemovable ? u"🔌"_s : u"💾"_s, u"font-size: 16px;"_s, this));
-    row->addWidget(makeLabel(drive.rootPath.left(2), theme::label(theme::text, 14, 600), this));
+    row->addWidget(
+        parts::label(drive.isRemovable ? u"🔌"_s : u"💾"_s, theme::uncolouredLabel(16), this));
+    row->addWidget(parts::label(drive.rootPath.left(2), theme::label(theme::text, 14, 600), this));
     row->addStretch();
     return row;
 }
@@ -95,8 +89,8 @@ QLayout *DriveCard::buildTopRow(const DriveInfo &drive)
 void DriveCard::addUsage(const DriveInfo &drive, QLayout *layout)
 {
     const qint64 used = drive.totalBytes - drive.freeBytes;
-    auto *usage = makeLabel(tr("%1/%2").arg(formatSize(used), formatSize(drive.totalBytes)),
-                            theme::label(theme::faint, 11), this);
+    auto *usage = parts::label(tr("%1/%2").arg(formatSize(used), formatSize(drive.totalBytes)),
+                               theme::label(theme::faint, 11), this);
     usage->setObjectName("driveUsage"_L1);
     usage->ensurePolished();
     if (usage->sizeHint().width() > textWidth) // of a drive of more than a terabyte

@@ -1,6 +1,7 @@
 #include "filecard.h"
 
 #include "elidedlabel.h"
+#include "parts.h"
 #include "scanresult.h"
 #include "text.h"
 #include "theme.h"
@@ -44,26 +45,21 @@ QString badgeStyle(bool isHuge)
                   : theme::pill({.colour = theme::text, .background = theme::buttonGround});
 }
 
-QLabel *makeLabel(const QString &name, const QString &style, QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setStyleSheet(style);
-    return label;
-}
-
 } // namespace
 
 FileCard::FileCard(QWidget *parent)
     : QFrame(parent)
     , m_checkBox(new QCheckBox(this))
-    , m_icon(makeLabel(u"fileIcon"_s, theme::emojiBox(theme::buttonGround), this))
+    , m_icon(parts::centredLabel({}, theme::emojiBox(theme::buttonGround), this))
     , m_name(new ElidedLabel({}, this))
-    , m_folder(makeLabel(u"fileFolder"_s, theme::label(theme::faint, 11), this))
-    , m_badge(makeLabel(u"sizeBadge"_s, badgeStyle(false), this))
+    , m_folder(parts::label({}, theme::label(theme::faint, 11), this))
+    , m_badge(parts::label({}, badgeStyle(false), this))
 {
     setObjectName("fileCard"_L1);
+    m_icon->setObjectName("fileIcon"_L1);
+    m_name->setObjectName("fileName"_L1);
+    m_folder->setObjectName("fileFolder"_L1);
+    m_badge->setObjectName("sizeBadge"_L1);
     setFixedHeight(cardHeight);
     setContextMenuPolicy(Qt::CustomContextMenu);
 
@@ -72,13 +68,11 @@ FileCard::FileCard(QWidget *parent)
     layout->setSpacing(spacing);
     layout->addWidget(m_checkBox);
     m_icon->setFixedSize(iconSize, iconSize);
-    m_icon->setAlignment(Qt::AlignCenter);
     layout->addWidget(m_icon);
     auto *names = new QVBoxLayout;
     names->setSpacing(2);
-    m_name->setObjectName("fileName"_L1);
     m_name->setStyleSheet(theme::label(theme::text, 14, 600));
-    m_folder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    parts::ignoreTextWidth(m_folder);
     names->addWidget(m_name);
     names->addWidget(m_folder);
     layout->addLayout(names, 1);

@@ -36,8 +36,7 @@ FileCardList::FileCardList(LargeFileModel *model, QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus); // its rows take it
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setStyleSheet("QAbstractScrollArea { background: transparent; }"_L1
-                  + theme::card({.objectName = u"fileCard"_s, .isHoverable = true}));
+    setStyleSheet(theme::fileCardList());
     viewport()->setAutoFillBackground(false);
     verticalScrollBar()->setSingleStep(1);
     connect(model, &LargeFileModel::filesReplaced, this, &FileCardList::onFilesReplaced);

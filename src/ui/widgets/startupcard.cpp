@@ -1,6 +1,7 @@
 #include "startupcard.h"
 
 #include "elidedlabel.h"
+#include "parts.h"
 #include "startupmanager.h"
 #include "text.h"
 #include "theme.h"
@@ -43,10 +44,11 @@ StartupCard::StartupCard(const StartupApp &app, const QIcon &icon, QWidget *pare
     layout->addWidget(buildIcon(icon));
     layout->addLayout(buildTexts(app), 1);
 
-    m_status = new QLabel(tr("Enabled"), this);
+    m_status = parts::label(
+        tr("Enabled"),
+        theme::pill({.colour = theme::goodText, .background = theme::goodTint, .weight = 500}),
+        this);
     m_status->setObjectName("statusLabel"_L1);
-    m_status->setStyleSheet(
-        theme::pill({.colour = theme::goodText, .background = theme::goodTint, .weight = 500}));
     layout->addWidget(m_status, 0, Qt::AlignVCenter);
     showState(app.isStartup);
 }
@@ -73,10 +75,9 @@ QLayout *StartupCard::buildTexts(const StartupApp &app)
     m_name = new ElidedLabel(app.name, this);
     m_name->setObjectName("appName"_L1);
     m_name->setStyleSheet(theme::label(theme::text, 14, 600));
-    auto *path = new QLabel(shortPath(singleLine(app.exePath), 30, 27), this);
-    path->setTextFormat(Qt::PlainText);
-    path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    path->setStyleSheet(theme::label(theme::faint, 11));
+    QLabel *path = parts::label(shortPath(singleLine(app.exePath), 30, 27),
+                                theme::label(theme::faint, 11), this);
+    parts::ignoreTextWidth(path);
     path->setToolTip(plainToolTip(app.exePath));
     texts->addWidget(m_name);
     texts->addWidget(path);

@@ -1,6 +1,7 @@
 #include "statcard.h"
 
 #include "keys.h"
+#include "parts.h"
 #include "svglabel.h"
 #include "theme.h"
 
@@ -15,20 +16,12 @@ namespace {
 
 constexpr int barHeight = 4;
 
-QLabel *makeLabel(const QString &text, const QString &style, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setStyleSheet(style);
-    return label;
-}
-
 } // namespace
 
 StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     : QFrame(parent)
-    , m_title(makeLabel(title, theme::transparentLabel(theme::muted, 13), this))
-    , m_value(makeLabel({}, theme::transparentLabel(theme::text, 15, 700), this))
+    , m_title(parts::label(title, theme::transparentLabel(theme::muted, 13), this))
+    , m_value(parts::label({}, theme::transparentLabel(theme::text, 15, 700), this))
 {
     setObjectName("statCard"_L1);
     setStyleSheet(theme::statCard(objectName()));
@@ -65,7 +58,7 @@ StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     layout->setSpacing(12);
     layout->addWidget(icon);
     layout->addLayout(texts, 1);
-    layout->addWidget(makeLabel(u"›"_s, theme::cardArrow(), this));
+    layout->addWidget(parts::label(u"›"_s, theme::cardArrow(), this));
 }
 
 void StatCard::setValue(const QString &value)

@@ -15,7 +15,7 @@ public:
         QWidget *control = part->window()->focusWidget();
         m_control = control && part->isAncestorOf(control) ? control : nullptr;
         disable();
-        m_stray = part->window()->focusWidget();
+        m_focusAfterDisabling = part->window()->focusWidget();
     }
 
     /// What has lost the focus, if it is still there.
@@ -23,20 +23,21 @@ public:
     /// Takes @p control in the place of what was noted.
     void replaceControl(QWidget *control) { m_control = control; }
 
-    /// Puts the focus back on what was noted; on @p otherwise when that cannot take it. It stays
+    /// Puts the focus back on what was noted; on @p fallback when that cannot take it. It stays
     /// where it is when nothing was noted, when the user has moved it meanwhile, or when the part
     /// is not shown any more.
-    void giveBack(QWidget *otherwise)
+    void restore(QWidget *fallback)
     {
         QWidget *target = m_control;
         if (target && !target->isEnabled())
-            target = otherwise;
-        if (target && target->isVisible() && target->window()->focusWidget() == m_stray)
+            target = fallback;
+        if (target && target->isVisible()
+            && target->window()->focusWidget() == m_focusAfterDisabling)
             target->setFocus();
         m_control.clear();
     }
 
 private:
     QPointer<QWidget> m_control;
-    QPointer<QWidget> m_stray; ///< where the focus went of itself
+    QPointer<QWidget> m_focusAfterDisabling; ///< where the focus went of itself
 };

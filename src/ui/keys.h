@@ -13,7 +13,7 @@
 
 /// Space and both Enter keys press a control that is painted by hand. A key that is held down
 /// presses once.
-[[nodiscard]] inline bool isPress(const QKeyEvent &event)
+[[nodiscard]] inline bool isPressKey(const QKeyEvent &event)
 {
     return (event.key() == Qt::Key_Space || isEnter(event)) && !event.isAutoRepeat();
 }
@@ -36,7 +36,7 @@
 /// Lets Enter press the button of @p window that has the focus, for which a toolkit's button needs
 /// to be a dialog's and to be asked for it. Whether the key is used up: one that is held down is,
 /// so that it presses nothing in a window that it has just opened.
-inline bool enterPressesButton(QWidget *window, const QKeyEvent &event)
+inline bool pressButtonByEnter(QWidget *window, const QKeyEvent &event)
 {
     if (!isEnter(event))
         return false;
@@ -51,11 +51,11 @@ inline bool enterPressesButton(QWidget *window, const QKeyEvent &event)
 
 /// Scrolls the control of @p window that the focus has just gone to into sight: a scroll area does
 /// that itself only when the focus was in it before. True, for the end of focusNextPrevChild().
-inline bool showFocus(const QWidget *window)
+inline bool scrollToFocus(const QWidget *window)
 {
     QWidget *focus = window->focusWidget();
-    for (QWidget *around = focus; around; around = around->parentWidget()) {
-        if (auto *area = qobject_cast<QScrollArea *>(around))
+    for (QWidget *ancestor = focus; ancestor; ancestor = ancestor->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(ancestor))
             area->ensureWidgetVisible(focus);
     }
     return true;

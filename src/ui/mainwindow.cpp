@@ -377,9 +377,9 @@ void MainWindow::showTrayMessage(const QString &title, const QString &text, int 
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    const bool toTray =
+    const bool minimizesToTray =
         options::isOn(*Application::instance()->settings(), options::minimizeToTray);
-    if (toTray && isTrayShown()) {
+    if (minimizesToTray && isTrayShown()) {
         hide();
         showTrayMessage(tr("Sweepwise"),
                         tr("Program minimized to system tray. Double-click the icon to restore."),
@@ -406,12 +406,12 @@ bool MainWindow::isInside(const QWidget *part, QPoint position) const
 
 bool MainWindow::focusNextPrevChild(bool next)
 {
-    return QWidget::focusNextPrevChild(next) && showFocus(this);
+    return QWidget::focusNextPrevChild(next) && scrollToFocus(this);
 }
 
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (!enterPressesButton(this, *event))
+    if (!pressButtonByEnter(this, *event))
         QWidget::keyPressEvent(event);
 }
 

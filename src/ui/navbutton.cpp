@@ -27,7 +27,7 @@ NavButton::NavButton(const QString &text, const QString &iconPath, QWidget *pare
     setAccessibleName(text);
 
     m_icon->setFixedSize(24, 24);
-    m_icon->setStyleSheet(theme::transparentGround());
+    m_icon->setStyleSheet(theme::transparentBackground());
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(14, 0, 14, 0);
     layout->setSpacing(12);
@@ -44,9 +44,9 @@ QString NavButton::text() const
 
 void NavButton::setChecked(bool checked)
 {
-    if (m_checked == checked)
+    if (m_isChecked == checked)
         return;
-    m_checked = checked;
+    m_isChecked = checked;
     Q_EMIT checkedChanged(checked);
     updateLook();
     QAccessible::State changed;
@@ -64,35 +64,35 @@ void NavButton::setCentered(bool centered)
 void NavButton::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
-        m_pressed = true;
+        m_isPressed = true;
     // The window would take a press that is left to it for the start of a drag.
     event->accept();
 }
 
 void NavButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton || !m_pressed)
+    if (event->button() != Qt::LeftButton || !m_isPressed)
         return;
-    m_pressed = false;
+    m_isPressed = false;
     if (rect().contains(event->position().toPoint()))
         Q_EMIT clicked();
 }
 
 void NavButton::enterEvent(QEnterEvent *)
 {
-    m_hovered = true;
+    m_isHovered = true;
     update();
 }
 
 void NavButton::leaveEvent(QEvent *)
 {
-    m_hovered = false;
+    m_isHovered = false;
     update();
 }
 
 void NavButton::keyPressEvent(QKeyEvent *event)
 {
-    if (isPress(*event))
+    if (isPressKey(*event))
         Q_EMIT clicked();
     else if (const int step = arrowStep(*event); step == 0 || !focusNextPrevChild(step > 0))
         QWidget::keyPressEvent(event);
@@ -113,13 +113,13 @@ void NavButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    if (m_checked || m_hovered) {
-        painter.setBrush(m_checked ? theme::color(theme::white) : theme::color(theme::white, 38));
+    if (m_isChecked || m_isHovered) {
+        painter.setBrush(m_isChecked ? theme::color(theme::white) : theme::color(theme::white, 38));
         painter.drawRoundedRect(rect(), theme::cardRadius, theme::cardRadius);
     }
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(theme::color(m_checked ? theme::text : theme::white), 2));
+        painter.setPen(QPen(theme::color(m_isChecked ? theme::text : theme::white), 2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 10, 10);
     }
 }
@@ -127,8 +127,8 @@ void NavButton::paintEvent(QPaintEvent *)
 void NavButton::updateLook()
 {
     const QColor iconColour =
-        m_checked ? theme::color(theme::accent) : theme::color(theme::white, 217);
+        m_isChecked ? theme::color(theme::accent) : theme::color(theme::white, 217);
     m_icon->setSvg(m_iconPath, m_icon->size(), iconColour);
-    m_text->setStyleSheet(theme::navText(m_checked));
+    m_text->setStyleSheet(theme::navText(m_isChecked));
     update();
 }

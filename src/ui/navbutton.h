@@ -16,7 +16,7 @@ public:
     NavButton(const QString &text, const QString &iconPath, QWidget *parent = nullptr);
 
     [[nodiscard]] QString text() const;
-    [[nodiscard]] bool isChecked() const { return m_checked; }
+    [[nodiscard]] bool isChecked() const { return m_isChecked; }
     void setChecked(bool checked);
     /// Moves icon and text to the middle of the button, or back to its left end.
     void setCentered(bool centered);
@@ -41,7 +41,7 @@ private:
     QString m_iconPath;
     SvgLabel *m_icon;
     QLabel *m_text;
-    bool m_checked = false;
-    bool m_hovered = false;
-    bool m_pressed = false;
+    bool m_isChecked = false;
+    bool m_isHovered = false;
+    bool m_isPressed = false;
 };

@@ -61,7 +61,7 @@ WinButton *TitleBar::addButton(WinButton::Type type, const QString &name)
 
 void TitleBar::setMaximized(bool maximized)
 {
-    m_maximized = maximized;
+    m_isMaximized = maximized;
     m_maximizeButton->setType(maximized ? WinButton::Restore : WinButton::Maximize);
     const QString name = maximized ? tr("Restore") : tr("Maximize");
     m_maximizeButton->setToolTip(name);

@@ -48,7 +48,7 @@ private:
     void restartProgram();
 
     QString m_currentLanguage;
-    bool m_maximized = false;
+    bool m_isMaximized = false;
     WinButton *m_menuButton = nullptr;
     WinButton *m_maximizeButton = nullptr;
     QMenu *m_menu = nullptr;

@@ -7,14 +7,14 @@ void WindowDrag::press(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    m_dragging = true;
+    m_isDragging = true;
     m_offset = event->globalPosition().toPoint() - m_window->frameGeometry().topLeft();
     event->accept();
 }
 
 void WindowDrag::move(QMouseEvent *event)
 {
-    if (!m_dragging || !event->buttons().testFlag(Qt::LeftButton))
+    if (!m_isDragging || !event->buttons().testFlag(Qt::LeftButton))
         return;
     m_window->move(event->globalPosition().toPoint() - m_offset);
     event->accept();
@@ -23,5 +23,5 @@ void WindowDrag::move(QMouseEvent *event)
 void WindowDrag::release(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
-        m_dragging = false;
+        m_isDragging = false;
 }

@@ -22,10 +22,10 @@ public:
     /// Stops when the left button is released.
     void release(QMouseEvent *event);
 
-    [[nodiscard]] bool isDragging() const { return m_dragging; }
+    [[nodiscard]] bool isDragging() const { return m_isDragging; }
 
 private:
     QWidget *m_window;
-    bool m_dragging = false;
+    bool m_isDragging = false;
     QPoint m_offset; ///< pointer minus top-left corner of the frame, at the press
 };

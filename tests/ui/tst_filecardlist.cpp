@@ -57,7 +57,7 @@ public:
         for (QWidget *widget : {static_cast<QWidget *>(before), static_cast<QWidget *>(list),
                                 static_cast<QWidget *>(after)})
             layout->addWidget(widget);
-        QObject::connect(list, &FileCardList::cardMade, list, [this](FileCard *card) {
+        QObject::connect(list, &FileCardList::cardCreated, list, [this](FileCard *card) {
             QObject::connect(card->checkBox(), &QCheckBox::toggled, list,
                              [this, card](bool on) { model.setTicked(list->rowOf(card), on); });
         });

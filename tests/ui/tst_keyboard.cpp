@@ -320,7 +320,7 @@ private Q_SLOTS:
         if (meanwhile == "deleted"_L1)
             delete std::exchange(control, nullptr);
         const QWidget *before = window.focusWidget();
-        keeper.giveBack(&fallback);
+        keeper.restore(&fallback);
         const QWidget *expected = meanwhile == "nothing"_L1 ? control
             : meanwhile == "disabled"_L1                    ? &fallback
                                                             : before;

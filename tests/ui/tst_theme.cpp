@@ -59,20 +59,20 @@ QList<NamedStyle> styles()
         {"badge",
          [] {
              return theme::badge({.colour = theme::text,
-                                  .background = theme::buttonGround,
+                                  .background = theme::buttonBackground,
                                   .radius = 4,
                                   .fontSize = 11});
          }},
         {"pill",
          [] {
              return theme::pill(
-                 {.colour = theme::text, .background = theme::buttonGround, .weight = 600});
+                 {.colour = theme::text, .background = theme::buttonBackground, .weight = 600});
          }},
         {"label", [] { return theme::label(theme::text, 13, 600); }},
         {"labelSizeFirst", [] { return theme::labelSizeFirst(theme::text, 13, 600); }},
         {"transparentLabel", [] { return theme::transparentLabel(theme::text, 13); }},
         {"uncolouredLabel", [] { return theme::uncolouredLabel(13, 600); }},
-        {"transparentGround", [] { return theme::transparentGround(); }},
+        {"transparentBackground", [] { return theme::transparentBackground(); }},
         {"dashboardSubtitle", [] { return theme::dashboardSubtitle(); }},
         {"cardArrow", [] { return theme::cardArrow(); }},
         {"countBadge", [] { return theme::countBadge(); }},
@@ -280,7 +280,7 @@ private Q_SLOTS:
     void eachColourHasOneName()
     {
         // White has several names: these colours may differ later.
-        const QSet<QString> whites{u"white"_s, u"panel"_s, u"boxGround"_s, u"onColour"_s};
+        const QSet<QString> whites{u"white"_s, u"panel"_s, u"boxBackground"_s, u"onColour"_s};
         QHash<QRgb, QString> names;
         const auto add = [&](const QString &name, theme::Colour colour) {
             const bool isForPainting = !colour.value().startsWith("rgba("_L1);
@@ -328,7 +328,7 @@ private Q_SLOTS:
             << u"QCheckBox { color: #111827; font-size: 13px; spacing: 8px; }QCheckBox::indicator { width: 16px; height: 16px; }"_s;
         QTest::newRow("badge")
             << theme::badge({.colour = theme::muted,
-                             .background = theme::buttonGround,
+                             .background = theme::buttonBackground,
                              .radius = 10,
                              .fontSize = 12})
             << u"color: #6B7280; background-color: #F3F4F6; padding: 2px 8px; border-radius: 10px; font-size: 12px;"_s;
@@ -355,20 +355,20 @@ private Q_SLOTS:
         const auto add = [](const char *name, theme::Colour ink, theme::Colour ground) {
             QTest::newRow(name) << theme::color(ink) << theme::color(ground);
         };
-        add("text", theme::text, theme::pageGround);
-        add("quiet text on a page", theme::muted, theme::pageGround);
+        add("text", theme::text, theme::pageBackground);
+        add("quiet text on a page", theme::muted, theme::pageBackground);
         add("quiet text on a card", theme::muted, theme::white);
-        add("badge of a browser", theme::text, theme::buttonGround);
+        add("badge of a browser", theme::text, theme::buttonBackground);
         add("link", theme::text, theme::white);
-        add("link, pressed", theme::text, theme::buttonGround);
+        add("link, pressed", theme::text, theme::buttonBackground);
         add("list of sizes", theme::text, theme::white);
-        add("percentage and figure", theme::accentText, theme::pageGround);
+        add("percentage and figure", theme::accentText, theme::pageBackground);
         add("chosen entry of a menu", theme::accentText, theme::accentTint);
         add("enabled", theme::goodText, theme::goodTint);
-        add("tip", theme::goodText, theme::tipGround);
+        add("tip", theme::goodText, theme::tipBackground);
         add("message", theme::boxText, theme::white);
-        add("quiet button", theme::text, theme::buttonGround);
-        add("quiet button, pressed", theme::text, theme::pressedGround);
+        add("quiet button", theme::text, theme::buttonBackground);
+        add("quiet button, pressed", theme::text, theme::pressedBackground);
     }
 
     void textIsReadable()

@@ -77,5 +77,5 @@ AboutDialog::AboutDialog(QWidget *parent)
 
 void AboutDialog::paintEvent(QPaintEvent *)
 {
-    paintShadowedGround(20);
+    paintBackgroundWithShadow(20);
 }

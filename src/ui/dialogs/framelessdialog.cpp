@@ -16,8 +16,8 @@ void FramelessDialog::showWith(QWidget *page)
 {
     m_page = page;
     page->installEventFilter(this);
-    m_comesBack = !page->isVisible();
-    if (!m_comesBack)
+    m_returnsWithPage = !page->isVisible();
+    if (!m_returnsWithPage)
         show();
 }
 
@@ -25,9 +25,9 @@ bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_page && event->type() == QEvent::Hide && isVisible()) {
         hide();
-        m_comesBack = true;
-    } else if (watched == m_page && event->type() == QEvent::Show && m_comesBack) {
-        m_comesBack = false;
+        m_returnsWithPage = true;
+    } else if (watched == m_page && event->type() == QEvent::Show && m_returnsWithPage) {
+        m_returnsWithPage = false;
         show();
     }
     return QDialog::eventFilter(watched, event);
@@ -38,7 +38,7 @@ bool FramelessDialog::isDragArea(QPoint) const
     return true;
 }
 
-void FramelessDialog::paintGround(int radius)
+void FramelessDialog::paintBackground(int radius)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -47,7 +47,7 @@ void FramelessDialog::paintGround(int radius)
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
 
-void FramelessDialog::paintShadowedGround(int radius)
+void FramelessDialog::paintBackgroundWithShadow(int radius)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -74,12 +74,12 @@ void FramelessDialog::showEvent(QShowEvent *event)
 
 bool FramelessDialog::focusNextPrevChild(bool next)
 {
-    return QDialog::focusNextPrevChild(next) && showFocus(this);
+    return QDialog::focusNextPrevChild(next) && scrollToFocus(this);
 }
 
 void FramelessDialog::keyPressEvent(QKeyEvent *event)
 {
-    if (!enterPressesButton(this, *event))
+    if (!pressButtonByEnter(this, *event))
         QDialog::keyPressEvent(event);
 }
 

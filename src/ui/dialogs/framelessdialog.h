@@ -25,9 +25,9 @@ protected:
     [[nodiscard]] virtual bool isDragArea(QPoint position) const;
 
     /// Draws the white ground of a translucent dialog, with its border and rounded corners.
-    void paintGround(int radius);
+    void paintBackground(int radius);
     /// Draws the white ground of a translucent dialog above a shadow to its lower right.
-    void paintShadowedGround(int radius);
+    void paintBackgroundWithShadow(int radius);
 
     void showEvent(QShowEvent *event) override;
     bool focusNextPrevChild(bool next) override;
@@ -39,5 +39,5 @@ protected:
 private:
     WindowDrag m_drag{this};
     QPointer<QWidget> m_page;
-    bool m_comesBack = false; ///< it is hidden for the page's sake alone
+    bool m_returnsWithPage = false; ///< it is hidden for the page's sake alone
 };

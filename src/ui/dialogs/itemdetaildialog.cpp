@@ -65,9 +65,9 @@ ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *paren
     // The columns stand over those of the rows, which leave the scroll bar its room.
     const QScrollBar *bar = m_scrollArea->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, header, [bar, header](int, int maximum) {
-        const int room = maximum > 0 ? bar->sizeHint().width() : 0;
+        const int scrollBarWidth = maximum > 0 ? bar->sizeHint().width() : 0;
         header->layout()->setContentsMargins(columnMargin + listBorder, 0,
-                                             columnMargin + listBorder + room, 0);
+                                             columnMargin + listBorder + scrollBarWidth, 0);
     });
     m_scrollArea->setFocus();
 
@@ -145,9 +145,9 @@ bool ItemDetailDialog::hasFiles() const
 
 void ItemDetailDialog::loadMoreItems()
 {
-    if (m_loading || m_loadedCount >= m_category->items.size())
+    if (m_isLoading || m_loadedCount >= m_category->items.size())
         return;
-    m_loading = true;
+    m_isLoading = true;
     const qsizetype end = qMin(m_loadedCount + batchSize, m_category->items.size());
     for (qsizetype index = m_loadedCount; index < end; ++index) {
         auto *row = new DetailItemWidget(m_category->items.at(index), index % 2 == 1, this);
@@ -156,13 +156,13 @@ void ItemDetailDialog::loadMoreItems()
         m_rows->addWidget(row);
     }
     m_loadedCount = end;
-    m_loading = false;
-    QTimer::singleShot(0, this, &ItemDetailDialog::fillScreen);
+    m_isLoading = false;
+    QTimer::singleShot(0, this, &ItemDetailDialog::fillViewport);
 }
 
 // Until the first screen is full there is nothing to scroll and nothing that would ask for the next
 // batch.
-void ItemDetailDialog::fillScreen()
+void ItemDetailDialog::fillViewport()
 {
     const int listHeight = m_scrollArea->widget()->sizeHint().height();
     if (isVisible() && listHeight < m_scrollArea->viewport()->height() + 50)
@@ -171,7 +171,7 @@ void ItemDetailDialog::fillScreen()
 
 void ItemDetailDialog::onScrollChanged(int value)
 {
-    if (m_scrollArea->verticalScrollBar()->maximum() - value < 100 && !m_loading)
+    if (m_scrollArea->verticalScrollBar()->maximum() - value < 100 && !m_isLoading)
         loadMoreItems();
 }
 
@@ -193,11 +193,11 @@ bool ItemDetailDialog::isDragArea(QPoint position) const
 void ItemDetailDialog::resizeEvent(QResizeEvent *event)
 {
     FramelessDialog::resizeEvent(event);
-    fillScreen();
+    fillViewport();
 }
 
 void ItemDetailDialog::showEvent(QShowEvent *event)
 {
     FramelessDialog::showEvent(event);
-    QTimer::singleShot(0, this, &ItemDetailDialog::fillScreen);
+    QTimer::singleShot(0, this, &ItemDetailDialog::fillViewport);
 }

@@ -32,11 +32,11 @@ private:
     QWidget *buildTitleBar();
     QWidget *buildColumnHeader();
     [[nodiscard]] bool hasFiles() const;
-    void fillScreen();
+    void fillViewport();
 
     const CleanCategory *m_category;
     qsizetype m_loadedCount = 0;
-    bool m_loading = false;
+    bool m_isLoading = false;
     QWidget *m_titleBar = nullptr;
     QScrollArea *m_scrollArea = nullptr;
     QVBoxLayout *m_rows = nullptr;

@@ -74,7 +74,7 @@ ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
 
 void ProgressDialog::setProgress(int current, int total)
 {
-    if (total < 1 || m_finished)
+    if (total < 1 || m_isFinished)
         return;
     const int percent = static_cast<int>(static_cast<qint64>(current) * 100 / total);
     if (percent == m_bar->value())
@@ -85,7 +85,7 @@ void ProgressDialog::setProgress(int current, int total)
 
 void ProgressDialog::setDetail(const QString &text)
 {
-    if (m_finished)
+    if (m_isFinished)
         return;
     m_detail->setText(
         m_detail->fontMetrics().elidedText(singleLine(text), Qt::ElideMiddle, width() - 64));
@@ -103,7 +103,7 @@ void ProgressDialog::setCleanedSize(qint64 bytes)
 
 void ProgressDialog::showResult(bool success, const QString &message)
 {
-    m_finished = true;
+    m_isFinished = true;
     m_title->setText(success ? tr("完成!") : tr("操作失败"));
     setWindowTitle(m_title->text());
     m_icon->setText(success ? u"✓"_s : u"✕"_s);
@@ -121,7 +121,7 @@ void ProgressDialog::showResult(bool success, const QString &message)
 
 void ProgressDialog::reject()
 {
-    if (m_finished)
+    if (m_isFinished)
         QDialog::reject();
     else
         Q_EMIT cancelRequested();
@@ -129,5 +129,5 @@ void ProgressDialog::reject()
 
 void ProgressDialog::paintEvent(QPaintEvent *)
 {
-    paintGround(theme::windowRadius);
+    paintBackground(theme::windowRadius);
 }

@@ -29,7 +29,7 @@ public:
     /// Turns the dialog into the result screen, which stays until it is closed.
     void showResult(bool success, const QString &message);
 
-    [[nodiscard]] bool isFinished() const { return m_finished; }
+    [[nodiscard]] bool isFinished() const { return m_isFinished; }
 
 public Q_SLOTS:
     void reject() override;
@@ -41,7 +41,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    bool m_finished = false;
+    bool m_isFinished = false;
     QString m_cleanedSize;
     QLabel *m_icon;
     QLabel *m_title;

@@ -145,31 +145,32 @@ void RegistryBackupDialog::browse()
     if (path.isEmpty())
         return;
     m_pathEdit->setText(withSuffix(path));
-    m_replaceable = path; // the chooser has asked
+    m_pathToReplace = path; // the chooser has asked
 }
 
 void RegistryBackupDialog::accept()
 {
     const QString path = backupPath();
-    if (path.isEmpty() || prepare(path))
+    if (path.isEmpty() || prepareTarget(path))
         FramelessDialog::accept();
 }
 
-bool RegistryBackupDialog::prepare(const QString &path)
+bool RegistryBackupDialog::prepareTarget(const QString &path)
 {
-    const QString shown = singleLine(QDir::toNativeSeparators(path)).left(1024);
-    if (const QString problem = problemWith(path); !problem.isEmpty()) {
+    const QString shownPath = singleLine(QDir::toNativeSeparators(path)).left(1024);
+    if (const QString problem = targetProblem(path); !problem.isEmpty()) {
         ask::notice(this, windowTitle(),
-                    tr("The backup cannot be written here:\n%1\n\n%2").arg(shown, problem),
+                    tr("The backup cannot be written here:\n%1\n\n%2").arg(shownPath, problem),
                     QMessageBox::Warning);
         return false;
     }
-    return !QFileInfo::exists(path) || path == m_replaceable
-        || ask::question(this, windowTitle(),
-                         tr("There is a file of this name already:\n%1\n\nReplace it?").arg(shown));
+    return !QFileInfo::exists(path) || path == m_pathToReplace
+        || ask::question(
+            this, windowTitle(),
+            tr("There is a file of this name already:\n%1\n\nReplace it?").arg(shownPath));
 }
 
-QString RegistryBackupDialog::problemWith(const QString &path)
+QString RegistryBackupDialog::targetProblem(const QString &path)
 {
     const QFileInfo file(path);
     if (!QDir().mkpath(file.absolutePath()))
@@ -195,5 +196,5 @@ void RegistryBackupDialog::keyPressEvent(QKeyEvent *event)
 
 void RegistryBackupDialog::paintEvent(QPaintEvent *)
 {
-    paintGround(theme::cardRadius);
+    paintBackground(theme::cardRadius);
 }

@@ -33,11 +33,11 @@ private:
     QLayout *buildPathRow();
     QLayout *buildButtonRow();
     /// Whether a backup can go to @p path, as far as can be told now and the user wants it to.
-    [[nodiscard]] bool prepare(const QString &path);
+    [[nodiscard]] bool prepareTarget(const QString &path);
     /// Why it cannot; empty when it can.
-    [[nodiscard]] static QString problemWith(const QString &path);
+    [[nodiscard]] static QString targetProblem(const QString &path);
 
-    QString m_replaceable; ///< a file that the user has already agreed to lose
+    QString m_pathToReplace; ///< a file that the user has already agreed to lose
     QCheckBox *m_backupCheck;
     QLineEdit *m_pathEdit = nullptr;
     QPushButton *m_browseButton = nullptr;

@@ -68,5 +68,5 @@ void ScanProgressDialog::reject()
 
 void ScanProgressDialog::paintEvent(QPaintEvent *)
 {
-    paintGround(theme::windowRadius);
+    paintBackground(theme::windowRadius);
 }

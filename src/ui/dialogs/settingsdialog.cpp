@@ -66,11 +66,11 @@ void SettingsDialog::buildButtons(QVBoxLayout *layout)
     auto *row = new QHBoxLayout;
     row->setSpacing(12);
     QPushButton *about = parts::button(u"aboutBtn"_s, tr("About"), theme::framedButton(), this);
-    QPushButton *cancel = parts::button(
-        u"cancelBtn"_s, tr("Cancel"),
-        theme::dialogButton(
-            {.background = theme::buttonGround, .colour = theme::text, .hovered = theme::border}),
-        this);
+    QPushButton *cancel = parts::button(u"cancelBtn"_s, tr("Cancel"),
+                                        theme::dialogButton({.background = theme::buttonBackground,
+                                                             .colour = theme::text,
+                                                             .hovered = theme::border}),
+                                        this);
     QPushButton *save = parts::button(u"saveBtn"_s, tr("Save"),
                                       theme::dialogButton({.background = theme::accent,
                                                            .colour = theme::onColour,
@@ -127,5 +127,5 @@ void SettingsDialog::onAboutClicked()
 
 void SettingsDialog::paintEvent(QPaintEvent *)
 {
-    paintShadowedGround(theme::windowRadius);
+    paintBackgroundWithShadow(theme::windowRadius);
 }

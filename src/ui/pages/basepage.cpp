@@ -40,10 +40,10 @@ void BasePage::setEngine(CleanEngine *engine)
 {
     m_runReceiver.reset();
     closeProgressDialog();
-    letGoOfResult();
+    releaseResult();
     m_scanButton->setEnabled(true);
     m_engine = engine;
-    m_isCleanOpen = false;
+    m_isCleanPending = false;
     if (!engine)
         return;
     m_runReceiver = engine->makeRunReceiver();
@@ -217,13 +217,13 @@ void BasePage::startClean()
         return;
     }
     const bool confirm = options::isOn(*Application::instance()->settings(), options::confirmClean);
-    const auto isConfirmed = [this, count] {
+    const auto askToClean = [this, count] {
         return ask::question(this, tr("Confirm Clean"),
                              tr("Are you sure you want to clean %1 selected items?\n"
                                 "This action cannot be undone!")
                                  .arg(count));
     };
-    if (confirm && !isConfirmed())
+    if (confirm && !askToClean())
         return;
     runClean();
 }
@@ -245,18 +245,18 @@ void BasePage::runClean()
 // cancelled clean has removed part of what is listed: its end empties the list when it arrives.
 bool BasePage::canClean() const
 {
-    return !isEngineBusy() && isResultShown() && !m_isCleanOpen;
+    return !isEngineBusy() && isResultShown() && !m_isCleanPending;
 }
 
 void BasePage::onStateChanged(CleanEngine::State state)
 {
     if (state == CleanEngine::State::Cleaning)
-        m_isCleanOpen = true;
+        m_isCleanPending = true;
     if (state != CleanEngine::State::Scanning)
         return;
-    letGoOfResult();
+    releaseResult();
     // The scan replaces a cancelled clean, whose own end does not arrive any more.
-    if (std::exchange(m_isCleanOpen, false))
+    if (std::exchange(m_isCleanPending, false))
         Q_EMIT cleanFinished();
 }
 
@@ -291,7 +291,7 @@ void BasePage::cancelOperation()
     m_scanButton->setEnabled(true);
     // The list, not the engine's result: that still belongs to the worker, which winds down.
     m_cleanButton->setEnabled(isResultShown());
-    m_focus.giveBack(m_scanButton);
+    m_focus.restore(m_scanButton);
 }
 
 void BasePage::onScanProgress(int current, int total, QString currentPath)
@@ -316,7 +316,7 @@ void BasePage::onScanFinished(ScanResult)
     m_cleanButton->setEnabled(!std::as_const(*m_engine).result().categories.isEmpty());
     displayResults();
     updateSelection();
-    m_focus.giveBack(m_scanButton);
+    m_focus.restore(m_scanButton);
     Q_EMIT scanFinished();
 }
 
@@ -347,14 +347,14 @@ QList<ResultWidget *> BasePage::makeResultWidgets(QList<CleanCategory> &categori
     return widgets;
 }
 
-void BasePage::insertBar(QWidget *bar)
+void BasePage::insertTopBar(QWidget *bar)
 {
-    m_bar = bar;
+    m_topBar = bar;
     m_layout->insertWidget(1, bar);
     const auto controls = bar->findChildren<QWidget *>();
     for (QWidget *control : controls) {
         if (control->focusPolicy() != Qt::NoFocus)
-            m_lastOfBar = control;
+            m_lastBarControl = control;
     }
     orderFocus();
 }
@@ -362,7 +362,7 @@ void BasePage::insertBar(QWidget *bar)
 // The list is made after the buttons below it, but stands above them.
 void BasePage::orderFocus() const
 {
-    QWidget *previous = m_lastOfBar;
+    QWidget *previous = m_lastBarControl;
     const auto append = [&previous](QWidget *next) {
         if (previous)
             setTabOrder(previous, next);
@@ -416,10 +416,10 @@ void BasePage::onCleanFinished(qint64 totalCleaned, int itemsCleaned)
             true,
             tr("Cleaned %1 items, freed %2")
                 .arg(QString::number(itemsCleaned), formatSize(totalCleaned)));
-    m_isCleanOpen = false;
+    m_isCleanPending = false;
     m_scanButton->setEnabled(true);
-    letGoOfResult();
-    m_focus.giveBack(m_scanButton);
+    releaseResult();
+    m_focus.restore(m_scanButton);
     Q_EMIT cleanFinished();
 }
 
@@ -430,17 +430,17 @@ void BasePage::onEngineError(QString error)
     setLocked(false);
     m_scanButton->setEnabled(true);
     m_cleanButton->setEnabled(isResultShown());
-    m_focus.giveBack(m_scanButton);
+    m_focus.restore(m_scanButton);
 }
 
 void BasePage::setLocked(bool locked)
 {
     m_scrollArea->widget()->setEnabled(!locked);
-    if (m_bar)
-        m_bar->setEnabled(!locked);
+    if (m_topBar)
+        m_topBar->setEnabled(!locked);
 }
 
-void BasePage::letGoOfResult()
+void BasePage::releaseResult()
 {
     clearResults();
     setLocked(false);

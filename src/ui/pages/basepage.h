@@ -64,7 +64,7 @@ protected:
     [[nodiscard]] virtual QList<ResultWidget *> makeResultWidgets(QList<CleanCategory> &categories,
                                                                   QWidget *parent);
     /// Puts @p bar, which holds controls in the order of the eye, above the result list.
-    void insertBar(QWidget *bar);
+    void insertTopBar(QWidget *bar);
     /// Deletes all result widgets.
     virtual void clearResults();
     /// Shows what is selected now and enables the clean button accordingly.
@@ -91,7 +91,7 @@ protected:
 
 private:
     void onStateChanged(CleanEngine::State state);
-    void letGoOfResult();
+    void releaseResult();
     /// While a clean runs, the ticks on the screen mean nothing any more.
     void setLocked(bool locked);
     void closeProgressDialog();
@@ -100,7 +100,7 @@ private:
 
     CleanEngine *m_engine = nullptr;
     std::unique_ptr<QObject> m_runReceiver; ///< of its signals
-    bool m_isCleanOpen = false; ///< one has begun; the page has not heard of its end
+    bool m_isCleanPending = false; ///< one has begun; the page has not heard of its end
     bool m_showSizes = true;
     QString m_noSelectionText;
     QVBoxLayout *m_layout;
@@ -117,7 +117,7 @@ private:
     QPushButton *m_cleanButton = nullptr;
     QList<ResultWidget *> m_resultWidgets;
     FocusKeeper m_focus;
-    QWidget *m_bar = nullptr; ///< above the list, if a subclass has one
-    QWidget *m_lastOfBar = nullptr; ///< of it to take the focus
+    QWidget *m_topBar = nullptr; ///< above the list, if a subclass has one
+    QWidget *m_lastBarControl = nullptr; ///< of it to take the focus
     QPointer<ProgressDialog> m_progressDialog;
 };

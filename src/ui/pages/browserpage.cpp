@@ -44,7 +44,7 @@ void BrowserPage::buildSelectionBar()
         m_browserBoxes.append(box);
         row->addWidget(box);
     }
-    insertBar(bar);
+    insertTopBar(bar);
     // What the bar shows is what is scanned from the start: once the engine knows of one choice, it
     // leaves out every browser of which it knows none.
     for (const QCheckBox *box : std::as_const(m_browserBoxes))
@@ -56,10 +56,10 @@ void BrowserPage::onBrowserToggled(bool checked)
     const int type = sender()->property("browserType").toInt();
     m_cleaner->setBrowserEnabled(type, checked);
     // Who leaves a browser out means what is listed of it as well.
-    includeBrowser(type, checked);
+    setBrowserIncluded(type, checked);
 }
 
-void BrowserPage::includeBrowser(int type, bool included)
+void BrowserPage::setBrowserIncluded(int type, bool included)
 {
     for (const Browser &browser : m_cleaner->browsers()) {
         if (browser.type == type && m_groups.value(browser.id))
@@ -102,7 +102,7 @@ QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categ
     // One may have been left out while the scan ran.
     for (const QCheckBox *box : std::as_const(m_browserBoxes)) {
         if (!box->isChecked())
-            includeBrowser(box->property("browserType").toInt(), false);
+            setBrowserIncluded(box->property("browserType").toInt(), false);
     }
     QList<ResultWidget *> widgets;
     std::copy_if(groups.begin(), groups.end(), std::back_inserter(widgets),

@@ -29,7 +29,7 @@ protected:
 private:
     void buildSelectionBar();
     void onBrowserToggled(bool checked);
-    void includeBrowser(int type, bool included);
+    void setBrowserIncluded(int type, bool included);
 
     BrowserCleaner *m_cleaner;
     QLabel *m_selectLabel = nullptr;

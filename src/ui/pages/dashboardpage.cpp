@@ -49,7 +49,7 @@ void DashboardPage::setScanning(bool scanning)
         return;
     }
     show();
-    m_focus.giveBack(this);
+    m_focus.restore(this);
 }
 
 void DashboardPage::updateProgress(int percent, const QString &currentPath)

@@ -30,7 +30,7 @@ namespace {
 
 constexpr qint64 mebibyte = 1'048'576;
 constexpr qint64 defaultSize = 100 * mebibyte;
-constexpr int patience = 300; // milliseconds
+constexpr int deletionDialogDelay = 300; // milliseconds
 
 } // namespace
 
@@ -59,12 +59,12 @@ LargeFilePage::LargeFilePage(const QList<DriveInfo> &drives, QWidget *parent)
     connect(m_results->backButton(), &QPushButton::clicked, this, &LargeFilePage::onBackClicked);
     connect(m_results->deleteButton(), &QPushButton::clicked, this,
             &LargeFilePage::onDeleteSelected);
-    connect(m_results->list(), &FileCardList::cardMade, this, &LargeFilePage::serveCard);
+    connect(m_results->list(), &FileCardList::cardCreated, this, &LargeFilePage::connectCard);
     listenToScanner();
     connect(qApp, &QCoreApplication::aboutToQuit, &m_scanner, &LargeFileScanner::cancel);
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(patience);
-    connect(&m_patience, &QTimer::timeout, this, &LargeFilePage::showDeletion);
+    m_deletionDialogTimer.setSingleShot(true);
+    m_deletionDialogTimer.setInterval(deletionDialogDelay);
+    connect(&m_deletionDialogTimer, &QTimer::timeout, this, &LargeFilePage::showDeletionDialog);
 }
 
 LargeFilePage::~LargeFilePage() = default;
@@ -139,38 +139,38 @@ void LargeFilePage::onSizeComboChanged(int index)
 
 void LargeFilePage::onScanStarted()
 {
-    closeDialog();
+    closeScanDialog();
     m_model.setFiles({});
     updateSelectedInfo();
-    m_dialog = new ScanProgressDialog(this);
-    connect(m_dialog, &ScanProgressDialog::cancelRequested, this, &LargeFilePage::onCancelScan);
-    m_dialog->showWith(this);
+    m_scanDialog = new ScanProgressDialog(this);
+    connect(m_scanDialog, &ScanProgressDialog::cancelRequested, this, &LargeFilePage::onCancelScan);
+    m_scanDialog->showWith(this);
 }
 
 void LargeFilePage::onScanProgress(int, QString currentPath, int foundCount, qint64 totalSize)
 {
-    if (m_dialog)
-        m_dialog->updateProgress(currentPath, foundCount, totalSize);
+    if (m_scanDialog)
+        m_scanDialog->updateProgress(currentPath, foundCount, totalSize);
 }
 
 void LargeFilePage::onCancelScan()
 {
     m_scanner.cancel();
-    closeDialog();
+    closeScanDialog();
 }
 
-void LargeFilePage::closeDialog()
+void LargeFilePage::closeScanDialog()
 {
-    if (!m_dialog)
+    if (!m_scanDialog)
         return;
-    m_dialog->hide();
-    m_dialog->deleteLater();
-    m_dialog.clear();
+    m_scanDialog->hide();
+    m_scanDialog->deleteLater();
+    m_scanDialog.clear();
 }
 
 void LargeFilePage::onScanFinished(int totalFound, qint64 totalSize)
 {
-    closeDialog();
+    closeScanDialog();
     if (totalFound == 0) {
         ask::notice(this, tr("Scan Completed"),
                     tr("No large files found that match the criteria."));
@@ -185,7 +185,7 @@ void LargeFilePage::onScanFinished(int totalFound, qint64 totalSize)
         m_results->list()->tabStop()->setFocus();
 }
 
-void LargeFilePage::serveCard(FileCard *card)
+void LargeFilePage::connectCard(FileCard *card)
 {
     connect(card->checkBox(), &QCheckBox::toggled, this, &LargeFilePage::onFileCheckChanged);
     connect(card, &QWidget::customContextMenuRequested, this,
@@ -234,21 +234,21 @@ void LargeFilePage::showFileMenu(FileCard *card, QPoint position)
     QAction *remove = menu->addAction(tr("🗑️ Delete this file"));
     remove->setProperty("filePath", file.path);
     remove->setProperty("card", QVariant::fromValue<QWidget *>(card));
-    connect(remove, &QAction::triggered, this, [this, file, row] { deleteOne(file, row); });
+    connect(remove, &QAction::triggered, this, [this, file, row] { deleteFile(file, row); });
     menu->popup(card->mapToGlobal(position));
 }
 
-void LargeFilePage::deleteOne(const LargeFileInfo &file, int row)
+void LargeFilePage::deleteFile(const LargeFileInfo &file, int row)
 {
     const QString question = tr("Are you sure you want to delete this file?\n\n%1\nSize: %2\n\n"
                                 "This action cannot be undone!")
                                  .arg(singleLine(file.path).left(1024), formatSize(file.size));
     if (!ask::question(this, tr("Confirm Delete"), question))
         return;
-    const bool isStillThere =
+    const bool isSameFile =
         row >= 0 && row < m_model.rowCount() && m_model.at(row).path == file.path;
-    if (isStillThere)
-        startDeletion(Deletion::OfOne, {row});
+    if (isSameFile)
+        startDeletion(Deletion::OneFile, {row});
 }
 
 void LargeFilePage::onDeleteSelected()
@@ -264,7 +264,7 @@ void LargeFilePage::onDeleteSelected()
         return;
     // Exactly those that were asked about, or none.
     if (rows == m_model.tickedRows())
-        startDeletion(Deletion::OfTicked, rows);
+        startDeletion(Deletion::TickedFiles, rows);
 }
 
 void LargeFilePage::startDeletion(Deletion kind, const QList<int> &rows)
@@ -272,17 +272,17 @@ void LargeFilePage::startDeletion(Deletion kind, const QList<int> &rows)
     if (m_scanner.isRunning() || m_scanner.isDeleting())
         return;
     m_deletion = kind;
-    m_deletedRows = rows;
+    m_rowsToDelete = rows;
     m_focus.keep(this, [this] { m_results->setEnabled(false); });
     QList<LargeFileInfo> files;
     files.reserve(rows.size());
     for (const int row : rows)
         files.append(m_model.at(row));
-    m_patience.start();
+    m_deletionDialogTimer.start();
     m_scanner.startDelete(files);
 }
 
-void LargeFilePage::showDeletion()
+void LargeFilePage::showDeletionDialog()
 {
     m_deletionDialog = new ProgressDialog(ProgressDialog::Cleaning, this);
     connect(m_deletionDialog, &ProgressDialog::cancelRequested, &m_scanner,
@@ -300,29 +300,29 @@ void LargeFilePage::onDeleteProgress(int done, int total, qint64 size)
 
 void LargeFilePage::onDeleteFinished(const QBitArray &deleted, int tried)
 {
-    m_patience.stop();
+    m_deletionDialogTimer.stop();
     delete m_deletionDialog;
-    QList<int> gone;
-    for (qsizetype i = 0; i < m_deletedRows.size(); ++i) {
+    QList<int> deletedRows;
+    for (qsizetype i = 0; i < m_rowsToDelete.size(); ++i) {
         if (deleted.testBit(i))
-            gone.append(m_deletedRows.at(i));
+            deletedRows.append(m_rowsToDelete.at(i));
     }
-    m_deletedRows.clear();
+    m_rowsToDelete.clear();
     m_results->setEnabled(true);
-    m_model.removeRows(gone);
+    m_model.removeRows(deletedRows);
     updateSelectedInfo();
     updateSummary();
     QWidget *rows = m_results->list()->tabStop();
     if (m_results->list()->isAncestorOf(m_focus.control()))
         m_focus.replaceControl(rows); // the card that had it may show another file now
-    m_focus.giveBack(rows ? rows : m_results->backButton());
-    const auto count = static_cast<int>(gone.size());
-    tellOutcome(m_deletion, count, tried - count);
+    m_focus.restore(rows ? rows : m_results->backButton());
+    const auto count = static_cast<int>(deletedRows.size());
+    showOutcome(m_deletion, count, tried - count);
 }
 
-void LargeFilePage::tellOutcome(Deletion kind, int deleted, int failed)
+void LargeFilePage::showOutcome(Deletion kind, int deleted, int failed)
 {
-    if (kind == Deletion::OfTicked) {
+    if (kind == Deletion::TickedFiles) {
         QString message = tr("Deleted %1 files successfully.").arg(deleted);
         if (failed > 0)
             message += tr(" %1 files failed to delete.").arg(failed);

@@ -55,19 +55,19 @@ protected:
 
 private:
     /// What a deletion was asked for by, which decides what is said at its end.
-    enum class Deletion { OfTicked, OfOne };
+    enum class Deletion { TickedFiles, OneFile };
 
     void listenToScanner();
-    void closeDialog();
-    void serveCard(FileCard *card);
+    void closeScanDialog();
+    void connectCard(FileCard *card);
     void showFileMenu(FileCard *card, QPoint position);
     /// Asks, and deletes the file if it still stands in @p row.
-    void deleteOne(const LargeFileInfo &file, int row);
+    void deleteFile(const LargeFileInfo &file, int row);
     void startDeletion(Deletion kind, const QList<int> &rows);
-    void showDeletion();
+    void showDeletionDialog();
     void onDeleteProgress(int done, int total, qint64 size);
     void onDeleteFinished(const QBitArray &deleted, int tried);
-    void tellOutcome(Deletion kind, int deleted, int failed);
+    void showOutcome(Deletion kind, int deleted, int failed);
     void updateSummary();
 
     LargeFileScanner m_scanner;
@@ -77,10 +77,10 @@ private:
     LargeFileSelectionView *m_selection;
     LargeFileResultsView *m_results;
     qint64 m_customSize = 0; ///< bytes
-    QPointer<ScanProgressDialog> m_dialog;
-    Deletion m_deletion = Deletion::OfTicked;
-    QList<int> m_deletedRows; ///< that the scanner is deleting
+    QPointer<ScanProgressDialog> m_scanDialog;
+    Deletion m_deletion = Deletion::TickedFiles;
+    QList<int> m_rowsToDelete; ///< that the scanner is deleting
     FocusKeeper m_focus; ///< while the results are locked
-    QTimer m_patience; ///< a deletion that takes longer shows its dialog
+    QTimer m_deletionDialogTimer; ///< a deletion that takes longer shows its dialog
     QPointer<ProgressDialog> m_deletionDialog;
 };

@@ -26,9 +26,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype cardsAtOnce = 12; ///< more than the page shows without scrolling
+constexpr qsizetype cardsPerBatch = 12; ///< more than the page shows without scrolling
 
-void setQuietly(QCheckBox *box, bool checked)
+void setCheckedSilently(QCheckBox *box, bool checked)
 {
     const QSignalBlocker blocker(box);
     box->setChecked(checked);
@@ -149,7 +149,7 @@ void StartupPage::onRefreshClicked()
 void StartupPage::startLoading()
 {
     m_loadingTimer.stop();
-    m_frame = -1;
+    m_loadingFrame = -1;
     updateLoadingAnimation();
     m_loadingPanel->show();
     m_loadingTimer.start();
@@ -158,8 +158,8 @@ void StartupPage::startLoading()
 void StartupPage::updateLoadingAnimation()
 {
     static const std::array frames{u"●"_s, u"◐"_s, u"◑"_s, u"◒"_s};
-    m_frame = (m_frame + 1) % static_cast<int>(frames.size());
-    m_loadingSymbol->setText(frames[static_cast<size_t>(m_frame)]);
+    m_loadingFrame = (m_loadingFrame + 1) % static_cast<int>(frames.size());
+    m_loadingSymbol->setText(frames[static_cast<size_t>(m_loadingFrame)]);
 }
 
 void StartupPage::doLoadApps()
@@ -190,12 +190,12 @@ void StartupPage::refreshList()
     std::sort(m_apps.begin(), m_apps.end(), [](const StartupApp &left, const StartupApp &right) {
         return left.name.localeAwareCompare(right.name) < 0;
     });
-    const QString wanted = m_search->text().toLower();
-    m_pending.clear();
-    std::copy_if(m_apps.cbegin(), m_apps.cend(), std::back_inserter(m_pending),
-                 [&wanted](const StartupApp &app) {
-                     return app.name.toLower().contains(wanted)
-                         || app.exePath.toLower().contains(wanted);
+    const QString searchText = m_search->text().toLower();
+    m_pendingApps.clear();
+    std::copy_if(m_apps.cbegin(), m_apps.cend(), std::back_inserter(m_pendingApps),
+                 [&searchText](const StartupApp &app) {
+                     return app.name.toLower().contains(searchText)
+                         || app.exePath.toLower().contains(searchText);
                  });
     showCounts();
     addCards();
@@ -204,14 +204,14 @@ void StartupPage::refreshList()
 // The first ones at once, the rest between the user's key strokes.
 void StartupPage::addCards()
 {
-    for (qsizetype made = 0; made < cardsAtOnce && !m_pending.isEmpty(); ++made) {
-        const StartupApp app = m_pending.takeFirst();
+    for (qsizetype count = 0; count < cardsPerBatch && !m_pendingApps.isEmpty(); ++count) {
+        const StartupApp app = m_pendingApps.takeFirst();
         const QIcon icon = m_icons.icon(QFileInfo(platform::localPath(app.exePath)));
         auto *card = new StartupCard(app, icon, m_scrollArea->widget());
         connect(card->checkBox(), &QCheckBox::toggled, this, &StartupPage::onItemToggled);
         m_list->insertWidget(m_list->count() - 1, card);
     }
-    if (m_pending.isEmpty())
+    if (m_pendingApps.isEmpty())
         m_cardTimer.stop();
     else
         m_cardTimer.start();
@@ -238,8 +238,9 @@ void StartupPage::onItemToggled(bool checked)
     if (app == m_apps.end())
         return;
     if (!m_manager.setStartup(*app, checked)) {
-        setQuietly(box, !checked);
-        warn(checked ? tr("Failed to add startup item") : tr("Failed to remove startup item"));
+        setCheckedSilently(box, !checked);
+        showWarning(checked ? tr("Failed to add startup item")
+                            : tr("Failed to remove startup item"));
         return;
     }
     showStates();
@@ -255,18 +256,18 @@ void StartupPage::showStates()
     QHash<QString, bool> states;
     for (const StartupApp &app : m_manager.apps())
         states.insert(app.exePath, app.isStartup);
-    for (QList<StartupApp> *list : {&m_apps, &m_pending}) {
+    for (QList<StartupApp> *list : {&m_apps, &m_pendingApps}) {
         for (StartupApp &app : *list)
             app.isStartup = states.value(app.exePath, app.isStartup);
     }
     for (StartupCard *card : m_scrollArea->widget()->findChildren<StartupCard *>()) {
         const bool isStartup = states.value(card->property("appExePath").toString());
-        setQuietly(card->checkBox(), isStartup);
+        setCheckedSilently(card->checkBox(), isStartup);
         card->showState(isStartup);
     }
 }
 
-void StartupPage::warn(const QString &text)
+void StartupPage::showWarning(const QString &text)
 {
     ask::notice(this, tr("Operation Failed"), text, QMessageBox::Warning, m_manager.errorString());
 }

@@ -39,16 +39,16 @@ private:
     void addCards();
     void showCounts();
     void showStates();
-    void warn(const QString &text);
+    void showWarning(const QString &text);
 
     StartupManager m_manager;
     QList<StartupApp> m_apps; ///< sorted as they are shown
     qsizetype m_programCount = 0;
-    QList<StartupApp> m_pending; ///< chosen by the search and not yet a card
+    QList<StartupApp> m_pendingApps; ///< chosen by the search and not yet a card
     QFileIconProvider m_icons;
     QTimer m_cardTimer; ///< makes the cards that are not seen at once
     QTimer m_loadingTimer;
-    int m_frame = 0;
+    int m_loadingFrame = 0;
     bool m_hasLoaded = false;
 
     QLineEdit *m_search = nullptr;

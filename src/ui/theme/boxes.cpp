@@ -47,7 +47,7 @@ QMenu::item {
     border-radius: {smallRadius}px;
     margin: 1px 4px;
 }
-QMenu::item:selected { background-color: {buttonGround}; }
+QMenu::item:selected { background-color: {buttonBackground}; }
 QMenu::separator { height: 1px; background: {border}; margin: 4px 12px; }
 )");
 }
@@ -55,7 +55,7 @@ QMenu::separator { height: 1px; background: {border}; margin: 4px 12px; }
 QString aboutBox()
 {
     return fill(uR"(
-QMessageBox { background-color: {boxGround}; }
+QMessageBox { background-color: {boxBackground}; }
 QMessageBox QLabel { color: {boxText}; font-size: 13px; }
 QPushButton {
     background-color: {accent};

@@ -50,8 +50,8 @@ QPushButton:pressed {
 }
 QPushButton:focus { border-color: {text}; }
 QPushButton:disabled {
-    background-color: {buttonGround};
-    border-color: {buttonGround};
+    background-color: {buttonBackground};
+    border-color: {buttonBackground};
     color: {faint};
 }
 )",
@@ -62,14 +62,14 @@ QString quietButton(const ButtonShape &shape)
 {
     return fill(uR"(
 QPushButton {
-    background-color: {buttonGround};
+    background-color: {buttonBackground};
     color: {text};
-    border: 2px solid {buttonGround};
+    border: 2px solid {buttonBackground};
     border-radius: {radius}px;
     font-size: {fontSize}px;
 }
 QPushButton:hover { background-color: {border}; border-color: {border}; }
-QPushButton:pressed { background-color: {pressedGround}; border-color: {pressedGround}; }
+QPushButton:pressed { background-color: {pressedBackground}; border-color: {pressedBackground}; }
 QPushButton:focus { border-color: {text}; }
 QPushButton:disabled { color: {faint}; }
 )",
@@ -129,18 +129,18 @@ QString framedButton()
 {
     return fill(u"QPushButton { background-color: transparent; color: {text};"
                 " border: 1px solid {border}; border-radius: {controlRadius}px; font-size: 13px; }"
-                "QPushButton:hover { background-color: {buttonGround}; }"
+                "QPushButton:hover { background-color: {buttonBackground}; }"
                 "QPushButton:pressed { background-color: {border}; }"
                 "QPushButton:focus { border: 2px solid {text}; }");
 }
 
 QString badgeButton()
 {
-    const QString look = badge({.colour = muted, .background = buttonGround});
+    const QString look = badge({.colour = muted, .background = buttonBackground});
     return fill(uR"(
 QPushButton { {badge} border: none; }
 QPushButton:hover { background-color: {border}; }
-QPushButton:pressed { background-color: {pressedGround}; }
+QPushButton:pressed { background-color: {pressedBackground}; }
 QPushButton:focus { border: 2px solid {text}; padding: 0 6px; }
 )",
                 {{"badge", look}});
@@ -148,10 +148,10 @@ QPushButton:focus { border: 2px solid {text}; padding: 0 6px; }
 
 QString loadMoreButton()
 {
-    return fill(u"QPushButton {  background-color: {pageGround};  color: {accent};"
+    return fill(u"QPushButton {  background-color: {pageBackground};  color: {accent};"
                 "  border: 1px solid {border};  border-radius: {smallRadius}px;"
                 "  padding: 8px 16px;  font-size: 13px;}"
-                "QPushButton:hover {  background-color: {buttonGround};}"
+                "QPushButton:hover {  background-color: {buttonBackground};}"
                 "QPushButton:pressed {  background-color: {border};}"
                 "QPushButton:focus {  border: 2px solid {text};  padding: 7px 15px;}");
 }
@@ -175,7 +175,7 @@ QPushButton {
     padding: 2px 0;
 }
 QPushButton:hover { text-decoration: underline; }
-QPushButton:pressed { background-color: {buttonGround}; }
+QPushButton:pressed { background-color: {buttonBackground}; }
 QPushButton:focus { border-color: {text}; }
 )");
 }
@@ -188,7 +188,7 @@ QPushButton {
     border-radius: {smallRadius}px;
     background: transparent;
 }
-QPushButton:hover { background-color: {buttonGround}; }
+QPushButton:hover { background-color: {buttonBackground}; }
 QPushButton:pressed { background-color: {border}; }
 QPushButton:focus { border-color: {text}; }
 )");

@@ -44,7 +44,7 @@ QString statCard(const QString &objectName)
 
 QString tipBox(const QString &objectName)
 {
-    return fill(u"#{name} { background: {tipGround};border: 1px solid {tipBorder};"
+    return fill(u"#{name} { background: {tipBackground};border: 1px solid {tipBorder};"
                 "border-radius: {cardRadius}px; }",
                 {{"name", objectName}});
 }
@@ -60,7 +60,7 @@ QString browserGroupHeader(bool isExpanded)
     border-bottom-left-radius: {lowerRadius}px;
     border-bottom-right-radius: {lowerRadius}px;
 }
-#browserGroupHeader:hover { background-color: {pageGround}; }
+#browserGroupHeader:hover { background-color: {pageBackground}; }
 )",
                 {{"lowerRadius", isExpanded ? 0 : cardRadius}});
 }
@@ -76,7 +76,7 @@ QString browserGroupContent()
     border-bottom-right-radius: {cardRadius}px;
 }
 #browserSubItem { background: transparent; }
-#browserSubItem:hover { background-color: {pageGround}; }
+#browserSubItem:hover { background-color: {pageBackground}; }
 )");
 }
 

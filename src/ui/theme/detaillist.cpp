@@ -32,8 +32,8 @@ QPushButton:focus { border-color: {onColour}; }
 
 QString detailColumnHeader()
 {
-    return fill(
-        u"#detailHeader { background-color: {pageGround}; border-bottom: 1px solid {border}; }");
+    return fill(u"#detailHeader { background-color: {pageBackground}; border-bottom: 1px solid "
+                u"{border}; }");
 }
 
 QString detailScrollArea()
@@ -53,7 +53,7 @@ QString detailRow(bool isStriped)
 {
     return fill(uR"(
 #detailItem { background-color: {background}; }
-#detailItem:hover { background-color: {buttonGround}; }
+#detailItem:hover { background-color: {buttonBackground}; }
 )",
                 {{"background", isStriped ? stripe : white}});
 }

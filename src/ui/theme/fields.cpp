@@ -16,7 +16,7 @@ QLineEdit {
     font-size: 13px;
 }
 QLineEdit:focus { border-color: {accent}; }
-QLineEdit:disabled { background-color: {buttonGround}; color: {faint}; }
+QLineEdit:disabled { background-color: {buttonBackground}; color: {faint}; }
 )",
                 {{"radius", radius}});
 }

@@ -22,7 +22,7 @@ QString labelSizeFirst(Colour colour, int fontSize, int weight)
 
 QString transparentLabel(Colour colour, int fontSize, int weight)
 {
-    return label(colour, fontSize, weight) + u' ' + transparentGround();
+    return label(colour, fontSize, weight) + u' ' + transparentBackground();
 }
 
 QString uncolouredLabel(int fontSize, int weight)
@@ -31,7 +31,7 @@ QString uncolouredLabel(int fontSize, int weight)
     return weight == 0 ? style : style + fill(u" font-weight: {weight};", {{"weight", weight}});
 }
 
-QString transparentGround()
+QString transparentBackground()
 {
     return fill(u"background: transparent; border: none;");
 }
@@ -97,8 +97,9 @@ QString categoryIcon()
 
 QString browserIcon()
 {
-    return fill(u"background: {buttonGround}; border-radius: {controlRadius}px; color: {onColour};"
-                " font-size: 16px; font-weight: bold;");
+    return fill(
+        u"background: {buttonBackground}; border-radius: {controlRadius}px; color: {onColour};"
+        " font-size: 16px; font-weight: bold;");
 }
 
 QString resultIcon(Colour background)

@@ -15,7 +15,7 @@ namespace theme {
 /// A text that takes its colour from the widget around it.
 [[nodiscard]] QString uncolouredLabel(int fontSize, int weight = 0);
 /// A widget without a ground or a frame of its own.
-[[nodiscard]] QString transparentGround();
+[[nodiscard]] QString transparentBackground();
 /// The line below the dashboard's title.
 [[nodiscard]] QString dashboardSubtitle();
 /// The arrow at the end of a card that leads on.

@@ -50,16 +50,17 @@ Filled fillHoles(QStringView style, std::initializer_list<Value> values)
     Filled filled;
     filled.text.reserve(style.size() + style.size() / 4);
     QVarLengthArray<bool, 8> isUsed(static_cast<qsizetype>(values.size()), false);
-    qsizetype done = 0;
+    qsizetype copiedEnd = 0;
     for (qsizetype brace = style.indexOf(u'{'); brace >= 0;
          brace = style.indexOf(u'{', brace + 1)) {
         const QStringView hole = holeAt(style, brace);
         if (hole.isEmpty())
             continue;
-        filled.text += style.sliced(done, brace - done);
-        done = brace + hole.size() + 2;
-        const auto *value = std::find_if(values.begin(), values.end(),
-                                         [hole](const Value &one) { return one.hole == hole; });
+        filled.text += style.sliced(copiedEnd, brace - copiedEnd);
+        copiedEnd = brace + hole.size() + 2;
+        const auto *value =
+            std::find_if(values.begin(), values.end(),
+                         [hole](const Value &candidate) { return candidate.hole == hole; });
         if (value != values.end()) {
             filled.text += value->text;
             isUsed[value - values.begin()] = true;
@@ -69,7 +70,7 @@ Filled fillHoles(QStringView style, std::initializer_list<Value> values)
             filled.faults += u"no value for the hole \"%1\""_s.arg(hole);
         }
     }
-    filled.text += style.sliced(done);
+    filled.text += style.sliced(copiedEnd);
     for (const Value &value : values) {
         if (!isUsed[&value - values.begin()])
             filled.faults += u"no hole for the value \"%1\""_s.arg(value.hole);

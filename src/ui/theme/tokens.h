@@ -24,13 +24,13 @@
     COLOUR(muted, "#6B7280") /* text of less weight */                                             \
     COLOUR(faint, "#9CA3AF") /* paths, hints, what is disabled */                                  \
     COLOUR(border, "#E5E7EB") /* frames, tracks, grey buttons under the mouse */                   \
-    COLOUR(buttonGround, "#F3F4F6") /* grey buttons, badges and icon boxes */                      \
-    COLOUR(pressedGround, "#D1D5DB") /* a grey button pressed; handles of scroll bars */           \
-    COLOUR(pageGround, "#F9FAFB") /* the window, and a row under the mouse */                      \
+    COLOUR(buttonBackground, "#F3F4F6") /* grey buttons, badges and icon boxes */                  \
+    COLOUR(pressedBackground, "#D1D5DB") /* a grey button pressed; handles of scroll bars */       \
+    COLOUR(pageBackground, "#F9FAFB") /* the window, and a row under the mouse */                  \
     COLOUR(stripe, "#FAFBFC") /* every other row of a list */                                      \
     COLOUR(white, "#FFFFFF") /* cards, dialogs, fields; drawings on the accent */                  \
     COLOUR(panel, "white") /* menus, the cards of the dashboard, the logo */                       \
-    COLOUR(boxGround, "#ffffff") /* message boxes */                                               \
+    COLOUR(boxBackground, "#ffffff") /* message boxes */                                           \
     COLOUR(boxText, "#333333") /* text of message boxes */                                         \
     COLOUR(onColour, "white") /* text on a coloured ground */                                      \
     COLOUR(shadow, "#000000") /* shadows, with an opacity */                                       \
@@ -41,7 +41,7 @@
     COLOUR(browserTint, "#DBEAFE") /* a pale ground of it */                                       \
     COLOUR(goodText, "#166534") /* text of good news: a program is enabled, a tip */               \
     COLOUR(goodTint, "#DCFCE7") /* its ground */                                                   \
-    COLOUR(tipGround, "#F0FDF4") /* the box of a tip */                                            \
+    COLOUR(tipBackground, "#F0FDF4") /* the box of a tip */                                        \
     COLOUR(tipBorder, "#BBF7D0") /* its frame */                                                   \
     COLOUR(menuBorder, "#e2e8f0") /* the frame and the lines of the window's menu */               \
     COLOUR(navEntry, "rgba(255,255,255,230)") /* an entry of the navigation; in styles only */     \

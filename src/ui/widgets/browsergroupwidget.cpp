@@ -69,7 +69,7 @@ void BrowserGroupWidget::buildHeader(const QString &name)
     layout->addWidget(title);
 
     m_count = parts::label(
-        {}, theme::badge({.colour = theme::text, .background = theme::buttonGround}), m_header);
+        {}, theme::badge({.colour = theme::text, .background = theme::buttonBackground}), m_header);
     m_count->setObjectName("browserItemCount"_L1);
     m_count->hide();
     layout->addWidget(m_count, 0, Qt::AlignVCenter);
@@ -133,11 +133,11 @@ void BrowserGroupWidget::onHeaderChanged(int state)
 {
     if (state == Qt::PartiallyChecked)
         return;
-    const bool tick = state == Qt::Checked
+    const bool shouldTick = state == Qt::Checked
         && std::any_of(m_subItems.cbegin(), m_subItems.cend(),
                        [](const BrowserSubItem *subItem) { return subItem->hasMoreToTick(); });
     for (BrowserSubItem *subItem : std::as_const(m_subItems)) {
-        if (tick)
+        if (shouldTick)
             subItem->tickUnguarded();
         else
             subItem->setChecked(false);
@@ -148,14 +148,14 @@ void BrowserGroupWidget::onHeaderChanged(int state)
 
 void BrowserGroupWidget::showCheckState()
 {
-    const auto all = [this](Qt::CheckState state) {
+    const auto areAll = [this](Qt::CheckState state) {
         return std::all_of(
             m_subItems.begin(), m_subItems.end(),
             [state](const BrowserSubItem *subItem) { return subItem->checkState() == state; });
     };
-    const Qt::CheckState state = all(Qt::Unchecked) ? Qt::Unchecked
-        : all(Qt::Checked)                          ? Qt::Checked
-                                                    : Qt::PartiallyChecked;
+    const Qt::CheckState state = areAll(Qt::Unchecked) ? Qt::Unchecked
+        : areAll(Qt::Checked)                          ? Qt::Checked
+                                                       : Qt::PartiallyChecked;
     const QSignalBlocker blocker(m_checkBox);
     m_checkBox->setTristate(state == Qt::PartiallyChecked);
     m_checkBox->setCheckState(state);

@@ -46,7 +46,7 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
 
     m_checkBox->setObjectName("subItemCheck"_L1);
     m_checkBox->setAccessibleName(name);
-    m_checkBox->setAccessibleDescription(risk::described(*category));
+    m_checkBox->setAccessibleDescription(risk::description(*category));
     m_checkBox->setWhatsThis(plainToolTip(m_checkBox->accessibleDescription()));
     showCheckState();
     connect(m_checkBox, &QCheckBox::stateChanged, this, &BrowserSubItem::onStateChanged);

@@ -112,7 +112,7 @@ void CategoryWidget::buildHeader()
     m_checkBox = new QCheckBox(m_header);
     m_checkBox->setObjectName("categoryCheck"_L1);
     m_checkBox->setAccessibleName(m_name->text());
-    m_checkBox->setAccessibleDescription(risk::described(*m_category));
+    m_checkBox->setAccessibleDescription(risk::description(*m_category));
     m_checkBox->setWhatsThis(plainToolTip(m_checkBox->accessibleDescription()));
     connect(m_checkBox, &QCheckBox::clicked, this, &CategoryWidget::setChecked);
     layout->addWidget(m_checkBox);

@@ -22,13 +22,13 @@ namespace {
 // take what is reserved, so that the texts are shortened to exactly the room that is left.
 constexpr int margin = 10;
 constexpr int spacing = 8;
-constexpr int checkWidth = 18;
+constexpr int checkBoxWidth = 18;
 constexpr int riskWidth = 58;
 constexpr int sizeWidth = 66;
 constexpr int reservedWidth = 186;
-static_assert(2 * margin + 3 * spacing + checkWidth + riskWidth + sizeWidth == reservedWidth);
+static_assert(2 * margin + 3 * spacing + checkBoxWidth + riskWidth + sizeWidth == reservedWidth);
 
-constexpr qsizetype longestRemark = 1024; ///< one on a registry entry may quote any value
+constexpr qsizetype maxRemarkLength = 1024; ///< one on a registry entry may quote any value
 
 } // namespace
 
@@ -45,15 +45,15 @@ CleanItemWidget::CleanItemWidget(CleanCategory *category, qsizetype index, QWidg
     m_checkBox = new QCheckBox(this);
     m_checkBox->setChecked(item().checked);
     m_checkBox->setAccessibleName(singleLine(item().name));
-    QStringList said{risk::spoken(item().riskLevel), formatSize(item().size),
-                     singleLine(item().path)};
-    const QString remark = singleLine(item().description.left(longestRemark));
+    QStringList descriptionParts{risk::sentence(item().riskLevel), formatSize(item().size),
+                                 singleLine(item().path)};
+    const QString remark = singleLine(item().description.left(maxRemarkLength));
     if (!remark.isEmpty())
-        said.append(remark);
-    m_checkBox->setAccessibleDescription(said.join(", "_L1));
+        descriptionParts.append(remark);
+    m_checkBox->setAccessibleDescription(descriptionParts.join(", "_L1));
     setToolTip(plainToolTip(remark));
     connect(m_checkBox, &QCheckBox::toggled, this, &CleanItemWidget::checkChanged);
-    m_checkBox->setFixedWidth(checkWidth);
+    m_checkBox->setFixedWidth(checkBoxWidth);
     layout->addWidget(m_checkBox);
     setFocusProxy(m_checkBox);
 
@@ -118,13 +118,13 @@ void CleanItemWidget::resizeEvent(QResizeEvent *event)
 
 void CleanItemWidget::enterEvent(QEnterEvent *)
 {
-    m_hovered = true;
+    m_isHovered = true;
     update();
 }
 
 void CleanItemWidget::leaveEvent(QEvent *)
 {
-    m_hovered = false;
+    m_isHovered = false;
     update();
 }
 
@@ -136,8 +136,8 @@ void CleanItemWidget::mouseReleaseEvent(QMouseEvent *event)
 
 void CleanItemWidget::paintEvent(QPaintEvent *)
 {
-    if (!m_hovered)
+    if (!m_isHovered)
         return;
     QPainter painter(this);
-    painter.fillRect(rect(), theme::color(theme::pageGround));
+    painter.fillRect(rect(), theme::color(theme::pageBackground));
 }

@@ -45,5 +45,5 @@ private:
     ElidedLabel *m_path;
     QLabel *m_risk;
     QLabel *m_size;
-    bool m_hovered = false;
+    bool m_isHovered = false;
 };

@@ -21,8 +21,8 @@ namespace {
 
 constexpr int textWidth = 112; ///< of the card without its border and margins
 
-constexpr int nearlyFull = 71; // percent, from which on the bar warns
-constexpr int full = 91;
+constexpr int nearlyFullPercent = 71; // percent, from which on the bar warns
+constexpr int fullPercent = 91;
 
 QString shortName(const DriveInfo &drive)
 {
@@ -63,16 +63,17 @@ DriveCard::DriveCard(const DriveInfo &drive, QWidget *parent)
     layout->setContentsMargins(12, 10, 12, 10);
     layout->addLayout(buildTopRow(drive));
 
-    const DriveInfo named{drive.rootPath, drive.name.isEmpty() ? tr("Local Disk") : drive.name,
-                          drive.isRemovable, drive.totalBytes, drive.freeBytes};
-    auto *name = parts::label(shortName(named), theme::label(theme::muted, 12), this);
+    const DriveInfo namedDrive{drive.rootPath, drive.name.isEmpty() ? tr("Local Disk") : drive.name,
+                               drive.isRemovable, drive.totalBytes, drive.freeBytes};
+    auto *name = parts::label(shortName(namedDrive), theme::label(theme::muted, 12), this);
     name->setObjectName("driveName"_L1);
-    const QString fullName = named.isRemovable ? tr("%1 (Removable)").arg(named.name) : named.name;
+    const QString fullName =
+        namedDrive.isRemovable ? tr("%1 (Removable)").arg(namedDrive.name) : namedDrive.name;
     name->setToolTip(plainToolTip(fullName));
     layout->addWidget(name);
     m_checkBox->setAccessibleName(
         tr("%1 %2").arg(singleLine(drive.rootPath), singleLine(fullName)));
-    addUsage(named, layout);
+    addUsage(namedDrive, layout);
 }
 
 QLayout *DriveCard::buildTopRow(const DriveInfo &drive)
@@ -107,9 +108,9 @@ void DriveCard::addUsage(const DriveInfo &drive, QLayout *layout)
     bar->setFixedHeight(4);
     bar->setTextVisible(false);
     bar->setAccessibleName(tr("Used: %1%").arg(percent));
-    bar->setStyleSheet(theme::thinProgressBar(percent < nearlyFull ? theme::accent
-                                                  : percent < full ? theme::warning
-                                                                   : theme::danger,
+    bar->setStyleSheet(theme::thinProgressBar(percent < nearlyFullPercent ? theme::accent
+                                                  : percent < fullPercent ? theme::warning
+                                                                          : theme::danger,
                                               2));
     layout->addWidget(bar);
 }

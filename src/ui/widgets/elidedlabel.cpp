@@ -7,7 +7,7 @@ namespace {
 
 // Measuring a text takes time with its length; more than this fits no screen, so only the ends of
 // it are measured.
-constexpr qsizetype longestMeasured = 1024;
+constexpr qsizetype maxMeasuredLength = 1024;
 
 } // namespace
 
@@ -23,16 +23,16 @@ void ElidedLabel::setFullText(const QString &fullText)
 {
     m_fullText = singleLine(fullText);
     setAccessibleName(m_fullText);
-    setToolTip(plainToolTip(m_fullText.left(longestMeasured)));
-    if (m_fullText.size() > longestMeasured)
+    setToolTip(plainToolTip(m_fullText.left(maxMeasuredLength)));
+    if (m_fullText.size() > maxMeasuredLength)
         m_fullText =
-            m_fullText.left(longestMeasured / 2) + u'…' + m_fullText.right(longestMeasured / 2);
+            m_fullText.left(maxMeasuredLength / 2) + u'…' + m_fullText.right(maxMeasuredLength / 2);
     setText(m_fullText);
 }
 
 void ElidedLabel::setRemark(const QString &remark)
 {
-    setToolTip(plainToolTip(accessibleName().left(longestMeasured), remark));
+    setToolTip(plainToolTip(accessibleName().left(maxMeasuredLength), remark));
 }
 
 void ElidedLabel::elideTo(int width)

@@ -42,7 +42,7 @@ QString iconOf(const QString &type)
 QString badgeStyle(bool isHuge)
 {
     return isHuge ? theme::pill({.colour = theme::dangerHover, .background = theme::dangerTint})
-                  : theme::pill({.colour = theme::text, .background = theme::buttonGround});
+                  : theme::pill({.colour = theme::text, .background = theme::buttonBackground});
 }
 
 } // namespace
@@ -50,7 +50,7 @@ QString badgeStyle(bool isHuge)
 FileCard::FileCard(QWidget *parent)
     : QFrame(parent)
     , m_checkBox(new QCheckBox(this))
-    , m_icon(parts::centredLabel({}, theme::emojiBox(theme::buttonGround), this))
+    , m_icon(parts::centredLabel({}, theme::emojiBox(theme::buttonBackground), this))
     , m_name(new ElidedLabel({}, this))
     , m_folder(parts::label({}, theme::label(theme::faint, 11), this))
     , m_badge(parts::label({}, badgeStyle(false), this))

@@ -16,12 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int roomBetween = 8;
-constexpr int rowHeight = FileCard::cardHeight + roomBetween;
-constexpr int roomForScrollBar = 8;
+constexpr int cardSpacing = 8;
+constexpr int rowHeight = FileCard::cardHeight + cardSpacing;
+constexpr int gapToScrollBar = 8;
 
 // Whether it has the focus, or will have it when its window is active again.
-bool holdsFocus(const QWidget *widget)
+bool isFocusWidget(const QWidget *widget)
 {
     return widget->window()->focusWidget() == widget;
 }
@@ -47,51 +47,51 @@ FileCardList::~FileCardList() = default;
 
 void FileCardList::onFilesReplaced()
 {
-    rebind(0, 0);
+    rebindCards(0, 0);
 }
 
 // The rows behind those that are gone move up; the file at the top of the list stays there, and the
 // focus with its file, or goes to the next one.
 void FileCardList::onRowsRemoved(const QList<int> &rows)
 {
-    const auto moved = [&rows](int row) {
+    const auto newRow = [&rows](int row) {
         const auto removed = std::lower_bound(rows.cbegin(), rows.cend(), row) - rows.cbegin();
         return row - static_cast<int>(removed);
     };
-    rebind(moved(topRow()), std::min(moved(m_current), m_model->rowCount() - 1));
+    rebindCards(newRow(topRow()), std::min(newRow(m_currentRow), m_model->rowCount() - 1));
 }
 
 // No card shows what it has shown: the rows mean other files now.
-void FileCardList::rebind(int top, int current)
+void FileCardList::rebindCards(int top, int current)
 {
-    const bool hadFocus = std::any_of(m_cards.cbegin(), m_cards.cend(), [](const Bound &bound) {
-        return holdsFocus(bound.card->checkBox());
+    const bool hadFocus = std::any_of(m_cards.cbegin(), m_cards.cend(), [](const BoundCard &bound) {
+        return isFocusWidget(bound.card->checkBox());
     });
-    for (Bound &bound : m_cards)
+    for (BoundCard &bound : m_cards)
         bound.row = -1;
     updateRange();
     verticalScrollBar()->setValue(top);
-    arrange();
-    m_current = std::max(current, 0);
+    arrangeCards();
+    m_currentRow = std::max(current, 0);
     if (hadFocus && m_model->rowCount() > 0)
-        focusRow(m_current, Qt::OtherFocusReason);
+        focusRow(m_currentRow, Qt::OtherFocusReason);
     else
         updateTabStop();
 }
 
 void FileCardList::updateRange()
 {
-    verticalScrollBar()->setPageStep(fullRows());
-    verticalScrollBar()->setRange(0, std::max(m_model->rowCount() - fullRows(), 0));
+    verticalScrollBar()->setPageStep(fullRowCount());
+    verticalScrollBar()->setRange(0, std::max(m_model->rowCount() - fullRowCount(), 0));
 }
 
 // At least one: a list that is lower than a row is scrolled by one row all the same.
-int FileCardList::fullRows() const
+int FileCardList::fullRowCount() const
 {
-    return std::max((viewport()->height() + roomBetween) / rowHeight, 1);
+    return std::max((viewport()->height() + cardSpacing) / rowHeight, 1);
 }
 
-int FileCardList::rowsInView() const
+int FileCardList::rowCountInView() const
 {
     return (viewport()->height() + rowHeight - 1) / rowHeight;
 }
@@ -103,7 +103,7 @@ int FileCardList::topRow() const
 
 bool FileCardList::isInView(int row) const
 {
-    return row >= topRow() && row < std::min(topRow() + rowsInView(), m_model->rowCount());
+    return row >= topRow() && row < std::min(topRow() + rowCountInView(), m_model->rowCount());
 }
 
 QList<FileCard *> FileCardList::cards() const
@@ -119,47 +119,47 @@ QList<FileCard *> FileCardList::cards() const
 FileCard *FileCardList::cardOf(int row) const
 {
     const auto bound = std::find_if(m_cards.cbegin(), m_cards.cend(),
-                                    [row](const Bound &other) { return other.row == row; });
+                                    [row](const BoundCard &other) { return other.row == row; });
     return bound == m_cards.cend() ? nullptr : bound->card;
 }
 
 int FileCardList::rowOf(const QObject *cardOrCheckBox) const
 {
     const auto bound =
-        std::find_if(m_cards.cbegin(), m_cards.cend(), [cardOrCheckBox](const Bound &other) {
+        std::find_if(m_cards.cbegin(), m_cards.cend(), [cardOrCheckBox](const BoundCard &other) {
             return cardOrCheckBox == other.card || cardOrCheckBox == other.card->checkBox();
         });
     return bound == m_cards.cend() ? -1 : bound->row;
 }
 
-void FileCardList::arrange()
+void FileCardList::arrangeCards()
 {
     m_isArranging = true;
-    for (Bound &bound : m_cards) {
-        const bool isKept =
-            bound.row >= 0 && (isInView(bound.row) || holdsFocus(bound.card->checkBox()));
-        if (!isKept)
+    for (BoundCard &bound : m_cards) {
+        const bool staysBound =
+            bound.row >= 0 && (isInView(bound.row) || isFocusWidget(bound.card->checkBox()));
+        if (!staysBound)
             bound.row = -1;
     }
     for (int row = topRow(); isInView(row); ++row) {
         if (cardOf(row))
             continue;
-        Bound &bound = freeCard();
+        BoundCard &bound = takeFreeCard();
         bound.row = row;
         bound.card->bind(m_model->at(row), m_model->isTicked(row));
     }
     updateTabStop();
     // What is hidden may have the focus, which then goes on to a card that is in its place.
-    for (const Bound &bound : std::as_const(m_cards))
-        place(bound);
-    for (const Bound &bound : std::as_const(m_cards)) {
+    for (const BoundCard &bound : std::as_const(m_cards))
+        placeCard(bound);
+    for (const BoundCard &bound : std::as_const(m_cards)) {
         if (bound.row < 0)
             bound.card->hide();
     }
     m_isArranging = false;
 }
 
-void FileCardList::place(const Bound &bound)
+void FileCardList::placeCard(const BoundCard &bound)
 {
     if (bound.row < 0)
         return;
@@ -168,14 +168,14 @@ void FileCardList::place(const Bound &bound)
     const int y = isInView(bound.row) ? (bound.row - topRow()) * rowHeight
         : bound.row < topRow()        ? -2 * rowHeight
                                       : viewport()->height() + rowHeight;
-    bound.card->setGeometry(0, y, viewport()->width() - roomForScrollBar, FileCard::cardHeight);
+    bound.card->setGeometry(0, y, viewport()->width() - gapToScrollBar, FileCard::cardHeight);
     bound.card->show();
 }
 
-FileCardList::Bound &FileCardList::freeCard()
+FileCardList::BoundCard &FileCardList::takeFreeCard()
 {
     const auto free = std::find_if(m_cards.begin(), m_cards.end(),
-                                   [](const Bound &bound) { return bound.row < 0; });
+                                   [](const BoundCard &bound) { return bound.row < 0; });
     if (free != m_cards.end())
         return *free;
     auto *card = new FileCard(viewport());
@@ -187,13 +187,13 @@ FileCardList::Bound &FileCardList::freeCard()
     setTabOrder(this, card->checkBox());
     setFocusPolicy(Qt::NoFocus);
     m_cards.append({card, -1});
-    Q_EMIT cardMade(card);
+    Q_EMIT cardCreated(card);
     return m_cards.last();
 }
 
 QWidget *FileCardList::tabStop() const
 {
-    const FileCard *card = cardOf(m_current);
+    const FileCard *card = cardOf(m_currentRow);
     if (!card)
         card = cardOf(topRow());
     return card ? card->checkBox() : nullptr;
@@ -201,7 +201,7 @@ QWidget *FileCardList::tabStop() const
 
 void FileCardList::updateTabStop() const
 {
-    for (const Bound &bound : m_cards)
+    for (const BoundCard &bound : m_cards)
         bound.card->checkBox()->setFocusPolicy(Qt::ClickFocus);
     if (QWidget *stop = tabStop())
         stop->setFocusPolicy(Qt::StrongFocus);
@@ -209,17 +209,17 @@ void FileCardList::updateTabStop() const
 
 void FileCardList::scrollToRow(int row)
 {
-    const int top = std::clamp(topRow(), row - fullRows() + 1, row);
+    const int top = std::clamp(topRow(), row - fullRowCount() + 1, row);
     verticalScrollBar()->setValue(top);
 }
 
 void FileCardList::focusRow(int row, Qt::FocusReason reason)
 {
     scrollToRow(row);
-    m_current = row; // of a window that is not active nobody would hear
+    m_currentRow = row; // of a window that is not active nobody would hear
     if (const FileCard *card = cardOf(row))
         card->checkBox()->setFocus(reason);
-    arrange(); // the card that had it is free now
+    arrangeCards(); // the card that had it is free now
 }
 
 bool FileCardList::moveByKey(int row, const QKeyEvent &event)
@@ -228,10 +228,10 @@ bool FileCardList::moveByKey(int row, const QKeyEvent &event)
     int target = row + arrowStep(event);
     switch (event.key()) {
     case Qt::Key_PageUp:
-        target = row - fullRows();
+        target = row - fullRowCount();
         break;
     case Qt::Key_PageDown:
-        target = row + fullRows();
+        target = row + fullRowCount();
         break;
     case Qt::Key_Home:
         target = 0;
@@ -254,7 +254,7 @@ bool FileCardList::eventFilter(QObject *watched, QEvent *event)
         return QAbstractScrollArea::eventFilter(watched, event);
     // While the list is being disabled the focus flees from card to card.
     if (event->type() == QEvent::FocusIn && isEnabled()) {
-        m_current = row;
+        m_currentRow = row;
         updateTabStop();
         // Only where the tabulator key led: a click, or the window's coming back, moves nothing.
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
@@ -274,10 +274,10 @@ void FileCardList::resizeEvent(QResizeEvent *event)
 {
     QAbstractScrollArea::resizeEvent(event);
     updateRange();
-    arrange();
+    arrangeCards();
 }
 
 void FileCardList::scrollContentsBy(int, int)
 {
-    arrange();
+    arrangeCards();
 }

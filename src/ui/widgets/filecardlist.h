@@ -36,7 +36,7 @@ public:
 
 Q_SIGNALS:
     /// One more card; it serves the list from now on.
-    void cardMade(FileCard *card);
+    void cardCreated(FileCard *card);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -44,30 +44,30 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    struct Bound {
+    struct BoundCard {
         FileCard *card = nullptr;
         int row = -1; ///< -1 while it waits for one
     };
 
     void onFilesReplaced();
     void onRowsRemoved(const QList<int> &rows);
-    void rebind(int top, int current);
+    void rebindCards(int top, int current);
     void updateRange();
-    [[nodiscard]] int fullRows() const;
-    [[nodiscard]] int rowsInView() const;
+    [[nodiscard]] int fullRowCount() const;
+    [[nodiscard]] int rowCountInView() const;
     [[nodiscard]] int topRow() const;
     [[nodiscard]] bool isInView(int row) const;
     /// Binds the cards to the rows in view and puts them there.
-    void arrange();
-    void place(const Bound &bound);
-    [[nodiscard]] Bound &freeCard();
+    void arrangeCards();
+    void placeCard(const BoundCard &bound);
+    [[nodiscard]] BoundCard &takeFreeCard();
     [[nodiscard]] FileCard *cardOf(int row) const;
     void updateTabStop() const;
     /// Whether the key leads from the row to another one.
     bool moveByKey(int row, const QKeyEvent &event);
 
     LargeFileModel *m_model;
-    QList<Bound> m_cards;
-    int m_current = 0; ///< the row that has the focus or had it last
+    QList<BoundCard> m_cards;
+    int m_currentRow = 0; ///< the row that has the focus or had it last
     bool m_isArranging = false;
 };

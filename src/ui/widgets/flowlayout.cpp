@@ -38,9 +38,9 @@ QLayoutItem *FlowLayout::takeAt(int index)
 {
     if (index < 0 || index >= count())
         return nullptr;
-    const auto place = m_items.begin() + index;
-    QLayoutItem *item = place->release();
-    m_items.erase(place);
+    const auto position = m_items.begin() + index;
+    QLayoutItem *item = position->release();
+    m_items.erase(position);
     return item;
 }
 

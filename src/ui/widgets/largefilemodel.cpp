@@ -24,13 +24,13 @@ void LargeFileModel::setFiles(const QList<LargeFileInfo> &files)
     Q_EMIT filesReplaced();
 }
 
-void LargeFileModel::setTicked(int row, bool on)
+void LargeFileModel::setTicked(int row, bool ticked)
 {
-    if (isTicked(row) == on)
+    if (isTicked(row) == ticked)
         return;
-    m_ticked.setBit(row, on);
-    m_tickedCount += on ? 1 : -1;
-    m_tickedSize += on ? at(row).size : -at(row).size;
+    m_ticked.setBit(row, ticked);
+    m_tickedCount += ticked ? 1 : -1;
+    m_tickedSize += ticked ? at(row).size : -at(row).size;
 }
 
 QList<int> LargeFileModel::tickedRows() const
@@ -51,21 +51,21 @@ void LargeFileModel::removeRows(const QList<int> &rows)
     for (const int row : rows)
         setTicked(row, false);
     QBitArray ticked(m_files.size() - rows.size());
-    auto next = rows.cbegin();
-    int kept = rows.constFirst();
-    for (int row = 0; row < kept; ++row)
+    auto nextRemoved = rows.cbegin();
+    int keptRow = rows.constFirst();
+    for (int row = 0; row < keptRow; ++row)
         ticked.setBit(row, isTicked(row));
-    for (int row = kept; row < rowCount(); ++row) {
-        if (next != rows.cend() && *next == row) {
-            ++next;
+    for (int row = keptRow; row < rowCount(); ++row) {
+        if (nextRemoved != rows.cend() && *nextRemoved == row) {
+            ++nextRemoved;
             continue;
         }
-        ticked.setBit(kept, isTicked(row));
-        std::swap(m_files[kept], m_files[row]);
-        ++kept;
+        ticked.setBit(keptRow, isTicked(row));
+        std::swap(m_files[keptRow], m_files[row]);
+        ++keptRow;
     }
-    QList<LargeFileInfo> removed = m_files.sliced(kept);
-    m_files.resize(kept);
+    QList<LargeFileInfo> removed = m_files.sliced(keptRow);
+    m_files.resize(keptRow);
     m_ticked = ticked;
     discard(std::move(removed));
     Q_EMIT rowsRemoved(rows);

@@ -25,7 +25,7 @@ public:
     [[nodiscard]] const LargeFileInfo &at(int row) const { return m_files.at(row); }
 
     [[nodiscard]] bool isTicked(int row) const { return m_ticked.testBit(row); }
-    void setTicked(int row, bool on);
+    void setTicked(int row, bool ticked);
     [[nodiscard]] int tickedCount() const { return m_tickedCount; }
     [[nodiscard]] qint64 tickedSize() const { return m_tickedSize; } ///< bytes
     /// In ascending order.

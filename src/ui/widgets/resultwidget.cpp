@@ -17,15 +17,15 @@ void ResultWidget::setExpander(QWidget *header, QAbstractButton *button)
 
 void ResultWidget::toggleExpanded()
 {
-    m_expanded = !m_expanded;
-    showExpanded(m_expanded);
+    m_isExpanded = !m_isExpanded;
+    showExpanded(m_isExpanded);
     describeExpander();
 }
 
 void ResultWidget::describeExpander()
 {
-    m_expander->setProperty("expanded", m_expanded);
-    m_expander->setAccessibleDescription(m_expanded ? tr("Expanded") : tr("Collapsed"));
+    m_expander->setProperty("expanded", m_isExpanded);
+    m_expander->setAccessibleDescription(m_isExpanded ? tr("Expanded") : tr("Collapsed"));
     QAccessible::State changed;
     changed.expanded = true;
     changed.collapsed = true;
@@ -46,7 +46,7 @@ bool ResultWidget::eventFilter(QObject *watched, QEvent *event)
     }
     if (watched == m_expander && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == (m_expanded ? Qt::Key_Left : Qt::Key_Right)) {
+        if (key == (m_isExpanded ? Qt::Key_Left : Qt::Key_Right)) {
             toggleExpanded();
             return true;
         }

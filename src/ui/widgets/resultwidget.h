@@ -19,7 +19,7 @@ public:
     [[nodiscard]] virtual QList<QWidget *> focusChain() const = 0;
     /// Whether bytes are told beside the item counts.
     virtual void setShowSizes(bool show) = 0;
-    [[nodiscard]] bool isExpanded() const { return m_expanded; }
+    [[nodiscard]] bool isExpanded() const { return m_isExpanded; }
 
 public Q_SLOTS:
     void toggleExpanded();
@@ -41,5 +41,5 @@ private:
 
     QWidget *m_header = nullptr;
     QAbstractButton *m_expander = nullptr;
-    bool m_expanded = false;
+    bool m_isExpanded = false;
 };

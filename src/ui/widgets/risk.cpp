@@ -41,14 +41,14 @@ QString risk::style(int level)
     }
 }
 
-QString risk::spoken(int level)
+QString risk::sentence(int level)
 {
     return QCoreApplication::translate("CleanItemWidget", "Risk: %1").arg(text(level));
 }
 
-QString risk::described(const CleanCategory &category)
+QString risk::description(const CleanCategory &category)
 {
     const QString description = singleLine(category.description);
-    return category.riskLevel > LowRisk ? spoken(category.riskLevel) + ". "_L1 + description
+    return category.riskLevel > LowRisk ? sentence(category.riskLevel) + ". "_L1 + description
                                         : description;
 }

@@ -10,8 +10,8 @@ namespace risk {
 [[nodiscard]] QString text(int level);
 [[nodiscard]] QString style(int level);
 /// The level in a sentence of its own, for who does not see the badge.
-[[nodiscard]] QString spoken(int level);
+[[nodiscard]] QString sentence(int level);
 /// What is to be said of a category beside its name: its risk from medium on, and what it is.
-[[nodiscard]] QString described(const CleanCategory &category);
+[[nodiscard]] QString description(const CleanCategory &category);
 
 } // namespace risk

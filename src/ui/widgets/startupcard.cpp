@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int roomAroundName = 240; ///< pixels for check box, icon, status and spaces
+constexpr int reservedWidth = 240; ///< pixels for check box, icon, status and spaces
 
 } // namespace
 
@@ -87,15 +87,15 @@ QLayout *StartupCard::buildTexts(const StartupApp &app)
 void StartupCard::resizeEvent(QResizeEvent *event)
 {
     QFrame::resizeEvent(event);
-    m_name->elideTo(width() - roomAroundName);
+    m_name->elideTo(width() - reservedWidth);
 }
 
 void StartupCard::showState(bool isStartup)
 {
-    if (m_isShown == isStartup)
+    if (m_shownState == isStartup)
         return;
-    m_isShown = isStartup;
-    const theme::Colour ground = isStartup ? theme::goodTint : theme::buttonGround;
+    m_shownState = isStartup;
+    const theme::Colour ground = isStartup ? theme::goodTint : theme::buttonBackground;
     m_icon->setStyleSheet(m_icon->property("hasRealIcon").toBool() ? theme::pictureBox(ground)
                                                                    : theme::emojiBox(ground));
     m_status->setVisible(isStartup);

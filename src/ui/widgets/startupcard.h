@@ -33,7 +33,7 @@ private:
     QLayout *buildTexts(const StartupApp &app);
 
     QCheckBox *m_checkBox;
-    std::optional<bool> m_isShown;
+    std::optional<bool> m_shownState;
     QLabel *m_icon = nullptr;
     ElidedLabel *m_name = nullptr;
     QLabel *m_status = nullptr;

@@ -39,7 +39,7 @@ StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     auto *track = new QWidget(this);
     track->setAttribute(Qt::WA_StyledBackground);
     track->setFixedSize(100, barHeight);
-    track->setStyleSheet(theme::bar(theme::buttonGround, barHeight / 2));
+    track->setStyleSheet(theme::bar(theme::buttonBackground, barHeight / 2));
     m_bar = new QWidget(track);
     m_bar->setObjectName("statBar"_L1);
     m_bar->setAttribute(Qt::WA_StyledBackground);
@@ -84,7 +84,7 @@ int StatCard::barWidth() const
 
 void StatCard::keyPressEvent(QKeyEvent *event)
 {
-    if (isPress(*event))
+    if (isPressKey(*event))
         Q_EMIT activated();
     else if (const int step = arrowStep(*event); step == 0 || !focusNextPrevChild(step > 0))
         QFrame::keyPressEvent(event);

@@ -12,7 +12,8 @@
 
 namespace {
 
-/// A widget that is pressed by a key or the mouse, and may tell whether it is checked or expanded.
+/// The accessible interface of a widget that can be pressed. It also reports whether the widget is
+/// checked or expanded.
 class PressableInterface : public QAccessibleWidget
 {
 public:
@@ -32,7 +33,8 @@ public:
             QAccessibleWidget::doAction(name);
             return;
         }
-        // Later: what it does may run a dialog, for which nobody here should have to wait.
+        // The press is queued: it may open a modal dialog, and the caller must not wait for that
+        // dialog.
         QMetaObject::invokeMethod(
             widget(), [pressed = QPointer(widget())] { press(pressed); }, Qt::QueuedConnection);
     }
@@ -66,6 +68,7 @@ private:
     }
 };
 
+/// The accessible interface of the progress circle. Its value is a percentage and read-only.
 class CircleInterface : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -92,7 +95,8 @@ private:
     CircleProgressWidget *m_circle;
 };
 
-/// A list that is scrolled by the keyboard, for which the toolkit has no role.
+/// The accessible interface of a scroll area that takes the keyboard focus. The toolkit has no role
+/// for one.
 class PaneInterface : public QAccessibleWidget
 {
 public:

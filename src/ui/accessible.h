@@ -1,7 +1,7 @@
 #pragma once
 
-/// Lets screen readers know the widgets that are painted by hand for what they are: the navigation
-/// entries and the dashboard's cards are buttons that can be pressed, its circle is a progress bar;
-/// a button with the property "expanded" tells of it.
-/// To be called once, before the first of them is made.
+/// Gives the widgets that are painted by hand their roles for screen readers. Navigation entries
+/// and dashboard cards become buttons, and the dashboard circle becomes a progress bar. A button
+/// with the property "expanded" reports that state.
+/// Call it once, before the first of these widgets exists.
 void installAccessibleInterfaces();

@@ -3,12 +3,13 @@
 #include <QPointer>
 #include <QWidget>
 
-/// Remembers which control of a part of the window has the focus while the control is disabled: the
-/// focus wanders off then, and who works by the keyboard would have to look for it.
+/// Remembers the focused control of a part of the window while that part is disabled. The toolkit
+/// moves the focus away from a disabled control, and a keyboard user would lose the place. Owned by
+/// its page. GUI thread.
 class FocusKeeper final
 {
 public:
-    /// Calls @p disable and notes which control of @p part has lost the window's focus by it.
+    /// Calls @p disable and remembers which control of @p part had the focus before.
     template<class Disable>
     void keep(const QWidget *part, Disable disable)
     {
@@ -18,14 +19,14 @@ public:
         m_focusAfterDisabling = part->window()->focusWidget();
     }
 
-    /// What has lost the focus, if it is still there.
+    /// The remembered control; null when there is none or when it was deleted.
     [[nodiscard]] QWidget *control() const { return m_control; }
-    /// Takes @p control in the place of what was noted.
+    /// Remembers @p control instead.
     void replaceControl(QWidget *control) { m_control = control; }
 
-    /// Puts the focus back on what was noted; on @p fallback when that cannot take it. It stays
-    /// where it is when nothing was noted, when the user has moved it meanwhile, or when the part
-    /// is not shown any more.
+    /// Gives the focus back to the remembered control, or to @p fallback when that control is
+    /// disabled. The focus does not move in three cases: no control was remembered, the user has
+    /// moved the focus, or the target is not visible.
     void restore(QWidget *fallback)
     {
         QWidget *target = m_control;
@@ -39,5 +40,5 @@ public:
 
 private:
     QPointer<QWidget> m_control;
-    QPointer<QWidget> m_focusAfterDisabling; ///< where the focus went of itself
+    QPointer<QWidget> m_focusAfterDisabling; ///< where the toolkit moved the focus
 };

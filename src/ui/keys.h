@@ -4,21 +4,22 @@
 #include <QPushButton>
 #include <QScrollArea>
 
-/// What keys do on controls that do not know it themselves.
+/// Shared key handling for controls and windows that the toolkit does not serve.
 
 [[nodiscard]] inline bool isEnter(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-/// Space and both Enter keys press a control that is painted by hand. A key that is held down
-/// presses once.
+/// Whether the key presses a control that is painted by hand: Space, Return or Enter. Auto-repeat
+/// does not count, so a held key presses once.
 [[nodiscard]] inline bool isPressKey(const QKeyEvent &event)
 {
     return (event.key() == Qt::Key_Space || isEnter(event)) && !event.isAutoRepeat();
 }
 
-/// The arrow keys lead to the next control (1) or the one before (-1); other keys do not (0).
+/// The step in the focus order that an arrow key asks for: 1 for the next control, -1 for the
+/// previous one. Other keys give 0.
 [[nodiscard]] inline int arrowStep(const QKeyEvent &event)
 {
     switch (event.key()) {
@@ -33,9 +34,10 @@
     }
 }
 
-/// Lets Enter press the button of @p window that has the focus, for which a toolkit's button needs
-/// to be a dialog's and to be asked for it. Whether the key is used up: one that is held down is,
-/// so that it presses nothing in a window that it has just opened.
+/// Clicks the focused button of @p window when @p event is Return or Enter. The toolkit does this
+/// only in dialogs and only for auto-default buttons. Returns whether the key is used up.
+/// Auto-repeat is always used up: a held key must not press a button in a window that it has just
+/// opened.
 inline bool pressButtonByEnter(QWidget *window, const QKeyEvent &event)
 {
     if (!isEnter(event))
@@ -49,8 +51,8 @@ inline bool pressButtonByEnter(QWidget *window, const QKeyEvent &event)
     return true;
 }
 
-/// Scrolls the control of @p window that the focus has just gone to into sight: a scroll area does
-/// that itself only when the focus was in it before. True, for the end of focusNextPrevChild().
+/// Scrolls the focused control of @p window into view. A scroll area does this itself only when it
+/// had the focus before. Always returns true, so that focusNextPrevChild() can end with it.
 inline bool scrollToFocus(const QWidget *window)
 {
     QWidget *focus = window->focusWidget();

@@ -71,8 +71,8 @@ MainWindow::MainWindow()
     connect(LinkManager::instance(), &LinkManager::languageChanged, this,
             &MainWindow::onLanguageChanged);
     switchToPage(0);
-    // Nothing is focused until the user tabs: a ring around the first button would point at
-    // nothing.
+    // No control has the focus until the user presses Tab. A focus frame around the first button
+    // would have no meaning yet.
     m_pageStack->setFocus();
 }
 
@@ -244,8 +244,8 @@ void MainWindow::switchToPage(int index)
         m_navButtons.at(i)->setChecked(i == index);
     m_currentPage = index;
     m_pageStack->setCurrentIndex(index);
-    // The page may have turned to another view while it was hidden: the control that had its focus
-    // is out of sight then, and the next key would press it.
+    // The page may have changed its view while it was hidden. The focused control is then
+    // invisible, and the next key would press it.
     if (const QWidget *focus = focusWidget(); focus && !focus->isVisibleTo(this))
         m_pageStack->setFocus();
 }
@@ -319,7 +319,7 @@ void MainWindow::onDashboardScanRequested()
     const auto *application = Application::instance();
     const FullScan::Engines engines{application->junkCleaner(), application->browserCleaner(),
                                     application->registryCleaner()};
-    // A scan would cut it off, and nobody could tell how far it had come.
+    // A scan would cancel the clean, and the user would not learn how much was removed.
     const bool isCleaning = std::any_of(engines.begin(), engines.end(), [](CleanEngine *engine) {
         return engine && engine->state() == CleanEngine::State::Cleaning;
     });
@@ -393,7 +393,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::changeEvent(QEvent *event)
 {
-    // The desktop can maximise and restore the window as well, by a key or a gesture.
+    // The desktop can also maximise and restore the window, by a key or a gesture.
     if (event->type() == QEvent::WindowStateChange && m_titleBar)
         m_titleBar->setMaximized(isMaximized());
     QWidget::changeEvent(event);

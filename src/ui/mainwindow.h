@@ -15,8 +15,8 @@ class QTranslator;
 class SettingsDialog;
 class TitleBar;
 
-/// The program's one window: frameless, with a navigation column, a title bar, a stack of pages and
-/// a tray icon. GUI thread; created and owned by Application.
+/// The main window: frameless, with a navigation column, a title bar, a stack of pages and a tray
+/// icon. Application creates and owns it. GUI thread.
 class MainWindow : public QWidget
 {
     Q_OBJECT
@@ -36,11 +36,13 @@ public Q_SLOTS:
     void onAboutClicked();
     void onHelpClicked();
     void onSupportClicked();
-    /// Kept as a hook for figures that follow a scan; changes nothing today.
+    /// A hook for statistics after a scan. It does nothing today.
     void updateStats();
-    /// Scans with all three engines at once and shows the dashboard how far they have come.
+    /// Starts a scan of all three engines. The dashboard shows its progress. While an engine
+    /// cleans, a message is shown instead.
     void onDashboardScanRequested();
-    /// Nothing is cleaned that no page has shown.
+    /// Does nothing: the program cleans only what a page has listed, and the dashboard lists
+    /// nothing.
     void onDashboardCleanRequested();
     void onDashboardNavigate(int pageId);
     void onTrayIconActivated(QSystemTrayIcon::ActivationReason reason);
@@ -57,7 +59,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
-    /// Whether the desktop shows tray icons. A window hidden without one could not be brought back.
+    /// Whether the tray icon is visible. Without it, the user could not bring a hidden window back.
     [[nodiscard]] virtual bool isTrayShown() const;
     virtual void showTrayMessage(const QString &title, const QString &text, int milliseconds);
 
@@ -78,7 +80,7 @@ private:
     QWidget *m_navWidget = nullptr;
     QStackedWidget *m_pageStack = nullptr;
     DashboardPage *m_dashboardPage = nullptr;
-    SettingsDialog *m_settingsDialog = nullptr; ///< from its first use on
+    SettingsDialog *m_settingsDialog = nullptr; ///< null until its first use
     FullScan *m_fullScan;
     QSystemTrayIcon *m_trayIcon = nullptr;
     QMenu *m_trayMenu = nullptr;

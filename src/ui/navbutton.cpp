@@ -65,7 +65,7 @@ void NavButton::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
         m_isPressed = true;
-    // The window would take a press that is left to it for the start of a drag.
+    // An ignored press goes on to the window, and the window would start a drag.
     event->accept();
 }
 

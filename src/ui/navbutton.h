@@ -5,20 +5,21 @@
 class QLabel;
 class SvgLabel;
 
-/// One entry of the navigation column: an icon and a text on a painted highlight.
+/// An entry of the navigation column: an icon and a text. It paints its own highlight and focus
+/// frame. The keyboard and the mouse press it.
 class NavButton final : public QWidget
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(NavButton)
     Q_PROPERTY(bool checked READ isChecked WRITE setChecked NOTIFY checkedChanged)
 public:
-    /// @p iconPath names an SVG resource; one that does not exist leaves the icon empty.
+    /// @p iconPath is an SVG resource. The icon stays empty when the resource is missing.
     NavButton(const QString &text, const QString &iconPath, QWidget *parent = nullptr);
 
     [[nodiscard]] QString text() const;
     [[nodiscard]] bool isChecked() const { return m_isChecked; }
     void setChecked(bool checked);
-    /// Moves icon and text to the middle of the button, or back to its left end.
+    /// Aligns icon and text to the centre of the button, or to its left end.
     void setCentered(bool centered);
 
 Q_SIGNALS:

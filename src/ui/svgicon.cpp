@@ -7,7 +7,8 @@
 
 namespace {
 
-// The shape stays in the alpha channel, which the image format stores apart from the colours.
+// Changes the colour of each pixel and keeps its alpha. The format stores colours and alpha
+// separately, so the shape does not change.
 void recolour(QImage &image, const QColor &tint)
 {
     for (int y = 0; y < image.height(); ++y) {

@@ -124,7 +124,8 @@ void TitleBar::restartProgram()
                     QMessageBox::Warning);
         return;
     }
-    // Not quit(): that asks the window first, which may answer by going to the tray.
+    // quit() asks the window first, and the window may hide in the tray instead. exit() ends the
+    // program.
     QCoreApplication::exit();
 }
 

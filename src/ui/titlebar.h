@@ -8,9 +8,10 @@
 class QActionGroup;
 class QMenu;
 
-/// The title strip of the frameless main window: window buttons, main menu, language menu.
+/// The title bar of the frameless main window: window buttons, main menu, language menu. MainWindow
+/// owns it. GUI thread.
 ///
-/// Choosing another language stores it, tells the user and starts the program anew.
+/// A change of the language is stored at once; then the user is told and the program restarts.
 class TitleBar : public QWidget
 {
     Q_OBJECT
@@ -18,7 +19,7 @@ class TitleBar : public QWidget
 public:
     explicit TitleBar(QWidget *parent = nullptr);
 
-    /// Gives the maximise button the glyph and the tip that fit the window's state.
+    /// Sets the glyph, the tool tip and the accessible name of the maximise button.
     void setMaximized(bool maximized);
 
     [[nodiscard]] QString currentLanguage() const { return m_currentLanguage; }
@@ -38,7 +39,7 @@ Q_SIGNALS:
     void languageChanged(QString langCode);
 
 protected:
-    /// Starts another process; false when that failed.
+    /// Starts another process. Returns false when that fails. Tests override it.
     virtual bool startDetached(const QString &program, const QStringList &arguments);
 
 private:

@@ -5,8 +5,9 @@
 #include <QString>
 #include <QTextDocument>
 
-/// A tool tip that shows what an item is, on one line, and below it what else is to be said of it,
-/// if anything, as these texts are: a tool tip that looks like markup would be taken for it.
+/// The tool tip of an item: @p text on one line and, below it, @p remark if there is one. Both are
+/// shown without markup. The toolkit takes a tool tip that looks like markup for rich text, so such
+/// a text is escaped.
 [[nodiscard]] inline QString plainToolTip(const QString &text, const QString &remark = {})
 {
     const QString tip =

@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-/// One of the painted buttons of the title bar.
+/// A button of the title bar. It paints its own glyph.
 class WinButton final : public QPushButton
 {
     Q_OBJECT

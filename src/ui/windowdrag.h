@@ -5,7 +5,8 @@
 class QMouseEvent;
 class QWidget;
 
-/// Moves a frameless window with the mouse. Its owner passes on its mouse events; GUI thread.
+/// Moves a frameless window with the mouse. The window owns it and passes its mouse events on. GUI
+/// thread.
 class WindowDrag final
 {
 public:
@@ -14,12 +15,12 @@ public:
     {
     }
 
-    /// Starts when the left button is pressed; the owner asks only where dragging may begin.
-    /// Accepts the event.
+    /// Starts a drag when the left button is pressed, and accepts the event. The owner calls it
+    /// only where a drag may begin.
     void press(QMouseEvent *event);
-    /// Moves the window while the left button is held. Accepts the event when it did.
+    /// Moves the window while the left button is held. Accepts the event when the window has moved.
     void move(QMouseEvent *event);
-    /// Stops when the left button is released.
+    /// Ends the drag when the left button is released.
     void release(QMouseEvent *event);
 
     [[nodiscard]] bool isDragging() const { return m_isDragging; }
@@ -27,5 +28,5 @@ public:
 private:
     QWidget *m_window;
     bool m_isDragging = false;
-    QPoint m_offset; ///< pointer minus top-left corner of the frame, at the press
+    QPoint m_offset; ///< mouse position minus top-left corner of the frame, at the press
 };

@@ -12,9 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int shadow = 8; ///< pixels below the ground
+constexpr int shadow = 8; ///< height in pixels, below the background
 
-// How high the texts are depends on font and language: spaces give way before a line is cut.
+// The height of the texts depends on font and language. Spacing and margins shrink before a line is
+// cut off.
 void fitHeight(QVBoxLayout *layout, int height)
 {
     const QMargins margins = layout->contentsMargins();
@@ -71,7 +72,7 @@ AboutDialog::AboutDialog(QWidget *parent)
     layout->addWidget(ok, 0, Qt::AlignCenter);
     connect(ok, &QPushButton::clicked, this, &AboutDialog::accept);
     for (const QLabel *label : findChildren<QLabel *>())
-        label->ensurePolished(); // it is measured with its own font
+        label->ensurePolished(); // so that its own font is measured
     fitHeight(layout, height() - shadow);
 }
 

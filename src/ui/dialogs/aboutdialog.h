@@ -2,7 +2,7 @@
 
 #include "framelessdialog.h"
 
-/// A card with the program's name, version and what it can do.
+/// Shows name, version and functions of the program. Modal. GUI thread.
 class AboutDialog final : public FramelessDialog
 {
     Q_OBJECT

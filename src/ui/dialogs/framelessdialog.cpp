@@ -63,7 +63,7 @@ void FramelessDialog::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     if (!parentWidget() || event->spontaneous())
         return;
-    // QDialog allows for a frame that there is not.
+    // QDialog centres the dialog with room for a system frame, which this dialog does not have.
     QRect place = geometry();
     place.moveCenter(parentWidget()->window()->geometry().center());
     const QRect available = screen()->availableGeometry();

@@ -5,8 +5,8 @@
 #include <QDialog>
 #include <QPointer>
 
-/// A dialog that draws its own frame: opens over the middle of its parent's window and is moved
-/// with the mouse.
+/// The base of the dialogs without a system frame. It opens over the middle of the parent window
+/// and moves with the mouse. GUI thread.
 class FramelessDialog : public QDialog
 {
     Q_OBJECT
@@ -14,19 +14,18 @@ class FramelessDialog : public QDialog
 public:
     explicit FramelessDialog(QWidget *parent = nullptr);
 
-    /// Shows the dialog as soon as @p page is shown, which may be now. From then on it is hidden
-    /// while the page is, and comes back with it unless it has been closed: it does not lie over
-    /// other pages.
+    /// Shows the dialog now, or as soon as @p page is shown. The dialog then hides and returns with
+    /// the page, so that it does not cover other pages. A dialog that was closed does not return.
     void showWith(QWidget *page);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    /// Where a press starts to move the dialog; everywhere unless a subclass says otherwise.
+    /// Whether a press at @p position starts a drag. The default is everywhere.
     [[nodiscard]] virtual bool isDragArea(QPoint position) const;
 
-    /// Draws the white ground of a translucent dialog, with its border and rounded corners.
+    /// Paints the white background of a translucent dialog, with its border and rounded corners.
     void paintBackground(int radius);
-    /// Draws the white ground of a translucent dialog above a shadow to its lower right.
+    /// Paints the white background of a translucent dialog, with a shadow to its lower right.
     void paintBackgroundWithShadow(int radius);
 
     void showEvent(QShowEvent *event) override;
@@ -39,5 +38,5 @@ protected:
 private:
     WindowDrag m_drag{this};
     QPointer<QWidget> m_page;
-    bool m_returnsWithPage = false; ///< it is hidden for the page's sake alone
+    bool m_returnsWithPage = false; ///< hidden only because its page is hidden
 };

@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype batchSize = 50;
-constexpr int columnMargin = 20; ///< of the rows and of the header above them
+constexpr int columnMargin = 20; ///< pixels, of the rows and of the column header
 constexpr int listBorder = 1;
 
 } // namespace
@@ -62,7 +62,7 @@ ItemDetailDialog::ItemDetailDialog(const CleanCategory *category, QWidget *paren
     m_rows->setAlignment(Qt::AlignTop);
     m_scrollArea->setWidget(list);
     layout->addWidget(m_scrollArea, 1);
-    // The columns stand over those of the rows, which leave the scroll bar its room.
+    // The column titles align with the rows. A visible scroll bar makes the rows narrower.
     const QScrollBar *bar = m_scrollArea->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, header, [bar, header](int, int maximum) {
         const int scrollBarWidth = maximum > 0 ? bar->sizeHint().width() : 0;
@@ -137,7 +137,7 @@ QWidget *ItemDetailDialog::buildColumnHeader()
     return header;
 }
 
-// Registry entries have neither a size nor a place in the file manager.
+// A registry entry has no size and no location in the file manager.
 bool ItemDetailDialog::hasFiles() const
 {
     return m_category->items.isEmpty() || m_category->items.constFirst().registryRoot.isEmpty();
@@ -160,8 +160,8 @@ void ItemDetailDialog::loadMoreItems()
     QTimer::singleShot(0, this, &ItemDetailDialog::fillViewport);
 }
 
-// Until the first screen is full there is nothing to scroll and nothing that would ask for the next
-// batch.
+// Scrolling loads the next batch. A list that is shorter than the viewport cannot scroll, so it is
+// filled here.
 void ItemDetailDialog::fillViewport()
 {
     const int listHeight = m_scrollArea->widget()->sizeHint().height();

@@ -7,8 +7,8 @@ class QScrollArea;
 class QVBoxLayout;
 struct CleanCategory;
 
-/// Lists every file of a category in batches of fifty as the user scrolls. Reads the record only,
-/// which outlives the dialog.
+/// Lists all items of a category in batches of fifty as the user scrolls. It only reads the
+/// category, which outlives the dialog. GUI thread.
 class ItemDetailDialog final : public FramelessDialog
 {
     Q_OBJECT

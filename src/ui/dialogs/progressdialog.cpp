@@ -93,7 +93,7 @@ void ProgressDialog::setDetail(const QString &text)
 
 void ProgressDialog::setCleanedSize(qint64 bytes)
 {
-    // One call an item: most of them change nothing that can be seen.
+    // Each cleaned item causes a call, and most calls do not change the visible text.
     const QString size = formatSize(bytes);
     if (size == m_cleanedSize)
         return;

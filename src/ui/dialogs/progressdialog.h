@@ -6,11 +6,11 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 
-/// Shows how far a scan or a clean has come, lets the user cancel it, and shows the outcome of a
+/// Shows the progress of a scan or a clean, lets the user cancel it, and shows the result of a
 /// clean.
 ///
-/// Frameless and movable; not modal, the page behind locks what must not be touched. Escape or
-/// closing it while the work goes on asks to cancel.
+/// Frameless and movable, not modal: the page itself locks its controls. Escape and closing request
+/// to cancel while the work runs. The page owns it. GUI thread.
 class ProgressDialog final : public FramelessDialog
 {
     Q_OBJECT
@@ -20,13 +20,14 @@ public:
 
     explicit ProgressDialog(Mode mode, QWidget *parent = nullptr);
 
-    /// Shows @p current of @p total as a whole percentage; a total below 1 changes nothing.
+    /// Shows @p current of @p total as a whole percentage. A total below 1 changes nothing.
     void setProgress(int current, int total);
-    /// Shows @p text, one harmless line of it, in the middle shortened to the width.
+    /// Shows @p text on a single line without control characters, shortened in the middle to the
+    /// width of the dialog.
     void setDetail(const QString &text);
-    /// Shows how many bytes have been removed so far.
+    /// Shows how many bytes were removed so far.
     void setCleanedSize(qint64 bytes);
-    /// Turns the dialog into the result screen, which stays until it is closed.
+    /// Turns the dialog into the result view, which stays open until the user closes it.
     void showResult(bool success, const QString &message);
 
     [[nodiscard]] bool isFinished() const { return m_isFinished; }

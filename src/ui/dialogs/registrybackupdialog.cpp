@@ -145,7 +145,7 @@ void RegistryBackupDialog::browse()
     if (path.isEmpty())
         return;
     m_pathEdit->setText(withSuffix(path));
-    m_pathToReplace = path; // the chooser has asked
+    m_pathToReplace = path; // the file chooser has already asked
 }
 
 void RegistryBackupDialog::accept()
@@ -184,7 +184,7 @@ QString RegistryBackupDialog::targetProblem(const QString &path)
     return probe.open() ? QString() : probe.errorString();
 }
 
-// Return in the path field neither starts to delete nor throws away what was typed.
+// In the path field, Return must not start the clean or close the dialog.
 void RegistryBackupDialog::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

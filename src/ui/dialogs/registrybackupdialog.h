@@ -6,18 +6,20 @@ class QCheckBox;
 class QLineEdit;
 class QPushButton;
 
-/// Asks before registry entries are cleaned whether to write a backup, and where. It is not
-/// accepted with a place that will not take one: a missing folder is made, a file is replaced only
-/// after a question, and everything else is told in words.
+/// Asks before a registry clean whether to write a backup, and where. Modal, on the stack of
+/// RegistryPage. GUI thread.
+///
+/// The dialog is accepted only with a usable location: it creates a missing folder, asks before it
+/// replaces a file, and reports any other problem.
 class RegistryBackupDialog final : public FramelessDialog
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(RegistryBackupDialog)
 public:
-    /// @p count is how many entries are about to be cleaned.
+    /// @p count is the number of entries to clean.
     explicit RegistryBackupDialog(int count, QWidget *parent = nullptr);
 
-    /// The file to write, always one that ends in ".reg"; empty when no backup is wanted.
+    /// The backup file; it ends in ".reg". Empty when the user wants no backup.
     [[nodiscard]] QString backupPath() const;
 
 public Q_SLOTS:
@@ -32,12 +34,13 @@ protected:
 private:
     QLayout *buildPathRow();
     QLayout *buildButtonRow();
-    /// Whether a backup can go to @p path, as far as can be told now and the user wants it to.
+    /// Checks that a backup can be written to @p path, and reports a problem. Creates a missing
+    /// folder and asks before a file is replaced. Returns whether the clean may go on.
     [[nodiscard]] bool prepareTarget(const QString &path);
-    /// Why it cannot; empty when it can.
+    /// The reason why no backup can be written to @p path; empty when it can.
     [[nodiscard]] static QString targetProblem(const QString &path);
 
-    QString m_pathToReplace; ///< a file that the user has already agreed to lose
+    QString m_pathToReplace; ///< the existing file that the user has agreed to replace
     QCheckBox *m_backupCheck;
     QLineEdit *m_pathEdit = nullptr;
     QPushButton *m_browseButton = nullptr;

@@ -4,10 +4,11 @@
 
 class QLabel;
 
-/// Shows what a scan for large files is looking at and what it has found, and lets the user cancel
-/// it. How far it has come nobody knows, so its bar only moves.
+/// Shows the progress of a scan for large files and lets the user cancel it. The total amount of
+/// work is unknown, so the bar shows no percentage.
 ///
-/// Frameless and movable; not modal. Escape or closing it asks to cancel.
+/// Frameless and movable, not modal. Escape and closing request to cancel. LargeFilePage owns it.
+/// GUI thread.
 class ScanProgressDialog final : public FramelessDialog
 {
     Q_OBJECT
@@ -15,7 +16,8 @@ class ScanProgressDialog final : public FramelessDialog
 public:
     explicit ScanProgressDialog(QWidget *parent = nullptr);
 
-    /// @p path is looked at; @p foundCount files of @p totalSize bytes have been found.
+    /// Shows that @p path is scanned now, and that @p foundCount files with @p totalSize bytes were
+    /// found so far.
     void updateProgress(const QString &path, int foundCount, qint64 totalSize);
 
 public Q_SLOTS:

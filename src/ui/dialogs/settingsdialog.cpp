@@ -109,7 +109,8 @@ void SettingsDialog::onSaveClicked()
     options::set(settings, options::confirmClean, m_confirmClean->isChecked());
     options::set(settings, options::backupRegistry, m_backupRegistry->isChecked());
     settings.sync();
-    // An entry that the user has removed by other means is not forced back by every save.
+    // Only a change of the option is written. A user may have removed the entry by other means, and
+    // a save must not restore it.
     if (m_autoStart->isChecked() != autoStartBefore)
         autostart::set(m_autoStart->isChecked());
     accept();

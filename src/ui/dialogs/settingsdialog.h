@@ -6,11 +6,11 @@ class QCheckBox;
 class QGroupBox;
 class QVBoxLayout;
 
-/// Edits the four options in the application's settings and, when that option has changed, the
-/// entry that starts the program with the session.
+/// Edits the four options in the settings of the application. When the autostart option changes, it
+/// also changes the autostart entry. MainWindow owns it. GUI thread.
 ///
-/// The boxes are read from the settings once, when the dialog is made: what was ticked and then
-/// cancelled is still ticked when it opens again.
+/// The check boxes read the settings once, in the constructor. After a cancel, the dialog therefore
+/// opens again with the changed check boxes.
 class SettingsDialog final : public FramelessDialog
 {
     Q_OBJECT

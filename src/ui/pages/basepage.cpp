@@ -73,7 +73,7 @@ void BasePage::setupHeader()
     m_title = parts::label({}, theme::label(theme::text, 24, 600), this);
     m_subtitle = parts::label({}, theme::label(theme::muted, 14), this);
     for (QLabel *label : {m_title, m_subtitle})
-        label->setIndent(2); // bold letters such as J reach to the left of where they begin
+        label->setIndent(2); // a bold letter such as J begins left of its origin
     titles->addWidget(m_title);
     titles->addWidget(m_subtitle);
     header->addLayout(titles, 1);
@@ -97,7 +97,8 @@ void BasePage::setupContent()
     m_scrollArea->setObjectName("contentScrollArea"_L1);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
-    m_scrollArea->setFocusPolicy(Qt::NoFocus); // it follows the focus of what it holds
+    // The content takes the focus, and the area scrolls to it.
+    m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setStyleSheet(theme::transparentScrollArea());
     m_scrollArea->viewport()->setAutoFillBackground(false);
@@ -241,8 +242,9 @@ void BasePage::runClean()
     m_engine->startClean();
 }
 
-// While a question stood open the list may have gone, by a scan that was started elsewhere. A
-// cancelled clean has removed part of what is listed: its end empties the list when it arrives.
+// A scan from another page may have removed the list while a question was open. After a cancelled
+// clean, part of the listed items no longer exists. The end of that clean empties the list when it
+// arrives.
 bool BasePage::canClean() const
 {
     return !isEngineBusy() && isResultShown() && !m_isCleanPending;
@@ -255,7 +257,7 @@ void BasePage::onStateChanged(CleanEngine::State state)
     if (state != CleanEngine::State::Scanning)
         return;
     releaseResult();
-    // The scan replaces a cancelled clean, whose own end does not arrive any more.
+    // The scan replaces a cancelled clean, and the end of that clean will not arrive.
     if (std::exchange(m_isCleanPending, false))
         Q_EMIT cleanFinished();
 }
@@ -289,7 +291,7 @@ void BasePage::cancelOperation()
         m_engine->cancel();
     closeProgressDialog();
     m_scanButton->setEnabled(true);
-    // The list, not the engine's result: that still belongs to the worker, which winds down.
+    // The list decides, because a worker that is stopping still uses the result of the engine.
     m_cleanButton->setEnabled(isResultShown());
     m_focus.restore(m_scanButton);
 }
@@ -308,10 +310,11 @@ void BasePage::onScanFinished(ScanResult)
         m_progressDialog->hide();
         delete m_progressDialog.data();
     }
-    // Takes the dialog off the screen before the list is built, which may take a while.
+    // Removes the dialog from the screen first, because building the list may take a while.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // An event may have started the next run, whose records are different.
     if (isEngineBusy())
-        return; // One of those events started the next run, whose records these are no more.
+        return;
     m_scanButton->setEnabled(true);
     m_cleanButton->setEnabled(!std::as_const(*m_engine).result().categories.isEmpty());
     displayResults();
@@ -359,7 +362,7 @@ void BasePage::insertTopBar(QWidget *bar)
     orderFocus();
 }
 
-// The list is made after the buttons below it, but stands above them.
+// The list is created after the buttons but stands above them.
 void BasePage::orderFocus() const
 {
     QWidget *previous = m_lastBarControl;

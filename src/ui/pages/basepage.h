@@ -17,11 +17,12 @@ class QPushButton;
 class QScrollArea;
 class QVBoxLayout;
 
-/// The one page design of every rule-driven engine: scan, review by category, confirm, clean.
+/// The common page of the rule-driven engines: scan, review by category, confirm, clean. MainWindow
+/// owns it. GUI thread.
 ///
-/// GUI thread. The result widgets are bound to the records inside the engine's result: they are
-/// made when a scan has finished and deleted when a scan starts, whoever starts it, since the
-/// engine then drops the records. From the start of a clean to its end they are locked.
+/// The result widgets are bound to records inside the result of the engine. They are created when a
+/// scan has finished. They are deleted when any scan starts, because the engine then drops the
+/// records. A clean locks them from its start to its end.
 class BasePage : public QWidget
 {
     Q_OBJECT
@@ -30,7 +31,8 @@ public:
     explicit BasePage(QWidget *parent = nullptr);
     ~BasePage() override;
 
-    /// Attaches @p engine, which is not owned and must outlive the page; the one before is let go.
+    /// Attaches @p engine and detaches the previous one. The page does not own the engine, which
+    /// must outlive the page.
     virtual void setEngine(CleanEngine *engine);
     [[nodiscard]] CleanEngine *engine() const { return m_engine; }
 
@@ -47,7 +49,8 @@ public Q_SLOTS:
     virtual void onEngineError(QString error);
 
 public:
-    /// Sets all texts. Subclasses call it and then replace title, subtitle and statistic caption.
+    /// Sets all texts. A subclass calls it first and then replaces title, subtitle and statistic
+    /// caption.
     virtual void retranslateUi();
 
 Q_SIGNALS:
@@ -60,47 +63,51 @@ protected:
     virtual void setupFooter();
     /// Rebuilds the result list from the engine's result.
     virtual void displayResults();
-    /// Makes the widgets of a result that is not empty, with @p parent; here one a category.
+    /// Creates the widgets of a result that is not empty, as children of @p parent. The default is
+    /// one widget for each category.
     [[nodiscard]] virtual QList<ResultWidget *> makeResultWidgets(QList<CleanCategory> &categories,
                                                                   QWidget *parent);
-    /// Puts @p bar, which holds controls in the order of the eye, above the result list.
+    /// Puts @p bar above the result list. Its controls must be created in the order in which they
+    /// are seen, because that is their tab order.
     void insertTopBar(QWidget *bar);
     /// Deletes all result widgets.
     virtual void clearResults();
-    /// Shows what is selected now and enables the clean button accordingly.
+    /// Shows the size or the number of the selected items, and enables the clean button when there
+    /// are any.
     void updateSelection();
 
-    /// Whether the page speaks in bytes (the default) or in item counts.
+    /// Whether the page shows bytes (the default) or numbers of items.
     void setShowSizes(bool show) { m_showSizes = show; }
     void setTitle(const QString &text);
     void setSubtitle(const QString &text);
     void setStatisticCaption(const QString &text);
-    /// What stands in the place of the selection while there is none.
+    /// The text that replaces the selection while no result is shown.
     void setNoSelectionText(const QString &text);
-    /// How many items would be cleaned now. Only what is listed can have been chosen: a scan that
-    /// was cancelled leaves records that nobody has seen.
+    /// The number of items that a clean would take now. It is 0 while no result is listed: a
+    /// cancelled scan leaves records that the user has not seen.
     [[nodiscard]] int chosenCount() const;
-    /// Whether what is listed may be cleaned now.
+    /// Whether the listed items may be cleaned now.
     [[nodiscard]] bool canClean() const;
-    /// The end of every way to start a clean: opens the dialog and starts the engine, unless what
-    /// is listed may not be cleaned any more.
+    /// The last step of every clean: opens the progress dialog and starts the engine, if canClean()
+    /// still allows it.
     void runClean();
-    /// Makes the dialog of a new run in the place of any earlier one and locks the buttons.
+    /// Replaces any earlier progress dialog by one for a new run, and locks the buttons.
     ProgressDialog *openProgressDialog(int mode);
     [[nodiscard]] bool isEngineBusy() const;
 
 private:
     void onStateChanged(CleanEngine::State state);
     void releaseResult();
-    /// While a clean runs, the ticks on the screen mean nothing any more.
+    /// Locks the list and the bar. While a clean runs, a change of a check box would have no
+    /// effect.
     void setLocked(bool locked);
     void closeProgressDialog();
     void orderFocus() const;
     [[nodiscard]] bool isResultShown() const { return !m_resultWidgets.isEmpty(); }
 
     CleanEngine *m_engine = nullptr;
-    std::unique_ptr<QObject> m_runReceiver; ///< of its signals
-    bool m_isCleanPending = false; ///< one has begun; the page has not heard of its end
+    std::unique_ptr<QObject> m_runReceiver; ///< context of the engine connections
+    bool m_isCleanPending = false; ///< a clean has started, and its end has not arrived yet
     bool m_showSizes = true;
     QString m_noSelectionText;
     QVBoxLayout *m_layout;
@@ -117,7 +124,7 @@ private:
     QPushButton *m_cleanButton = nullptr;
     QList<ResultWidget *> m_resultWidgets;
     FocusKeeper m_focus;
-    QWidget *m_topBar = nullptr; ///< above the list, if a subclass has one
-    QWidget *m_lastBarControl = nullptr; ///< of it to take the focus
+    QWidget *m_topBar = nullptr; ///< above the list; null when the subclass has none
+    QWidget *m_lastBarControl = nullptr; ///< the last focusable control of the bar
     QPointer<ProgressDialog> m_progressDialog;
 };

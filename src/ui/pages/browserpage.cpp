@@ -45,8 +45,8 @@ void BrowserPage::buildSelectionBar()
         row->addWidget(box);
     }
     insertTopBar(bar);
-    // What the bar shows is what is scanned from the start: once the engine knows of one choice, it
-    // leaves out every browser of which it knows none.
+    // The engine must know the choice for each browser from the start. Once it knows one choice, it
+    // leaves out every browser without a choice.
     for (const QCheckBox *box : std::as_const(m_browserBoxes))
         m_cleaner->setBrowserEnabled(box->property("browserType").toInt(), true);
 }
@@ -55,7 +55,7 @@ void BrowserPage::onBrowserToggled(bool checked)
 {
     const int type = sender()->property("browserType").toInt();
     m_cleaner->setBrowserEnabled(type, checked);
-    // Who leaves a browser out means what is listed of it as well.
+    // A user who leaves a browser out also means its listed results.
     setBrowserIncluded(type, checked);
 }
 
@@ -83,7 +83,8 @@ QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categ
 {
     m_groups.clear();
     const QList<Browser> &known = m_cleaner->browsers();
-    // In the order of the browsers; the last is for what is no browser's that is known.
+    // One group for each browser, in the order of the browsers. The last group is for categories
+    // without a known browser.
     QList<BrowserGroupWidget *> groups(known.size() + 1);
     for (CleanCategory &category : categories) {
         const QString id = browsers::originOf(category).browserId;
@@ -99,7 +100,7 @@ QList<ResultWidget *> BrowserPage::makeResultWidgets(QList<CleanCategory> &categ
         }
         group->addCategory(&category);
     }
-    // One may have been left out while the scan ran.
+    // The user may have left out a browser while the scan ran.
     for (const QCheckBox *box : std::as_const(m_browserBoxes)) {
         if (!box->isChecked())
             setBrowserIncluded(box->property("browserType").toInt(), false);

@@ -11,8 +11,8 @@ class BrowserGroupWidget;
 class QCheckBox;
 class QLabel;
 
-/// The page of the browser cleaner: a bar that chooses the browsers to scan and to clean, and the
-/// results by browser.
+/// The page of the browser cleaner: a bar to choose the browsers, and the results by browser.
+/// MainWindow owns it. GUI thread.
 class BrowserPage final : public BasePage
 {
     Q_OBJECT

@@ -69,7 +69,7 @@ void DashboardPage::showResults(qint64 junkSize, qint64 browserSize, int registr
 bool DashboardPage::eventFilter(QObject *watched, QEvent *event)
 {
     const auto *card = qobject_cast<QWidget *>(watched);
-    // A press that was thought better of is let go outside.
+    // A user can still abort a press by releasing the button outside the card.
     if (card && event->type() == QEvent::MouseButtonRelease
         && card->rect().contains(static_cast<QMouseEvent *>(event)->position().toPoint())) {
         if (watched == m_results->junkCard()) {

@@ -8,8 +8,9 @@ class DashboardResultsPanel;
 class DashboardStartPanel;
 class QStackedWidget;
 
-/// The home page with the one-click scan. It drives no engine: it asks the main window by signals,
-/// which calls back what there is to show.
+/// The home page with the one-click scan. It does not use any engine: it sends requests to the main
+/// window by signals, and the main window calls it to show progress and results. MainWindow owns
+/// it. GUI thread.
 class DashboardPage final : public QWidget
 {
     Q_OBJECT
@@ -19,9 +20,9 @@ public:
 
     /// Enters or leaves the scanning state.
     void setScanning(bool scanning);
-    /// Shows how far the scan has come. More than 100 percent is written as it is.
+    /// Shows the progress of the scan. A value above 100 percent is shown unchanged.
     void updateProgress(int percent, const QString &currentPath);
-    /// Shows what was found, sizes in bytes, on the panel that stays from then on.
+    /// Shows the results panel, which then stays. Sizes are in bytes.
     void showResults(qint64 junkSize, qint64 browserSize, int registryCount);
 
     [[nodiscard]] bool hasResults() const { return m_hasResults; }

@@ -17,11 +17,11 @@ namespace {
 
 constexpr int pixelsPerPercent = 4;
 constexpr int trackHeight = 8;
-constexpr int fixedArc = 75; ///< percent of the circle that results show, whatever they are
-constexpr int fixedRegistryBar = 60; ///< pixels, likewise
+constexpr int fixedArc = 75; ///< percent of the circle, the same for all results
+constexpr int fixedRegistryBar = 60; ///< pixels, the same for all results
 constexpr qint64 shortestBar = 20; ///< pixels
 
-// One decimal from KB on; unlike formatSize() also for GB.
+// One decimal from KB on. formatSize() shows two decimals for GB.
 QString sizeText(qint64 bytes)
 {
     const auto rounded = [bytes](qint64 unit) {
@@ -93,7 +93,7 @@ QWidget *DashboardStartPanel::buildProgressArea()
     layout->addWidget(m_percent);
     layout->addWidget(track, 0, Qt::AlignHCenter);
     layout->addWidget(m_path);
-    // The panel stands still when the area appears.
+    // The hidden area keeps its room, so that the panel does not move when the area appears.
     QSizePolicy policy = area->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     area->setSizePolicy(policy);

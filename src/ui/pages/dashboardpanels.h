@@ -8,7 +8,8 @@ class QLayout;
 class QPushButton;
 class StatCard;
 
-/// The dashboard before its first results: one button, and below it how far the scan has come.
+/// The dashboard before its first results: a button and, below it, the progress of the scan.
+/// DashboardPage owns it. GUI thread.
 class DashboardStartPanel final : public QWidget
 {
     Q_OBJECT
@@ -32,6 +33,7 @@ private:
 };
 
 /// The dashboard from its first results on: the circle, the state, two buttons and three cards.
+/// DashboardPage owns it. GUI thread.
 class DashboardResultsPanel final : public QWidget
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "basepage.h"
 
-/// The page of the junk cleaner.
+/// The page of the junk cleaner. MainWindow owns it. GUI thread.
 class JunkPage final : public BasePage
 {
     Q_OBJECT

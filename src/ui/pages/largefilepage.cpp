@@ -30,7 +30,8 @@ namespace {
 
 constexpr qint64 mebibyte = 1'048'576;
 constexpr qint64 defaultSize = 100 * mebibyte;
-constexpr int deletionDialogDelay = 300; // milliseconds
+// In milliseconds. A shorter deletion shows no progress dialog.
+constexpr int deletionDialogDelay = 300;
 
 } // namespace
 
@@ -180,7 +181,8 @@ void LargeFilePage::onScanFinished(int totalFound, qint64 totalSize)
     m_model.setFiles(m_scanner.results());
     updateSelectedInfo();
     m_views->setCurrentIndex(1);
-    // The view remembers the card that had its focus before, which may have no row in this list.
+    // The view gives the focus back to the card that had it before. That card may have no row in
+    // this list.
     if (const QWidget *focus = focusWidget(); focus && focus->hasFocus() && !focus->isVisible())
         m_results->list()->tabStop()->setFocus();
 }
@@ -221,7 +223,7 @@ void LargeFilePage::showFileMenu(FileCard *card, QPoint position)
     auto *menu = new QMenu(card);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setStyleSheet(theme::contextMenu());
-    // The card may show another file by the time that something is chosen.
+    // The file is copied, because the card may show another file when the user chooses an action.
     const LargeFileInfo file = card->info();
     const int row = m_results->list()->rowOf(card);
     QAction *open = menu->addAction(tr("📂 Open file location"));
@@ -262,7 +264,8 @@ void LargeFilePage::onDeleteSelected()
             .arg(QString::number(rows.size()), formatSize(m_model.tickedSize()));
     if (!ask::question(this, tr("Confirm Delete"), question))
         return;
-    // Exactly those that were asked about, or none.
+    // The selection may have changed while the question was open. Only what the question named is
+    // deleted.
     if (rows == m_model.tickedRows())
         startDeletion(Deletion::TickedFiles, rows);
 }
@@ -313,8 +316,9 @@ void LargeFilePage::onDeleteFinished(const QBitArray &deleted, int tried)
     updateSelectedInfo();
     updateSummary();
     QWidget *rows = m_results->list()->tabStop();
+    // The card that had the focus may show another file now.
     if (m_results->list()->isAncestorOf(m_focus.control()))
-        m_focus.replaceControl(rows); // the card that had it may show another file now
+        m_focus.replaceControl(rows);
     m_focus.restore(rows ? rows : m_results->backButton());
     const auto count = static_cast<int>(deletedRows.size());
     showOutcome(m_deletion, count, tried - count);

@@ -18,17 +18,18 @@ class ProgressDialog;
 class QStackedWidget;
 class ScanProgressDialog;
 
-/// The page on which large files are searched for on chosen drives, reviewed and deleted.
+/// The page that finds large files on chosen drives, lists them and deletes them. MainWindow owns
+/// it. GUI thread.
 ///
-/// Owns its scanner and the model of what it found. While files are deleted, which the scanner does
-/// on its worker, the results are locked. GUI thread.
+/// It owns the scanner and the model of the results. The scanner deletes on its worker, and the
+/// results are locked until it has finished.
 class LargeFilePage final : public QWidget
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(LargeFilePage)
 public:
     explicit LargeFilePage(QWidget *parent = nullptr);
-    /// With other drives to choose from than those that are mounted.
+    /// Offers @p drives instead of the mounted volumes.
     explicit LargeFilePage(const QList<DriveInfo> &drives, QWidget *parent = nullptr);
     ~LargeFilePage() override;
 
@@ -44,24 +45,24 @@ public Q_SLOTS:
     void onScanFinished(int totalFound, qint64 totalSize);
     void onBackClicked();
     void onDeleteSelected();
-    /// The sender is a card's check box.
+    /// The sender must be the check box of a card.
     void onFileCheckChanged(bool checked);
     void onSizeComboChanged(int index);
     void updateSelectedInfo();
 
 protected:
-    /// A click anywhere on a drive's card toggles its check box.
+    /// Toggles the check box of a drive's card on a click anywhere on the card.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// What a deletion was asked for by, which decides what is said at its end.
+    /// How the user asked for the deletion. It decides which message follows.
     enum class Deletion { TickedFiles, OneFile };
 
     void listenToScanner();
     void closeScanDialog();
     void connectCard(FileCard *card);
     void showFileMenu(FileCard *card, QPoint position);
-    /// Asks, and deletes the file if it still stands in @p row.
+    /// Asks, and then deletes the file if @p row still shows it.
     void deleteFile(const LargeFileInfo &file, int row);
     void startDeletion(Deletion kind, const QList<int> &rows);
     void showDeletionDialog();
@@ -79,8 +80,8 @@ private:
     qint64 m_customSize = 0; ///< bytes
     QPointer<ScanProgressDialog> m_scanDialog;
     Deletion m_deletion = Deletion::TickedFiles;
-    QList<int> m_rowsToDelete; ///< that the scanner is deleting
-    FocusKeeper m_focus; ///< while the results are locked
-    QTimer m_deletionDialogTimer; ///< a deletion that takes longer shows its dialog
+    QList<int> m_rowsToDelete; ///< the rows of the running deletion
+    FocusKeeper m_focus; ///< holds the focus while the results are locked
+    QTimer m_deletionDialogTimer; ///< delays the progress dialog of a deletion
     QPointer<ProgressDialog> m_deletionDialog;
 };

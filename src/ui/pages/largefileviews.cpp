@@ -26,7 +26,8 @@ constexpr int drivesPerRow = 4;
 LargeFileSelectionView::LargeFileSelectionView(const QList<DriveInfo> &drives, QWidget *parent)
     : QScrollArea(parent)
 {
-    // Nobody knows how many drives there are: more than fit must not stretch the window.
+    // A computer may have many drives. The view scrolls, so that they do not make the window
+    // larger.
     setObjectName("selectionView"_L1);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);

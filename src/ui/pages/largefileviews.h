@@ -13,21 +13,21 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 
-/// The first view of the large-file page: which drives, from which size on. Its controls belong to
-/// the page, which alone acts on them.
+/// The first view of the large-file page: the choice of drives and of the minimum size.
+/// LargeFilePage owns it and handles its controls. GUI thread.
 class LargeFileSelectionView final : public QScrollArea
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(LargeFileSelectionView)
 public:
-    /// What the item of the size list that asks for a size has in place of one.
+    /// The data of the "Custom..." item, in place of a size in bytes.
     static constexpr qint64 customItem = -1;
     static constexpr int defaultSizeIndex = 1;
 
     explicit LargeFileSelectionView(const QList<DriveInfo> &drives, QWidget *parent = nullptr);
 
     [[nodiscard]] const QList<DriveCard *> &driveCards() const { return m_driveCards; }
-    /// By root path.
+    /// The check boxes by root path of the drive.
     [[nodiscard]] const QMap<QString, QCheckBox *> &driveBoxes() const { return m_driveBoxes; }
     [[nodiscard]] QComboBox *sizeCombo() const { return m_sizeCombo; }
     [[nodiscard]] QPushButton *startButton() const { return m_startButton; }
@@ -42,7 +42,8 @@ private:
     QPushButton *m_startButton = nullptr;
 };
 
-/// The second view: what was found and how much of it is selected.
+/// The second view: the files that were found, and the size of the selection. LargeFilePage owns
+/// it. GUI thread.
 class LargeFileResultsView final : public QWidget
 {
     Q_OBJECT

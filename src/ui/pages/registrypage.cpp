@@ -37,7 +37,7 @@ void RegistryPage::startClean()
     RegistryBackupDialog dialog(count, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    // A clean that was cancelled may still be writing its backup, and reads the path.
+    // A cancelled clean may still read the path while it writes its backup.
     if (!canClean())
         return;
     m_cleaner->setBackupPath(dialog.backupPath());

@@ -4,7 +4,8 @@
 
 class RegistryCleaner;
 
-/// The page of the registry cleaner. It speaks in counts, and asks for a backup before it cleans.
+/// The page of the registry cleaner. It shows numbers of entries instead of bytes, and offers a
+/// backup before it cleans. MainWindow owns it. GUI thread.
 class RegistryPage final : public BasePage
 {
     Q_OBJECT

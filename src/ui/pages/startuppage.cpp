@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype cardsPerBatch = 12; ///< more than the page shows without scrolling
+constexpr qsizetype cardsPerBatch = 12; ///< more than fit on the page without scrolling
 
 void setCheckedSilently(QCheckBox *box, bool checked)
 {
@@ -51,7 +51,8 @@ StartupPage::StartupPage(QWidget *parent)
     m_scrollArea->setObjectName("startupScrollArea"_L1);
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
-    m_scrollArea->setFocusPolicy(Qt::NoFocus); // it follows the focus of the cards
+    // The cards take the focus, and the area scrolls to them.
+    m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setStyleSheet(theme::transparentScrollArea());
     m_scrollArea->viewport()->setAutoFillBackground(false);
@@ -142,7 +143,7 @@ void StartupPage::showEvent(QShowEvent *event)
 void StartupPage::onRefreshClicked()
 {
     startLoading();
-    // The page paints itself before the registry is read.
+    // The delay lets the page paint before the registry is read.
     QTimer::singleShot(100, this, &StartupPage::doLoadApps);
 }
 
@@ -182,7 +183,7 @@ void StartupPage::refreshList()
     m_cardTimer.stop();
     while (m_list->count() > 1) {
         const std::unique_ptr<QLayoutItem> item(m_list->takeAt(0));
-        // A card may be about to tell of its own click.
+        // A card may still be handling its own click, so it is deleted later.
         item->widget()->hide();
         item->widget()->setParent(nullptr);
         item->widget()->deleteLater();
@@ -201,7 +202,8 @@ void StartupPage::refreshList()
     addCards();
 }
 
-// The first ones at once, the rest between the user's key strokes.
+// Creates the first batch at once and the others from a timer, so that the page reacts to keys in
+// between.
 void StartupPage::addCards()
 {
     for (qsizetype count = 0; count < cardsPerBatch && !m_pendingApps.isEmpty(); ++count) {
@@ -250,7 +252,7 @@ void StartupPage::onItemToggled(bool checked)
         (checked ? u"Added \"%1\" to startup"_s : u"Removed \"%1\" from startup"_s).arg(name));
 }
 
-// One program's new entry may have taken the place of another's.
+// The new entry of one program may have replaced the entry of another program.
 void StartupPage::showStates()
 {
     QHash<QString, bool> states;

@@ -11,8 +11,10 @@ class QLineEdit;
 class QScrollArea;
 class QVBoxLayout;
 
-/// The page of the start-up programs: every installed program with a check box that makes it start
-/// with the session or not. Loads when it is shown for the first time, after it has painted.
+/// The page of the start-up programs. Each installed program has a check box for its start-up
+/// entry. MainWindow owns it. GUI thread.
+///
+/// The list loads after the page has been shown and painted for the first time.
 class StartupPage final : public QWidget
 {
     Q_OBJECT
@@ -42,11 +44,11 @@ private:
     void showWarning(const QString &text);
 
     StartupManager m_manager;
-    QList<StartupApp> m_apps; ///< sorted as they are shown
+    QList<StartupApp> m_apps; ///< in the order of the list
     qsizetype m_programCount = 0;
-    QList<StartupApp> m_pendingApps; ///< chosen by the search and not yet a card
+    QList<StartupApp> m_pendingApps; ///< match the search and have no card yet
     QFileIconProvider m_icons;
-    QTimer m_cardTimer; ///< makes the cards that are not seen at once
+    QTimer m_cardTimer; ///< creates the remaining cards
     QTimer m_loadingTimer;
     int m_loadingFrame = 0;
     bool m_hasLoaded = false;

@@ -4,14 +4,15 @@
 
 namespace theme {
 
-/// The window's menu.
+/// The main menu and the language menu.
 [[nodiscard]] QString menu();
-/// A menu on a card.
+/// The context menu of a card.
 [[nodiscard]] QString contextMenu();
+/// The About message box.
 [[nodiscard]] QString aboutBox();
-/// Every other message box: the same, and its focus is seen.
+/// All other message boxes. They look like the About box and also show the focus.
 [[nodiscard]] QString messageBox();
-/// A box that asks for a number.
+/// A dialog that asks for a number.
 [[nodiscard]] QString inputDialog();
 
 } // namespace theme

@@ -6,6 +6,7 @@
 
 namespace theme {
 
+/// The colours, lengths in pixels and font weight of a filled button.
 struct FilledButton {
     Colour background;
     Colour hovered;
@@ -17,42 +18,47 @@ struct FilledButton {
 /// A filled button with white text.
 [[nodiscard]] QString filledButton(const FilledButton &look);
 
+/// The lengths of a danger button. The radius is in pixels, the padding is CSS.
 struct DangerButton {
     int radius;
     QString padding;
 };
-/// A button for what cannot be undone, in quiet red.
+/// A pale red button for an action that cannot be undone.
 [[nodiscard]] QString dangerButton(const DangerButton &look);
 
+/// The corner radius and the font size of a button, in pixels.
 struct ButtonShape {
     int radius;
     int fontSize;
 };
-/// A quiet grey button.
+/// A grey button for a secondary action.
 [[nodiscard]] QString quietButton(const ButtonShape &shape);
-/// The one button that a page is about, in the two tones of the accent.
+/// The main button of a page, with a gradient of the accent colours.
 [[nodiscard]] QString gradientButton(const ButtonShape &shape);
-/// A white button with a frame for what cannot be undone.
+/// A white button with a red border, for an action that cannot be undone.
 [[nodiscard]] QString dangerOutlineButton(const ButtonShape &shape);
 
+/// The colours and the font size in pixels of a dialog button.
 struct DialogButton {
     Colour background;
     Colour colour;
     Colour hovered;
     int fontSize = 13;
 };
-/// A dialog's button without a frame.
+/// A dialog button without a border.
 [[nodiscard]] QString dialogButton(const DialogButton &look);
-/// A dialog's button that is a frame only.
+/// A dialog button with a border and no background.
 [[nodiscard]] QString framedButton();
 
-/// The number of a category's items, a badge that opens their list.
+/// A badge with the number of items in a category. It opens the list of the items.
 [[nodiscard]] QString badgeButton();
+/// The button that shows the next items of a category.
 [[nodiscard]] QString loadMoreButton();
+/// The button that expands and collapses a category.
 [[nodiscard]] QString expandButton();
-/// A button that reads like a link.
+/// A button that looks like a link.
 [[nodiscard]] QString linkButton();
-/// A button that is an icon.
+/// A button with an icon and no text.
 [[nodiscard]] QString iconButton();
 
 } // namespace theme

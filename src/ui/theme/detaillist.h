@@ -4,18 +4,19 @@
 
 namespace theme {
 
-/// The dialog with a category's items.
+/// The dialog that lists the items of a category.
 [[nodiscard]] QString detailDialog();
-/// Its bar in the accent colour, with what it says in white.
+/// The title bar of the dialog: white text on the accent colour.
 [[nodiscard]] QString detailTitleBar();
-/// The button back in that bar.
+/// The back button in the title bar.
 [[nodiscard]] QString detailBackButton();
-/// The row with the names of its columns.
+/// The row of column titles.
 [[nodiscard]] QString detailColumnHeader();
-/// The area that its rows scroll in, and whose frame tells the focus.
+/// The scroll area of the rows. Its border shows the focus.
 [[nodiscard]] QString detailScrollArea();
+/// The background of the rows.
 [[nodiscard]] QString detailRows();
-/// One of the rows; every other one is striped.
+/// A row. Every second row is striped.
 [[nodiscard]] QString detailRow(bool isStriped);
 
 } // namespace theme

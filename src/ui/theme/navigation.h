@@ -4,15 +4,15 @@
 
 namespace theme {
 
-/// The white box of the emblem above the navigation.
+/// The white box with the program icon above the navigation.
 [[nodiscard]] QString logoBox();
-/// The small circle at its corner.
+/// The small circle at the corner of that box.
 [[nodiscard]] QString logoBadge();
-/// The program's name below it.
+/// The program name below the box.
 [[nodiscard]] QString logoText();
 /// The line between the logo and the entries.
 [[nodiscard]] QString navSeparator();
-/// The text of an entry; that of the page that is shown is checked.
+/// The text of an entry. The entry of the current page is checked.
 [[nodiscard]] QString navText(bool isChecked);
 
 } // namespace theme

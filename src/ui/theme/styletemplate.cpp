@@ -10,6 +10,7 @@ namespace theme {
 
 namespace {
 
+/// A row of the token table: the name in styles and the value in CSS.
 struct Token {
     QLatin1StringView name;
     QLatin1StringView value;
@@ -33,7 +34,7 @@ bool isLetter(QChar character)
     return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
 }
 
-// The name of the hole that begins with the brace at @p begin, or nothing.
+// The name of the hole whose brace is at @p begin; empty when there is no hole.
 QStringView holeAt(QStringView style, qsizetype begin)
 {
     qsizetype end = begin + 1;

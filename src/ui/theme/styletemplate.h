@@ -9,7 +9,7 @@
 
 namespace theme {
 
-/// What a call puts into a hole of a style.
+/// A value that a call puts into a hole of a style. A hole is a placeholder: see fillHoles().
 struct Value {
     Value(const char *theHole, Colour colour)
         : hole(theHole)
@@ -31,19 +31,20 @@ struct Value {
     QString text;
 };
 
+/// A style whose holes are filled.
 struct Filled {
     QString text;
-    /// One sentence each: a hole without a value, a value without a hole, a value named like a
-    /// token.
+    /// One sentence for each fault: a hole without a value, a value without a hole, a value with
+    /// the name of a token.
     QStringList faults;
 };
 
-/// Fills the holes of @p style: a hole is a name in braces without blanks, such as {accent}, so
-/// that the braces of a rule are none. What @p values does not name comes from the table of tokens.
-/// Everything else comes out as it is written.
+/// Fills the holes of @p style. A hole is a name in braces without blanks, such as {accent}. The
+/// braces of a CSS rule contain blanks, so they are no holes. A name that is not in @p values comes
+/// from the table of tokens. All other text stays as it is.
 [[nodiscard]] Filled fillHoles(QStringView style, std::initializer_list<Value> values = {});
 
-/// The same for the program: a fault is a warning in the log, and ends a debug build.
+/// As fillHoles(), for the program itself. A fault is a warning in the log and stops a debug build.
 [[nodiscard]] QString fill(QStringView style, std::initializer_list<Value> values = {});
 
 } // namespace theme

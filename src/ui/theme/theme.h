@@ -1,7 +1,7 @@
 #pragma once
 
-/// Every colour and style of the interface, under the name of its use. The values are in tokens.h,
-/// the styles by subject in the other headers; what a call has to choose is handed in by name.
+/// All colours and styles of the user interface, named after their use. The values are in tokens.h,
+/// and the other headers have the styles by subject.
 #include "boxes.h"
 #include "buttons.h"
 #include "cards.h"

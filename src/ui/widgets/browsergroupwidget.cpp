@@ -127,8 +127,8 @@ QList<QWidget *> BrowserGroupWidget::focusChain() const
     return chain;
 }
 
-// Partly ticked is shown, but nobody chooses it: a click ticks all but the guarded items, and where
-// they alone are left it takes the ticks away.
+// The user cannot choose the partly checked state. A click checks all items except the guarded
+// ones. When only guarded items are unchecked, a click unchecks everything.
 void BrowserGroupWidget::onHeaderChanged(int state)
 {
     if (state == Qt::PartiallyChecked)

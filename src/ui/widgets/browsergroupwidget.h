@@ -12,26 +12,26 @@ class QPushButton;
 class QVBoxLayout;
 struct CleanCategory;
 
-/// The results of one browser: a header with a tri-state check box and, once expanded, a row for
-/// each kind of data.
+/// The results of one browser: a header with a tri-state check box and, when expanded, a row for
+/// each kind of data. The list of BrowserPage owns it. GUI thread.
 class BrowserGroupWidget final : public ResultWidget
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(BrowserGroupWidget)
 public:
-    /// @p name is what is shown and what chooses the icon.
+    /// @p name is the title and also selects the icon.
     explicit BrowserGroupWidget(const QString &name, QWidget *parent = nullptr);
 
-    /// Appends a row for @p category, a record of the engine's result.
+    /// Appends a row for @p category, a record inside the result of the engine.
     void addCategory(CleanCategory *category);
-    /// Takes all that is shown out of every clean, or puts it back as it was.
+    /// Excludes all rows from a clean, or includes them again with their former check states.
     void setIncluded(bool included);
     [[nodiscard]] qsizetype subItemCount() const { return m_subItems.size(); }
 
     [[nodiscard]] QList<QWidget *> focusChain() const override;
     void setShowSizes(bool show) override;
 
-    /// The icon of the browser that @p name names in any case; a generic one for others.
+    /// The icon for the browser @p name in any case. An unknown browser gets a generic icon.
     [[nodiscard]] static QString iconPath(const QString &name);
 
 protected:

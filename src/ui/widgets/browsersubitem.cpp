@@ -31,14 +31,15 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
     , m_detailsButton(
           parts::button(u"viewDetailsBtn"_s, tr("View Details"), theme::linkButton(), this))
 {
-    // Bound as they come, the items of an unselected category would be ticked.
+    // The items of an unchecked category come checked. They are unchecked here, because the row and
+    // its items must agree.
     if (!category->checked)
         category->setChecked(false);
 
     setObjectName("browserSubItem"_L1);
     setAttribute(Qt::WA_StyledBackground);
     setToolTip(plainToolTip(category->description));
-    // The browser's name stands above.
+    // The group header already shows the name of the browser.
     const QString name = singleLine(browsers::originOf(*category).ruleName);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 7, 12, 7);
@@ -75,7 +76,7 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
 
     m_detailsButton->setIcon(
         QIcon(svgPixmap(u":/icons/chevron-right.svg"_s, {16, 16}, devicePixelRatioF())));
-    m_detailsButton->setLayoutDirection(Qt::RightToLeft); // the arrow after the text
+    m_detailsButton->setLayoutDirection(Qt::RightToLeft); // puts the arrow after the text
     m_detailsButton->setAccessibleName(tr("View details of %1").arg(name));
     connect(m_detailsButton, &QPushButton::clicked, this, &BrowserSubItem::showDetails);
     layout->addWidget(m_detailsButton);
@@ -83,7 +84,7 @@ BrowserSubItem::BrowserSubItem(CleanCategory *category, QWidget *parent)
 
 BrowserSubItem::~BrowserSubItem()
 {
-    // It shows the same record, which goes with the widget.
+    // The dialog shows the record of this row and must not outlive the row.
     delete m_details;
 }
 
@@ -108,16 +109,16 @@ bool BrowserSubItem::hasMoreToTick() const
 
 void BrowserSubItem::tickUnguarded()
 {
+    // The items may still be checked although their category was not.
     if (!m_category->checked)
-        m_category->setChecked(
-            false); // its items may still bear the ticks that counted for nothing
+        m_category->setChecked(false);
     for (CleanItem &item : m_category->items)
         item.checked = item.checked || !isGuarded(item);
     m_category->checked = m_category->checkedCount() > 0;
     showCheckState();
 }
 
-// Listed with a higher risk than its kind of data, by whoever knows more of the item.
+// An engine gives an item a higher risk than its category when it knows more about the item.
 bool BrowserSubItem::isGuarded(const CleanItem &item) const
 {
     return item.riskLevel > m_category->riskLevel;
@@ -127,7 +128,7 @@ void BrowserSubItem::setIncluded(bool included)
 {
     if (std::exchange(m_isIncluded, included) == included)
         return;
-    // The items keep their own ticks: without the category's they count for nothing.
+    // The items keep their check states. They have no effect while the category is unchecked.
     if (!included)
         m_wasChecked = m_category->checked;
     m_category->checked = included && m_wasChecked;
@@ -153,8 +154,9 @@ void BrowserSubItem::showDetails()
     m_details->show();
 }
 
-// Partly ticked is shown, but nobody chooses it: a click ticks all. Where all but the guarded items
-// are ticked, it takes the ticks away: nobody is to get those by the way.
+// The user cannot choose the partly checked state: a click checks all items. When all items except
+// the guarded ones are checked, a click unchecks everything. A user must not check guarded items by
+// accident.
 void BrowserSubItem::onStateChanged(int state)
 {
     if (state == Qt::PartiallyChecked)

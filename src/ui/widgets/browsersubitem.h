@@ -10,8 +10,11 @@ class QPushButton;
 struct CleanCategory;
 struct CleanItem;
 
-/// One kind of data of one browser: a row with a check box, how much there is, and a button for the
-/// details. Bound to a record of the engine's result.
+/// One kind of data of one browser: a row with a check box, the amount of data, and a button for
+/// the details. Bound to a record inside the result of the engine, which outlives the row.
+/// BrowserGroupWidget owns it. GUI thread.
+///
+/// An item is guarded when its risk is higher than the risk of its category.
 class BrowserSubItem final : public QWidget
 {
     Q_OBJECT
@@ -21,23 +24,23 @@ public:
     ~BrowserSubItem() override;
 
     [[nodiscard]] const CleanCategory &category() const { return *m_category; }
-    /// Partly checked when some of the items are ticked and some are not.
+    /// Partly checked when only some of the items are checked.
     [[nodiscard]] Qt::CheckState checkState() const;
-    /// Ticks or unticks the record with all its items, without a signal.
+    /// Checks or unchecks the record with all its items. Emits no signal.
     void setChecked(bool checked);
-    /// Whether something is not ticked that is not guarded.
+    /// Whether an item is unchecked and not guarded.
     [[nodiscard]] bool hasMoreToTick() const;
-    /// Ticks the record and its items, but for those that are guarded: these are ticked with this
-    /// row alone, by somebody who sees which kind of data it is.
+    /// Checks the record and all its items except the guarded ones. Guarded items are checked only
+    /// by this row, where the user sees the kind of data.
     void tickUnguarded();
-    /// Takes the category out of every clean, or puts it back with the ticks that it had. Taken
-    /// out, it cannot be ticked.
+    /// Excludes the category from a clean, or includes it again with its former check states. The
+    /// user cannot check an excluded category.
     void setIncluded(bool included);
     void setShowSizes(bool show);
     [[nodiscard]] QList<QWidget *> focusChain() const;
 
 public Q_SLOTS:
-    /// Opens the dialog that lists every item.
+    /// Opens the dialog that lists all items.
     void showDetails();
     [[nodiscard]] bool isGuarded(const CleanItem &item) const;
 
@@ -50,7 +53,7 @@ private:
 
     CleanCategory *m_category;
     bool m_isIncluded = true;
-    bool m_wasChecked = false; ///< before it was taken out
+    bool m_wasChecked = false; ///< the state before the category was excluded
     QCheckBox *m_checkBox;
     QLabel *m_size;
     QPushButton *m_detailsButton;

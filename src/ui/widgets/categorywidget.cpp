@@ -25,12 +25,12 @@ namespace {
 
 constexpr qsizetype pageSize = 10;
 
-// A browser's category has the icon of the kind of data, whichever browser it belongs to.
+// A browser category has the icon of its kind of data, the same for all browsers.
 QString iconPath(const CleanCategory &category)
 {
     const QString id = browsers::originOf(category).ruleId;
     const QString path = u":/icons/categories/%1.svg"_s.arg(id);
-    // An id comes from a rule file and is a name here, never a path.
+    // The id comes from a rule file. It must be a plain name, because it becomes part of a path.
     return !id.contains(u'/') && QFile::exists(path) ? path : u":/icons/categories/default.svg"_s;
 }
 
@@ -43,8 +43,8 @@ CategoryWidget::CategoryWidget(CleanCategory *category, QWidget *parent)
     , m_content(new QWidget(this))
     , m_contentLayout(new QVBoxLayout(m_content))
 {
-    // The items of a category that starts unselected come ticked all the same. Bound as they are,
-    // unticking one of them would select all the others.
+    // The items of an unchecked category come checked. They are unchecked here: otherwise a user
+    // who unchecks one item would select all the others.
     if (!category->checked)
         category->setChecked(false);
 
@@ -72,7 +72,7 @@ CategoryWidget::CategoryWidget(CleanCategory *category, QWidget *parent)
 
 CategoryWidget::~CategoryWidget()
 {
-    // It shows the same record, which goes with the widget.
+    // The dialog shows the record of this widget and must not outlive the widget.
     delete m_details;
 }
 
@@ -210,7 +210,7 @@ void CategoryWidget::refreshHeader()
     if (m_showSizes)
         m_size->setText(formatSize(m_category->checkedSize()));
     m_size->setVisible(m_showSizes);
-    // Partly ticked is shown, but a click never chooses it: it ticks all.
+    // The user cannot choose the partly checked state: a click checks all items.
     const QSignalBlocker blocker(m_checkBox);
     const Qt::CheckState state = m_category->checkState();
     m_checkBox->setTristate(state == Qt::PartiallyChecked);
@@ -227,7 +227,7 @@ QList<QWidget *> CategoryWidget::focusChain() const
     return chain;
 }
 
-// Rows are made when they are first needed, and so come last in the order of creation.
+// Rows are created late and would come last in the tab order.
 void CategoryWidget::orderFocus() const
 {
     const QList<QWidget *> chain = focusChain();

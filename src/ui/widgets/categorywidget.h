@@ -13,11 +13,11 @@ class QPushButton;
 class QVBoxLayout;
 struct CleanCategory;
 
-/// One category of a scan result: a header with a tri-state check box and, once expanded, its items
-/// in pages of ten.
+/// One category of a scan result: a header with a tri-state check box and, when expanded, its items
+/// in pages of ten. The list of the page owns it. GUI thread.
 ///
-/// Bound to a record inside the engine's result, which outlives the widget and into which the ticks
-/// are written.
+/// Bound to a record inside the result of the engine. The record outlives the widget, and the check
+/// states are written into it.
 class CategoryWidget final : public ResultWidget
 {
     Q_OBJECT
@@ -27,13 +27,13 @@ public:
     ~CategoryWidget() override;
 
     void setShowSizes(bool show) override;
-    /// Ticks or unticks the category with all its items.
+    /// Checks or unchecks the category with all its items.
     void setChecked(bool checked);
 
     [[nodiscard]] QList<QWidget *> focusChain() const override;
 
 public Q_SLOTS:
-    /// Opens the dialog that lists every item of the category.
+    /// Opens the dialog that lists all items of the category.
     void showDetails();
 
 Q_SIGNALS:

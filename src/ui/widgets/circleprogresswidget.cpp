@@ -18,7 +18,7 @@ CircleGeometry::CircleGeometry(QSizeF size, int progress)
     const double diameter = side - penWidth;
     ring =
         QRectF((size.width() - diameter) / 2, (size.height() - diameter) / 2, diameter, diameter);
-    // The texts' boxes meet a little below the middle; their corners stay within the ring.
+    // The two boxes meet a little below the centre, and their corners lie within the ring.
     const double textWidth = diameter * 0.74;
     const double left = ring.center().x() - textWidth / 2;
     valueBox = QRectF(left, ring.center().y() - diameter * 0.22, textWidth, diameter * 0.28);
@@ -77,7 +77,8 @@ QString CircleProgressWidget::valueText(double value, const QString &unit)
 
 namespace {
 
-// Shrinks the font until the text fits into the box, so that no figure is too long.
+// Reduces the font size down to 8 pixels until the text fits into the box. A long number then still
+// has room.
 void drawFitting(QPainter &painter, const QRectF &box, const QString &text, QFont font, int pixels)
 {
     do

@@ -4,20 +4,25 @@
 #include <QString>
 #include <QWidget>
 
-/// Where the parts of a progress circle lie in a widget of a given size.
+/// The geometry of a progress circle in a widget of a given size, in pixels.
 struct CircleGeometry {
     CircleGeometry(QSizeF size, int progress);
 
     double penWidth;
-    QRectF ring; ///< the middle of the pen's line, which so lies within the widget
-    int startAngle; ///< as a painter takes it, in sixteenths of a degree: twelve o'clock
-    int spanAngle; ///< likewise; negative, for the arc runs clockwise
-    QRectF valueBox; ///< baseline-free boxes of the two texts, within the ring
+    /// The centre line of the pen. The whole line lies within the widget.
+    QRectF ring;
+    /// Twelve o'clock, in sixteenths of a degree.
+    int startAngle;
+    /// In sixteenths of a degree. Negative, because the arc runs clockwise.
+    int spanAngle;
+    /// The boxes of the two texts, within the ring.
+    QRectF valueBox;
     QRectF captionBox;
 };
 
-/// A ring that fills up clockwise from the top, with a number in its middle and a caption below it.
-/// How far the ring is filled and the number are set apart.
+/// A ring that fills clockwise from the top, with a number in its middle and a caption below the
+/// number. The filled part and the number are set independently. DashboardResultsPanel owns it. GUI
+/// thread.
 class CircleProgressWidget final : public QWidget
 {
     Q_OBJECT
@@ -30,13 +35,13 @@ public:
     [[nodiscard]] QString unit() const { return m_unit; }
     [[nodiscard]] QString caption() const { return m_caption; }
 
-    /// 0 to 100; beyond is taken for the nearest of them.
+    /// 0 to 100. A value outside is set to the nearest limit.
     void setProgress(int progress);
     void setValue(double value);
     void setUnit(const QString &unit);
     void setCaption(const QString &caption);
 
-    /// The number with its unit as it is drawn: "50%", "0 GB", "0.25 GB", "12.5 GB".
+    /// The number with its unit as the circle shows it: "50%", "0 GB", "0.25 GB", "12.5 GB".
     [[nodiscard]] static QString valueText(double value, const QString &unit);
 
 protected:

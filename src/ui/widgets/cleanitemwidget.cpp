@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The row's columns beside the texts: check box, risk badge, size. With margins and spaces they
-// take what is reserved, so that the texts are shortened to exactly the room that is left.
+// Widths in pixels of the columns beside the texts: check box, risk badge, size. Together with
+// margins and spacing they make reservedWidth. The texts get the remaining width.
 constexpr int margin = 10;
 constexpr int spacing = 8;
 constexpr int checkBoxWidth = 18;
@@ -28,7 +28,8 @@ constexpr int sizeWidth = 66;
 constexpr int reservedWidth = 186;
 static_assert(2 * margin + 3 * spacing + checkBoxWidth + riskWidth + sizeWidth == reservedWidth);
 
-constexpr qsizetype maxRemarkLength = 1024; ///< one on a registry entry may quote any value
+/// characters; the remark on a registry entry may quote a value of any length
+constexpr qsizetype maxRemarkLength = 1024;
 
 } // namespace
 

@@ -8,9 +8,10 @@ class QLabel;
 struct CleanCategory;
 struct CleanItem;
 
-/// One row of a category: check box, name, path, risk and size of one item.
+/// A row of a category: check box, name, path, risk and size of an item. CategoryWidget owns it.
+/// GUI thread.
 ///
-/// Bound to the record number @p index of a category that outlives the widget.
+/// Bound to the item @p index of a category, which outlives the row.
 class CleanItemWidget final : public QWidget
 {
     Q_OBJECT
@@ -19,9 +20,9 @@ public:
     CleanItemWidget(CleanCategory *category, qsizetype index, QWidget *parent = nullptr);
 
     [[nodiscard]] bool isChecked() const;
-    /// Sets the check box without a signal and without touching the record.
+    /// Sets the check box. Emits no signal and does not change the record.
     void showChecked(bool checked);
-    /// Copies the check box into the record.
+    /// Writes the state of the check box into the record.
     void storeChecked();
     void setShowSizes(bool show);
 

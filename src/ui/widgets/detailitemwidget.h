@@ -5,8 +5,8 @@
 class ElidedLabel;
 struct CleanItem;
 
-/// One row of the detail dialog: a file's name, its size, and a button that shows where it lies; of
-/// a registry entry the name and what is wrong with it.
+/// A row of the detail dialog. For a file: name, size, and a button that opens its folder. For a
+/// registry entry: name and problem. ItemDetailDialog owns it. GUI thread.
 class DetailItemWidget final : public QWidget
 {
     Q_OBJECT
@@ -27,5 +27,5 @@ private:
     void addFileColumns(const CleanItem &item);
 
     ElidedLabel *m_name;
-    ElidedLabel *m_description = nullptr; ///< of a registry entry
+    ElidedLabel *m_description = nullptr; ///< null for a file
 };

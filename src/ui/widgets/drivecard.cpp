@@ -19,9 +19,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int textWidth = 112; ///< of the card without its border and margins
+constexpr int textWidth = 112; ///< pixels, of the card without border and margins
 
-constexpr int nearlyFullPercent = 71; // percent, from which on the bar warns
+constexpr int nearlyFullPercent = 71; // percent; from here the bar has the warning colour
 constexpr int fullPercent = 91;
 
 QString shortName(const DriveInfo &drive)
@@ -36,7 +36,7 @@ QString shortName(const DriveInfo &drive)
 QList<DriveInfo> mountedDrives()
 {
     QList<DriveInfo> drives;
-    QSet<QString> roots; // what is mounted over something else hides that
+    QSet<QString> roots; // a path counts once: an upper mount hides a lower one
     for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
         if (!volume.isValid() || !volume.isReady() || volume.bytesTotal() == 0
             || roots.contains(volume.rootPath()))
@@ -94,7 +94,7 @@ void DriveCard::addUsage(const DriveInfo &drive, QLayout *layout)
                                theme::label(theme::faint, 11), this);
     usage->setObjectName("driveUsage"_L1);
     usage->ensurePolished();
-    if (usage->sizeHint().width() > textWidth) // of a drive of more than a terabyte
+    if (usage->sizeHint().width() > textWidth) // a drive above one terabyte has a long text
         usage->setStyleSheet(theme::label(theme::faint, 10));
     usage->setToolTip(usage->text());
     m_checkBox->setAccessibleDescription(usage->text());

@@ -6,19 +6,20 @@
 
 class QCheckBox;
 
-/// A mounted volume that can be scanned.
+/// A mounted volume that can be scanned. Sizes are in bytes.
 struct DriveInfo {
     QString rootPath; ///< such as "C:/"
-    QString name; ///< for display
+    QString name; ///< the name to show
     bool isRemovable = false;
     qint64 totalBytes = 0;
     qint64 freeBytes = 0;
 };
 
-/// The volumes that are mounted and hold anything, in the system's order.
+/// The mounted volumes with a size above 0, in the order of the system.
 [[nodiscard]] QList<DriveInfo> mountedDrives();
 
-/// One volume with how full it is and a check box. Whoever shows it watches it for clicks.
+/// A card with the name, the usage and a check box of a volume. LargeFileSelectionView owns it, and
+/// LargeFilePage filters its clicks. GUI thread.
 class DriveCard final : public QFrame
 {
     Q_OBJECT

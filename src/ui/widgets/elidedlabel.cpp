@@ -5,8 +5,8 @@
 
 namespace {
 
-// Measuring a text takes time with its length; more than this fits no screen, so only the ends of
-// it are measured.
+// The time to measure a text grows with its length. No screen shows more characters than this, so
+// only both ends of a longer text are kept.
 constexpr qsizetype maxMeasuredLength = 1024;
 
 } // namespace

@@ -2,8 +2,9 @@
 
 #include <QLabel>
 
-/// A label for outside text of any length: shows one harmless line of it, shortened in the middle
-/// to a given width. The whole line is its tool tip and its accessible name.
+/// A label for text of any length from outside the program. It shows a single line without control
+/// characters, shortened in the middle to a given width. The tool tip and the accessible name have
+/// the full line. GUI thread.
 class ElidedLabel final : public QLabel
 {
     Q_OBJECT
@@ -12,7 +13,7 @@ public:
     explicit ElidedLabel(const QString &fullText, QWidget *parent = nullptr);
 
     void setFullText(const QString &fullText);
-    /// What else the tool tip says, on a line of its own.
+    /// Adds @p remark to the tool tip, on a line of its own.
     void setRemark(const QString &remark);
     /// Shortens the text to @p width pixels.
     void elideTo(int width);

@@ -8,8 +8,8 @@ class ElidedLabel;
 class QCheckBox;
 class QLabel;
 
-/// One large file in the list of results: check box, icon, names and size. A handful of cards
-/// serves any number of files: each is bound to one file after the other.
+/// A large file in the result list: check box, icon, name, folder and size. A few cards serve any
+/// number of files: FileCardList owns the cards and binds them to the visible files. GUI thread.
 class FileCard final : public QFrame
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     explicit FileCard(QWidget *parent = nullptr);
 
-    /// Shows @p info from now on, ticked or not; the check box does not signal that.
+    /// Shows @p info with its check state. The check box emits no signal.
     void bind(const LargeFileInfo &info, bool ticked);
     [[nodiscard]] const LargeFileInfo &info() const { return m_info; }
     [[nodiscard]] QCheckBox *checkBox() const { return m_checkBox; }

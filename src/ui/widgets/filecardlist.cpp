@@ -20,7 +20,7 @@ constexpr int cardSpacing = 8;
 constexpr int rowHeight = FileCard::cardHeight + cardSpacing;
 constexpr int gapToScrollBar = 8;
 
-// Whether it has the focus, or will have it when its window is active again.
+// Whether the widget has the focus, or gets it when its window becomes active.
 bool isFocusWidget(const QWidget *widget)
 {
     return widget->window()->focusWidget() == widget;
@@ -34,7 +34,7 @@ FileCardList::FileCardList(LargeFileModel *model, QWidget *parent)
 {
     setObjectName("fileCardList"_L1);
     setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus); // its rows take it
+    setFocusPolicy(Qt::NoFocus); // the cards take the focus
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setStyleSheet(theme::fileCardList());
     viewport()->setAutoFillBackground(false);
@@ -50,8 +50,8 @@ void FileCardList::onFilesReplaced()
     rebindCards(0, 0);
 }
 
-// The rows behind those that are gone move up; the file at the top of the list stays there, and the
-// focus with its file, or goes to the next one.
+// The rows after the removed ones move up. The file at the top of the list stays there. The focus
+// stays with its file; when that file was removed, the next file gets the focus.
 void FileCardList::onRowsRemoved(const QList<int> &rows)
 {
     const auto newRow = [&rows](int row) {
@@ -61,7 +61,7 @@ void FileCardList::onRowsRemoved(const QList<int> &rows)
     rebindCards(newRow(topRow()), std::min(newRow(m_currentRow), m_model->rowCount() - 1));
 }
 
-// No card shows what it has shown: the rows mean other files now.
+// All cards are unbound first, because each row number now means another file.
 void FileCardList::rebindCards(int top, int current)
 {
     const bool hadFocus = std::any_of(m_cards.cbegin(), m_cards.cend(), [](const BoundCard &bound) {
@@ -85,7 +85,7 @@ void FileCardList::updateRange()
     verticalScrollBar()->setRange(0, std::max(m_model->rowCount() - fullRowCount(), 0));
 }
 
-// At least one: a list that is lower than a row is scrolled by one row all the same.
+// At least 1, so that a list lower than a row still scrolls row by row.
 int FileCardList::fullRowCount() const
 {
     return std::max((viewport()->height() + cardSpacing) / rowHeight, 1);
@@ -149,7 +149,8 @@ void FileCardList::arrangeCards()
         bound.card->bind(m_model->at(row), m_model->isTicked(row));
     }
     updateTabStop();
-    // What is hidden may have the focus, which then goes on to a card that is in its place.
+    // All cards are placed before any is hidden. When a hidden card loses the focus, the next card
+    // is then already in position.
     for (const BoundCard &bound : std::as_const(m_cards))
         placeCard(bound);
     for (const BoundCard &bound : std::as_const(m_cards)) {
@@ -163,8 +164,8 @@ void FileCardList::placeCard(const BoundCard &bound)
 {
     if (bound.row < 0)
         return;
-    // A card that is kept for its focus alone waits outside; so far away that no coordinate could
-    // tell its place.
+    // A card that only keeps the focus waits just outside the viewport. The true position of a
+    // distant row could exceed the range of coordinates.
     const int y = isInView(bound.row) ? (bound.row - topRow()) * rowHeight
         : bound.row < topRow()        ? -2 * rowHeight
                                       : viewport()->height() + rowHeight;
@@ -179,10 +180,11 @@ FileCardList::BoundCard &FileCardList::takeFreeCard()
     if (free != m_cards.end())
         return *free;
     auto *card = new FileCard(viewport());
-    card->hide(); // not to appear with the list before it has a place
+    // The card must not appear before it has a position.
+    card->hide();
     card->checkBox()->installEventFilter(this);
-    // Made late, it would be the last one of the window that the tabulator key comes to; and only
-    // what takes the focus itself can be named as the one before.
+    // A late widget comes last in the tab order of the window. setTabOrder() accepts only a widget
+    // that takes the focus, so the list takes it for a moment.
     setFocusPolicy(Qt::TabFocus);
     setTabOrder(this, card->checkBox());
     setFocusPolicy(Qt::NoFocus);
@@ -216,10 +218,11 @@ void FileCardList::scrollToRow(int row)
 void FileCardList::focusRow(int row, Qt::FocusReason reason)
 {
     scrollToRow(row);
-    m_currentRow = row; // of a window that is not active nobody would hear
+    // An inactive window sends no focus event.
+    m_currentRow = row;
     if (const FileCard *card = cardOf(row))
         card->checkBox()->setFocus(reason);
-    arrangeCards(); // the card that had it is free now
+    arrangeCards(); // the card of the former row is free now
 }
 
 bool FileCardList::moveByKey(int row, const QKeyEvent &event)
@@ -252,11 +255,12 @@ bool FileCardList::eventFilter(QObject *watched, QEvent *event)
     const int row = rowOf(watched);
     if (row < 0)
         return QAbstractScrollArea::eventFilter(watched, event);
-    // While the list is being disabled the focus flees from card to card.
+    // While the list is being disabled, the focus passes from card to card and must not change the
+    // current row.
     if (event->type() == QEvent::FocusIn && isEnabled()) {
         m_currentRow = row;
         updateTabStop();
-        // Only where the tabulator key led: a click, or the window's coming back, moves nothing.
+        // Only the Tab key scrolls. A click or the activation of the window must not move the rows.
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
         if (!m_isArranging && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
             scrollToRow(row);
@@ -265,7 +269,7 @@ bool FileCardList::eventFilter(QObject *watched, QEvent *event)
         if (moveByKey(row, key))
             return true;
         if (key.key() == Qt::Key_Space)
-            scrollToRow(row); // nobody ticks what cannot be seen
+            scrollToRow(row); // the user must see the row that the key checks
     }
     return QAbstractScrollArea::eventFilter(watched, event);
 }

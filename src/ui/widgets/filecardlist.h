@@ -7,12 +7,12 @@ class FileCard;
 class LargeFileModel;
 class QKeyEvent;
 
-/// Shows the rows of a model as cards, of which there are only as many as have room: they are bound
-/// to the rows in view, and bound anew as the list scrolls. It scrolls by rows, so that any number
-/// of them can be reached.
+/// Shows the rows of a model as cards. There are only as many cards as fit: they are bound to the
+/// visible rows, and bound again when the list scrolls. The list scrolls by rows, so that any
+/// number of rows can be reached. LargeFileResultsView owns it. GUI thread.
 ///
-/// The list is one stop of the tabulator key; the arrow and page keys lead from row to row. The
-/// focus belongs to a row: its card keeps it, out of sight, while the list is scrolled elsewhere.
+/// The list is one stop of the Tab key. The arrow keys and page keys move between rows. The focus
+/// belongs to a row: when the row scrolls out of view, its card stays bound and keeps the focus.
 class FileCardList final : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -22,20 +22,20 @@ public:
     explicit FileCardList(LargeFileModel *model, QWidget *parent = nullptr);
     ~FileCardList() override;
 
-    /// Those with a row in view, from top to bottom; the last may be cut off.
+    /// The cards of the visible rows, from top to bottom. The last one may be cut off.
     [[nodiscard]] QList<FileCard *> cards() const;
-    /// The row that a card shows, or that has the card's check box; below 0 for none.
+    /// The row of a card or of its check box; below 0 when it has none.
     [[nodiscard]] int rowOf(const QObject *cardOrCheckBox) const;
-    /// What the tabulator key comes to: the check box of the row that had the focus last, or of the
-    /// first one if that is not in view. Null without rows.
+    /// The control that the Tab key focuses: the check box of the row that had the focus last, or
+    /// of the first visible row. Null when there are no rows.
     [[nodiscard]] QWidget *tabStop() const;
-    /// Scrolls as far as it takes to show the whole row.
+    /// Scrolls until the whole row is visible.
     void scrollToRow(int row);
     /// Scrolls to the row and gives it the focus.
     void focusRow(int row, Qt::FocusReason reason);
 
 Q_SIGNALS:
-    /// One more card; it serves the list from now on.
+    /// A new card exists. The list keeps it for its lifetime.
     void cardCreated(FileCard *card);
 
 protected:
@@ -44,9 +44,10 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
+    /// A card and the row that it shows.
     struct BoundCard {
         FileCard *card = nullptr;
-        int row = -1; ///< -1 while it waits for one
+        int row = -1; ///< -1 for a free card
     };
 
     void onFilesReplaced();
@@ -57,17 +58,17 @@ private:
     [[nodiscard]] int rowCountInView() const;
     [[nodiscard]] int topRow() const;
     [[nodiscard]] bool isInView(int row) const;
-    /// Binds the cards to the rows in view and puts them there.
+    /// Binds cards to the visible rows and positions them.
     void arrangeCards();
     void placeCard(const BoundCard &bound);
     [[nodiscard]] BoundCard &takeFreeCard();
     [[nodiscard]] FileCard *cardOf(int row) const;
     void updateTabStop() const;
-    /// Whether the key leads from the row to another one.
+    /// Moves the focus from @p row when @p event is a navigation key. Returns whether it is one.
     bool moveByKey(int row, const QKeyEvent &event);
 
     LargeFileModel *m_model;
     QList<BoundCard> m_cards;
-    int m_currentRow = 0; ///< the row that has the focus or had it last
+    int m_currentRow = 0; ///< the row that has the focus, or had it last
     bool m_isArranging = false;
 };

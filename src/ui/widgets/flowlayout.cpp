@@ -77,7 +77,7 @@ void FlowLayout::setGeometry(const QRect &rect)
             QStyle::visualRect(parentWidget()->layoutDirection(), rect, places.items.at(i)));
 }
 
-// Items of one row stand on its middle line.
+// Items of a row are centred vertically.
 FlowLayout::Places FlowLayout::placesIn(const QRect &rect) const
 {
     Places places;

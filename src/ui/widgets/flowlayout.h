@@ -6,7 +6,8 @@
 #include <memory>
 #include <vector>
 
-/// Places its items in a row as text is: those that do not fit go on in the next row.
+/// Lays its items out in rows, like words in a text. An item that does not fit starts the next row.
+/// GUI thread.
 class FlowLayout final : public QLayout
 {
     Q_OBJECT
@@ -28,7 +29,7 @@ public:
     void setGeometry(const QRect &rect) override;
 
 private:
-    /// Where each item comes to stand in @p rect, and how high all rows are together.
+    /// The position of each item, and the height of all rows together.
     struct Places {
         QList<QRect> items;
         int height = 0;

@@ -6,7 +6,8 @@
 
 namespace {
 
-// A million records take a noticeable time to free: not on this thread, if nobody else has them.
+// Freeing a million records takes noticeable time. It runs on another thread, unless the records
+// are still shared.
 void discard(QList<LargeFileInfo> files)
 {
     if (!files.isEmpty())

@@ -6,12 +6,11 @@
 #include <QList>
 #include <QObject>
 
-/// The files that the list of results shows, row by row, and which of them are ticked: the one
-/// place that knows either. What is on the screen is bound to its rows, and what is deleted comes
-/// from it.
+/// The files in the result list, row by row, and which of them are ticked. It is the only place
+/// that holds either: the cards on the screen and the deletion both refer to its rows.
 ///
-/// GUI thread. The records share their data with the list that they were taken from; beside them a
-/// row takes a bit.
+/// LargeFilePage owns it. GUI thread. The records are shared with the result of the scanner. A row
+/// adds one bit.
 class LargeFileModel final : public QObject
 {
     Q_OBJECT
@@ -19,7 +18,7 @@ class LargeFileModel final : public QObject
 public:
     using QObject::QObject;
 
-    /// Replaces all rows; nothing is ticked then.
+    /// Replaces all rows. No row is then ticked.
     void setFiles(const QList<LargeFileInfo> &files);
     [[nodiscard]] int rowCount() const { return static_cast<int>(m_files.size()); }
     [[nodiscard]] const LargeFileInfo &at(int row) const { return m_files.at(row); }
@@ -27,22 +26,24 @@ public:
     [[nodiscard]] bool isTicked(int row) const { return m_ticked.testBit(row); }
     void setTicked(int row, bool ticked);
     [[nodiscard]] int tickedCount() const { return m_tickedCount; }
-    [[nodiscard]] qint64 tickedSize() const { return m_tickedSize; } ///< bytes
-    /// In ascending order.
+    /// In bytes.
+    [[nodiscard]] qint64 tickedSize() const { return m_tickedSize; }
+    /// The ticked rows in ascending order.
     [[nodiscard]] QList<int> tickedRows() const;
 
-    /// Drops @p rows, which ascend; the others keep their order and their ticks.
+    /// Removes @p rows, which must be in ascending order. The other rows keep their order and their
+    /// ticks.
     void removeRows(const QList<int> &rows);
 
 Q_SIGNALS:
-    /// All rows are others now.
+    /// All rows have changed.
     void filesReplaced();
-    /// The rows of before, in ascending order, that are no more.
+    /// Rows were removed. @p rows are their former numbers in ascending order.
     void rowsRemoved(const QList<int> &rows);
 
 private:
     QList<LargeFileInfo> m_files;
-    QBitArray m_ticked; ///< by row
+    QBitArray m_ticked; ///< one bit for each row
     int m_tickedCount = 0;
     qint64 m_tickedSize = 0;
 };

@@ -35,7 +35,8 @@ void ResultWidget::describeExpander()
 
 bool ResultWidget::eventFilter(QObject *watched, QEvent *event)
 {
-    // The whole header expands and collapses; its own controls keep their clicks to themselves.
+    // A click anywhere on the header expands and collapses. The controls in the header handle their
+    // own clicks.
     if (watched == m_header && event->type() == QEvent::MouseButtonRelease) {
         const auto *mouse = static_cast<QMouseEvent *>(event);
         if (mouse->button() == Qt::LeftButton

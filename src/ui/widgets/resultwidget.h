@@ -5,9 +5,9 @@
 
 class QAbstractButton;
 
-/// Something in a page's list of results: a header, and what it holds once it is expanded. It is
-/// bound to records inside the engine's result, which outlive it and into which the ticks are
-/// written.
+/// The base of the widgets in a result list: a header and, when expanded, its content. It is bound
+/// to records inside the result of the engine. The records outlive it, and the check states are
+/// written into them. The page owns it. GUI thread.
 class ResultWidget : public QWidget
 {
     Q_OBJECT
@@ -15,9 +15,9 @@ class ResultWidget : public QWidget
 public:
     using QWidget::QWidget;
 
-    /// The controls that take the keyboard focus, in the order in which they stand.
+    /// The controls that take the keyboard focus, in their visible order.
     [[nodiscard]] virtual QList<QWidget *> focusChain() const = 0;
-    /// Whether bytes are told beside the item counts.
+    /// Sets whether sizes are shown beside the item counts.
     virtual void setShowSizes(bool show) = 0;
     [[nodiscard]] bool isExpanded() const { return m_isExpanded; }
 
@@ -28,9 +28,9 @@ Q_SIGNALS:
     void selectionChanged();
 
 protected:
-    /// Names what expands and collapses: a click on @p header, a click on @p button, and on the
-    /// button the right and the left arrow key. Before anything is told of the button, so that
-    /// screen readers know it as one that expands.
+    /// Sets the controls that expand and collapse: a click on @p header, a click on @p button, and
+    /// the right and left arrow keys on @p button. Call it before any other setter of the button.
+    /// Screen readers then learn from the start that the button expands.
     void setExpander(QWidget *header, QAbstractButton *button);
     /// Shows or hides the content.
     virtual void showExpanded(bool expanded) = 0;

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int reservedWidth = 240; ///< pixels for check box, icon, status and spaces
+constexpr int reservedWidth = 240; ///< pixels, for check box, icon, status and spacing
 
 } // namespace
 

@@ -10,19 +10,21 @@ class QIcon;
 class QLabel;
 struct StartupApp;
 
-/// One installed program on the start-up page: a check box that switches its start-up entry, its
-/// icon, name and path. Its properties "appName" and "appExePath" and those of the check box,
-/// "displayName" and "exePath", say which program it is.
+/// An installed program on the start-up page: a check box for its start-up entry, its icon, name
+/// and path. StartupPage owns it. GUI thread.
+///
+/// The properties "appName" and "appExePath" of the card identify the program. So do "displayName"
+/// and "exePath" of the check box.
 class StartupCard final : public QFrame
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(StartupCard)
 public:
-    /// @p icon is the system's icon of the program, or null.
+    /// @p icon is the file icon of the system. A null icon gives an emoji.
     StartupCard(const StartupApp &app, const QIcon &icon, QWidget *parent = nullptr);
 
     [[nodiscard]] QCheckBox *checkBox() const { return m_checkBox; }
-    /// Shows whether the program starts with the session; the check box is left alone.
+    /// Shows whether the program starts with the session. Does not change the check box.
     void showState(bool isStartup);
 
 protected:

@@ -28,8 +28,10 @@ StatCard::StatCard(const QString &title, const Look &look, QWidget *parent)
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(title);
-    m_title->setWordWrap(true); // so that no language makes the window wider
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // cards in a row are of one width
+    // A long translation must not make the window wider.
+    m_title->setWordWrap(true);
+    // All cards in a row get the same width.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
     auto *icon = new SvgLabel(this);
     icon->setFixedSize(42, 42);

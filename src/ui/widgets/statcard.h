@@ -6,14 +6,15 @@
 
 class QLabel;
 
-/// A card of the dashboard: icon, title, a figure and a bar that tells how it compares. It leads to
-/// the page of the figure: by the keyboard through activated(), by the mouse through whoever
-/// filters its events.
+/// A card of the dashboard: icon, title, value and a bar that compares the value with the other
+/// cards. It opens the page of its value. The keyboard does this through activated(), the mouse
+/// through the event filter of DashboardPage. DashboardResultsPanel owns it. GUI thread.
 class StatCard final : public QFrame
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(StatCard)
 public:
+    /// The icon resource and the colours of a card.
     struct Look {
         QString iconPath;
         theme::Colour accent;
@@ -23,7 +24,7 @@ public:
     StatCard(const QString &title, const Look &look, QWidget *parent = nullptr);
 
     void setValue(const QString &value);
-    /// Pixels; the track has 100.
+    /// In pixels. The track is 100 pixels wide.
     void setBarWidth(int width);
 
     [[nodiscard]] QString value() const;

@@ -5,8 +5,8 @@
 
 #include <optional>
 
-/// Shows an SVG resource, drawn anew when the window comes to a screen of another scale, so that it
-/// is sharp on each.
+/// Shows an SVG resource. It draws the image again when the window moves to a screen with another
+/// scale, so that the image stays sharp. GUI thread.
 class SvgLabel final : public QLabel
 {
     Q_OBJECT
@@ -14,8 +14,8 @@ class SvgLabel final : public QLabel
 public:
     explicit SvgLabel(QWidget *parent = nullptr);
 
-    /// @p size is in logical pixels; @p tint replaces the colours and keeps the shape. A resource
-    /// that does not exist leaves the label empty.
+    /// @p size is in logical pixels. @p tint replaces the colours and keeps the shape. A missing
+    /// resource leaves the label empty.
     void setSvg(const QString &path, QSize size, std::optional<QColor> tint = {});
 
 protected:

@@ -1,19 +1,13 @@
 #include "filewalk.h"
 
 #include "entrywalk.h"
-#include "fileremove.h"
 #include "testtree.h"
+#include "walktrees.h"
 
 #include <QDirIterator>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QRandomGenerator>
-#include <QSet>
 #include <QTest>
-
-#include <algorithm>
-#include <memory>
-#include <vector>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -26,6 +20,7 @@
 #endif
 
 using namespace Qt::StringLiterals;
+using namespace walktrees;
 using platform::WalkOptions;
 using platform::WalkReport;
 
@@ -87,135 +82,6 @@ QStringList iterate(const QString &root, const WalkOptions &options)
     return found;
 }
 
-// Names that have tripped such programs before; all of them valid on a Linux disk.
-QString randomName(QRandomGenerator &random)
-{
-    static const QStringList stems{
-        u"a"_s,         u"B"_s,     u"report"_s,    u".hidden"_s, u"with blank"_s, u"ümlaut"_s,
-        u"文件"_s,      u"🧹"_s,  u"new\nline"_s, u"dot."_s,    u"-rf"_s,        u"%1"_s,
-        u"\u202ertl"_s, u"tab\t"_s, u"*"_s,         u"[x]"_s,     u"~$x"_s,        u"..."_s};
-    static const QStringList endings{QString(), u".log"_s, u".LOG"_s,
-                                     u".tmp"_s, u".dmp"_s, u".1"_s};
-    return stems.at(random.bounded(int(stems.size()))) + QString::number(random.bounded(4))
-        + endings.at(random.bounded(int(endings.size())));
-}
-
-void fillRandomly(const TestTree &tree, QRandomGenerator &random)
-{
-    QStringList folders{u"."_s};
-    for (int i = 0; i < 120; ++i) {
-        const QString parent = folders.at(random.bounded(int(folders.size())));
-        const QString entry = parent + u'/' + randomName(random);
-        if (tree.has(entry))
-            continue;
-        switch (random.bounded(7)) {
-        case 0:
-        case 1:
-            tree.folder(entry);
-            folders.append(entry);
-            break;
-        case 2:
-            tree.link(tree.path(folders.at(random.bounded(int(folders.size())))), entry);
-            break;
-        case 3:
-            tree.link(u"nowhere"_s, entry);
-            break;
-        case 4: {
-            const QString target = tree.path(parent + "/target"_L1 + QString::number(i));
-            QFile file(target);
-            if (file.open(QIODevice::WriteOnly))
-                file.write(QByteArray(random.bounded(300), 't'));
-            tree.link(target, entry);
-            break;
-        }
-        default:
-            tree.file(entry, QByteArray(random.bounded(5000), 'x'));
-        }
-    }
-}
-
-/// Remembers what it meets, as lines that can be compared.
-class Record final : public platform::TreeVisitor
-{
-    Q_DISABLE_COPY_MOVE(Record)
-public:
-    Record() = default;
-
-    [[nodiscard]] Wanted enterFolder(const QString &path) override
-    {
-        folder = path;
-        folders.append(path);
-        return wanted;
-    }
-
-    void meetFile(const platform::MetFile &file) override
-    {
-        paths.append(platform::joinedPath(folder, file.name.toString()));
-        sizes.append(file.size);
-        times.append(file.modified);
-        if (stop && paths.size() == 3)
-            *stop = true;
-    }
-
-    Wanted wanted = Wanted::SizesAndTimes;
-    QString folder;
-    QStringList folders;
-    QStringList paths;
-    QList<qint64> sizes;
-    QList<qint64> times;
-    std::atomic_bool *stop = nullptr;
-};
-
-/// The paths of all files that are met everywhere below @p root, sorted.
-QStringList walkEverywhere(const QString &root, int walkers, WalkReport *report = nullptr)
-{
-    std::vector<std::unique_ptr<Record>> records;
-    QList<platform::TreeVisitor *> visitors;
-    for (int i = 0; i < walkers; ++i)
-        visitors.append(records.emplace_back(std::make_unique<Record>()).get());
-    const WalkReport result =
-        platform::walkTree(root, {{}, true, nullptr, platform::Reach::Everywhere}, visitors);
-    if (report)
-        *report = result;
-    QStringList found;
-    for (const auto &record : records)
-        found += record->paths;
-    found.sort();
-    return found;
-}
-
-void addWalkerCounts()
-{
-    QTest::addColumn<int>("walkers");
-    QTest::newRow("one walker") << 1;
-    QTest::newRow("two walkers") << 2;
-}
-
-#ifdef Q_OS_UNIX
-// Each file by its folder's own path: which of several paths leads there is nobody's promise.
-QStringList byRealFolders(const QStringList &paths)
-{
-    QStringList real;
-    for (const QString &path : paths) {
-        const QFileInfo info(path);
-        real.append(
-            platform::joinedPath(QFileInfo(info.path()).canonicalFilePath(), info.fileName()));
-    }
-    real.sort();
-    return real;
-}
-
-QStringList iterateFollowing(const QString &root)
-{
-    QStringList found;
-    QDirIterator it(root, QDir::Files | QDir::NoDotAndDotDot,
-                    QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
-    while (it.hasNext())
-        found.append(it.next());
-    return found;
-}
-#endif
-
 } // namespace
 
 class TestFileWalk : public QObject
@@ -268,92 +134,6 @@ private Q_SLOTS:
         QCOMPARE(folders.size(), 10);
     }
 
-    void severalWalkersShareTheFolders_data()
-    {
-        addWalkerCounts();
-    }
-
-    void severalWalkersShareTheFolders()
-    {
-        QFETCH(int, walkers);
-        const TestTree tree;
-        QStringList expected;
-        for (int folder = 0; folder < 40; ++folder) {
-            for (int file = 0; file < 20; ++file)
-                expected.append(tree.file(u"d%1/f%2"_s.arg(folder).arg(file)));
-            expected.append(tree.file(u"d%1/sub/f"_s.arg(folder)));
-        }
-        expected.sort();
-        QCOMPARE(walkEverywhere(tree.path(), walkers), expected);
-    }
-
-    void aVisitorIsToldSizeAndTime()
-    {
-        const TestTree tree;
-        const QString path = tree.file(u"sub/f"_s, "12345");
-        const QDateTime time = QDateTime::fromMSecsSinceEpoch(1'700'000'000'000);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
-        file.close();
-        Record record;
-        platform::walkTree(tree.path(), {}, {&record});
-        QCOMPARE(record.folders, (QStringList{tree.path(), tree.path(u"sub"_s)}));
-        QCOMPARE(record.paths, QStringList{path});
-        QCOMPARE(record.sizes, QList<qint64>{5});
-        QCOMPARE(record.times, QList<qint64>{1'700'000'000'000});
-    }
-
-    void filesAreMetWithoutSizesToo()
-    {
-        const TestTree tree;
-        const QString path = tree.file(u"f"_s, "12345");
-        Record record;
-        record.wanted = platform::TreeVisitor::Wanted::Names;
-        platform::walkTree(tree.path(), {}, {&record});
-        QCOMPARE(record.paths, QStringList{path});
-    }
-
-    void allWalkersStopWhenTold()
-    {
-        const TestTree tree;
-        for (int i = 0; i < 200; ++i)
-            tree.file(u"d%1/f%2"_s.arg(i % 20).arg(i), {});
-        std::atomic_bool stop = false;
-        Record first;
-        Record second;
-        first.stop = &stop;
-        second.stop = &stop;
-        platform::walkTree(tree.path(), {{}, true, &stop, platform::Reach::Everywhere},
-                           {&first, &second});
-        QVERIFY(stop);
-        QVERIFY2(first.paths.size() + second.paths.size() < 20,
-                 qPrintable(QString::number(first.paths.size() + second.paths.size())));
-    }
-
-#ifdef Q_OS_UNIX
-    void aHundredThousandFilesInOneFolderAreMet_data()
-    {
-        addWalkerCounts();
-    }
-
-    void aHundredThousandFilesInOneFolderAreMet()
-    {
-        QFETCH(int, walkers);
-        static const TestTree tree;
-        constexpr int count = 100'000;
-        if (!tree.has(u"f0"_s)) {
-            for (int i = 0; i < count; ++i) {
-                QFile file(tree.path(u"f%1"_s.arg(i)));
-                QVERIFY(file.open(QIODevice::WriteOnly));
-            }
-        }
-        const QStringList found = walkEverywhere(tree.path(), walkers);
-        QCOMPARE(found.size(), count);
-        QCOMPARE(QSet<QString>(found.begin(), found.end()).size(), count);
-    }
-#endif
-
     void aMissingRootIsNoFailure()
     {
         const TestTree tree;
@@ -377,96 +157,6 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    void everywhereIsWhereQDirIteratorFollowsLinks_data()
-    {
-        QTest::addColumn<quint32>("seed");
-        QTest::addColumn<int>("walkers");
-        for (quint32 seed = 101; seed <= 130; ++seed) {
-            for (const int walkers : {1, 2})
-                QTest::addRow("seed %u, %d", seed, walkers) << seed << walkers;
-        }
-    }
-
-    void everywhereIsWhereQDirIteratorFollowsLinks()
-    {
-        QFETCH(quint32, seed);
-        QFETCH(int, walkers);
-        QRandomGenerator random(seed);
-        const TestTree tree;
-        const TestTree outside;
-        outside.file(u"a/b"_s);
-        outside.link(tree.path(), u"a/back"_s);
-        fillRandomly(tree, random);
-        tree.link(outside.path(u"a"_s), u"out"_s);
-        const QStringList found = walkEverywhere(tree.path(), walkers);
-        QCOMPARE(byRealFolders(found), byRealFolders(iterateFollowing(tree.path())));
-        QVERIFY(found.contains(tree.path(u"out/b"_s)));
-    }
-
-    void aLinkCycleEnds_data()
-    {
-        addWalkerCounts();
-    }
-
-    void aLinkCycleEnds()
-    {
-        QFETCH(int, walkers);
-        const TestTree tree;
-        tree.file(u"a/f"_s);
-        tree.link(tree.path(u"a"_s), u"b"_s);
-        tree.link(tree.path(u"b"_s), u"a/again"_s);
-        tree.link(u"."_s, u"a/itself"_s);
-        tree.link(tree.path(u"loop1"_s), u"loop2"_s);
-        tree.link(tree.path(u"loop2"_s), u"loop1"_s);
-        WalkReport report;
-        QCOMPARE(walkEverywhere(tree.path(), walkers, &report), QStringList{tree.path(u"a/f"_s)});
-        QCOMPARE(report.failureCount, 0);
-        QVERIFY(report.followed.isEmpty());
-    }
-
-    void aLinkToAParentShowsWhatIsBesideTheRoot_data()
-    {
-        addWalkerCounts();
-    }
-
-    void aLinkToAParentShowsWhatIsBesideTheRoot()
-    {
-        QFETCH(int, walkers);
-        const TestTree tree;
-        tree.file(u"beside/f"_s);
-        tree.file(u"root/own"_s);
-        tree.link(u".."_s, u"root/up"_s);
-        WalkReport report;
-        QCOMPARE(walkEverywhere(tree.path(u"root"_s), walkers, &report),
-                 (QStringList{tree.path(u"root/own"_s), tree.path(u"root/up/beside/f"_s)}));
-        QCOMPARE(report.followed.size(), 1);
-        QCOMPARE(report.followed.constFirst().path, tree.path(u"root/up"_s));
-        QCOMPARE(report.followed.constFirst().target, tree.path());
-    }
-
-    void aFolderIsWalkedByItsOwnPathBeforeAnyLink()
-    {
-        const TestTree tree;
-        tree.link(tree.path(u"z/deep"_s), u"a"_s);
-        tree.file(u"z/deep/f"_s);
-        QCOMPARE(walkEverywhere(tree.path(), 2), QStringList{tree.path(u"z/deep/f"_s)});
-    }
-
-    void linksToFilesAreMetAndBrokenOnesAreNot()
-    {
-        const TestTree outside;
-        outside.file(u"target"_s, "123456789");
-        const TestTree tree;
-        tree.link(outside.path(u"target"_s), u"link"_s);
-        tree.link(u"nowhere"_s, u"broken"_s);
-        Record record;
-        platform::walkTree(tree.path(), {{}, true, nullptr, platform::Reach::Everywhere},
-                           {&record});
-        QCOMPARE(record.paths, QStringList{tree.path(u"link"_s)});
-        // What would go is the link, whose content is the path.
-        QCOMPARE(record.sizes, QList<qint64>{outside.path(u"target"_s).size()});
-    }
-
     // Windows programs do not see these; the values are those that Wine understands and some that
     // it does not.
     void whatWineMarksAsHiddenIsNotListed()
@@ -579,85 +269,6 @@ private Q_SLOTS:
         QCOMPARE(found.size(), 1);
         QVERIFY(locked.kind == platform::EntryKind::Other);
         QVERIFY(!locked.error.isEmpty());
-    }
-
-    void aRootBehindALinkIsTakenAsItComes()
-    {
-        const TestTree tree;
-        tree.file(u"real/sub/f"_s);
-        tree.link(tree.path(u"real"_s), u"link"_s);
-        WalkReport report;
-        QCOMPARE(walkEverywhere(tree.path(u"link/sub"_s), 1, &report),
-                 QStringList{tree.path(u"link/sub/f"_s)});
-        QCOMPARE(report.followed.size(), 1);
-        QCOMPARE(report.followed.constFirst().target, tree.path(u"real/sub"_s));
-    }
-
-    void hiddenFoldersAreEnteredThroughALinkAlone()
-    {
-        const TestTree tree;
-        tree.file(u".hidden/f"_s);
-        tree.file(u".other/f"_s);
-        tree.file(u"sub/.f"_s);
-        tree.link(tree.path(u".hidden"_s), u"shown"_s);
-        QCOMPARE(walkEverywhere(tree.path(), 1), QStringList{tree.path(u"shown/f"_s)});
-    }
-
-    void foldersWithoutPermissionAreCountedAndTheRestGoesOn_data()
-    {
-        addWalkerCounts();
-    }
-
-    void foldersWithoutPermissionAreCountedAndTheRestGoesOn()
-    {
-        QFETCH(int, walkers);
-        const OrdinaryUser user;
-        const TestTree tree;
-        tree.file(u"open/f"_s, {});
-        tree.file(u"closed/f"_s, {});
-        tree.link(tree.path(u"closed"_s), u"link"_s);
-        const QByteArray closed = QFile::encodeName(tree.path(u"closed"_s));
-        QCOMPARE(::chmod(closed.constData(), 0), 0);
-        WalkReport report;
-        const QStringList found = walkEverywhere(tree.path(), walkers, &report);
-        QCOMPARE(::chmod(closed.constData(), 0700), 0);
-        QCOMPARE(found, QStringList{tree.path(u"open/f"_s)});
-        QVERIFY(report.failureCount >= 1);
-    }
-
-    void theKernelsOwnFilesAreEnteredAsTheRootAlone()
-    {
-        if (!QFile::exists(u"/proc/sys/kernel/ostype"_s))
-            QSKIP("there is no such file system here");
-        const TestTree tree;
-        tree.file(u"f"_s);
-        tree.link(u"/proc"_s, u"kernel"_s);
-        tree.link(u"/sys/kernel"_s, u"more"_s);
-        QCOMPARE(walkEverywhere(tree.path(), 2), QStringList{tree.path(u"f"_s)});
-        QVERIFY(walkEverywhere(u"/proc/sys/kernel"_s, 2).contains(u"/proc/sys/kernel/ostype"_s));
-    }
-
-    void everywhereCrossesMounts()
-    {
-        const TestTree tree;
-        tree.file(u"own"_s, {});
-        const QByteArray fresh = QFile::encodeName(tree.folder(u"fresh"_s));
-        if (::mount("none", fresh.constData(), "tmpfs", 0, nullptr) != 0)
-            QSKIP("mounting is not allowed here");
-        const QString inside = tree.file(u"fresh/sub/f"_s, {});
-        const QStringList found = walkEverywhere(tree.path(), 2);
-        ::umount2(fresh.constData(), MNT_DETACH);
-        QCOMPARE(found, (QStringList{inside, tree.path(u"own"_s)}));
-    }
-
-    void sparseFilesHaveTheirFullSize()
-    {
-        const TestTree tree;
-        QFile file(tree.file(u"sparse"_s, {}));
-        QVERIFY(file.resize(qint64(40) << 30));
-        Record record;
-        platform::walkTree(tree.path(), {}, {&record});
-        QCOMPARE(record.sizes, QList<qint64>{qint64(40) << 30});
     }
 
     void nothingBehindALinkIsListed()
@@ -795,39 +406,17 @@ private Q_SLOTS:
     {
         // Deeper than what is held open, with more to read at every level on the way back.
         const TestTree tree;
-        QString path = u"d"_s;
-        for (int depth = 0; depth < 150; ++depth) {
-            tree.file(path + u"/f"_s, {});
-            tree.file(path + u"/a/f"_s, {});
-            tree.file(path + u"/z/f"_s, {});
-            path += u"/m"_s;
-        }
+        makeBranches(tree, 150);
         QCOMPARE(walk(tree.path()).size(), 450);
-        QCOMPARE(walkEverywhere(tree.path(), 2).size(), 450);
         QCOMPARE(walk(tree.path()), iterate(tree.path(), {}));
     }
 
     void fiveThousandNestedFoldersAreWalked()
     {
-        const TestTree tree;
-        const QByteArray name(6, 'd');
-        int fd = ::open(QFile::encodeName(tree.path()).constData(), O_RDONLY | O_DIRECTORY);
-        for (int depth = 0; depth < 5000; ++depth) {
-            QCOMPARE(::mkdirat(fd, name.constData(), 0700), 0);
-            const int next = ::openat(fd, name.constData(), O_RDONLY | O_DIRECTORY);
-            ::close(fd);
-            fd = next;
-        }
-        ::close(::openat(fd, "deepest", O_CREAT | O_WRONLY, 0600));
-        ::close(fd);
-        const QStringList found = walk(tree.path());
+        const NestedFolders folders(5000);
+        const QStringList found = walk(folders.path());
         QCOMPARE(found.size(), 1);
-        QCOMPARE(found.constFirst().size(), 2 + tree.path().size() + 5000 * 7 + 8);
-        QCOMPARE(walkEverywhere(tree.path(), 2).size(), 1);
-        // Too deep for the temporary folder's own clean-up.
-        platform::FileRemover remover;
-        QCOMPARE(remover.remove(tree.path(QString::fromLatin1(name))).status,
-                 platform::FileRemover::Status::Removed);
+        QCOMPARE(found.constFirst().size(), 2 + folders.path().size() + 5000 * 7 + 8);
     }
 #endif
 };

@@ -39,14 +39,14 @@ class TestDrives : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void whatCannotBeToldIsFixed()
+    void unknownVolumesAreFixed()
     {
         QCOMPARE(platform::driveKind(u"/no/such/volume"_s), DriveKind::Fixed);
         QCOMPARE(platform::driveKind(QString()), DriveKind::Fixed);
     }
 
 #ifdef Q_OS_WIN
-    void eachKindIsTold_data()
+    void eachKindOfDriveIsReported_data()
     {
         QTest::addColumn<QString>("root");
         QTest::addColumn<DriveKind>("kind");
@@ -57,7 +57,7 @@ private Q_SLOTS:
         QTest::newRow("network") << u"N:/"_s << DriveKind::Fixed;
     }
 
-    void eachKindIsTold()
+    void eachKindOfDriveIsReported()
     {
         QFETCH(QString, root);
         QFETCH(DriveKind, kind);

@@ -35,7 +35,7 @@ private Q_SLOTS:
 #endif
     }
 
-    void aFileIsToldWithItsFolder()
+    void inspectTellsTheFolderOfAFile()
     {
         const TestTree tree;
         const platform::Entry entry = platform::inspect(tree.file(u"a/f"_s));

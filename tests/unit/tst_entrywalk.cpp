@@ -24,7 +24,7 @@ namespace {
 class Record final : public platform::EntryVisitor
 {
 public:
-    void takeListing(const std::vector<platform::ListedEntry> &entries, bool isShown) override
+    void visitListing(const std::vector<platform::ListedEntry> &entries, bool isShown) override
     {
         QStringList names;
         for (const platform::ListedEntry &entry : entries)
@@ -36,7 +36,7 @@ public:
         reads.append((isShown ? "shown: "_L1 : "hidden: "_L1) + names.join(u' '));
     }
 
-    void meetEntry(platform::WalkedEntry &&entry) override
+    void visitEntry(platform::WalkedEntry &&entry) override
     {
         QVERIFY(m_open.isEmpty() || entry.path.startsWith(m_open.constLast() + u'/'));
         QVERIFY(entry.path.endsWith(u'/' + entry.name));
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(record.sizes.value(tree.path(u"a/empty"_s), -1), 0);
     }
 
-    void aFolderIsKnownBeforeWhatIsInIt()
+    void aFolderIsListedBeforeItsContents()
     {
         const TestTree tree;
         tree.file(u"a/1"_s);
@@ -208,7 +208,7 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    void whatIsHiddenCountsButIsNotListed()
+    void hiddenFilesAreCountedButNotListed()
     {
         const TestTree tree;
         tree.file(u"a/.secret"_s, "12");
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(record.reads.size(), 2);
     }
 
-    void aRootThatIsALinkHoldsNothing()
+    void aRootThatIsALinkListsNothing()
     {
         const TestTree tree;
         tree.file(u"outside/canary"_s);

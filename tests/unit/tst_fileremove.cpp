@@ -27,16 +27,16 @@ using Status = FileRemover::Status;
 
 namespace {
 
-class Ignoring final : public platform::EntryVisitor
+class IgnoringVisitor final : public platform::EntryVisitor
 {
 public:
-    void meetEntry(platform::WalkedEntry &&) override { }
+    void visitEntry(platform::WalkedEntry &&) override { }
     void leaveFolder(qint64, bool) override { }
 };
 
-void list(const QString &root, platform::ListedFolders &listed)
+void recordFolders(const QString &root, platform::ListedFolders &listed)
 {
-    Ignoring visitor;
+    IgnoringVisitor visitor;
     platform::walkEntries(root, visitor, nullptr, &listed);
 }
 
@@ -45,8 +45,8 @@ void list(const QString &root, platform::ListedFolders &listed)
 #ifdef Q_OS_UNIX
 namespace {
 
-int removalsUntilThen = -1; ///< below 0 never
-std::function<void()> happensThen;
+int removalsBeforeAction = -1; ///< below 0 never
+std::function<void()> actionBetweenRemovals;
 
 int filesIn(const QString &folder)
 {
@@ -58,8 +58,8 @@ int filesIn(const QString &folder)
 // Every removal comes by here, so that a test can have something happen between two of them.
 extern "C" int unlinkat(int folder, const char *name, int flags) noexcept
 {
-    if (removalsUntilThen >= 0 && --removalsUntilThen < 0)
-        happensThen();
+    if (removalsBeforeAction >= 0 && --removalsBeforeAction < 0)
+        actionBetweenRemovals();
     return static_cast<int>(::syscall(SYS_unlinkat, folder, name, flags));
 }
 #endif
@@ -80,12 +80,12 @@ private Q_SLOTS:
     void cleanup()
     {
 #ifdef Q_OS_UNIX
-        removalsUntilThen = -1;
+        removalsBeforeAction = -1;
 #endif
         QCOMPARE(m_fence->snapshot(), m_before);
     }
 
-    void aFileGoes()
+    void aFileIsRemoved()
     {
         const TestTree tree;
         const QString path = tree.file(u"a"_s);
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(tree.has(u"b"_s));
     }
 
-    void whatIsNotThereIsNotFound()
+    void aMissingFileIsNotFound()
     {
         const TestTree tree;
         FileRemover remover;
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(remover.remove(path).status, Status::NotFound);
     }
 
-    void aFolderThatNobodyListedIsHeldToWhatItWasFirst()
+    void anUnlistedFolderThatWasReplacedKeepsItsFiles()
     {
         const TestTree tree;
         FileRemover remover;
@@ -126,14 +126,14 @@ private Q_SLOTS:
         QCOMPARE(FileRemover().remove(other).status, Status::Removed);
     }
 
-    void aFolderThatTookThePlaceOfTheListedOneKeepsWhatIsInIt_data()
+    void aFolderThatReplacedTheListedOneKeepsItsFiles_data()
     {
         QTest::addColumn<QString>("item");
         QTest::newRow("a file") << u"listed/f"_s;
         QTest::newRow("the folder") << u"listed"_s;
         QTest::newRow("a folder above") << u"."_s;
     }
-    void aFolderThatTookThePlaceOfTheListedOneKeepsWhatIsInIt()
+    void aFolderThatReplacedTheListedOneKeepsItsFiles()
     {
         QFETCH(QString, item);
         const TestTree tree;
@@ -141,7 +141,7 @@ private Q_SLOTS:
         tree.file(u"top/listed/sub/f"_s);
         tree.file(u"top/beside"_s);
         platform::ListedFolders listed;
-        list(tree.path(), listed);
+        recordFolders(tree.path(), listed);
         QVERIFY(QDir().rename(tree.path(u"top/listed"_s), tree.path(u"away"_s)));
         tree.file(u"top/listed/f"_s, "never listed");
         tree.file(u"top/listed/sub/f"_s, "never listed");
@@ -157,12 +157,12 @@ private Q_SLOTS:
         QCOMPARE(tree.has(u"top/beside"_s), item != "."_L1);
     }
 
-    void aListedFolderThatWasMovedAwayIsNotTakenForRemoved()
+    void aListedFolderThatWasMovedAwayIsReplaced()
     {
         const TestTree tree;
         const QString path = tree.file(u"listed/f"_s);
         platform::ListedFolders listed;
-        list(tree.path(), listed);
+        recordFolders(tree.path(), listed);
         QVERIFY(QDir().rename(tree.path(u"listed"_s), tree.path(u"away"_s)));
         FileRemover remover;
         remover.setListed(&listed);
@@ -171,12 +171,12 @@ private Q_SLOTS:
     }
 
     // It may have been given the number of the old one: then only the remover itself knows.
-    void whatComesToThePathOfARemovedFolderStays()
+    void aNewFolderAtThePathOfARemovedOneStays()
     {
         const TestTree tree;
         const QString path = tree.file(u"d/sub/f"_s);
         platform::ListedFolders listed;
-        list(tree.path(), listed);
+        recordFolders(tree.path(), listed);
         FileRemover remover;
         remover.setListed(&listed);
         QCOMPARE(remover.remove(tree.path(u"d"_s)).status, Status::Removed);
@@ -225,7 +225,7 @@ private Q_SLOTS:
         QVERIFY(!outcome.error.isEmpty());
     }
 
-    void aFolderGoesWithItsContents()
+    void aFolderIsRemovedWithItsContents()
     {
         const TestTree tree;
         for (int i = 0; i < 300; ++i)
@@ -251,7 +251,7 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    void aLinkGoesAsALink()
+    void aLinkIsRemovedAndItsTargetStays()
     {
         const TestTree tree;
         FileRemover remover;
@@ -265,7 +265,7 @@ private Q_SLOTS:
         QVERIFY(!tree.has(u"broken"_s));
     }
 
-    void linksInsideARemovedFolderGoAsLinks()
+    void linksInARemovedFolderAreRemovedAndTheirTargetsStay()
     {
         const TestTree tree;
         tree.file(u"d/sub/f"_s);
@@ -297,7 +297,7 @@ private Q_SLOTS:
         QCOMPARE(remover.remove(tree.path(u"d/canary"_s)).status, Status::Failed);
     }
 
-    void parentsExchangedForLinksWhileDeletingLoseNothingOutside()
+    void nothingOutsideIsRemovedWhileParentsAreExchangedForLinks()
     {
         constexpr int folders = 20;
         constexpr int filesPerFolder = 2500;
@@ -349,30 +349,32 @@ private Q_SLOTS:
 
 #ifdef Q_OS_UNIX
     // The folder stays open between two of its files; somebody moves it away meanwhile.
-    void filesAreNotRemovedWhereTheirFolderWasMoved()
+    void filesOfAMovedFolderAreNotRemoved()
     {
         const TestTree tree;
         QStringList paths;
         for (int i = 0; i < 300; ++i)
             paths.append(tree.file(u"listed/f%1"_s.arg(i)));
-        removalsUntilThen = 100;
-        happensThen = [&tree] { QDir().rename(tree.path(u"listed"_s), tree.path(u"kept"_s)); };
+        removalsBeforeAction = 100;
+        actionBetweenRemovals = [&tree] {
+            QDir().rename(tree.path(u"listed"_s), tree.path(u"kept"_s));
+        };
         FileRemover remover;
         int removed = 0;
-        int missed = 0;
+        int replaced = 0;
         for (const QString &path : paths) {
             const FileRemover::Outcome outcome = remover.remove(path);
             removed += outcome.status == Status::Removed ? 1 : 0;
-            missed += outcome.status == Status::Replaced ? 1 : 0;
+            replaced += outcome.status == Status::Replaced ? 1 : 0;
         }
-        QCOMPARE(removed + missed, 300);
-        const auto left = QDir(tree.path(u"kept"_s)).entryList(QDir::Files).size();
-        QCOMPARE(left, missed);
+        QCOMPARE(removed + replaced, 300);
+        const auto remaining = QDir(tree.path(u"kept"_s)).entryList(QDir::Files).size();
+        QCOMPARE(remaining, replaced);
         QVERIFY2(removed <= 100 + 32, qPrintable(QString::number(removed)));
         QVERIFY(!tree.has(u"listed"_s));
     }
 
-    void aFolderThatComesToThePathWhileDeletingKeepsItsFiles_data()
+    void aFolderThatReplacesTheListedOneDuringRemovalKeepsItsFiles_data()
     {
         QTest::addColumn<bool>("isListed");
         QTest::addColumn<QString>("how");
@@ -381,7 +383,7 @@ private Q_SLOTS:
             QTest::addRow("by hand, %s", qPrintable(how)) << false << how;
         }
     }
-    void aFolderThatComesToThePathWhileDeletingKeepsItsFiles()
+    void aFolderThatReplacesTheListedOneDuringRemovalKeepsItsFiles()
     {
         QFETCH(bool, isListed);
         QFETCH(QString, how);
@@ -393,11 +395,11 @@ private Q_SLOTS:
             tree.file(u"other/f%1"_s.arg(i));
         }
         platform::ListedFolders listed;
-        list(tree.path(), listed);
+        recordFolders(tree.path(), listed);
         const QString folder = tree.path(u"listed"_s);
-        bool isDone = false;
-        removalsUntilThen = 10;
-        happensThen = [&] { isDone = exchange(tree, how); };
+        bool isExchanged = false;
+        removalsBeforeAction = 10;
+        actionBetweenRemovals = [&] { isExchanged = exchange(tree, how); };
         FileRemover remover;
         if (isListed)
             remover.setListed(&listed);
@@ -408,16 +410,16 @@ private Q_SLOTS:
             removed += status == Status::Removed ? 1 : 0;
             replaced += status == Status::Replaced ? 1 : 0;
         }
-        const int left = filesIn(folder);
-        unmount(folder, how, isDone);
-        if (!isDone)
+        const int remaining = filesIn(folder);
+        unmount(folder, how, isExchanged);
+        if (!isExchanged)
             QSKIP("mounting is not allowed here");
-        QCOMPARE(left, files);
+        QCOMPARE(remaining, files);
         QCOMPARE(removed + replaced, files);
         QVERIFY2(removed <= 10 + 32, qPrintable(QString::number(removed)));
     }
 
-    void whatWasMountedOverAListedFolderKeepsItsFiles_data()
+    void aMountOverAListedFolderKeepsItsFiles_data()
     {
         QTest::addColumn<QString>("how");
         QTest::addColumn<QString>("item");
@@ -426,7 +428,7 @@ private Q_SLOTS:
             QTest::addRow("%s, the folder", qPrintable(how)) << how << u"listed"_s;
         }
     }
-    void whatWasMountedOverAListedFolderKeepsItsFiles()
+    void aMountOverAListedFolderKeepsItsFiles()
     {
         QFETCH(QString, how);
         QFETCH(QString, item);
@@ -434,20 +436,20 @@ private Q_SLOTS:
         tree.file(u"listed/f0"_s);
         tree.file(u"other/f0"_s);
         platform::ListedFolders listed;
-        list(tree.path(), listed);
-        const bool isDone = exchange(tree, how);
+        recordFolders(tree.path(), listed);
+        const bool isExchanged = exchange(tree, how);
         FileRemover remover;
         remover.setListed(&listed);
         const Status status = remover.remove(tree.path(item)).status;
-        const bool isThere = tree.has(u"listed/f0"_s);
-        unmount(tree.path(u"listed"_s), how, isDone);
-        if (!isDone)
+        const bool isFileKept = tree.has(u"listed/f0"_s);
+        unmount(tree.path(u"listed"_s), how, isExchanged);
+        if (!isExchanged)
             QSKIP("mounting is not allowed here");
-        QVERIFY(isThere);
+        QVERIFY(isFileKept);
         QVERIFY(status == Status::Replaced || (item == "listed"_L1 && status == Status::Failed));
     }
 
-    void aFolderIsNotEmptiedWhereItWasMoved_data()
+    void aFolderMovedDuringItsRemovalIsNotEmptied_data()
     {
         QTest::addColumn<QString>("moved");
         QTest::addColumn<int>("kept"); ///< how much of it at least
@@ -455,7 +457,7 @@ private Q_SLOTS:
         QTest::newRow("a folder above it") << u"around"_s << 5;
         QTest::newRow("a folder in it") << u"around/listed/sub"_s << 4;
     }
-    void aFolderIsNotEmptiedWhereItWasMoved()
+    void aFolderMovedDuringItsRemovalIsNotEmptied()
     {
         QFETCH(QString, moved);
         QFETCH(int, kept);
@@ -470,19 +472,20 @@ private Q_SLOTS:
         tree.file(u"around/precious"_s);
         // The files of the folder itself come first; then those of its only subfolder.
         const bool isInside = moved.endsWith("sub"_L1);
-        removalsUntilThen = isInside ? filesInFolder + 20 : 20;
-        happensThen = [&] { QDir().rename(tree.path(moved), tree.path(u"kept"_s)); };
+        removalsBeforeAction = isInside ? filesInFolder + 20 : 20;
+        actionBetweenRemovals = [&] { QDir().rename(tree.path(moved), tree.path(u"kept"_s)); };
         const FileRemover::Outcome outcome = FileRemover().remove(tree.path(u"around/listed"_s));
         QCOMPARE(outcome.status, Status::Replaced);
         QVERIFY(outcome.wasFolder);
-        int left = 0;
+        int remaining = 0;
         QDirIterator it(tree.path(u"kept"_s), QDir::Files, QDirIterator::Subdirectories);
         for (; it.hasNext(); it.next())
-            ++left;
-        QVERIFY2(left >= kept * filesInFolder - 20 - 32, qPrintable(QString::number(left)));
+            ++remaining;
+        QVERIFY2(remaining >= kept * filesInFolder - 20 - 32,
+                 qPrintable(QString::number(remaining)));
     }
 
-    void aFolderThatMayOnlyBePassedThroughIsEnough()
+    void aFileInAFolderWithoutReadPermissionIsRemoved()
     {
         const TestTree tree;
         const QString path = tree.file(u"closed/a"_s);
@@ -530,17 +533,17 @@ private Q_SLOTS:
         QCOMPARE(::chmod(sub.constData(), 0500), 0);
         QCOMPARE(::chmod(locked.constData(), 0500), 0);
         FileRemover remover;
-        const FileRemover::Outcome direct = remover.remove(tree.path(u"d/locked/sub/f"_s));
-        QCOMPARE(direct.status, Status::Failed);
-        QVERIFY(!direct.wasFolder);
-        QVERIFY(!direct.error.isEmpty());
+        const FileRemover::Outcome fileOutcome = remover.remove(tree.path(u"d/locked/sub/f"_s));
+        QCOMPARE(fileOutcome.status, Status::Failed);
+        QVERIFY(!fileOutcome.wasFolder);
+        QVERIFY(!fileOutcome.error.isEmpty());
         QVERIFY(tree.has(u"d/locked/sub/f"_s));
-        const FileRemover::Outcome whole = remover.remove(tree.path(u"d"_s));
-        QVERIFY2(whole.status == Status::Removed, qPrintable(whole.error));
+        const FileRemover::Outcome folderOutcome = remover.remove(tree.path(u"d"_s));
+        QVERIFY2(folderOutcome.status == Status::Removed, qPrintable(folderOutcome.error));
         QVERIFY(!tree.has(u"d"_s));
     }
 
-    void whatIsMountedInsideAFolderStays()
+    void aMountInsideARemovedFolderStays()
     {
         const TestTree tree;
         tree.file(u"d/a"_s);
@@ -551,10 +554,10 @@ private Q_SLOTS:
             QSKIP("mounting is not allowed here");
         FileRemover remover;
         const FileRemover::Outcome outcome = remover.remove(tree.path(u"d"_s));
-        const bool stillThere = tree.has(u"d/bound/canary"_s);
+        const bool isFileKept = tree.has(u"d/bound/canary"_s);
         ::umount2(bound.constData(), MNT_DETACH);
         QCOMPARE(outcome.status, Status::Failed);
-        QVERIFY(stillThere);
+        QVERIFY(isFileKept);
         QVERIFY(!tree.has(u"d/a"_s));
     }
 
@@ -634,20 +637,21 @@ private:
         if (how == "renamed"_L1)
             return QDir().rename(folder, tree.path(u"away"_s))
                 && QDir().rename(tree.path(u"other"_s), folder);
-        const QByteArray there = QFile::encodeName(folder);
+        const QByteArray folderPath = QFile::encodeName(folder);
         const QByteArray other = QFile::encodeName(tree.path(u"other"_s));
         if (how == "bound"_L1)
-            return ::mount(other.constData(), there.constData(), nullptr, MS_BIND, nullptr) == 0;
-        if (::mount("none", there.constData(), "tmpfs", 0, nullptr) != 0)
+            return ::mount(other.constData(), folderPath.constData(), nullptr, MS_BIND, nullptr)
+                == 0;
+        if (::mount("none", folderPath.constData(), "tmpfs", 0, nullptr) != 0)
             return false;
         for (int i = 0; i < 200; ++i)
             tree.file(u"listed/f%1"_s.arg(i));
         return true;
     }
 
-    static void unmount(const QString &folder, const QString &how, bool isDone)
+    static void unmount(const QString &folder, const QString &how, bool isExchanged)
     {
-        if (isDone && how != "renamed"_L1)
+        if (isExchanged && how != "renamed"_L1)
             ::umount2(QFile::encodeName(folder).constData(), MNT_DETACH);
     }
 #endif

@@ -34,7 +34,7 @@ public:
         : m_paths(paths)
     {
     }
-    void meetEntry(platform::WalkedEntry &&entry) override
+    void visitEntry(platform::WalkedEntry &&entry) override
     {
         if (!entry.isFolder)
             m_paths.append(entry.path);
@@ -159,7 +159,7 @@ private Q_SLOTS:
 #ifdef Q_OS_UNIX
     // Windows programs do not see these; the values are those that Wine understands and some that
     // it does not.
-    void whatWineMarksAsHiddenIsNotListed()
+    void entriesThatWineMarksAsHiddenAreNotListed()
     {
         const TestTree tree;
         tree.folder(u"prefix/drive_c"_s);
@@ -239,7 +239,7 @@ private Q_SLOTS:
         }
     }
 
-    void aFolderThatMayOnlyBePassedThroughIsNoObstacle()
+    void aFolderWithoutReadPermissionIsPassedThrough()
     {
         const TestTree tree;
         tree.file(u"closed/open/f"_s);
@@ -359,7 +359,7 @@ private Q_SLOTS:
         QCOMPARE(report.failures.size(), WalkReport::maximumFailures);
     }
 
-    void aFolderThatMayOnlyBePassedThroughDoesNotHideWhatIsBelow()
+    void filesBelowAnExecuteOnlyFolderAreListed()
     {
         const OrdinaryUser user;
         const TestTree tree;
@@ -371,7 +371,7 @@ private Q_SLOTS:
         QCOMPARE(found, QStringList{u"0 "_s + tree.path(u"passage/inner/f"_s)});
     }
 
-    void whatIsMountedBelowTheRootIsLeftAlone()
+    void mountsBelowTheRootAreNotWalked()
     {
         const TestTree tree;
         const TestTree other;
@@ -382,22 +382,22 @@ private Q_SLOTS:
         const QByteArray file = QFile::encodeName(tree.file(u"boundfile"_s, {}));
         if (::mount("none", fresh.constData(), "tmpfs", 0, nullptr) != 0)
             QSKIP("mounting is not allowed here");
-        const bool bindMounted = ::mount(QFile::encodeName(other.path()).constData(),
-                                         bound.constData(), nullptr, MS_BIND, nullptr)
+        const bool isBound = ::mount(QFile::encodeName(other.path()).constData(), bound.constData(),
+                                     nullptr, MS_BIND, nullptr)
                 == 0
             && ::mount(QFile::encodeName(other.path(u"foreign"_s)).constData(), file.constData(),
                        nullptr, MS_BIND, nullptr)
                 == 0;
         QFile inFresh(tree.path(u"fresh/f"_s));
-        const bool written = inFresh.open(QIODevice::WriteOnly);
+        const bool isWritten = inFresh.open(QIODevice::WriteOnly);
         inFresh.close();
         WalkReport report;
         const QStringList found = walk(tree.path(), {}, &report);
         ::umount2(file.constData(), MNT_DETACH);
         ::umount2(bound.constData(), MNT_DETACH);
         ::umount2(fresh.constData(), MNT_DETACH);
-        QVERIFY(bindMounted);
-        QVERIFY(written);
+        QVERIFY(isBound);
+        QVERIFY(isWritten);
         QCOMPARE(found, QStringList{u"0 "_s + tree.path(u"own"_s)});
         QCOMPARE(report.failureCount, 0);
     }

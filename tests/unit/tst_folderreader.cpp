@@ -36,7 +36,7 @@ class TestFolderReader : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void everyEntryComesOnceButTheFolderAndItsParent()
+    void everyEntryIsReadOnceWithoutDotAndDotDot()
     {
         const TestTree tree;
         tree.file(u"a/file"_s);
@@ -49,7 +49,7 @@ private Q_SLOTS:
         QCOMPARE(reader.error(), 0);
     }
 
-    void whatDoesNotFitIntoTheBufferComesToo()
+    void aFolderLargerThanTheBufferIsReadWhole()
     {
         const TestTree tree;
         QStringList expected;
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QCOMPARE(reader.error(), 0);
     }
 
-    void aFailureIsToldUntilTheNextFolder()
+    void anErrorLastsUntilTheNextFolder()
     {
         const TestTree tree;
         const QString file = tree.file(u"file"_s);
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QCOMPARE(reader.error(), 0);
     }
 
-    void aTypeThatIsNotListedIsAskedFor()
+    void aMissingTypeIsLookedUp()
     {
         const TestTree tree;
         tree.folder(u"folder"_s);
@@ -107,9 +107,9 @@ private Q_SLOTS:
         reader.begin(folder.get());
         QHash<QString, int> types;
         while (const dirent64 *entry = reader.next()) {
-            dirent64 unlisted = *entry;
-            unlisted.d_type = DT_UNKNOWN;
-            types.insert(QFile::decodeName(entry->d_name), reader.typeOf(unlisted));
+            dirent64 withoutType = *entry;
+            withoutType.d_type = DT_UNKNOWN;
+            types.insert(QFile::decodeName(entry->d_name), reader.typeOf(withoutType));
         }
         QCOMPARE(
             types,

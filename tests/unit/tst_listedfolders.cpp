@@ -13,10 +13,10 @@ using platform::ListedFolders;
 
 namespace {
 
-class Ignoring final : public platform::EntryVisitor
+class IgnoringVisitor final : public platform::EntryVisitor
 {
 public:
-    void meetEntry(platform::WalkedEntry &&) override { }
+    void visitEntry(platform::WalkedEntry &&) override { }
     void leaveFolder(qint64, bool) override { }
 };
 
@@ -42,7 +42,7 @@ private Q_SLOTS:
     }
 
     // Of two rules that look at one path one may have met the old folder, one the new.
-    void aFolderThatChangedBetweenTwoListingsIsNone()
+    void aPathWithTwoDifferentFoldersMatchesNeither()
     {
         ListedFolders listed;
         for (const EntryId &id : {EntryId{1, 2}, EntryId{1, 3}, EntryId{1, 2}, EntryId{1, 3}})
@@ -65,7 +65,7 @@ private Q_SLOTS:
         QVERIFY(!listed.idOf(tree.path()).isKnown());
 
         ListedFolders ofEntries;
-        Ignoring visitor;
+        IgnoringVisitor visitor;
         platform::walkEntries(tree.path(), visitor, nullptr, &ofEntries);
         QCOMPARE(ofEntries.idOf(tree.path(u"a"_s)), listed.idOf(tree.path(u"a"_s)));
         QVERIFY(ofEntries.idOf(tree.path(u"b"_s)).isKnown());
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY(ofEntries.idOf(tree.path()) != ofEntries.idOf(tree.path(u"b"_s)));
     }
 
-    void anotherFolderAtThePathIsTold()
+    void anotherFolderAtThePathHasAnotherId()
     {
         const TestTree tree;
         tree.file(u"a/f"_s);

@@ -44,7 +44,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!platform::runningPrograms().contains(name), 10'000);
     }
 
-    void aPartOfANameIsNoName()
+    void aPartOfANameIsNotListed()
     {
         const QString own = QFileInfo(QCoreApplication::applicationFilePath()).fileName().toLower();
         QVERIFY(!platform::runningPrograms().contains(own.mid(1)));

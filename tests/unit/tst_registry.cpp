@@ -58,7 +58,7 @@ private Q_SLOTS:
         QVERIFY(registry.subkeys(Hive::CurrentUser, {}).contains(u"Software"_s));
     }
 
-    void whatIsMissingYieldsNothing()
+    void missingKeysAndValuesYieldNothing()
     {
         m_fixture->addKey(userKey);
         m_fixture->write();

@@ -159,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(file.valueNames(key).size(), 5);
     }
 
-    void whatIsNotChangedIsWrittenAsItWas()
+    void unchangedPartsAreWrittenAsRead()
     {
         const QByteArray text = head
             + "[A] 1 \n#time=1\n#class=\"x\"\nodd line\n\"v\"=\"1\"\n\"w\"=hex:01,\\\n  02\n\n"
@@ -181,7 +181,7 @@ private Q_SLOTS:
         QVERIFY(twice.text().contains("[broken\n\"z\"=\"1\"\n"));
     }
 
-    void aRemovedTreeTakesNothingElse()
+    void removingATreeRemovesNothingElse()
     {
         RegistryFile file = parsed(head
                                    + "[A\\\\B] 1\n\"v\"=\"1\"\n[A\\\\B\\\\C\\\\D] 1\n[A\\\\BB] 1\n"
@@ -223,7 +223,7 @@ private Q_SLOTS:
         QCOMPARE(again.valueNames(again.find(u"A\\B"_s)), QStringList{u"w"_s});
     }
 
-    void linksAreTold()
+    void linksAreRecognized()
     {
         const RegistryFile file =
             parsed(head
@@ -233,23 +233,23 @@ private Q_SLOTS:
         QVERIFY(!file.isLink(file.find(u"K"_s)));
     }
 
-    void otherFilesAreNotTaken_data()
+    void otherFilesAreNotParsed_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("other version") << QByteArray("WINE REGISTRY Version 1\n[K]\n");
         QTest::newRow("registry export") << QByteArray("Windows Registry Editor Version 5.00\n");
     }
-    void otherFilesAreNotTaken()
+    void otherFilesAreNotParsed()
     {
         QFETCH(QByteArray, text);
         QVERIFY(!RegistryFile::parse(text));
     }
 
     // A seeded walk through what breaks parsers: cuts, doubled and exchanged bytes.
-    void damagedTextIsSurvived()
+    void damagedTextIsParsedWithoutLoss()
     {
-        const QByteArray good = head
+        const QByteArray intact = head
             + "[Soft\\\\A\\[x\\]] "
               "17\n#time=1dd\n#link\n@=\"d\"\n\"a\\\\b\"=str(7):\"q\\x4e2d\\0\"\n"
               "\"h\"=hex(b):01,02,\\\n  03,04\n\"d\"=dword:0000000a\n\n[Soft] 1\n\"e\"=\"\"\n";
@@ -260,7 +260,7 @@ private Q_SLOTS:
         };
         const QByteArray alphabet("[]\\\"=#@:,x0f \n\r\t\0\xff(", 20);
         for (int round = fuzzRounds(); round > 0; --round) {
-            QByteArray text = good;
+            QByteArray text = intact;
             for (qsizetype edits = 1 + next(6); edits > 0; --edits) {
                 const qsizetype at = 23 + next(text.size() - 23);
                 switch (next(4)) {

@@ -33,7 +33,7 @@ private Q_SLOTS:
         qputenv("USER", "jane");
     }
 
-    void withoutAPrefixTheDesktopsFoldersServe()
+    void withoutAPrefixTheDesktopsFoldersAreUsed()
     {
         QCOMPARE(platform::temporaryFolder(), QDir::tempPath());
         QCOMPARE(platform::localDataFolder(), m_home.path() + "/data"_L1);
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(platform::windowsFolder(), u"C:/Windows"_s);
     }
 
-    void theOnlyProfileOfAForeignPrefixServes()
+    void theOnlyProfileOfAForeignPrefixIsUsed()
     {
         const QString drive = makePrefix();
         qputenv("USER", "somebody-else");
@@ -275,7 +275,7 @@ private Q_SLOTS:
     }
 
     // What its owner has put into a place that is kept may be taken; the place itself may not.
-    void whatLiesInAProtectedTreeHoldsNothingProtected()
+    void aFolderInAProtectedTreeHoldsNoProtectedPlace()
     {
         const QString drive = makePrefix();
         const QString inside = m_home.folder(u"prefix/drive_c/Program Files/Portable/Profile"_s);
@@ -289,7 +289,7 @@ private Q_SLOTS:
     }
 
     // Outside of the table's reach nothing changes by what is set for the host alone.
-    void theHostsTemporaryVariablesMeanNothingToThePrefix()
+    void thePrefixIgnoresTheHostsTemporaryVariables()
     {
         const QString drive = makePrefix();
         for (const char *variable : {"TMP", "TEMP"})

@@ -37,7 +37,7 @@ public:
         return wanted;
     }
 
-    void meetFile(const platform::MetFile &file) override
+    void visitFile(const platform::VisitedFile &file) override
     {
         paths.append(platform::joinedPath(folder, file.name.toString()));
         sizes.append(file.size);
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(walkEverywhere(tree.path(), walkers), expected);
     }
 
-    void aVisitorIsToldSizeAndTime()
+    void aVisitorReceivesSizeAndTime()
     {
         const TestTree tree;
         const QString path = tree.file(u"sub/f"_s, "12345");
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QCOMPARE(record.times, QList<qint64>{1'700'000'000'000});
     }
 
-    void filesAreMetWithoutSizesToo()
+    void filesAreVisitedWithoutSizesToo()
     {
         const TestTree tree;
         const QString path = tree.file(u"f"_s, "12345");
@@ -172,12 +172,12 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    void aHundredThousandFilesInOneFolderAreMet_data()
+    void aHundredThousandFilesInOneFolderAreVisited_data()
     {
         addWalkerCounts();
     }
 
-    void aHundredThousandFilesInOneFolderAreMet()
+    void aHundredThousandFilesInOneFolderAreVisited()
     {
         QFETCH(int, walkers);
         static const TestTree tree;
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(QSet<QString>(found.begin(), found.end()).size(), count);
     }
 
-    void everywhereIsWhereQDirIteratorFollowsLinks_data()
+    void walkingEverywhereListsWhatQDirIteratorFollows_data()
     {
         QTest::addColumn<quint32>("seed");
         QTest::addColumn<int>("walkers");
@@ -203,7 +203,7 @@ private Q_SLOTS:
         }
     }
 
-    void everywhereIsWhereQDirIteratorFollowsLinks()
+    void walkingEverywhereListsWhatQDirIteratorFollows()
     {
         QFETCH(quint32, seed);
         QFETCH(int, walkers);
@@ -240,12 +240,12 @@ private Q_SLOTS:
         QVERIFY(report.followed.isEmpty());
     }
 
-    void aLinkToAParentShowsWhatIsBesideTheRoot_data()
+    void aLinkToAParentListsFilesBesideTheRoot_data()
     {
         addWalkerCounts();
     }
 
-    void aLinkToAParentShowsWhatIsBesideTheRoot()
+    void aLinkToAParentListsFilesBesideTheRoot()
     {
         QFETCH(int, walkers);
         const TestTree tree;
@@ -268,7 +268,7 @@ private Q_SLOTS:
         QCOMPARE(walkEverywhere(tree.path(), 2), QStringList{tree.path(u"z/deep/f"_s)});
     }
 
-    void linksToFilesAreMetAndBrokenOnesAreNot()
+    void linksToFilesAreVisitedAndBrokenOnesAreNot()
     {
         const TestTree outside;
         outside.file(u"target"_s, "123456789");
@@ -283,7 +283,7 @@ private Q_SLOTS:
         QCOMPARE(record.sizes, QList<qint64>{outside.path(u"target"_s).size()});
     }
 
-    void aRootBehindALinkIsTakenAsItComes()
+    void aRootBehindALinkIsWalkedByTheGivenPath()
     {
         const TestTree tree;
         tree.file(u"real/sub/f"_s);
@@ -295,7 +295,7 @@ private Q_SLOTS:
         QCOMPARE(report.followed.constFirst().target, tree.path(u"real/sub"_s));
     }
 
-    void hiddenFoldersAreEnteredThroughALinkAlone()
+    void hiddenFoldersAreEnteredOnlyThroughALink()
     {
         const TestTree tree;
         tree.file(u".hidden/f"_s);
@@ -327,7 +327,7 @@ private Q_SLOTS:
         QVERIFY(report.failureCount >= 1);
     }
 
-    void theKernelsOwnFilesAreEnteredAsTheRootAlone()
+    void kernelFileSystemsAreWalkedOnlyAsTheRoot()
     {
         if (!QFile::exists(u"/proc/sys/kernel/ostype"_s))
             QSKIP("there is no such file system here");
@@ -339,16 +339,16 @@ private Q_SLOTS:
         QVERIFY(walkEverywhere(u"/proc/sys/kernel"_s, 2).contains(u"/proc/sys/kernel/ostype"_s));
     }
 
-    void everywhereCrossesMounts()
+    void walkingEverywhereCrossesMounts()
     {
         const TestTree tree;
         tree.file(u"own"_s, {});
-        const QByteArray fresh = QFile::encodeName(tree.folder(u"fresh"_s));
-        if (::mount("none", fresh.constData(), "tmpfs", 0, nullptr) != 0)
+        const QByteArray mounted = QFile::encodeName(tree.folder(u"fresh"_s));
+        if (::mount("none", mounted.constData(), "tmpfs", 0, nullptr) != 0)
             QSKIP("mounting is not allowed here");
         const QString inside = tree.file(u"fresh/sub/f"_s, {});
         const QStringList found = walkEverywhere(tree.path(), 2);
-        ::umount2(fresh.constData(), MNT_DETACH);
+        ::umount2(mounted.constData(), MNT_DETACH);
         QCOMPARE(found, (QStringList{inside, tree.path(u"own"_s)}));
     }
 

@@ -15,8 +15,8 @@ struct State {
     QHash<QString, quint32> tags; // by lower-case name
     QString junction; // in the system's form, as below
     QString target;
-    std::atomic_bool junctionActive = false;
-    bool tagsRefused = false;
+    std::atomic_bool isJunctionActive = false;
+    bool areTagsRefused = false;
 };
 
 State &state()
@@ -46,7 +46,7 @@ std::wstring redirected(const wchar_t *path, bool follow)
 {
     const QString asked = QString::fromWCharArray(path);
     const QString &junction = state().junction;
-    if (!state().junctionActive || junction.isEmpty()
+    if (!state().isJunctionActive || junction.isEmpty()
         || !asked.startsWith(junction, Qt::CaseInsensitive))
         return path;
     const QString rest = asked.mid(junction.size());
@@ -72,8 +72,9 @@ void addTag(WIN32_FIND_DATAW &data)
 HANDLE WINAPI findFirst(LPCWSTR pattern, FINDEX_INFO_LEVELS level, LPVOID data,
                         FINDEX_SEARCH_OPS op, LPVOID filter, DWORD flags)
 {
-    static const auto call = original<decltype(&findFirst)>("FindFirstFileExW");
-    const HANDLE search = call(redirected(pattern, false).c_str(), level, data, op, filter, flags);
+    static const auto systemFunction = original<decltype(&findFirst)>("FindFirstFileExW");
+    const HANDLE search =
+        systemFunction(redirected(pattern, false).c_str(), level, data, op, filter, flags);
     if (search != INVALID_HANDLE_VALUE)
         addTag(*static_cast<WIN32_FIND_DATAW *>(data));
     return search;
@@ -81,8 +82,8 @@ HANDLE WINAPI findFirst(LPCWSTR pattern, FINDEX_INFO_LEVELS level, LPVOID data,
 
 BOOL WINAPI findNext(HANDLE search, LPWIN32_FIND_DATAW data)
 {
-    static const auto call = original<decltype(&findNext)>("FindNextFileW");
-    const BOOL found = call(search, data);
+    static const auto systemFunction = original<decltype(&findNext)>("FindNextFileW");
+    const BOOL found = systemFunction(search, data);
     if (found)
         addTag(*data);
     return found;
@@ -91,45 +92,46 @@ BOOL WINAPI findNext(HANDLE search, LPWIN32_FIND_DATAW data)
 HANDLE WINAPI createFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
                          DWORD disposition, DWORD flags, HANDLE pattern)
 {
-    static const auto call = original<decltype(&createFile)>("CreateFileW");
+    static const auto systemFunction = original<decltype(&createFile)>("CreateFileW");
     const bool follow = (flags & FILE_FLAG_OPEN_REPARSE_POINT) == 0;
-    return call(redirected(path, follow).c_str(), access, share, security, disposition, flags,
-                pattern);
+    return systemFunction(redirected(path, follow).c_str(), access, share, security, disposition,
+                          flags, pattern);
 }
 
 BOOL WINAPI informationOf(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID info, DWORD size)
 {
-    static const auto call = original<decltype(&informationOf)>("GetFileInformationByHandleEx");
-    if (state().tagsRefused && kind == FileAttributeTagInfo) {
+    static const auto systemFunction =
+        original<decltype(&informationOf)>("GetFileInformationByHandleEx");
+    if (state().areTagsRefused && kind == FileAttributeTagInfo) {
         ::SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    const BOOL known = call(handle, kind, info, size);
-    if (!known || kind != FileAttributeTagInfo)
-        return known;
+    const BOOL isKnown = systemFunction(handle, kind, info, size);
+    if (!isKnown || kind != FileAttributeTagInfo)
+        return isKnown;
     wchar_t path[1024];
     const DWORD length = ::GetFinalPathNameByHandleW(handle, path, 1024, VOLUME_NAME_NONE);
     if (length == 0 || length >= 1024)
-        return known;
+        return isKnown;
     const QString name = QString::fromWCharArray(path, int(length)).section(u'\\', -1);
     if (const quint32 tag = tagOf(name)) {
         auto *const tagInfo = static_cast<FILE_ATTRIBUTE_TAG_INFO *>(info);
         tagInfo->FileAttributes |= FILE_ATTRIBUTE_REPARSE_POINT;
         tagInfo->ReparseTag = tag;
     }
-    return known;
+    return isKnown;
 }
 
 BOOL WINAPI deleteFile(LPCWSTR path)
 {
-    static const auto call = original<decltype(&deleteFile)>("DeleteFileW");
-    return call(redirected(path, false).c_str());
+    static const auto systemFunction = original<decltype(&deleteFile)>("DeleteFileW");
+    return systemFunction(redirected(path, false).c_str());
 }
 
 BOOL WINAPI removeDirectory(LPCWSTR path)
 {
-    static const auto call = original<decltype(&removeDirectory)>("RemoveDirectoryW");
-    return call(redirected(path, false).c_str());
+    static const auto systemFunction = original<decltype(&removeDirectory)>("RemoveDirectoryW");
+    return systemFunction(redirected(path, false).c_str());
 }
 
 } // namespace
@@ -162,23 +164,23 @@ void fakelinks::makeJunction(const QString &path, const QString &target)
     state().junction = systemForm(path);
     state().target = systemForm(target);
     tag(path.section(u'/', -1), IO_REPARSE_TAG_MOUNT_POINT);
-    state().junctionActive = true;
+    state().isJunctionActive = true;
 }
 
 void fakelinks::setJunctionActive(bool active)
 {
-    state().junctionActive = active;
+    state().isJunctionActive = active;
 }
 
 void fakelinks::refuseTags()
 {
-    state().tagsRefused = true;
+    state().areTagsRefused = true;
 }
 
 void fakelinks::clear()
 {
-    state().tagsRefused = false;
-    state().junctionActive = false;
+    state().areTagsRefused = false;
+    state().isJunctionActive = false;
     state().junction.clear();
     state().target.clear();
     state().tags.clear();

@@ -19,10 +19,11 @@ BOOL WINAPI createProcess(LPCWSTR program, LPWSTR command, LPSECURITY_ATTRIBUTES
         *information = {};
         return TRUE;
     }
-    static const auto call = reinterpret_cast<decltype(&createProcess)>(reinterpret_cast<void *>(
-        ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "CreateProcessW")));
-    return call(program, command, process, thread, inherit, flags, environment, folder, startup,
-                information);
+    static const auto systemFunction =
+        reinterpret_cast<decltype(&createProcess)>(reinterpret_cast<void *>(
+            ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "CreateProcessW")));
+    return systemFunction(program, command, process, thread, inherit, flags, environment, folder,
+                          startup, information);
 }
 
 } // namespace

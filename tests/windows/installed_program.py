@@ -35,12 +35,12 @@ def stop():
     subprocess.run(["wineserver", "-w"], check=True)
 
 
-def boot(patience=20):
+def boot(timeout=20):
     """Starts the prefix as a user's session does; how often the program ran by that, after waiting so many seconds for it."""
     before = log.read_text().count("started") if log.exists() else 0
     stop()
     run(["wineboot"])
-    deadline = time.monotonic() + patience
+    deadline = time.monotonic() + timeout
     count = 0
     while time.monotonic() < deadline and count == 0:
         time.sleep(0.5)
@@ -83,7 +83,7 @@ def main():
         assert r'"C:\Program Files\Sample Player\bin\player.exe"' in run_value()
         stop()
         assert listed(native)["isStartup"] and listed(windows)["isStartup"]
-        assert boot(patience=90) >= 1, "it was switched on and did not run"
+        assert boot(timeout=90) >= 1, "it was switched on and did not run"
         run(switch + ["startup", "disable", name])
         assert name not in run_value()
         stop()

@@ -196,17 +196,17 @@ def entries(result):
                                for category in result["categories"] for place, item in enumerate(category["items"]))
 
 
-def compare(what, native, foreign, expected):
+def compare(what, native, windows_items, expected):
     """Whether both are the same and have at least what was to be found."""
-    for title, left, right in (("only native", native, foreign), ("only Windows", foreign, native)):
+    for title, left, right in (("only native", native, windows_items), ("only Windows", windows_items, native)):
         for item in sorted((left - right).elements()):
             print(f"{title}: {item}")
     found = collections.Counter(item[0] for item in native.elements())
-    short = {category: (count, found[category]) for category, count in expected.items() if found[category] < count}
-    if short:
-        print(f"not all was found (expected, found): {short}")
-    print(f"{what}: {native.total()} items native, {foreign.total()} Windows")
-    return native == foreign and not short
+    too_few = {category: (count, found[category]) for category, count in expected.items() if found[category] < count}
+    if too_few:
+        print(f"not all was found (expected, found): {too_few}")
+    print(f"{what}: {native.total()} items native, {windows_items.total()} Windows")
+    return native == windows_items and not too_few
 
 
 def main():
@@ -224,25 +224,25 @@ def main():
     def local_path(path):
         return str((drive.parent / "dosdevices" / path[:2].lower()).resolve()) + path[2:] if path[1] == ":" else path
 
-    foreign = items(scan(["wine", windows_cli], "junk", plain), local_path)
-    foreign_browsers = items(scan(["wine", windows_cli], "browser", plain), local_path)
-    foreign_entries = entries(scan(["wine", windows_cli], "registry", plain))
-    same = compare("junk", native, foreign, expected)
-    same = compare("browser", native_browsers, foreign_browsers, expected_browsers) and same
-    same = compare("registry", native_entries, foreign_entries, expected_entries) and same
+    windows_items = items(scan(["wine", windows_cli], "junk", plain), local_path)
+    windows_browsers = items(scan(["wine", windows_cli], "browser", plain), local_path)
+    windows_entries = entries(scan(["wine", windows_cli], "registry", plain))
+    same = compare("junk", native, windows_items, expected)
+    same = compare("browser", native_browsers, windows_browsers, expected_browsers) and same
+    same = compare("registry", native_entries, windows_entries, expected_entries) and same
 
     def compare_junk(what, expected):
         native = items(scan([native_cli], "junk", plain), lambda path: path)
         start_server()
-        foreign = items(scan(["wine", windows_cli], "junk", plain), local_path)
-        return compare(what, native, foreign, expected), native
+        windows_items = items(scan(["wine", windows_cli], "junk", plain), local_path)
+        return compare(what, native, windows_items, expected), native
 
     # The temporary folder named in other case than the disk has it.
     set_temporary_folder(temporary[:3] + temporary[3:].swapcase())
-    answer, again = compare_junk("junk, temporary folder in other case", expected)
+    is_same, again = compare_junk("junk, temporary folder in other case", expected)
     if again != native:
         print("the case of the temporary folder's name makes a difference")
-    same = answer and again == native and same
+    same = is_same and again == native and same
 
     # The temporary folder is a whole drive: nothing of it is listed, by either.
     with tempfile.TemporaryDirectory() as disk:
@@ -252,11 +252,11 @@ def main():
         photographs.mkdir()
         (photographs / "one.jpg").write_bytes(b"x")
         set_temporary_folder("D:\\")
-        answer, on_drive = compare_junk("junk, temporary folder is a drive", {"prefetch": 7})
-        lost = [item[1] for item in on_drive if "photographs" in item[1]]
-        if lost:
-            print(f"would be deleted: {lost}")
-        same = answer and not lost and same
+        is_same, on_drive = compare_junk("junk, temporary folder is a drive", {"prefetch": 7})
+        listed = [item[1] for item in on_drive if "photographs" in item[1]]
+        if listed:
+            print(f"would be deleted: {listed}")
+        same = is_same and not listed and same
 
         # It is where the user keeps documents by now.
         documents = pathlib.Path(disk).resolve() / "Papers"
@@ -264,15 +264,15 @@ def main():
         (documents / "thesis.odt").write_bytes(b"x")
         (documents / "notes.txt").write_bytes(b"x")
         set_temporary_folder("D:\\Papers")
-        answer, _ = compare_junk("junk, temporary folder below a drive", {"temp_files": 2, "prefetch": 7})
-        same = answer and same
+        is_same, _ = compare_junk("junk, temporary folder below a drive", {"temp_files": 2, "prefetch": 7})
+        same = is_same and same
         set_text("HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders", "Personal", "D:\\Papers")
         set_temporary_folder("D:\\Papers")
-        answer, in_documents = compare_junk("junk, temporary folder is that of the documents", {"prefetch": 7})
-        lost = [item[1] for item in in_documents if "Papers" in item[1]]
-        if lost:
-            print(f"would be deleted: {lost}")
-        same = answer and not lost and same
+        is_same, in_documents = compare_junk("junk, temporary folder is that of the documents", {"prefetch": 7})
+        listed = [item[1] for item in in_documents if "Papers" in item[1]]
+        if listed:
+            print(f"would be deleted: {listed}")
+        same = is_same and not listed and same
         set_temporary_folder(temporary)
         letter.unlink()
     return 0 if same else 1

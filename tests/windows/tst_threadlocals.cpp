@@ -18,7 +18,7 @@ namespace {
 using Words = std::array<quint64, 4>;
 
 constexpr Words written{1, 2, 3, 4};
-constexpr int patience = 30'000;
+constexpr int timeoutMs = 30'000;
 constexpr auto matchInThreads = "--match-in-threads"_L1;
 
 Words atDestruction;
@@ -100,7 +100,7 @@ void TestThreadLocals::anObjectIsWholeWhenItIsDestroyed()
     for (int i = 0; i < 20; ++i) {
         run([] { witness.write(); });
         // A thread of Qt counts as finished a little before it has ended.
-        QVERIFY(destructions.tryAcquire(1, patience));
+        QVERIFY(destructions.tryAcquire(1, timeoutMs));
         QCOMPARE(atDestruction, written);
     }
 }
@@ -111,12 +111,12 @@ void TestThreadLocals::aProgramEndsAfterItsThreadsHaveMatched()
         QProcess program;
         program.start(QCoreApplication::applicationFilePath(), {matchInThreads});
         QVERIFY2(program.waitForStarted(), qPrintable(program.errorString()));
-        const bool ended = program.waitForFinished(patience);
-        if (!ended) {
+        const bool hasEnded = program.waitForFinished(timeoutMs);
+        if (!hasEnded) {
             program.kill();
             program.waitForFinished();
         }
-        QVERIFY(ended);
+        QVERIFY(hasEnded);
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 0);
     }

@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(report.failureCount, 1);
     }
 
-    void pathsTakeTheFormThatTheSystemLeavesAlone_data()
+    void pathsAreConvertedToTheExtendedForm_data()
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("extended");
@@ -118,7 +118,7 @@ private Q_SLOTS:
             QTest::addRow("refused: %s", qPrintable(refused)) << refused << QString() << QString();
     }
 
-    void pathsTakeTheFormThatTheSystemLeavesAlone()
+    void pathsAreConvertedToTheExtendedForm()
     {
         QFETCH(QString, path);
         QFETCH(QString, extended);
@@ -218,7 +218,7 @@ private Q_SLOTS:
         setAttributes(file, FILE_ATTRIBUTE_NORMAL);
     }
 
-    void whatCannotBeRemovedIsCountedAndLogged()
+    void filesThatCannotBeRemovedAreCountedAndLogged()
     {
         const TestTree tree;
         tree.file(u"a"_s);
@@ -243,7 +243,7 @@ private Q_SLOTS:
         setAttributes(readOnly, FILE_ATTRIBUTE_NORMAL);
     }
 
-    void readOnlyEntriesOfARemovedFolderGo()
+    void readOnlyEntriesOfARemovedFolderAreRemoved()
     {
         const TestTree tree;
         setAttributes(tree.file(u"folder/file"_s), FILE_ATTRIBUTE_READONLY);
@@ -302,7 +302,7 @@ private Q_SLOTS:
         QCOMPARE(remove(file).status, Status::Removed);
     }
 
-    void namesThatDifferByCaseAloneAreTwoNames()
+    void namesThatDifferOnlyInCaseAreTwoFiles()
     {
         if (!isWine())
             QSKIP("needs a folder that tells upper from lower case");
@@ -330,44 +330,44 @@ private Q_SLOTS:
         QFETCH(QString, ending);
         const TestTree tree;
         const QString victim = tree.file(u"victim.txt"_s, "precious");
-        const QString odd = victim + ending;
-        makeFile(odd, "odd");
+        const QString oddPath = victim + ending;
+        makeFile(oddPath, "odd");
         QCOMPARE(walk(tree.path()), (QStringList{u"victim.txt"_s, u"victim.txt"_s + ending}));
-        QCOMPARE(platform::inspect(odd).size, 3);
-        QCOMPARE(remove(odd).status, Status::Removed);
-        QCOMPARE(content(odd), QByteArray());
+        QCOMPARE(platform::inspect(oddPath).size, 3);
+        QCOMPARE(remove(oddPath).status, Status::Removed);
+        QCOMPARE(content(oddPath), QByteArray());
         QCOMPARE(content(victim), QByteArray("precious"));
-        QCOMPARE(remove(odd).status, Status::NotFound);
+        QCOMPARE(remove(oddPath).status, Status::NotFound);
         QCOMPARE(content(victim), QByteArray("precious"));
     }
 
-    void aFolderWithAnOddEndIsNotItsNeighbour_data()
+    void aFolderNameWithADotOrBlankAtTheEndIsNotItsNeighbour_data()
     {
         QTest::addColumn<QString>("ending");
         QTest::newRow("dot") << u"."_s;
         QTest::newRow("blank") << u" "_s;
     }
 
-    void aFolderWithAnOddEndIsNotItsNeighbour()
+    void aFolderNameWithADotOrBlankAtTheEndIsNotItsNeighbour()
     {
         QFETCH(QString, ending);
         const TestTree tree;
         const QString victim = tree.file(u"folder/file"_s, "precious");
-        const QString odd = tree.path(u"folder"_s) + ending;
-        makeFolder(odd);
-        makeFile(odd + "/file"_L1, "odd");
-        makeFile(odd + "/second"_L1, "odd");
-        QCOMPARE(walk(odd), (QStringList{u"file"_s, u"second"_s}));
+        const QString oddPath = tree.path(u"folder"_s) + ending;
+        makeFolder(oddPath);
+        makeFile(oddPath + "/file"_L1, "odd");
+        makeFile(oddPath + "/second"_L1, "odd");
+        QCOMPARE(walk(oddPath), (QStringList{u"file"_s, u"second"_s}));
         // Of what is in a folder with a dot at its end Wine says that it were in the neighbour, so
         // that it has to stay.
-        const bool stays = isWine() && ending == "."_L1;
-        QCOMPARE(remove(odd + "/file"_L1).status, stays ? Status::Failed : Status::Removed);
+        const bool isKept = isWine() && ending == "."_L1;
+        QCOMPARE(remove(oddPath + "/file"_L1).status, isKept ? Status::Failed : Status::Removed);
         QCOMPARE(content(victim), QByteArray("precious"));
-        QCOMPARE(remove(odd).status, stays ? Status::Failed : Status::Removed);
+        QCOMPARE(remove(oddPath).status, isKept ? Status::Failed : Status::Removed);
         QCOMPARE(content(victim), QByteArray("precious"));
-        QCOMPARE(platform::inspect(odd).kind, stays ? EntryKind::Folder : EntryKind::Missing);
-        if (stays)
-            removeTreeBelowWine(odd);
+        QCOMPARE(platform::inspect(oddPath).kind, isKept ? EntryKind::Folder : EntryKind::Missing);
+        if (isKept)
+            removeTreeBelowWine(oddPath);
     }
 
     void aShortcutIsJudgedAsItself()

@@ -19,7 +19,7 @@ using namespace windowsfiles;
 
 namespace {
 
-constexpr int patience = 120'000;
+constexpr int timeoutMs = 120'000;
 
 /// The paths that a scan finds, sorted.
 QStringList scan(LargeFileScanner &scanner, const QString &drive, qint64 minSize = 0)
@@ -28,7 +28,7 @@ QStringList scan(LargeFileScanner &scanner, const QString &drive, qint64 minSize
     scanner.setDrives({drive});
     scanner.setMinSize(minSize);
     scanner.startScan();
-    if (!finished.wait(patience))
+    if (!finished.wait(timeoutMs))
         qFatal("the scan did not end");
     QStringList found;
     for (const LargeFileInfo &info : scanner.results())
@@ -70,7 +70,7 @@ private Q_SLOTS:
         setAttributes(readOnly, FILE_ATTRIBUTE_NORMAL);
     }
 
-    void aWholeDriveIsNamedAsItIs()
+    void filesOfAWholeDriveHaveTheirFullPath()
     {
         const TestTree tree;
         const QString path = tree.file(u"sub/f.iso"_s, QByteArray(123'457, 'x'));
@@ -82,7 +82,7 @@ private Q_SLOTS:
                      qPrintable(info.path));
     }
 
-    void aFolderBehindAJunctionIsListedWhereItIs()
+    void aFolderBehindAJunctionIsListedByItsOwnPath()
     {
         const TestTree outside;
         const QString found = outside.file(u"sub/f"_s);
@@ -126,7 +126,7 @@ private Q_SLOTS:
         QCOMPARE(scan(tree.path()), files);
     }
 
-    void aJunctionToAParentShowsWhatIsBesideTheRoot()
+    void aJunctionToAParentListsFilesBesideTheRoot()
     {
         const TestTree tree;
         const QStringList files{tree.file(u"beside/f"_s), tree.file(u"root/own"_s)};
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QCOMPARE(scan(tree.path(u"root"_s)), files);
     }
 
-    void aHiddenFolderIsEnteredThroughAJunctionAlone()
+    void aHiddenFolderIsEnteredOnlyThroughAJunction()
     {
         const TestTree tree;
         const QString file = tree.file(u"hidden/sub/f"_s);

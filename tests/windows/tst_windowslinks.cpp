@@ -41,7 +41,7 @@ class TestWindowsLinks : public QObject
 private Q_SLOTS:
     void cleanup() { fakelinks::clear(); }
 
-    void whatATagMakesOfAFolder_data()
+    void aReparseTagDecidesWhatAFolderIs_data()
     {
         QTest::addColumn<quint32>("tag");
         QTest::addColumn<bool>("entered");
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QTest::newRow("deduplicated") << deduplicationTag << true << EntryKind::Folder;
     }
 
-    void whatATagMakesOfAFolder()
+    void aReparseTagDecidesWhatAFolderIs()
     {
         QFETCH(quint32, tag);
         QFETCH(bool, entered);
@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(tree.has(u"folder/tagged/sub/file"_s), !entered);
     }
 
-    void whatATagMakesOfAFile_data()
+    void aReparseTagDecidesWhatAFileIs_data()
     {
         QTest::addColumn<quint32>("tag");
         QTest::addColumn<bool>("listed");
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QTest::newRow("pipe") << pipeTag << false << EntryKind::Other;
     }
 
-    void whatATagMakesOfAFile()
+    void aReparseTagDecidesWhatAFileIs()
     {
         QFETCH(quint32, tag);
         QFETCH(bool, listed);
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QVERIFY(!tree.has(u"folder"_s));
     }
 
-    void aFileSystemWithoutTagsWillDo()
+    void aFileSystemWithoutReparseTagsIsHandled()
     {
         const TestTree tree;
         const QString file = tree.file(u"folder/sub/file"_s);
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(outside.snapshot(), before);
     }
 
-    void aJunctionInARemovedFolderGoesAndItsTargetStays()
+    void aJunctionInARemovedFolderIsRemovedAndItsTargetStays()
     {
         const TestTree outside;
         outside.file(u"precious"_s);
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(outside.snapshot(), before);
     }
 
-    void aJunctionItselfGoesAsALink()
+    void aJunctionIsRemovedAndItsTargetStays()
     {
         const TestTree outside;
         outside.file(u"precious"_s);
@@ -211,7 +211,7 @@ private Q_SLOTS:
         QCOMPARE(outside.snapshot(), before);
     }
 
-    void parentsExchangedForLinksLeadNowhere()
+    void nothingOutsideIsRemovedWhileAParentIsExchangedForALink()
     {
         constexpr int fileCount = 5000;
         const TestTree outside;
@@ -223,9 +223,9 @@ private Q_SLOTS:
         }
         fakelinks::makeJunction(parent, outside.path());
 
-        std::atomic_bool ended = false;
-        std::thread exchange([&ended] {
-            for (bool active = false; !ended; active = !active) {
+        std::atomic_bool isDone = false;
+        std::thread exchange([&isDone] {
+            for (bool active = false; !isDone; active = !active) {
                 fakelinks::setJunctionActive(active);
                 std::this_thread::sleep_for(std::chrono::microseconds(50));
             }
@@ -237,7 +237,7 @@ private Q_SLOTS:
             const FileRemover::Outcome outcome = remover.remove(parent + u"/f%1"_s.arg(i));
             ++(outcome.status == Status::Removed ? removed : refused);
         }
-        ended = true;
+        isDone = true;
         exchange.join();
         fakelinks::clear();
 
@@ -277,7 +277,7 @@ private Q_SLOTS:
             removeFolderLink(link);
     }
 
-    void aRealLinkToAnEmptyFolderDoesNotCostTheFolder()
+    void removingARealLinkKeepsItsEmptyTarget()
     {
         const TestTree tree;
         tree.folder(u"empty"_s);

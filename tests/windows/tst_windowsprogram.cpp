@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(platform::roamingDataFolder() + "/Norvak/Sweepwise"_L1, folder);
     }
 
-    void theFoldersAreTheSystems_data()
+    void theFoldersAreThoseOfTheSystem_data()
     {
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("variable");
@@ -106,7 +106,7 @@ private Q_SLOTS:
         row("SYSTEMDRIVE", platform::systemDrive());
     }
 
-    void theFoldersAreTheSystems()
+    void theFoldersAreThoseOfTheSystem()
     {
         QFETCH(QString, folder);
         QFETCH(QString, variable);
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(folder + u'/').isDir());
     }
 
-    void unsetVariablesHaveTheirStandIns()
+    void unsetVariablesHaveDefaults()
     {
         const QByteArrayList names{"WINDIR", "SYSTEMDRIVE", "PROGRAMDATA"};
         QByteArrayList values;
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(folders, (QStringList{u"C:/Windows"_s, u"C:"_s, QString()}));
     }
 
-    void aBareDriveIsItsTop()
+    void aBareDriveIsItsRoot()
     {
         const TestTree tree;
         QVERIFY(tree.path().startsWith("C:/"_L1));
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(platform::locate(tree.path(), u"\\c*\\sub"_s), tree.path(u"c*/sub"_s));
     }
 
-    void whatIsNoPlaceIsRefused_data()
+    void invalidLocationsAreRefused_data()
     {
         QTest::addColumn<QString>("base");
         QTest::addColumn<QString>("relative");
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QTest::newRow("dot") << u"C:/windows"_s << u"/./x"_s;
     }
 
-    void whatIsNoPlaceIsRefused()
+    void invalidLocationsAreRefused()
     {
         QFETCH(QString, base);
         QFETCH(QString, relative);
@@ -205,7 +205,7 @@ private Q_SLOTS:
         QCOMPARE(platform::isProtectedRoot(path), expected);
     }
 
-    void theTopOfAShareIsATopAsWell_data()
+    void rootsOfDrivesAndSharesAreRecognized_data()
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<bool>("expected");
@@ -217,11 +217,11 @@ private Q_SLOTS:
         QTest::newRow("folder of a share") << u"//server/share/folder"_s << false;
     }
 
-    void theTopOfAShareIsATopAsWell()
+    void rootsOfDrivesAndSharesAreRecognized()
     {
         QFETCH(QString, path);
         QFETCH(bool, expected);
-        QCOMPARE(platform::isTop(path), expected);
+        QCOMPARE(platform::isRoot(path), expected);
     }
 
     void theLanguageIsInTheRegistry()
@@ -264,7 +264,7 @@ private Q_SLOTS:
         }
     }
 
-    void explorerIsTheSystemsAndSeesOnePath_data()
+    void explorerIsStartedFromTheSystemFolderWithOnePath_data()
     {
         QTest::addColumn<QString>("name");
         QTest::newRow("plain") << u"file.txt"_s;
@@ -273,7 +273,7 @@ private Q_SLOTS:
         QTest::newRow("equals sign and percent") << u"a=%TEMP%.txt"_s;
     }
 
-    void explorerIsTheSystemsAndSeesOnePath()
+    void explorerIsStartedFromTheSystemFolderWithOnePath()
     {
         QFETCH(QString, name);
         const TestTree tree;
@@ -314,7 +314,7 @@ private Q_SLOTS:
         ::FreeLibrary(system);
     }
 
-    void theProgramsSayWhatTheyAre_data()
+    void theProgramsHaveVersionResources_data()
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("name");
@@ -325,7 +325,7 @@ private Q_SLOTS:
                                    << u"Sweepwise PC cleaner, headless"_s;
     }
 
-    void theProgramsSayWhatTheyAre()
+    void theProgramsHaveVersionResources()
     {
         QFETCH(QString, path);
         QFETCH(QString, name);
@@ -348,7 +348,7 @@ private Q_SLOTS:
                  QVersionNumber::fromString(appinfo::version));
     }
 
-    void theProgramsHaveAnIconOfEverySize_data() { theProgramsSayWhatTheyAre_data(); }
+    void theProgramsHaveAnIconOfEverySize_data() { theProgramsHaveVersionResources_data(); }
 
     void theProgramsHaveAnIconOfEverySize()
     {

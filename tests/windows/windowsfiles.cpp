@@ -24,7 +24,7 @@ ToUnixName toUnixName()
     return reinterpret_cast<ToUnixName>(reinterpret_cast<void *>(found));
 }
 
-std::wstring exact(const QString &path)
+std::wstring extendedForm(const QString &path)
 {
     return ("\\\\?\\"_L1 + QDir::toNativeSeparators(path)).toStdWString();
 }
@@ -32,7 +32,7 @@ std::wstring exact(const QString &path)
 // What a path is called below Wine.
 QString pathBelowWine(const QString &path)
 {
-    char *const name = toUnixName()(exact(path).c_str());
+    char *const name = toUnixName()(extendedForm(path).c_str());
     const QString result = QString::fromUtf8(name);
     ::HeapFree(::GetProcessHeap(), 0, name);
     return result;
@@ -40,17 +40,17 @@ QString pathBelowWine(const QString &path)
 
 bool exists(const QString &path)
 {
-    return ::GetFileAttributesW(exact(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+    return ::GetFileAttributesW(extendedForm(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
 // Judged by what comes of it: Wine knows neither the end nor the exit code of a program below it.
-void runUntil(const std::function<bool()> &done, const QString &program,
-              const QStringList &arguments, int patience = 10'000)
+void runUntil(const std::function<bool()> &isDone, const QString &program,
+              const QStringList &arguments, int timeoutMs = 10'000)
 {
     if (!QProcess::startDetached(program, arguments))
         qFatal("cannot run %s", qPrintable(program));
-    for (int waited = 0; waited < patience; waited += 10) {
-        if (done())
+    for (int waited = 0; waited < timeoutMs; waited += 10) {
+        if (isDone())
             return;
         QThread::msleep(10);
     }
@@ -61,7 +61,7 @@ void runUntil(const std::function<bool()> &done, const QString &program,
 
 void windowsfiles::setAttributes(const QString &path, quint32 attributes)
 {
-    if (!::SetFileAttributesW(exact(path).c_str(), attributes)
+    if (!::SetFileAttributesW(extendedForm(path).c_str(), attributes)
         || windowsfiles::attributes(path) != attributes)
         qFatal("cannot set the attributes of %s", qPrintable(path));
 }
@@ -70,7 +70,7 @@ quint32 windowsfiles::attributes(const QString &path)
 {
     // Neither bit tells the entries apart that the tests make.
     constexpr DWORD ignored = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
-    const DWORD found = ::GetFileAttributesW(exact(path).c_str());
+    const DWORD found = ::GetFileAttributesW(extendedForm(path).c_str());
     if (found == INVALID_FILE_ATTRIBUTES)
         qFatal("there is no %s", qPrintable(path));
     const DWORD kept = found & ~ignored;
@@ -79,8 +79,8 @@ quint32 windowsfiles::attributes(const QString &path)
 
 void windowsfiles::makeFile(const QString &path, const QByteArray &content)
 {
-    const HANDLE file = ::CreateFileW(exact(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = ::CreateFileW(extendedForm(path).c_str(), GENERIC_WRITE, 0, nullptr,
+                                      CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     DWORD written = 0;
     if (file == INVALID_HANDLE_VALUE
         || !::WriteFile(file, content.constData(), DWORD(content.size()), &written, nullptr)
@@ -90,13 +90,13 @@ void windowsfiles::makeFile(const QString &path, const QByteArray &content)
 
 void windowsfiles::makeFolder(const QString &path)
 {
-    if (!::CreateDirectoryW(exact(path).c_str(), nullptr))
+    if (!::CreateDirectoryW(extendedForm(path).c_str(), nullptr))
         qFatal("cannot make %s", qPrintable(path));
 }
 
 QByteArray windowsfiles::content(const QString &path)
 {
-    const HANDLE file = ::CreateFileW(exact(path).c_str(), GENERIC_READ,
+    const HANDLE file = ::CreateFileW(extendedForm(path).c_str(), GENERIC_READ,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                       nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
@@ -117,11 +117,11 @@ bool windowsfiles::isWine()
 
 void windowsfiles::makeFolderLink(const QString &path, const QString &target)
 {
-    const auto done = [&path] { return exists(path); };
+    const auto isDone = [&path] { return exists(path); };
     if (isWine())
-        runUntil(done, u"Z:\\bin\\ln"_s, {u"-s"_s, pathBelowWine(target), pathBelowWine(path)});
+        runUntil(isDone, u"Z:\\bin\\ln"_s, {u"-s"_s, pathBelowWine(target), pathBelowWine(path)});
     else
-        runUntil(done, u"cmd"_s,
+        runUntil(isDone, u"cmd"_s,
                  {u"/c"_s, u"mklink"_s, u"/J"_s, QDir::toNativeSeparators(path),
                   QDir::toNativeSeparators(target)});
 }
@@ -130,7 +130,7 @@ void windowsfiles::removeFolderLink(const QString &path)
 {
     if (isWine())
         runUntil([&path] { return !exists(path); }, u"Z:\\bin\\rm"_s, {pathBelowWine(path)});
-    else if (!::RemoveDirectoryW(exact(path).c_str()))
+    else if (!::RemoveDirectoryW(extendedForm(path).c_str()))
         qFatal("cannot remove %s", qPrintable(path));
 }
 

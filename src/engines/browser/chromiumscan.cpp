@@ -77,7 +77,7 @@ public:
     {
     }
 
-    void takeListing(const std::vector<platform::ListedEntry> &entries, bool isShown) override
+    void visitListing(const std::vector<platform::ListedEntry> &entries, bool isShown) override
     {
         const Bundle bundle = bundleOf(entries);
         if (bundle == Bundle::None)
@@ -94,7 +94,7 @@ public:
             m_openFolders.back().isBundle = true;
     }
 
-    void meetEntry(platform::WalkedEntry &&entry) override
+    void visitEntry(platform::WalkedEntry &&entry) override
     {
         OpenFolder folder{entry.path, m_activeRules.size(), {}, false};
         for (const std::size_t rule : m_activeRules) {

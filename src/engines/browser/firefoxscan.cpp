@@ -24,7 +24,7 @@ public:
     {
     }
 
-    void meetEntry(platform::WalkedEntry &&entry) override
+    void visitEntry(platform::WalkedEntry &&entry) override
     {
         if (!entry.isFolder)
             m_visit(entry);

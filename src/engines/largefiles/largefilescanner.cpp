@@ -65,7 +65,7 @@ public:
         return m_isExcluded ? Wanted::Names : Wanted::SizesAndTimes;
     }
 
-    void meetFile(const platform::MetFile &file) override
+    void visitFile(const platform::VisitedFile &file) override
     {
         if (!m_isExcluded && file.size >= m_minSize)
             addFile(file);
@@ -82,7 +82,7 @@ public:
     }
 
 private:
-    void addFile(const platform::MetFile &file)
+    void addFile(const platform::VisitedFile &file)
     {
         const QString name = file.name.toString();
         if (isExcluded(name))

@@ -32,7 +32,7 @@ public:
         noteFailure(root, listing);
         m_device = listing.device;
         record(root, listing);
-        m_visitor.takeListing(listing.entries, true);
+        m_visitor.visitListing(listing.entries, true);
         m_open.push_back(
             {root.endsWith(u'/') ? root.chopped(1) : root, std::move(listing.entries), 0, 0, true});
         while (!isStopped()) {
@@ -87,7 +87,7 @@ private:
             return;
         const QString path = joinedPath(folder.path, entry.name);
         if (isShown)
-            m_visitor.meetEntry({std::move(entry.name), path, entry.size, isFolder});
+            m_visitor.visitEntry({std::move(entry.name), path, entry.size, isFolder});
         if (entry.kind == ListedKind::Folder)
             enterFolder(path, isShown);
         else if (isFolder)
@@ -106,7 +106,7 @@ private:
         }
         if (isShown)
             record(path, listing);
-        m_visitor.takeListing(listing.entries, isShown);
+        m_visitor.visitListing(listing.entries, isShown);
         m_open.push_back({path, std::move(listing.entries), 0, 0, isShown});
     }
 
@@ -131,7 +131,7 @@ private:
 
 } // namespace
 
-void EntryVisitor::takeListing(const std::vector<ListedEntry> &, bool) { }
+void EntryVisitor::visitListing(const std::vector<ListedEntry> &, bool) { }
 
 WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
                        const std::atomic_bool *stopRequested, ListedFolders *listed)

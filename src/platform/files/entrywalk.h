@@ -31,9 +31,9 @@ public:
     /// A folder has been read, and none of its entries met yet: at first the root, then each one
     /// right after it was met. Of the hidden folders that are read for their size this is all that
     /// is told, with @p isShown false.
-    virtual void takeListing(const std::vector<ListedEntry> &entries, bool isShown);
+    virtual void visitListing(const std::vector<ListedEntry> &entries, bool isShown);
     /// An entry of the folder that was met last and not yet left; at first, of the root.
-    virtual void meetEntry(WalkedEntry &&entry) = 0;
+    virtual void visitEntry(WalkedEntry &&entry) = 0;
     /// The folder, or link to one, that was met last and not yet left is done. @p size is the bytes
     /// of all files below it, hidden ones included, what links lead to not. @p wasRead is false for
     /// a link, for a folder that is gone by now, and for what lies on another device; one that may

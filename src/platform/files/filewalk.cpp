@@ -26,7 +26,7 @@ public:
         return Wanted::SizesAndTimes;
     }
 
-    void meetFile(const MetFile &file) override
+    void visitFile(const VisitedFile &file) override
     {
         if (!m_isRecorded)
             m_listed->add(m_folder, file.folder->id());

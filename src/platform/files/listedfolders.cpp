@@ -6,8 +6,8 @@ namespace platform {
 
 namespace {
 
-constexpr quint64 most = std::numeric_limits<quint64>::max();
-constexpr EntryId noFolder{most, most};
+constexpr quint64 largestNumber = std::numeric_limits<quint64>::max();
+constexpr EntryId ambiguousFolder{largestNumber, largestNumber};
 
 // Only the top of a file system has a slash at its end, and not everybody writes it.
 QString keyOf(const QString &path)
@@ -23,7 +23,7 @@ void ListedFolders::add(const QString &path, const EntryId &id)
         return;
     const std::lock_guard lock(m_mutex);
     EntryId &known = m_ids[keyOf(path)];
-    known = known.isKnown() && known != id ? noFolder : id;
+    known = known.isKnown() && known != id ? ambiguousFolder : id;
 }
 
 EntryId ListedFolders::idOf(const QString &path) const

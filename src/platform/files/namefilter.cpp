@@ -30,35 +30,36 @@ QList<char32_t> foldedCharacters(QStringView text)
 // a "*". The last star met takes ever more until the rest fits.
 bool matchesGlob(const QList<char32_t> &pattern, const QList<char32_t> &name)
 {
-    qsizetype inPattern = 0;
-    qsizetype inName = 0;
+    qsizetype patternIndex = 0;
+    qsizetype nameIndex = 0;
     qsizetype star = -1;
-    qsizetype taken = 0; // by that star: up to here
-    while (inName < name.size()) {
-        if (inPattern < pattern.size() && pattern.at(inPattern) == U'*') {
-            star = inPattern++;
-            taken = inName;
-        } else if (inPattern < pattern.size()
-                   && (pattern.at(inPattern) == U'?' || pattern.at(inPattern) == name.at(inName))) {
-            ++inPattern;
-            ++inName;
+    qsizetype starEnd = 0; // by that star: up to here
+    while (nameIndex < name.size()) {
+        if (patternIndex < pattern.size() && pattern.at(patternIndex) == U'*') {
+            star = patternIndex++;
+            starEnd = nameIndex;
+        } else if (patternIndex < pattern.size()
+                   && (pattern.at(patternIndex) == U'?'
+                       || pattern.at(patternIndex) == name.at(nameIndex))) {
+            ++patternIndex;
+            ++nameIndex;
         } else if (star >= 0) {
-            inPattern = star + 1;
-            inName = ++taken;
+            patternIndex = star + 1;
+            nameIndex = ++starEnd;
         } else {
             return false;
         }
     }
-    return std::all_of(pattern.begin() + inPattern, pattern.end(),
+    return std::all_of(pattern.begin() + patternIndex, pattern.end(),
                        [](char32_t c) { return c == U'*'; });
 }
 
 } // namespace
 
 NameFilter::NameFilter(const QStringList &wildcards)
-    : m_everything(wildcards.isEmpty() || wildcards.contains("*"_L1))
+    : m_matchesEverything(wildcards.isEmpty() || wildcards.contains("*"_L1))
 {
-    if (m_everything)
+    if (m_matchesEverything)
         return;
     m_rules.reserve(wildcards.size());
     for (const QString &wildcard : wildcards) {
@@ -85,7 +86,7 @@ NameFilter::NameFilter(const QStringList &wildcards)
 
 bool NameFilter::matches(QStringView name) const
 {
-    if (m_everything)
+    if (m_matchesEverything)
         return true;
     return std::any_of(m_rules.begin(), m_rules.end(), [name](const Rule &rule) {
         switch (rule.kind) {

@@ -21,9 +21,9 @@ public:
     [[nodiscard]] bool matches(QStringView name) const;
     [[nodiscard]] bool matches(QUtf8StringView name) const
     {
-        return m_everything || matches(name.toString()); // no string for those who take all
+        return m_matchesEverything || matches(name.toString()); // no string for those who take all
     }
-    [[nodiscard]] bool matchesEverything() const { return m_everything; }
+    [[nodiscard]] bool matchesEverything() const { return m_matchesEverything; }
 
 private:
     enum class Kind { Exact, Prefix, Suffix, Glob, Expression };
@@ -35,7 +35,7 @@ private:
     };
 
     QList<Rule> m_rules;
-    bool m_everything = false;
+    bool m_matchesEverything = false;
 };
 
 } // namespace platform

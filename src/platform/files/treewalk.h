@@ -48,7 +48,7 @@ private:
 };
 
 /// A file as a walk meets it. No string is built for it: most are looked at and passed over.
-struct MetFile {
+struct VisitedFile {
     QAnyStringView name; ///< without its folder; valid until the visitor returns
     qint64 size = 0; ///< bytes; of a link its own, which is what its removal frees
     qint64 modified = 0; ///< milliseconds since 1970, UTC; of a link its own
@@ -71,7 +71,7 @@ public:
     };
     /// The files that are met next lie in this folder.
     [[nodiscard]] virtual Wanted enterFolder(const QString &path) = 0;
-    virtual void meetFile(const MetFile &file) = 0;
+    virtual void visitFile(const VisitedFile &file) = 0;
 };
 
 /// Walks the files of a folder, and of those below it unless told otherwise, with one walker for

@@ -75,13 +75,14 @@ struct Walk {
 /// - openRoot(path), open(Folder) and open(Link) give the System::OpenFolder to be read, or nothing
 ///   for one that is not, and report what failed.
 /// An OpenFolder belongs to the walker that reads it:
-/// - path(), id(); place(), which a System::Reader takes; failureOf(error) of that reader, for
+/// - path(), id(); source(), which a System::Reader takes; failureText(error) of that reader, for
 ///   people, and empty for what is no failure;
 /// - nameOf(entry), kindOf(entry, reader) and isShown(entry), of which the last is asked only about
 ///   what is wanted otherwise;
 /// - fileAt(entry, isLink, wanted) is what the visitor is told; nothing for what is no file;
 /// - subfolderAt(entry); targetOf(entry) of a link, and linkAt(entry, target) of one to a folder;
-/// - isTimeToPassOn(reader, count): whether @c count subfolders go to the queue before all is read.
+/// - shouldShareSubfolders(reader, count): whether @c count subfolders go to the queue before all
+/// is read.
 template<class System>
 class Walker final
 {
@@ -110,14 +111,14 @@ public:
     {
         m_folder = WalkedFolder(folder.path(), folder.id());
         m_wanted = m_visitor.enterFolder(folder.path());
-        m_reader.begin(folder.place());
+        m_reader.begin(folder.source());
         while (const auto *entry = m_reader.next()) {
             readEntry(folder, *entry);
             // Another walker may be waiting for them.
-            if (!m_walk.hasOneWalker && folder.isTimeToPassOn(m_reader, m_subfolders.size()))
+            if (!m_walk.hasOneWalker && folder.shouldShareSubfolders(m_reader, m_subfolders.size()))
                 m_walk.queue.add(m_subfolders);
         }
-        if (const QString reason = folder.failureOf(m_reader.error()); !reason.isEmpty())
+        if (const QString reason = folder.failureText(m_reader.error()); !reason.isEmpty())
             m_walk.report.addFailure(folder.path(), reason);
         m_walk.queue.add(m_subfolders);
     }
@@ -133,7 +134,7 @@ private:
             return;
         case WalkedKind::File:
             if (m_filter.matches(folder.nameOf(entry)) && folder.isShown(entry))
-                meet(folder, entry, false);
+                visit(folder, entry, false);
             return;
         case WalkedKind::Folder:
             if (m_walk.options.recursive && folder.isShown(entry))
@@ -155,17 +156,17 @@ private:
             return;
         const auto target = folder.targetOf(entry);
         if (target.kind == WalkedKind::File && isMatch)
-            meet(folder, entry, true);
+            visit(folder, entry, true);
         else if (target.kind == WalkedKind::Folder && isFollowed)
             m_walk.queue.addLink(folder.linkAt(entry, target));
     }
 
     template<class Entry>
-    void meet(OpenFolder &folder, const Entry &entry, bool isLink)
+    void visit(OpenFolder &folder, const Entry &entry, bool isLink)
     {
-        if (std::optional<MetFile> file = folder.fileAt(entry, isLink, m_wanted)) {
+        if (std::optional<VisitedFile> file = folder.fileAt(entry, isLink, m_wanted)) {
             file->folder = &m_folder;
-            m_visitor.meetFile(*file);
+            m_visitor.visitFile(*file);
         }
     }
 
@@ -180,18 +181,18 @@ private:
 
 /// walkTree() by the means of one system.
 template<class System>
-WalkReport walkTreeBy(const QString &root, const WalkOptions &options,
-                      const QList<TreeVisitor *> &visitors)
+WalkReport walkTreeWith(const QString &root, const WalkOptions &options,
+                        const QList<TreeVisitor *> &visitors)
 {
     Walk<System> walk(options, visitors.size());
-    if (std::optional<typename System::OpenFolder> top = walk.system.openRoot(root)) {
+    if (std::optional<typename System::OpenFolder> rootFolder = walk.system.openRoot(root)) {
         Walker<System> first(walk, *visitors.constFirst());
         std::vector<std::jthread> others;
-        walk.queue.begin();
+        walk.queue.beginRoot();
         for (TreeVisitor *visitor : visitors.sliced(1))
             others.emplace_back([&walk, visitor] { Walker<System>(walk, *visitor).run(); });
-        first.read(*top);
-        walk.queue.end();
+        first.read(*rootFolder);
+        walk.queue.endRoot();
         first.run();
     }
     return walk.report.take();

@@ -46,15 +46,15 @@ public:
 
     /// The first walker reads the root, which never was in this queue, between begin() and end():
     /// meanwhile the others do not end, but wait for the subfolders that it will add.
-    void begin()
+    void beginRoot()
     {
         const std::lock_guard lock(m_mutex);
-        ++m_busy;
+        ++m_busyWalkers;
     }
-    void end()
+    void endRoot()
     {
         const std::lock_guard lock(m_mutex);
-        endOne();
+        endReading();
     }
 
     /// Has @p read called with one folder or link after the other until none is left or the walk is
@@ -68,7 +68,7 @@ public:
                 Folder folder = std::move(m_folders.back());
                 m_folders.pop_back();
                 run(lock, read, std::move(folder));
-            } else if (m_busy > 0) {
+            } else if (m_busyWalkers > 0) {
                 m_changed.wait(lock);
             } else if (!m_links.empty()) {
                 Link link = std::move(m_links.back());
@@ -90,16 +90,16 @@ private:
     template<class Read, class Work>
     void run(std::unique_lock<std::mutex> &lock, const Read &read, Work work)
     {
-        ++m_busy;
+        ++m_busyWalkers;
         lock.unlock();
         read(std::move(work));
         lock.lock();
-        endOne();
+        endReading();
     }
 
-    void endOne()
+    void endReading()
     {
-        if (--m_busy == 0)
+        if (--m_busyWalkers == 0)
             m_changed.notify_all();
     }
 
@@ -108,7 +108,7 @@ private:
     std::condition_variable m_changed;
     std::vector<Folder> m_folders;
     std::vector<Link> m_links;
-    int m_busy = 0; ///< walkers that are reading
+    int m_busyWalkers = 0; ///< walkers that are reading
 };
 
 } // namespace platform

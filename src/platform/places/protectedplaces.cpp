@@ -62,13 +62,13 @@ constexpr std::array belowProfile{
     RelativePlace{"OneDrive"_L1, Extent::Itself},
 };
 
-QString asFolder(const QString &path)
+QString withTrailingSlash(const QString &path)
 {
     return path.endsWith(u'/') ? path : path + u'/';
 }
 
 template<class Places>
-void add(QList<ProtectedPlace> &list, const QString &base, const Places &places)
+void addPlaces(QList<ProtectedPlace> &list, const QString &base, const Places &places)
 {
     for (const RelativePlace &place : places)
         list.append({locate(base, place.path), place.extent});
@@ -78,13 +78,13 @@ void add(QList<ProtectedPlace> &list, const QString &base, const Places &places)
 void addProfiles(QList<ProtectedPlace> &list)
 {
     list.append({homeFolder(), Extent::Itself});
-    add(list, homeFolder(), belowProfile);
+    addPlaces(list, homeFolder(), belowProfile);
     for (const QString &parent : {locate(systemDrive(), u"Users"_s), u"/home"_s}) {
         if (parent.isEmpty())
             continue;
         const QStringList names = QDir(parent).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
         for (const QString &name : names)
-            add(list, asFolder(parent) + name, belowProfile);
+            addPlaces(list, withTrailingSlash(parent) + name, belowProfile);
     }
 }
 
@@ -101,8 +101,8 @@ void addPersonalFolders(QList<ProtectedPlace> &list)
 QList<ProtectedPlace> protectedPlaces()
 {
     QList<ProtectedPlace> list = systemPlaces();
-    add(list, windowsFolder(), belowWindows);
-    add(list, systemDrive(), belowDrive);
+    addPlaces(list, windowsFolder(), belowWindows);
+    addPlaces(list, systemDrive(), belowDrive);
     addProfiles(list);
     addPersonalFolders(list);
     for (const QString &folder : {localDataFolder(), roamingDataFolder(), programDataFolder()})
@@ -115,29 +115,30 @@ QList<ProtectedPlace> protectedPlaces()
 
 bool isInside(const QString &path, const QString &folder)
 {
-    return path.startsWith(asFolder(folder), pathCase());
+    return path.startsWith(withTrailingSlash(folder), pathCase());
 }
 
-bool isKept(const QString &path, const ProtectedPlace &place)
+bool isKeptBy(const QString &path, const ProtectedPlace &place)
 {
     if (path.compare(place.path, pathCase()) == 0 || isInside(place.path, path))
         return true;
     if (!isInside(path, place.path))
         return false;
-    const auto depth = QStringView(path).sliced(asFolder(place.path).size()).count(u'/') + 1;
+    const auto depth =
+        QStringView(path).sliced(withTrailingSlash(place.path).size()).count(u'/') + 1;
     return (place.extent == Extent::Children && depth == 1)
         || (place.extent == Extent::Grandchildren && depth <= 2);
 }
 
-bool isProtected(const QString &path, bool whatLiesInTrees)
+bool isProtected(const QString &path, bool includesTreeContents)
 {
     const QString root = canonicalPath(path);
-    if (root.isEmpty() || isTop(root))
+    if (root.isEmpty() || isRoot(root))
         return true;
     const QList<ProtectedPlace> places = protectedPlaces();
     return std::any_of(places.begin(), places.end(), [&](const ProtectedPlace &place) {
-        return isKept(root, place)
-            || (whatLiesInTrees && place.extent == Extent::Tree && isInside(root, place.path));
+        return isKeptBy(root, place)
+            || (includesTreeContents && place.extent == Extent::Tree && isInside(root, place.path));
     });
 }
 

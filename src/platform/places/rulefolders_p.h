@@ -22,7 +22,7 @@ namespace platform {
 [[nodiscard]] QString problemWith(const QString &path);
 
 /// Whether a canonicalPath() is the top of the file system, of a drive, a share or a volume.
-[[nodiscard]] bool isTop(const QString &path);
+[[nodiscard]] bool isRoot(const QString &path);
 
 /// How the file system compares names.
 [[nodiscard]] Qt::CaseSensitivity pathCase();

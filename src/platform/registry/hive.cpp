@@ -9,15 +9,15 @@ namespace platform {
 
 namespace {
 
-struct Names {
+struct HiveNames {
     Hive hive;
-    QString inFull;
-    QString inShort;
+    QString fullName;
+    QString shortName;
 };
 
-const std::array<Names, 3> &allNames()
+const std::array<HiveNames, 3> &allNames()
 {
-    static const std::array<Names, 3> names{{
+    static const std::array<HiveNames, 3> names{{
         {Hive::LocalMachine, u"HKEY_LOCAL_MACHINE"_s, u"HKLM"_s},
         {Hive::CurrentUser, u"HKEY_CURRENT_USER"_s, u"HKCU"_s},
         {Hive::ClassesRoot, u"HKEY_CLASSES_ROOT"_s, u"HKCR"_s},
@@ -25,28 +25,28 @@ const std::array<Names, 3> &allNames()
     return names;
 }
 
-const Names &namesOf(Hive hive)
+const HiveNames &namesOf(Hive hive)
 {
     return *std::find_if(allNames().begin(), allNames().end(),
-                         [hive](const Names &names) { return names.hive == hive; });
+                         [hive](const HiveNames &names) { return names.hive == hive; });
 }
 
 } // namespace
 
 QString hiveName(Hive hive)
 {
-    return namesOf(hive).inFull;
+    return namesOf(hive).fullName;
 }
 
 QString shortHiveName(Hive hive)
 {
-    return namesOf(hive).inShort;
+    return namesOf(hive).shortName;
 }
 
 std::optional<Hive> hiveNamed(const QString &name)
 {
-    for (const Names &names : allNames()) {
-        if (name == names.inFull || name == names.inShort)
+    for (const HiveNames &names : allNames()) {
+        if (name == names.fullName || name == names.shortName)
             return names.hive;
     }
     return std::nullopt;
@@ -57,8 +57,8 @@ std::optional<HivePath> hivePath(const QString &path)
     const qsizetype end = path.indexOf(u'\\');
     if (end < 0)
         return std::nullopt;
-    for (const Names &names : allNames()) {
-        if (path.first(end) == names.inFull)
+    for (const HiveNames &names : allNames()) {
+        if (path.first(end) == names.fullName)
             return HivePath{names.hive, path.mid(end + 1)};
     }
     return std::nullopt;

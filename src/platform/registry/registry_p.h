@@ -13,7 +13,7 @@ struct RegistryTexts {
 };
 
 /// What is said to who asks to change the merged classes.
-[[nodiscard]] inline QString noChangeOfMergedClasses()
+[[nodiscard]] inline QString mergedClassesError()
 {
     return RegistryTexts::tr("A class is changed in the user's or in the machine's hive");
 }

@@ -27,27 +27,27 @@ DosAttributes::DosAttributes()
     const QString prefix = wineprefix::folder();
     if (prefix.isEmpty())
         return;
-    m_tops.append(prefix + u'/');
+    m_roots.append(prefix + u'/');
     // It need not lie in the prefix.
     if (const QString temporary = wineprefix::temporaryFolder(); !temporary.isEmpty())
-        m_tops.append(QFileInfo(temporary).canonicalFilePath() + u'/');
+        m_roots.append(QFileInfo(temporary).canonicalFilePath() + u'/');
     // Not of the drive that is the whole system: each of its files would have to be asked.
     for (const QString &drive : wineprefix::drives()) {
         if (drive != u'/')
-            m_tops.append(drive + u'/');
+            m_roots.append(drive + u'/');
     }
 }
 
-bool DosAttributes::mayBeIn(const QString &folder) const
+bool DosAttributes::canApplyIn(const QString &folder) const
 {
-    return std::any_of(m_tops.begin(), m_tops.end(), [&folder](const QString &top) {
-        return folder.startsWith(top)
-            || (folder.size() + 1 == top.size() && top.startsWith(folder));
+    return std::any_of(m_roots.begin(), m_roots.end(), [&folder](const QString &root) {
+        return folder.startsWith(root)
+            || (folder.size() + 1 == root.size() && root.startsWith(folder));
     });
 }
 
 // The value is a text such as "0x6"; others may have written something else there.
-bool DosAttributes::areHidden(int folder, const char *name)
+bool DosAttributes::isHidden(int folder, const char *name)
 {
     char path[longestPath];
     const int length = std::snprintf(path, sizeof path, "/proc/self/fd/%d/%s", folder, name);

@@ -14,13 +14,13 @@ public:
     DosAttributes();
 
     /// Whether what lies in the folder at a link-free path has to be asked.
-    [[nodiscard]] bool mayBeIn(const QString &folder) const;
+    [[nodiscard]] bool canApplyIn(const QString &folder) const;
     /// Whether Windows programs see the entry @p name of an open folder as hidden or as the
     /// system's. Of a link what it leads to counts, as it does there.
-    [[nodiscard]] static bool areHidden(int folder, const char *name);
+    [[nodiscard]] static bool isHidden(int folder, const char *name);
 
 private:
-    QStringList m_tops; ///< with a slash at the end
+    QStringList m_roots; ///< with a slash at the end
 };
 
 } // namespace platform

@@ -1,6 +1,6 @@
 #include "fileremove.h"
 
-#include "rightfolders_p.h"
+#include "expectedfolders_p.h"
 #include "unix/folderreader.h"
 #include "unix/openfolder.h"
 
@@ -37,7 +37,7 @@ bool isFolderAt(int folder, const char *name)
 }
 
 /// Whether the entry @p name is still the file of which a listing told.
-bool isListed(int folder, const char *name, const FileRemover::ListedFile &listed)
+bool isListedFile(int folder, const char *name, const FileRemover::ListedFile &listed)
 {
     FileStatus status{};
     if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
@@ -57,22 +57,22 @@ public:
     template<class Path>
     [[nodiscard]] bool isInPlace(int folder, const Path &path)
     {
-        if (--m_entriesUntilCheck >= 0 && now() - m_checked < longestTrust)
+        if (--m_entriesUntilCheck >= 0 && now() - m_lastCheck < recheckInterval)
             return true;
-        confirm();
+        restartInterval();
         const UniqueFd there = openFolder(path(), Access::PassThrough);
         return there.isValid() && idOf(folder) == idOf(there.get());
     }
     /// The folder has been opened by its path just now.
-    void confirm()
+    void restartInterval()
     {
-        m_entriesUntilCheck = entriesAtOnce - 1;
-        m_checked = now();
+        m_entriesUntilCheck = entriesPerCheck - 1;
+        m_lastCheck = now();
     }
 
 private:
-    static constexpr int entriesAtOnce = 32;
-    static constexpr qint64 longestTrust = 5'000'000; // nanoseconds
+    static constexpr int entriesPerCheck = 32;
+    static constexpr qint64 recheckInterval = 5'000'000; // nanoseconds
 
     static qint64 now()
     {
@@ -82,7 +82,7 @@ private:
     }
 
     int m_entriesUntilCheck = 0;
-    qint64 m_checked = 0;
+    qint64 m_lastCheck = 0;
 };
 
 /// Empties and removes one folder, level by level without recursion. Only the deepest levels are
@@ -92,7 +92,7 @@ class FolderRemoval
 {
 public:
     /// The folder @p name of the open folder @p parent, which is at @p parentPath.
-    FolderRemoval(RightFolders &folders, int parent, const QByteArray &parentPath,
+    FolderRemoval(ExpectedFolders &folders, int parent, const QByteArray &parentPath,
                   const QByteArray &name, const std::atomic_bool *stopRequested)
         : m_folders(folders)
         , m_parent(parent)
@@ -105,32 +105,32 @@ public:
 
     Outcome run()
     {
-        m_top = openFolderBelow(m_parent, m_name, Mounts::Stay);
-        if (!m_top.isValid())
+        m_root = openFolderBelow(m_parent, m_name, Mounts::Stay);
+        if (!m_root.isValid())
             return failure(errno, true);
-        const QString path = QFile::decodeName(pathOfTop());
+        const QString path = QFile::decodeName(rootPath());
         if (m_folders.isRemoved(path))
             return {Status::NotFound, false, {}};
-        const EntryId id = idOf(m_top.get());
-        if (!m_folders.isRight(path, id))
+        const EntryId id = idOf(m_root.get());
+        if (!m_folders.accept(path, id))
             return {Status::Replaced, true, {}};
-        if (!enter(openFolderBelow(m_top.get(), {}, Mounts::Stay), {}))
+        if (!enter(openFolderBelow(m_root.get(), {}, Mounts::Stay), {}))
             return failure(m_error, true);
         while (!m_levels.empty() && !isStopped() && !m_wasMoved)
             step();
         if (isStopped())
             return failure(ECANCELED, true);
-        if (m_wasMoved || m_hasReplaced)
+        if (m_wasMoved || m_hasReplacedFolder)
             return {Status::Replaced, true, {}};
         if (m_error == 0 && ::unlinkat(m_parent, m_name.constData(), AT_REMOVEDIR) != 0)
-            note(errno);
+            keepFirstError(errno);
         if (m_error == 0)
             m_folders.noteRemoved(id);
         return m_error == 0 ? Outcome{Status::Removed, true, {}} : failure(m_error, true);
     }
 
 private:
-    static constexpr std::size_t levelsHeldOpen = 64;
+    static constexpr std::size_t maximumOpenLevels = 64;
 
     struct Level {
         UniqueFd fd;
@@ -141,7 +141,7 @@ private:
 
     bool isStopped() const { return m_stopRequested && m_stopRequested->load(); }
 
-    void note(int error)
+    void keepFirstError(int error)
     {
         if (m_error == 0)
             m_error = error;
@@ -157,7 +157,7 @@ private:
         return false;
     }
 
-    QByteArray pathOfTop() const
+    QByteArray rootPath() const
     {
         return (m_parentPath == "/" ? QByteArray() : m_parentPath) + '/' + m_name;
     }
@@ -165,7 +165,7 @@ private:
     // Of the deepest level, or of one that is about to become it.
     QByteArray pathOf(const Level &level) const
     {
-        QByteArray path = pathOfTop();
+        QByteArray path = rootPath();
         for (std::size_t i = 1; i < m_levels.size(); ++i)
             path += '/' + m_levels[i].name;
         const bool isOnStack = !m_levels.empty() && &m_levels.back() == &level;
@@ -176,31 +176,31 @@ private:
     bool enter(UniqueFd fd, const QByteArray &name)
     {
         if (!fd.isValid()) {
-            note(errno);
+            keepFirstError(errno);
             return false;
         }
         Level level{std::move(fd), {}, name, {}};
         level.id = idOf(level.fd.get());
-        if (!name.isEmpty() && m_folders.hasListed()
-            && m_folders.wasAnotherListed(QFile::decodeName(pathOf(level)), level.id)) {
-            m_hasReplaced = true;
+        if (!name.isEmpty() && m_folders.hasListedFolders()
+            && m_folders.differsFromListed(QFile::decodeName(pathOf(level)), level.id)) {
+            m_hasReplacedFolder = true;
             return false;
         }
-        if (!clear(level))
+        if (!removeEntries(level))
             return false;
         m_levels.push_back(std::move(level));
-        if (m_levels.size() > levelsHeldOpen)
-            m_levels[m_levels.size() - levelsHeldOpen - 1].fd.reset();
+        if (m_levels.size() > maximumOpenLevels)
+            m_levels[m_levels.size() - maximumOpenLevels - 1].fd.reset();
         return true;
     }
 
-    bool clear(Level &level)
+    bool removeEntries(Level &level)
     {
         m_reader.begin(level.fd.get());
         while (const dirent64 *entry = m_wasMoved ? nullptr : m_reader.next())
             removeEntry(level, *entry);
         if (m_reader.error() != 0)
-            note(m_reader.error());
+            keepFirstError(m_reader.error());
         return m_reader.error() == 0;
     }
 
@@ -213,7 +213,7 @@ private:
             // In a folder that is removed whole, entries go although its owner made it read-only.
             const int error = errno;
             if (error != EACCES || !makeWritable(fd) || ::unlinkat(fd, entry.d_name, 0) != 0)
-                note(error);
+                keepFirstError(error);
         }
     }
 
@@ -243,7 +243,7 @@ private:
             // Something else has come to its path since its parent was read: it is removed as what
             // it is.
             if (isInPlace(level) && ::unlinkat(fd, name.constData(), 0) != 0 && errno != ENOENT)
-                note(errno);
+                keepFirstError(errno);
             return;
         }
         if (!subfolder.isValid() && errno == ENOENT)
@@ -274,7 +274,7 @@ private:
             && ::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0)
             m_folders.noteRemoved(id);
         else
-            note(error);
+            keepFirstError(error);
     }
 
     // Opens the deepest levels anew, as many as are held open: the first from the top, each other
@@ -282,34 +282,34 @@ private:
     bool reopen()
     {
         const std::size_t count = m_levels.size();
-        const std::size_t first = count > levelsHeldOpen ? count - levelsHeldOpen : 0;
+        const std::size_t first = count > maximumOpenLevels ? count - maximumOpenLevels : 0;
         QByteArray path;
         for (std::size_t i = 1; i <= first; ++i)
             path += (i == 1 ? QByteArray() : QByteArray("/")) + m_levels[i].name;
-        m_levels[first].fd = openFolderBelow(m_top.get(), path, Mounts::Stay);
+        m_levels[first].fd = openFolderBelow(m_root.get(), path, Mounts::Stay);
         for (std::size_t i = first + 1; i < count && m_levels[i - 1].fd.isValid(); ++i) {
             m_levels[i].fd =
                 openFolderBelow(m_levels[i - 1].fd.get(), m_levels[i].name, Mounts::Stay);
         }
         const Level &deepest = m_levels.back();
         if (!deepest.fd.isValid())
-            note(errno);
+            keepFirstError(errno);
         else if (idOf(deepest.fd.get()) != deepest.id)
             m_wasMoved = true;
         return deepest.fd.isValid() && !m_wasMoved;
     }
 
-    RightFolders &m_folders;
+    ExpectedFolders &m_folders;
     const int m_parent;
     const QByteArray m_parentPath;
     const QByteArray m_name;
     const std::atomic_bool *const m_stopRequested;
     FolderReader m_reader;
-    UniqueFd m_top;
+    UniqueFd m_root;
     std::vector<Level> m_levels;
     PlaceGuard m_guard;
     bool m_wasMoved = false;
-    bool m_hasReplaced = false; ///< a folder inside, which stays
+    bool m_hasReplacedFolder = false; ///< a folder inside, which stays
     int m_error = 0;
 };
 
@@ -334,11 +334,11 @@ public:
         if (!found.isValid())
             return Outcome{
                 folders.idOf(name).isKnown() ? Status::Replaced : Status::NotFound, false, {}};
-        if (!folders.isRight(name, idOf(found.get())))
+        if (!folders.accept(name, idOf(found.get())))
             return Outcome{Status::Replaced, false, {}};
         fd = std::move(found);
         folder = path;
-        guard.confirm();
+        guard.restartInterval();
         return {};
     }
     [[nodiscard]] bool isOpen(const QByteArray &path) const
@@ -346,7 +346,7 @@ public:
         return fd.isValid() && folder == path;
     }
 
-    RightFolders folders;
+    ExpectedFolders folders;
     QByteArray folder;
     UniqueFd fd;
     PlaceGuard guard;
@@ -377,7 +377,7 @@ FileRemover::Outcome FileRemover::removeFile(const QString &path,
     for (int attempts = wasOpen ? 2 : 1; attempts > 0 && error == ENOENT; --attempts) {
         if (const std::optional<Outcome> outcome = d->openParent(split.folder))
             return *outcome;
-        if (listed && !isListed(d->fd.get(), split.name.constData(), *listed))
+        if (listed && !isListedFile(d->fd.get(), split.name.constData(), *listed))
             return {Status::Replaced, isFolderAt(d->fd.get(), split.name.constData()), {}};
         if (::unlinkat(d->fd.get(), split.name.constData(), 0) == 0)
             return {Status::Removed, false, {}};

@@ -19,7 +19,7 @@ namespace platform {
 namespace {
 
 // One look at the entry itself; at what a link leads to when @p flags say so.
-std::optional<struct statx> look(int folder, const char *name, int flags)
+std::optional<struct statx> readStatus(int folder, const char *name, int flags)
 {
     struct statx status = {};
     if (::statx(folder, name, flags | AT_NO_AUTOMOUNT, STATX_TYPE | STATX_SIZE, &status) != 0)
@@ -27,20 +27,20 @@ std::optional<struct statx> look(int folder, const char *name, int flags)
     return status;
 }
 
-std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry, bool mayBeHidden)
+std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry, bool canBeHidden)
 {
     const QUtf8StringView name(entry.d_name);
     if (!name.isValidUtf8())
         return {};
-    const std::optional<struct statx> own = look(folder, entry.d_name, AT_SYMLINK_NOFOLLOW);
+    const std::optional<struct statx> own = readStatus(folder, entry.d_name, AT_SYMLINK_NOFOLLOW);
     if (!own || (own->stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
         return {};
     const bool isLink = S_ISLNK(own->stx_mode);
-    const std::optional<struct statx> target = isLink ? look(folder, entry.d_name, 0) : own;
+    const std::optional<struct statx> target = isLink ? readStatus(folder, entry.d_name, 0) : own;
     if (!target)
         return {};
     const bool isHidden =
-        entry.d_name[0] == '.' || (mayBeHidden && DosAttributes::areHidden(folder, entry.d_name));
+        entry.d_name[0] == '.' || (canBeHidden && DosAttributes::isHidden(folder, entry.d_name));
     if (S_ISDIR(target->stx_mode))
         return ListedEntry{name.toString(), isLink ? ListedKind::FolderLink : ListedKind::Folder,
                            isHidden, 0};
@@ -80,11 +80,11 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
     }
     listing.device = status.st_dev;
     listing.id = idOf(status);
-    const bool mayBeHidden = d->attributes.mayBeIn(path);
+    const bool canBeHidden = d->attributes.canApplyIn(path);
     FolderReader reader(stopRequested);
     reader.begin(folder.get());
     while (const dirent64 *entry = reader.next()) {
-        if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry, mayBeHidden))
+        if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry, canBeHidden))
             listing.entries.push_back(std::move(*found));
     }
     if (reader.error() != 0)

@@ -139,16 +139,16 @@ public:
         , m_fd(fd)
         , m_id(id)
         , m_base(base)
-        , m_mayBeHidden(shared.attributes.mayBeIn(path))
+        , m_canHoldHidden(shared.attributes.canApplyIn(path))
     {
     }
 
     const QString &path() const { return m_path; }
     EntryId id() const { return m_id; }
-    int place() const { return m_fd->get(); }
+    int source() const { return m_fd->get(); }
 
-    static QString failureOf(int error) { return error != 0 ? reasonOf(error) : QString(); }
-    static bool isTimeToPassOn(const FolderReader &reader, std::size_t)
+    static QString failureText(int error) { return error != 0 ? reasonOf(error) : QString(); }
+    static bool shouldShareSubfolders(const FolderReader &reader, std::size_t)
     {
         return reader.isBufferRead();
     }
@@ -165,7 +165,7 @@ public:
 
     bool isShown(const dirent64 &entry) const
     {
-        return !m_mayBeHidden || !DosAttributes::areHidden(m_fd->get(), entry.d_name);
+        return !m_canHoldHidden || !DosAttributes::isHidden(m_fd->get(), entry.d_name);
     }
 
     Folder subfolderAt(const dirent64 &entry)
@@ -177,15 +177,15 @@ public:
         return {joinedPath(m_path, nameOf(entry).toString()), m_level};
     }
 
-    std::optional<MetFile> fileAt(const dirent64 &entry, bool isLink,
-                                  TreeVisitor::Wanted wanted) const
+    std::optional<VisitedFile> fileAt(const dirent64 &entry, bool isLink,
+                                      TreeVisitor::Wanted wanted) const
     {
-        MetFile file;
+        VisitedFile file;
         file.name = nameOf(entry);
         if (!isLink && wanted == TreeVisitor::Wanted::Names)
             return file;
         struct statx status = {};
-        if (!look(entry, AT_SYMLINK_NOFOLLOW, status))
+        if (!readStatus(entry, AT_SYMLINK_NOFOLLOW, status))
             return {};
         // A single file can be a mount point as well.
         const bool isMounted = (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
@@ -207,7 +207,7 @@ public:
     Target targetOf(const dirent64 &link) const
     {
         struct statx status = {};
-        if (!look(link, 0, status))
+        if (!readStatus(link, 0, status))
             return {};
         const EntryId id{makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino};
         const WalkedKind kind = kindOf(IFTODT(status.stx_mode));
@@ -236,7 +236,7 @@ private:
         }
     }
 
-    bool look(const dirent64 &entry, int flags, struct statx &status) const
+    bool readStatus(const dirent64 &entry, int flags, struct statx &status) const
     {
         constexpr unsigned mask = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_MTIME;
         return ::statx(m_fd->get(), entry.d_name, flags | AT_NO_AUTOMOUNT, mask, &status) == 0;
@@ -248,12 +248,12 @@ private:
     EntryId m_id;
     std::shared_ptr<const Base> m_base;
     std::shared_ptr<Level> m_level; ///< made for the first subfolder
-    bool m_mayBeHidden; ///< what is in it, though it has no dot in front
+    bool m_canHoldHidden; ///< what is in it, though it has no dot in front
 };
 
 // What the kernel tells of itself in the form of files takes no room on any disk; one such file
 // claims to be larger than all of them together.
-bool holdsNoFiles(int fd)
+bool isKernelFileSystem(int fd)
 {
     struct statfs system = {};
     if (::fstatfs(fd, &system) != 0)
@@ -333,7 +333,7 @@ public:
             addFailureUnlessChanged(link.path, errno);
             return {};
         }
-        if (status.st_dev != m_shared.device && holdsNoFiles(fd->get()))
+        if (status.st_dev != m_shared.device && isKernelFileSystem(fd->get()))
             return {};
         return baseAt(link.path, fd, status);
     }
@@ -349,7 +349,7 @@ public:
         const EntryId id = idOf(status);
         if (m_shared.isEverywhere()) {
             const bool isMounted = status.st_dev != folder.parent->device;
-            if ((isMounted && holdsNoFiles(fd->get())) || !m_shared.visited.insert(id))
+            if ((isMounted && isKernelFileSystem(fd->get())) || !m_shared.visited.insert(id))
                 return {};
         } else if (status.st_dev != m_shared.device) {
             return {};
@@ -425,7 +425,7 @@ EntryId WalkedFolder::id() const
 WalkReport walkTree(const QString &root, const WalkOptions &options,
                     const QList<TreeVisitor *> &visitors)
 {
-    return walkTreeBy<UnixWalk>(root, options, visitors);
+    return walkTreeWith<UnixWalk>(root, options, visitors);
 }
 
 } // namespace platform

@@ -1,6 +1,6 @@
 #include "fileremove.h"
 
-#include "rightfolders_p.h"
+#include "expectedfolders_p.h"
 #include "windows/folderreader.h"
 #include "windows/openentry.h"
 
@@ -62,7 +62,7 @@ public:
             m_error = ERROR_FILE_NOT_FOUND;
             return entry;
         case PlaceCheck::Place::Elsewhere:
-            m_error = linkOnTheWay;
+            m_error = linkInPathError;
             return entry;
         }
         const std::optional<EntryAttributes> found = attributesOf(handle);
@@ -79,10 +79,10 @@ public:
     /// Removes a file, a link or an empty folder; the handle is closed either way.
     [[nodiscard]] bool remove(OpenedEntry entry)
     {
-        const bool done = markForDeletion(entry.handle);
-        if (!done)
+        const bool isRemoved = markForDeletion(entry.handle);
+        if (!isRemoved)
             m_error = ::GetLastError();
-        return done;
+        return isRemoved;
     }
 
     /// The same, with one attempt more for an entry that is read-only.
@@ -94,11 +94,12 @@ public:
         const DWORD error = m_error;
         if (error != ERROR_ACCESS_DENIED || (attributes & FILE_ATTRIBUTE_READONLY) == 0)
             return false;
-        OpenedEntry again = open(extended, FILE_WRITE_ATTRIBUTES);
-        const bool done = again.handle.isValid() && removeWithoutReadOnly(std::move(again));
-        if (!done)
+        OpenedEntry reopened = open(extended, FILE_WRITE_ATTRIBUTES);
+        const bool isRemoved =
+            reopened.handle.isValid() && removeWithoutReadOnly(std::move(reopened));
+        if (!isRemoved)
             m_error = error;
-        return done;
+        return isRemoved;
     }
 
     [[nodiscard]] DWORD error() const { return m_error; }
@@ -107,9 +108,10 @@ private:
     bool markForDeletion(const UniqueHandle &handle)
     {
         if (m_hasImmediateDeletion) {
-            FILE_DISPOSITION_INFO_EX now{};
-            now.Flags = FILE_DISPOSITION_FLAG_DELETE | FILE_DISPOSITION_FLAG_POSIX_SEMANTICS;
-            if (::SetFileInformationByHandle(handle.get(), immediateDisposition, &now, sizeof now))
+            FILE_DISPOSITION_INFO_EX immediate{};
+            immediate.Flags = FILE_DISPOSITION_FLAG_DELETE | FILE_DISPOSITION_FLAG_POSIX_SEMANTICS;
+            if (::SetFileInformationByHandle(handle.get(), immediateDisposition, &immediate,
+                                             sizeof immediate))
                 return true;
             const DWORD error = ::GetLastError();
             if (error != ERROR_INVALID_PARAMETER && error != ERROR_INVALID_FUNCTION
@@ -117,10 +119,10 @@ private:
                 return false;
             m_hasImmediateDeletion = false;
         }
-        FILE_DISPOSITION_INFO onClose{};
-        onClose.DeleteFile = TRUE;
-        return ::SetFileInformationByHandle(handle.get(), FileDispositionInfo, &onClose,
-                                            sizeof onClose)
+        FILE_DISPOSITION_INFO deleteOnClose{};
+        deleteOnClose.DeleteFile = TRUE;
+        return ::SetFileInformationByHandle(handle.get(), FileDispositionInfo, &deleteOnClose,
+                                            sizeof deleteOnClose)
             != 0;
     }
 
@@ -157,18 +159,18 @@ private:
 class FolderRemoval
 {
 public:
-    FolderRemoval(RightFolders &folders, EntryRemover &remover, const QString &top,
+    FolderRemoval(ExpectedFolders &folders, EntryRemover &remover, const QString &top,
                   const std::atomic_bool *stopRequested)
         : m_folders(folders)
         , m_remover(remover)
-        , m_top(top)
+        , m_topPath(top)
         , m_stopRequested(stopRequested)
     {
     }
 
     Outcome run()
     {
-        enter(m_top);
+        enter(m_topPath);
         while (!m_levels.empty() && !isStopped() && !m_wasMoved) {
             Level &level = m_levels.back();
             if (level.subfolders.empty()) {
@@ -185,7 +187,7 @@ public:
         }
         if (isStopped())
             return failure(ERROR_CANCELLED, true);
-        if (m_wasMoved || m_hasReplaced)
+        if (m_wasMoved || m_hasReplacedFolder)
             return {Status::Replaced, true, {}};
         return m_error == ERROR_SUCCESS ? Outcome{Status::Removed, true, {}}
                                         : failure(m_error, true);
@@ -200,7 +202,7 @@ private:
 
     bool isStopped() const { return m_stopRequested && m_stopRequested->load(); }
 
-    void note(DWORD error)
+    void keepFirstError(DWORD error)
     {
         if (m_error == ERROR_SUCCESS)
             m_error = error;
@@ -211,33 +213,34 @@ private:
     {
         OpenedEntry entry = m_remover.open(path);
         if (!entry.handle.isValid()) {
-            noteUnlessMissing(m_remover.error());
+            keepErrorUnlessMissing(m_remover.error());
             return;
         }
         if (!entry.isFolder()) {
             // Something else has come to its path since its parent was read: it is removed as what
             // it is.
             if (!m_remover.removeEvenIfReadOnly(path, std::move(entry)))
-                note(m_remover.error());
+                keepFirstError(m_remover.error());
             return;
         }
         const EntryId id = idOf(entry.handle);
         const QString plain = plainPath(path);
-        if (path == m_top ? !m_folders.isRight(plain, id) : m_folders.wasAnotherListed(plain, id)) {
-            m_hasReplaced = true;
+        if (path == m_topPath ? !m_folders.accept(plain, id)
+                              : m_folders.differsFromListed(plain, id)) {
+            m_hasReplacedFolder = true;
             return;
         }
         entry.handle.reset();
         Level level{path, id, {}};
-        clear(level);
+        removeEntries(level);
         m_levels.push_back(std::move(level));
     }
 
-    void clear(Level &level)
+    void removeEntries(Level &level)
     {
         FolderReader reader(m_stopRequested);
         if (!reader.begin(level.path)) {
-            noteUnlessMissing(reader.error());
+            keepErrorUnlessMissing(reader.error());
             return;
         }
         while (const WIN32_FIND_DATAW *entry = m_wasMoved ? nullptr : reader.next()) {
@@ -248,7 +251,7 @@ private:
                 removeEntry(level.path + u'\\' + name);
         }
         if (reader.error() != ERROR_SUCCESS)
-            note(reader.error());
+            keepFirstError(reader.error());
     }
 
     // Before each entry of the level, which is opened by its path. Once another folder is there,
@@ -264,28 +267,28 @@ private:
     {
         OpenedEntry entry = m_remover.open(path);
         if (!entry.handle.isValid()) {
-            noteUnlessMissing(m_remover.error());
+            keepErrorUnlessMissing(m_remover.error());
             return false;
         }
         const bool isRemoved = m_remover.removeEvenIfReadOnly(path, std::move(entry));
         if (!isRemoved)
-            note(m_remover.error());
+            keepFirstError(m_remover.error());
         return isRemoved;
     }
 
-    void noteUnlessMissing(DWORD error)
+    void keepErrorUnlessMissing(DWORD error)
     {
         if (!isMissing(error))
-            note(error);
+            keepFirstError(error);
     }
 
-    RightFolders &m_folders;
+    ExpectedFolders &m_folders;
     EntryRemover &m_remover;
-    const QString m_top;
+    const QString m_topPath;
     const std::atomic_bool *const m_stopRequested;
     std::vector<Level> m_levels;
     bool m_wasMoved = false;
-    bool m_hasReplaced = false; ///< the folder or one inside, which stays
+    bool m_hasReplacedFolder = false; ///< the folder or one inside, which stays
     DWORD m_error = ERROR_SUCCESS;
 };
 
@@ -304,7 +307,7 @@ class FileRemover::Private
 public:
     enum class Folders { Leave, Remove };
 
-    void setListed(const ListedFolders *listed) { m_right.setListed(listed); }
+    void setListed(const ListedFolders *listed) { m_expected.setListed(listed); }
 
     Outcome remove(const QString &path, Folders folders, const std::atomic_bool *stopRequested,
                    const std::optional<FileRemover::ListedFile> &listed)
@@ -325,11 +328,11 @@ public:
             if (folders == Folders::Leave)
                 return failure(ERROR_ACCESS_DENIED, true);
             entry.handle.reset();
-            if (m_right.isRemoved(plainPath(extended)))
+            if (m_expected.isRemoved(plainPath(extended)))
                 return {Status::NotFound, false, {}};
-            return FolderRemoval(m_right, m_entries, extended, stopRequested).run();
+            return FolderRemoval(m_expected, m_entries, extended, stopRequested).run();
         }
-        if (listed && !isListed(entry, *listed))
+        if (listed && !isListedFile(entry, *listed))
             return {Status::Replaced, false, {}};
         if (!m_entries.remove(std::move(entry)))
             return failure(m_entries.error());
@@ -337,7 +340,7 @@ public:
     }
 
 private:
-    static bool isListed(const OpenedEntry &entry, const FileRemover::ListedFile &listed)
+    static bool isListedFile(const OpenedEntry &entry, const FileRemover::ListedFile &listed)
     {
         const auto nature = listed.isLink ? EntryNature::FileLink : EntryNature::File;
         return entry.nature == nature
@@ -349,18 +352,18 @@ private:
     std::optional<Outcome> checkFolderOf(const QString &extended)
     {
         const QString folder = folderOf(plainPath(extended));
-        if (m_right.isRemoved(folder))
+        if (m_expected.isRemoved(folder))
             return Outcome{Status::NotFound, false, {}};
         const EntryId id = idOfFolder(folder);
         // Where the folder does not tell, what becomes of the entry does.
-        if (!id.isKnown() && !m_right.idOf(folder).isKnown())
+        if (!id.isKnown() && !m_expected.idOf(folder).isKnown())
             return {};
-        if (!m_right.isRight(folder, id))
+        if (!m_expected.accept(folder, id))
             return Outcome{Status::Replaced, false, {}};
         return {};
     }
 
-    RightFolders m_right;
+    ExpectedFolders m_expected;
     EntryRemover m_entries;
 };
 

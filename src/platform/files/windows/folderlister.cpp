@@ -52,15 +52,15 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
     FolderListing listing;
     const QString folder = path.endsWith(u'/') ? path.chopped(1) : path;
     // Without its slash a drive would be whatever folder is current on it.
-    const QString asRoot = folder.endsWith(u':') ? folder + u'/' : folder;
-    const QString extended = extendedPath(asRoot);
+    const QString absolute = folder.endsWith(u':') ? folder + u'/' : folder;
+    const QString extended = extendedPath(absolute);
     // What is no absolute path must not become one: a bare pattern lists the current drive.
     if (extended.isEmpty()) {
         listing.isMissing = true;
         return listing;
     }
     // Before anything is listed: what comes to the path later is then another folder.
-    listing.id = idOfFolder(asRoot);
+    listing.id = idOfFolder(absolute);
     FolderReader reader(stopRequested);
     reader.begin(extended);
     while (const WIN32_FIND_DATAW *entry = reader.next()) {

@@ -54,9 +54,9 @@ QStringView withoutTrailingDotsAndBlanks(QStringView name)
 // file.
 bool isWine()
 {
-    static const bool answer =
+    static const bool isRunning =
         ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return answer;
+    return isRunning;
 }
 
 struct Split {
@@ -79,7 +79,7 @@ QString withBackslash(QString path)
 
 } // namespace
 
-const quint32 linkOnTheWay = ERROR_CANT_RESOLVE_FILENAME;
+const quint32 linkInPathError = ERROR_CANT_RESOLVE_FILENAME;
 
 void UniqueHandle::reset()
 {

@@ -119,7 +119,7 @@ private:
 };
 
 /// What is said of a path that passes through a link; the system has a number for it.
-extern const quint32 linkOnTheWay;
+extern const quint32 linkInPathError;
 
 [[nodiscard]] bool isMissing(quint32 error);
 [[nodiscard]] QString reasonOf(quint32 error);

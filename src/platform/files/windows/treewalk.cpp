@@ -21,8 +21,8 @@ namespace {
 // The system counts in steps of 100 nanoseconds from 1601 on.
 qint64 millisecondsSince1970(const FILETIME &time)
 {
-    const quint64 steps = (static_cast<quint64>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
-    return (static_cast<qint64>(steps) - 116'444'736'000'000'000) / 10'000;
+    const quint64 ticks = (static_cast<quint64>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
+    return (static_cast<qint64>(ticks) - 116'444'736'000'000'000) / 10'000;
 }
 
 /// The root of the walk or a folder that a link leads to: from here down no link is passed.
@@ -121,14 +121,17 @@ public:
 
     const QString &path() const { return m_folder.path; }
     static EntryId id() { return {}; } // a listing does not tell
-    QString place() const { return extendedPath(m_folder.path); }
+    QString source() const { return extendedPath(m_folder.path); }
 
     // A folder that is gone since its parent was read is no failure, nor is an empty drive.
-    static QString failureOf(DWORD error)
+    static QString failureText(DWORD error)
     {
         return error == ERROR_SUCCESS || isMissing(error) ? QString() : reasonOf(error);
     }
-    static bool isTimeToPassOn(const FolderReader &, std::size_t count) { return count >= 64; }
+    static bool shouldShareSubfolders(const FolderReader &, std::size_t count)
+    {
+        return count >= 64;
+    }
 
     static QStringView nameOf(const WIN32_FIND_DATAW &entry) { return {entry.cFileName}; }
 
@@ -156,12 +159,12 @@ public:
     }
 
     // The size and time come with the name, wanted or not; of a link they are its own.
-    std::optional<MetFile> fileAt(const WIN32_FIND_DATAW &entry, bool isLink,
-                                  TreeVisitor::Wanted) const
+    std::optional<VisitedFile> fileAt(const WIN32_FIND_DATAW &entry, bool isLink,
+                                      TreeVisitor::Wanted) const
     {
         if (isLink && !leadsToFile(extendedPath(pathAt(entry))))
             return {};
-        return MetFile{
+        return VisitedFile{
             nameOf(entry), sizeOf(entry), millisecondsSince1970(entry.ftLastWriteTime), isLink, 0,
             nullptr};
     }
@@ -220,7 +223,7 @@ public:
         if (m_options.reach != Reach::Everywhere) {
             if (!isLink)
                 return OpenFolder({top, nullptr});
-            addFailure(root, linkOnTheWay);
+            addFailure(root, linkInPathError);
             return {};
         }
         const UniqueHandle folder = openFollowed(root, extended);
@@ -293,7 +296,7 @@ EntryId WalkedFolder::id() const
 WalkReport walkTree(const QString &root, const WalkOptions &options,
                     const QList<TreeVisitor *> &visitors)
 {
-    return walkTreeBy<WindowsWalk>(root, options, visitors);
+    return walkTreeWith<WindowsWalk>(root, options, visitors);
 }
 
 } // namespace platform

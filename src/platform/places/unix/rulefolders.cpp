@@ -20,15 +20,15 @@ namespace platform {
 namespace {
 
 // The environment's word first, then the prefix's folder, then whatever the desktop has.
-QString firstSet(const char *variable, const QString &inPrefix, const QString &otherwise)
+QString firstSet(const char *variable, const QString &inPrefix, const QString &desktopFolder)
 {
     const QString fromEnvironment = qEnvironmentVariable(variable);
     if (!fromEnvironment.isEmpty())
         return QDir::fromNativeSeparators(fromEnvironment).replace(u'\\', u'/');
-    return inPrefix.isEmpty() ? otherwise : inPrefix;
+    return inPrefix.isEmpty() ? desktopFolder : inPrefix;
 }
 
-QString below(const QString &base, const QString &relative)
+QString prefixFolder(const QString &base, const QString &relative)
 {
     return base.isEmpty() ? QString() : wineprefix::matchCase(base, relative);
 }
@@ -48,13 +48,13 @@ QString temporaryFolder()
 
 QString localDataFolder()
 {
-    return firstSet("LOCALAPPDATA", below(wineprefix::userFolder(), u"AppData/Local"_s),
+    return firstSet("LOCALAPPDATA", prefixFolder(wineprefix::userFolder(), u"AppData/Local"_s),
                     QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
 QString roamingDataFolder()
 {
-    return firstSet("APPDATA", below(wineprefix::userFolder(), u"AppData/Roaming"_s),
+    return firstSet("APPDATA", prefixFolder(wineprefix::userFolder(), u"AppData/Roaming"_s),
                     QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
@@ -65,12 +65,13 @@ QString homeFolder()
 
 QString programDataFolder()
 {
-    return firstSet("PROGRAMDATA", below(wineprefix::systemDrive(), u"ProgramData"_s), {});
+    return firstSet("PROGRAMDATA", prefixFolder(wineprefix::systemDrive(), u"ProgramData"_s), {});
 }
 
 QString windowsFolder()
 {
-    return firstSet("WINDIR", below(wineprefix::systemDrive(), u"windows"_s), u"C:/Windows"_s);
+    return firstSet("WINDIR", prefixFolder(wineprefix::systemDrive(), u"windows"_s),
+                    u"C:/Windows"_s);
 }
 
 QString systemDrive()
@@ -115,7 +116,7 @@ QString settingsFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
-bool isTop(const QString &path)
+bool isRoot(const QString &path)
 {
     return path == u'/';
 }

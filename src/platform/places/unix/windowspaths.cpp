@@ -114,34 +114,34 @@ Presence PathLookup::presenceOf(const QString &path)
 {
     QString relative = path.mid(2);
     relative.replace(u'\\', u'/');
-    QString at = d->driveAt(path.at(0));
-    if (at.isEmpty())
+    QString current = d->driveAt(path.at(0));
+    if (current.isEmpty())
         return Presence::Missing;
-    const Presence exact = presenceAt(at + relative);
+    const Presence exact = presenceAt(current + relative);
     if (exact != Presence::Missing)
         return exact;
     const QStringList names = QDir::cleanPath(relative).split(u'/', Qt::SkipEmptyParts);
     for (const QString &name : names) {
-        const QString next = at + u'/' + name;
+        const QString next = current + u'/' + name;
         const Presence presence = presenceAt(next);
         if (presence == Presence::Unknown)
             return presence;
         if (presence == Presence::Present) {
-            at = next;
+            current = next;
             continue;
         }
-        if (!QFileInfo(at).isDir())
+        if (!QFileInfo(current).isDir())
             return Presence::Missing;
-        const Private::Names &listed = d->namesIn(at);
+        const Private::Names &listed = d->namesIn(current);
         if (!listed)
             return Presence::Unknown;
         const auto found = listed->constFind(name.toCaseFolded());
         if (found == listed->cend())
             return Presence::Missing;
-        at += u'/' + *found;
+        current += u'/' + *found;
     }
     // What ends in a separator is a folder or nothing; a link may lead nowhere.
-    return presenceAt(relative.endsWith(u'/') ? at + u'/' : at);
+    return presenceAt(relative.endsWith(u'/') ? current + u'/' : current);
 }
 
 } // namespace platform

@@ -26,7 +26,7 @@ namespace platform::wineprefix {
 
 namespace {
 
-QString existing(const QString &path)
+QString pathIfFolder(const QString &path)
 {
     return QFileInfo(path).isDir() ? path : QString();
 }
@@ -67,12 +67,12 @@ constexpr std::array folderNames{
 };
 
 // Of a text of the registry: its key and its name.
-using Entry = std::pair<QString, QString>;
+using KeyAndName = std::pair<QString, QString>;
 
 template<class Keys, class Names>
-QList<Entry> entriesOf(const Keys &keys, const Names &names)
+QList<KeyAndName> combine(const Keys &keys, const Names &names)
 {
-    QList<Entry> entries;
+    QList<KeyAndName> entries;
     for (const QString &key : keys) {
         for (const QLatin1StringView name : names)
             entries.append({key, name});
@@ -82,10 +82,10 @@ QList<Entry> entriesOf(const Keys &keys, const Names &names)
 
 // The few texts that tell where things are, of one hive's file. They are asked for again and again:
 // the file is read once for as long as it stays the same.
-class LaidDown
+class HiveTexts
 {
 public:
-    LaidDown(QLatin1StringView hive, const QList<Entry> &entries)
+    HiveTexts(QLatin1StringView hive, const QList<KeyAndName> &entries)
         : m_hive(hive)
         , m_entries(entries)
     {
@@ -112,12 +112,12 @@ public:
 private:
     using Stamp = std::tuple<QByteArray, dev_t, ino_t, off_t, time_t, long>;
 
-    [[nodiscard]] QHash<Entry, QString> read(const QString &path) const
+    [[nodiscard]] QHash<KeyAndName, QString> read(const QString &path) const
     {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
             return {};
-        QHash<Entry, QString> texts;
+        QHash<KeyAndName, QString> texts;
         const std::optional<RegistryFile> registry = RegistryFile::parse(file.readAll());
         for (const auto &[key, name] : m_entries) {
             const RegistryFile::Key found = registry ? registry->find(key) : RegistryFile::none;
@@ -130,27 +130,27 @@ private:
     }
 
     const QString m_hive;
-    const QList<Entry> m_entries;
+    const QList<KeyAndName> m_entries;
     QMutex m_mutex;
     std::optional<Stamp> m_stamp;
-    QHash<Entry, QString> m_texts;
+    QHash<KeyAndName, QString> m_texts;
 };
 
-LaidDown &ofUser()
+HiveTexts &userTexts()
 {
-    static LaidDown texts("/user.reg"_L1,
-                          entriesOf(QStringList{environmentKey}, environmentNames)
-                              + entriesOf(folderKeys, folderNames));
+    static HiveTexts texts("/user.reg"_L1,
+                           combine(QStringList{environmentKey}, environmentNames)
+                               + combine(folderKeys, folderNames));
     return texts;
 }
 
 // A text of the environment that the prefix's registry lays down: the user's, else the machine's.
 QString environmentValue(const QString &name)
 {
-    static LaidDown ofMachine("/system.reg"_L1,
-                              entriesOf(QStringList{machineEnvironmentKey}, environmentNames));
-    const QString text = ofUser().text(environmentKey, name);
-    return text.isEmpty() ? ofMachine.text(machineEnvironmentKey, name) : text;
+    static HiveTexts machineTexts("/system.reg"_L1,
+                                  combine(QStringList{machineEnvironmentKey}, environmentNames));
+    const QString text = userTexts().text(environmentKey, name);
+    return text.isEmpty() ? machineTexts.text(machineEnvironmentKey, name) : text;
 }
 
 // A folder below the C: drive as Windows programs name it; empty for others.
@@ -201,19 +201,19 @@ std::optional<QString> userVariable(const QString &name)
 std::optional<QString> expanded(const QString &text)
 {
     QString result;
-    qsizetype at = 0;
+    qsizetype position = 0;
     for (;;) {
-        const qsizetype begin = text.indexOf(u'%', at);
+        const qsizetype begin = text.indexOf(u'%', position);
         const qsizetype end = begin < 0 ? -1 : text.indexOf(u'%', begin + 1);
         if (end < 0)
-            return result + text.mid(at);
+            return result + text.mid(position);
         const QString name = text.mid(begin + 1, end - begin - 1).toUpper();
         const std::optional<QString> fixed = fixedVariable(name);
         const std::optional<QString> value = fixed ? fixed : userVariable(name);
         if (!value)
             return {};
-        result += text.mid(at, begin - at) + *value;
-        at = end + 1;
+        result += text.mid(position, begin - position) + *value;
+        position = end + 1;
     }
 }
 
@@ -225,8 +225,8 @@ QString folder()
     if (path.isEmpty())
         path = QDir::homePath() + "/.wine"_L1;
     const QString canonical = QFileInfo(path).canonicalFilePath();
-    return canonical.isEmpty() || existing(canonical + "/drive_c"_L1).isEmpty() ? QString()
-                                                                                : canonical;
+    return canonical.isEmpty() || pathIfFolder(canonical + "/drive_c"_L1).isEmpty() ? QString()
+                                                                                    : canonical;
 }
 
 QString systemDrive()
@@ -241,7 +241,7 @@ QString userFolder()
     if (drive.isEmpty())
         return {};
     const QString users = matchCase(drive, u"users"_s);
-    const QString own = existing(matchCase(users, userName()));
+    const QString own = pathIfFolder(matchCase(users, userName()));
     if (!own.isEmpty() && own != users)
         return own;
     // A prefix that somebody else made: only one profile beside the public one leaves no doubt.
@@ -256,8 +256,8 @@ std::optional<QString> variable(const QString &name)
     if (folder().isEmpty())
         return {};
     if (name == "TEMP"_L1 || name == "TMP"_L1) {
-        const QString laidDown = environmentValue(name);
-        return expanded(laidDown.isEmpty() ? u"%LOCALAPPDATA%\\Temp"_s : laidDown);
+        const QString inRegistry = environmentValue(name);
+        return expanded(inRegistry.isEmpty() ? u"%LOCALAPPDATA%\\Temp"_s : inRegistry);
     }
     const std::optional<QString> fixed = fixedVariable(name);
     return fixed ? fixed : userVariable(name);
@@ -271,8 +271,8 @@ QString temporaryFolder()
         if (const QString local = path ? localPath(*path) : QString(); !local.isEmpty())
             return local;
     }
-    const std::optional<QString> otherwise = expanded(u"%LOCALAPPDATA%\\Temp"_s);
-    return otherwise ? localPath(*otherwise) : QString();
+    const std::optional<QString> defaultFolder = expanded(u"%LOCALAPPDATA%\\Temp"_s);
+    return defaultFolder ? localPath(*defaultFolder) : QString();
 }
 
 QString localPath(const QString &windowsPath)
@@ -287,8 +287,8 @@ QString localPath(const QString &windowsPath)
 QStringList personalFolders()
 {
     QStringList folders;
-    for (const auto &[key, name] : entriesOf(folderKeys, folderNames)) {
-        const std::optional<QString> path = expanded(ofUser().text(key, name));
+    for (const auto &[key, name] : combine(folderKeys, folderNames)) {
+        const std::optional<QString> path = expanded(userTexts().text(key, name));
         if (const QString local = path ? localPath(*path) : QString(); !local.isEmpty())
             folders.append(local);
     }

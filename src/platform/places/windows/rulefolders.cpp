@@ -17,10 +17,10 @@ namespace platform {
 
 namespace {
 
-QString fromEnvironment(const char *variable, const QString &otherwise = {})
+QString fromEnvironment(const char *variable, const QString &defaultFolder = {})
 {
     const QString value = qEnvironmentVariable(variable);
-    return value.isEmpty() ? otherwise : QDir::fromNativeSeparators(value);
+    return value.isEmpty() ? defaultFolder : QDir::fromNativeSeparators(value);
 }
 
 // The name by which a folder knows an entry, which may differ in case or be the long form of a
@@ -140,7 +140,7 @@ QString canonicalPath(const QString &path)
     return plainPath(canonical);
 }
 
-bool isTop(const QString &path)
+bool isRoot(const QString &path)
 {
     const QString extended = extendedPath(path);
     return extended.size() == rootLength(extended);

@@ -113,7 +113,7 @@ public:
     bool isAllowed(Hive hive, const QString &key)
     {
         if (hive == Hive::ClassesRoot)
-            return refuse(noChangeOfMergedClasses());
+            return refuse(mergedClassesError());
         return Registry::isKeyPath(key)
             || refuse(RegistryTexts::tr("'%1' is not the path of a key").arg(key));
     }
@@ -321,7 +321,7 @@ bool Registry::save()
             saved.append(hive);
     }
     // What was read is not what the files are any more, or never became it.
-    const auto end = [this, &saved](const QString &error) {
+    const auto finish = [this, &saved](const QString &error) {
         *d = Private();
         d->saved = saved;
         d->error = error;
@@ -337,28 +337,30 @@ bool Registry::save()
         if (!change.saver->open(QIODevice::WriteOnly))
             error = change.saver->errorString();
         if (!error.isEmpty() || !writeToDisk(*change.saver, change.file->content->text(), error))
-            return end(RegistryTexts::tr("%1 cannot be written: %2").arg(change.file->path, error));
+            return finish(
+                RegistryTexts::tr("%1 cannot be written: %2").arg(change.file->path, error));
     }
     const QString prefix = wineprefix::folder();
     if (isPrefixInUse(prefix))
-        return end(RegistryTexts::tr(
-                       "Windows programs are running in the Wine prefix %1; end them and try again")
-                       .arg(prefix));
+        return finish(
+            RegistryTexts::tr(
+                "Windows programs are running in the Wine prefix %1; end them and try again")
+                .arg(prefix));
     for (const Change &change : changes) {
         if (!(stampOf(change.file->path) == change.file->stamp))
-            return end(RegistryTexts::tr("%1 was changed by another program; scan again")
-                           .arg(change.file->path));
+            return finish(RegistryTexts::tr("%1 was changed by another program; scan again")
+                              .arg(change.file->path));
     }
     for (const Change &change : changes) {
         if (!change.saver->commit())
-            return end(RegistryTexts::tr("%1 cannot be written: %2")
-                           .arg(change.file->path, change.saver->errorString()));
+            return finish(RegistryTexts::tr("%1 cannot be written: %2")
+                              .arg(change.file->path, change.saver->errorString()));
         saved.append(change.hive);
     }
     QString error;
     if (!syncFolder(prefix, error))
-        return end(RegistryTexts::tr("%1 cannot be written: %2").arg(prefix, error));
-    return end({});
+        return finish(RegistryTexts::tr("%1 cannot be written: %2").arg(prefix, error));
+    return finish({});
 }
 
 bool Registry::isSaved(Hive hive) const

@@ -63,11 +63,11 @@ std::optional<RegistryFile> RegistryFile::parse(const QByteArray &text)
         return std::nullopt;
     RegistryFile file;
     file.m_text = text;
-    file.index();
+    file.indexSections();
     return file;
 }
 
-void RegistryFile::index()
+void RegistryFile::indexSections()
 {
     m_nodes.emplace_back();
     qsizetype begin = nextSection(m_text, 0);
@@ -96,7 +96,7 @@ void RegistryFile::addSection(const QByteArray &head, const QByteArray &body)
         // The lines that tell of the key itself come first.
         for (qsizetype at = 0; at < body.size() && body.at(at) == '#'; at = lineEnd(body, at)) {
             if (slice(body, at, lineEnd(body, at)).trimmed() == "#link")
-                node(key).link = true;
+                node(key).isLink = true;
         }
         section.key = key;
     }
@@ -109,21 +109,21 @@ RegistryFile::Key RegistryFile::childOf(Key parent, const QString &name) const
 }
 
 // A file lists the keys in the registry's order; one that is made here goes where it sorts.
-RegistryFile::Key RegistryFile::addChild(Key parent, const QString &name, bool sorted)
+RegistryFile::Key RegistryFile::addChild(Key parent, const QString &name, bool isSorted)
 {
     const auto key = static_cast<Key>(m_nodes.size());
-    const QString wanted = folded(name);
+    const QString foldedName = folded(name);
     m_nodes.emplace_back();
     node(key).name = name;
     node(key).parent = parent;
     std::vector<Key> &children = node(parent).children;
-    auto place = children.end();
-    if (sorted) {
-        place = std::find_if(children.begin(), children.end(),
-                             [&](Key child) { return folded(node(child).name) > wanted; });
+    auto position = children.end();
+    if (isSorted) {
+        position = std::find_if(children.begin(), children.end(),
+                                [&](Key child) { return folded(node(child).name) > foldedName; });
     }
-    children.insert(place, key);
-    m_children.insert({parent, wanted}, key);
+    children.insert(position, key);
+    m_children.insert({parent, foldedName}, key);
     return key;
 }
 
@@ -224,9 +224,9 @@ void RegistryFile::removeTree(Key key)
     siblings.erase(std::find(siblings.begin(), siblings.end(), key));
     // It existed through this key alone.
     if (siblings.empty() && node(parent).sections.empty() && parent != root)
-        node(parent).wantsSection = true;
+        node(parent).needsSection = true;
     markRemoved(key);
-    m_changed = true;
+    m_isChanged = true;
 }
 
 void RegistryFile::markRemoved(Key top)
@@ -236,7 +236,7 @@ void RegistryFile::markRemoved(Key top)
         const Key key = pending.back();
         pending.pop_back();
         m_children.remove({node(key).parent, folded(node(key).name)});
-        node(key).removed = true;
+        node(key).isRemoved = true;
         pending.insert(pending.end(), node(key).children.begin(), node(key).children.end());
     }
 }
@@ -254,8 +254,8 @@ void RegistryFile::removeLines(Key key, const QString &name)
     lines(key).removeIf(
         [&](const Line &line) { return line.isValue && folded(line.name) == name; });
     indexValues(key);
-    node(key).changed = true;
-    m_changed = true;
+    node(key).isChanged = true;
+    m_isChanged = true;
 }
 
 RegistryFile::Key RegistryFile::create(const QString &path)
@@ -266,8 +266,8 @@ RegistryFile::Key RegistryFile::create(const QString &path)
         Key child = childOf(key, name);
         if (child == none) {
             child = addChild(key, name, true);
-            node(child).wantsSection = true;
-            m_changed = true;
+            node(child).needsSection = true;
+            m_isChanged = true;
         }
         key = child;
     }
@@ -277,30 +277,30 @@ RegistryFile::Key RegistryFile::create(const QString &path)
 void RegistryFile::setValue(Key key, const RegistryValue &value)
 {
     QList<Line> &all = lines(key);
-    const QString wanted = folded(value.name);
+    const QString foldedName = folded(value.name);
     RegistryValue written = value;
     // After the lines that tell of the key itself: the last line may be a broken one that would
     // take the next for its continuation.
-    const auto isValueOrOther = [](const Line &line) { return !line.raw.startsWith('#'); };
-    auto place = std::find_if(all.cbegin(), all.cend(), isValueOrOther) - all.cbegin();
-    if (node(key).values.contains(wanted)) {
+    const auto isNoComment = [](const Line &line) { return !line.raw.startsWith('#'); };
+    auto position = std::find_if(all.cbegin(), all.cend(), isNoComment) - all.cbegin();
+    if (node(key).values.contains(foldedName)) {
         const auto isSame = [&](const Line &line) {
-            return line.isValue && folded(line.name) == wanted;
+            return line.isValue && folded(line.name) == foldedName;
         };
         const auto old = std::find_if(all.cbegin(), all.cend(), isSame);
-        place = old - all.cbegin();
+        position = old - all.cbegin();
         written.name = old->name;
-        removeLines(key, wanted);
+        removeLines(key, foldedName);
     }
     Line line;
     line.isValue = true;
     line.name = written.name;
     line.raw = encodeValue(written);
     line.dataStart = valueStart(line.raw, line.name) + 1;
-    all.insert(place, line);
+    all.insert(position, line);
     indexValues(key);
-    node(key).changed = true;
-    m_changed = true;
+    node(key).isChanged = true;
+    m_isChanged = true;
 }
 
 QString RegistryFile::path(Key key) const
@@ -331,9 +331,9 @@ QByteArray RegistryFile::text() const
             continue;
         }
         const Node &owner = node(section.key);
-        if (owner.removed)
+        if (owner.isRemoved)
             continue;
-        if (!owner.changed) {
+        if (!owner.isChanged) {
             text += section.head + section.body;
         } else if (owner.sections.front() == i) {
             text += section.head;
@@ -344,7 +344,7 @@ QByteArray RegistryFile::text() const
     }
     for (Key key = 1; key < static_cast<Key>(m_nodes.size()); ++key) {
         const Node &owner = node(key);
-        if (owner.removed || !owner.sections.empty() || (!owner.wantsSection && !owner.changed))
+        if (owner.isRemoved || !owner.sections.empty() || (!owner.needsSection && !owner.isChanged))
             continue;
         text += (text.endsWith('\n') ? "\n" : "\n\n") + sectionHead(path(key));
         writeLines(key, text);

@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] Key find(const QString &path) const; ///< none when it does not exist
     [[nodiscard]] QStringList subkeys(Key key) const;
-    [[nodiscard]] bool isLink(Key key) const { return node(key).link; }
+    [[nodiscard]] bool isLink(Key key) const { return node(key).isLink; }
     [[nodiscard]] QStringList valueNames(Key key) const;
     [[nodiscard]] std::optional<RegistryValue> value(Key key, const QString &name) const;
 
@@ -43,7 +43,7 @@ public:
     Key create(const QString &path);
     void setValue(Key key, const RegistryValue &value);
 
-    [[nodiscard]] bool isChanged() const { return m_changed; }
+    [[nodiscard]] bool isChanged() const { return m_isChanged; }
     [[nodiscard]] QByteArray text() const;
 
 private:
@@ -64,12 +64,12 @@ private:
         Key parent = none;
         std::vector<Key> children;
         std::vector<qsizetype> sections; ///< indices in m_sections, usually one
-        bool link = false;
-        bool removed = false;
-        bool wantsSection = false; ///< it must be written even without a value
+        bool isLink = false;
+        bool isRemoved = false;
+        bool needsSection = false; ///< it must be written even without a value
         mutable std::optional<QList<Line>> lines; ///< read when first asked for
         mutable QHash<QString, qsizetype> values; ///< by folded name the last of that name's lines
-        bool changed = false; ///< lines count, the sections' bodies do not
+        bool isChanged = false; ///< lines count, the sections' bodies do not
     };
 
     RegistryFile() = default;
@@ -79,10 +79,10 @@ private:
     [[nodiscard]] QList<Line> &lines(Key key) const;
     void indexValues(Key key) const;
     void removeLines(Key key, const QString &name);
-    void index();
+    void indexSections();
     void addSection(const QByteArray &head, const QByteArray &body);
     Key childOf(Key parent, const QString &name) const;
-    Key addChild(Key parent, const QString &name, bool sorted);
+    Key addChild(Key parent, const QString &name, bool isSorted);
     [[nodiscard]] QString path(Key key) const;
     void markRemoved(Key key);
     void writeLines(Key key, QByteArray &text) const;
@@ -92,7 +92,7 @@ private:
     std::vector<Section> m_sections;
     std::vector<Node> m_nodes;
     QHash<std::pair<Key, QString>, Key> m_children; ///< by parent and folded name
-    bool m_changed = false;
+    bool m_isChanged = false;
 };
 
 } // namespace platform

@@ -77,7 +77,7 @@ LSTATUS enumerate(HKEY key, DWORD index, std::vector<wchar_t> &name, std::vector
 }
 
 // Whether nothing comes after that; one value that cannot be read is passed over.
-bool isEnd(LSTATUS status)
+bool endsEnumeration(LSTATUS status)
 {
     return status != ERROR_MORE_DATA && status != ERROR_ACCESS_DENIED;
 }
@@ -85,10 +85,11 @@ bool isEnd(LSTATUS status)
 // A link would be followed by every call that does not say otherwise.
 bool isLink(Hive hive, const QString &key)
 {
-    const OpenKey open(hive, key, KEY_QUERY_VALUE, REG_OPTION_OPEN_LINK);
+    const OpenKey openKey(hive, key, KEY_QUERY_VALUE, REG_OPTION_OPEN_LINK);
     DWORD type = REG_NONE;
-    return open
-        && ::RegQueryValueExW(open.handle, L"SymbolicLinkValue", nullptr, &type, nullptr, nullptr)
+    return openKey
+        && ::RegQueryValueExW(openKey.handle, L"SymbolicLinkValue", nullptr, &type, nullptr,
+                              nullptr)
         == ERROR_SUCCESS
         && type == REG_LINK;
 }
@@ -111,7 +112,7 @@ QStringList merged(QStringList names, const QStringList &more)
 class Registry::Private
 {
 public:
-    bool result(LSTATUS status)
+    bool check(LSTATUS status)
     {
         if (status != ERROR_SUCCESS)
             error = qt_error_string(static_cast<int>(status));
@@ -121,12 +122,12 @@ public:
     bool isAllowed(Hive hive, const QString &key)
     {
         if (hive == Hive::ClassesRoot) {
-            error = noChangeOfMergedClasses();
+            error = mergedClassesError();
             return false;
         }
         if (!Registry::isKeyPath(key) || key.contains(QChar(u'\0')))
-            return result(ERROR_INVALID_NAME);
-        return !isLink(hive, key) || result(ERROR_ACCESS_DENIED);
+            return check(ERROR_INVALID_NAME);
+        return !isLink(hive, key) || check(ERROR_ACCESS_DENIED);
     }
 
     QString error;
@@ -155,13 +156,13 @@ QStringList Registry::subkeys(Hive hive, const QString &key) const
         return merged(subkeys(Hive::LocalMachine, classPath(key)),
                       subkeys(Hive::CurrentUser, classPath(key)));
     QStringList names;
-    const OpenKey open(hive, key, KEY_READ);
-    if (!open)
+    const OpenKey openKey(hive, key, KEY_READ);
+    if (!openKey)
         return names;
     std::array<wchar_t, longestKeyName> name{};
     for (DWORD index = 0;; ++index) {
         auto length = static_cast<DWORD>(name.size());
-        if (::RegEnumKeyExW(open.handle, index, name.data(), &length, nullptr, nullptr, nullptr,
+        if (::RegEnumKeyExW(openKey.handle, index, name.data(), &length, nullptr, nullptr, nullptr,
                             nullptr)
             != ERROR_SUCCESS)
             return names;
@@ -175,16 +176,16 @@ QStringList Registry::valueNames(Hive hive, const QString &key) const
         return merged(valueNames(Hive::CurrentUser, classPath(key)),
                       valueNames(Hive::LocalMachine, classPath(key)));
     QStringList names;
-    const OpenKey open(hive, key, KEY_READ);
-    if (!open)
+    const OpenKey openKey(hive, key, KEY_READ);
+    if (!openKey)
         return names;
     std::vector<wchar_t> name(longestValueName);
     for (DWORD index = 0;; ++index) {
         RegistryValue value;
-        const LSTATUS status = enumerate(open.handle, index, name, nullptr, value);
+        const LSTATUS status = enumerate(openKey.handle, index, name, nullptr, value);
         if (status == ERROR_SUCCESS)
             names.append(value.name);
-        else if (isEnd(status))
+        else if (endsEnumeration(status))
             return names;
     }
 }
@@ -196,17 +197,17 @@ std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
         const std::optional<RegistryValue> own = value(Hive::CurrentUser, classPath(key), name);
         return own ? own : value(Hive::LocalMachine, classPath(key), name);
     }
-    const OpenKey open(hive, key, KEY_READ);
-    if (!open || name.contains(QChar(u'\0')))
+    const OpenKey openKey(hive, key, KEY_READ);
+    if (!openKey || name.contains(QChar(u'\0')))
         return std::nullopt;
     RegistryValue value{name, RegistryNone, {}};
     DWORD type = 0;
     DWORD size = 0;
-    LSTATUS status = ::RegQueryValueExW(open.handle, wide(name), nullptr, &type, nullptr, &size);
+    LSTATUS status = ::RegQueryValueExW(openKey.handle, wide(name), nullptr, &type, nullptr, &size);
     if (status != ERROR_SUCCESS)
         return std::nullopt;
     value.data.fill('\0', static_cast<qsizetype>(size));
-    status = ::RegQueryValueExW(open.handle, wide(name), nullptr, &type,
+    status = ::RegQueryValueExW(openKey.handle, wide(name), nullptr, &type,
                                 reinterpret_cast<BYTE *>(value.data.data()), &size);
     if (status != ERROR_SUCCESS) // it may have grown since it was measured
         return std::nullopt;
@@ -220,30 +221,30 @@ std::optional<QList<RegistryValue>> Registry::values(Hive hive, const QString &k
 {
     if (hive == Hive::ClassesRoot) // nobody asks for the values of both at once
         return std::nullopt;
-    const OpenKey open(hive, key, KEY_READ);
-    if (!open)
+    const OpenKey openKey(hive, key, KEY_READ);
+    if (!openKey)
         return std::nullopt;
     QList<RegistryValue> all;
     std::vector<wchar_t> name(longestValueName);
     std::vector<BYTE> data(static_cast<size_t>(maximumSize));
     for (DWORD index = 0;; ++index) {
         RegistryValue value;
-        const LSTATUS status = enumerate(open.handle, index, name, &data, value);
+        const LSTATUS status = enumerate(openKey.handle, index, name, &data, value);
         if (status == ERROR_SUCCESS)
             all.append(value);
-        else if (isEnd(status))
+        else if (endsEnumeration(status))
             return all;
     }
 }
 
 bool Registry::deleteTree(Hive hive, const QString &key)
 {
-    return d->isAllowed(hive, key) && d->result(::RegDeleteTreeW(rootOf(hive), wide(key)));
+    return d->isAllowed(hive, key) && d->check(::RegDeleteTreeW(rootOf(hive), wide(key)));
 }
 
 bool Registry::deleteKey(Hive hive, const QString &key)
 {
-    return d->isAllowed(hive, key) && d->result(::RegDeleteKeyW(rootOf(hive), wide(key)));
+    return d->isAllowed(hive, key) && d->check(::RegDeleteKeyW(rootOf(hive), wide(key)));
 }
 
 bool Registry::deleteValue(Hive hive, const QString &key, const QString &name)
@@ -251,9 +252,9 @@ bool Registry::deleteValue(Hive hive, const QString &key, const QString &name)
     if (!d->isAllowed(hive, key))
         return false;
     if (name.contains(QChar(u'\0')))
-        return d->result(ERROR_INVALID_NAME);
-    const OpenKey open(hive, key, KEY_SET_VALUE);
-    return d->result(open ? ::RegDeleteValueW(open.handle, wide(name)) : open.status);
+        return d->check(ERROR_INVALID_NAME);
+    const OpenKey openKey(hive, key, KEY_SET_VALUE);
+    return d->check(openKey ? ::RegDeleteValueW(openKey.handle, wide(name)) : openKey.status);
 }
 
 bool Registry::createKey(Hive hive, const QString &key)
@@ -265,7 +266,7 @@ bool Registry::createKey(Hive hive, const QString &key)
                                              nullptr, &handle, nullptr);
     if (status == ERROR_SUCCESS)
         ::RegCloseKey(handle);
-    return d->result(status);
+    return d->check(status);
 }
 
 bool Registry::setValue(Hive hive, const QString &key, const RegistryValue &value)
@@ -273,13 +274,13 @@ bool Registry::setValue(Hive hive, const QString &key, const RegistryValue &valu
     if (!d->isAllowed(hive, key))
         return false;
     if (value.name.contains(QChar(u'\0')))
-        return d->result(ERROR_INVALID_NAME);
-    const OpenKey open(hive, key, KEY_SET_VALUE);
-    if (!open)
-        return d->result(open.status);
-    return d->result(::RegSetValueExW(open.handle, wide(value.name), 0, value.type,
-                                      reinterpret_cast<const BYTE *>(value.data.constData()),
-                                      static_cast<DWORD>(value.data.size())));
+        return d->check(ERROR_INVALID_NAME);
+    const OpenKey openKey(hive, key, KEY_SET_VALUE);
+    if (!openKey)
+        return d->check(openKey.status);
+    return d->check(::RegSetValueExW(openKey.handle, wide(value.name), 0, value.type,
+                                     reinterpret_cast<const BYTE *>(value.data.constData()),
+                                     static_cast<DWORD>(value.data.size())));
 }
 
 bool Registry::save()

@@ -45,19 +45,19 @@ bool setText(Hive hive, const QString &key, const QString &name, const QString &
         error = registry.errorString();
         return false;
     }
-    bool isTaken = false;
+    bool isWritten = false;
     if (canBeWritten(name, text)) {
         QSettings settings(hiveName(hive) + u'\\' + key, QSettings::NativeFormat);
         settings.setFallbacksEnabled(false);
         settings.setValue(escapedName(name), text);
         settings.sync();
-        isTaken = settings.status() == QSettings::NoError;
+        isWritten = settings.status() == QSettings::NoError;
     } else {
         const QByteArray data(reinterpret_cast<const char *>(text.utf16()), (text.size() + 1) * 2);
-        isTaken = registry.setValue(hive, key, {name, RegistryText, data});
+        isWritten = registry.setValue(hive, key, {name, RegistryText, data});
     }
     const std::optional<RegistryValue> stored = registry.value(hive, key, name);
-    if (!isTaken || !stored || stored->type != RegistryText
+    if (!isWritten || !stored || stored->type != RegistryText
         || registry.text(hive, key, name) != text)
         return fail(error, RegistryTexts::tr("The registry did not take the value"));
     return true;

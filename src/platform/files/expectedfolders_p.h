@@ -10,11 +10,11 @@ namespace platform {
 
 /// Which folder belongs at a path, as far as one remover knows: the one that was listed there, else
 /// the one that it has met there first. On the remover's thread.
-class RightFolders final
+class ExpectedFolders final
 {
-    Q_DISABLE_COPY_MOVE(RightFolders)
+    Q_DISABLE_COPY_MOVE(ExpectedFolders)
 public:
-    RightFolders() = default;
+    ExpectedFolders() = default;
 
     void setListed(const ListedFolders *listed) { m_listed = listed; }
 
@@ -22,7 +22,7 @@ public:
     [[nodiscard]] EntryId idOf(const QString &path) const
     {
         const EntryId listed = m_listed ? m_listed->idOf(path) : EntryId();
-        return listed.isKnown() ? listed : m_met.value(path);
+        return listed.isKnown() ? listed : m_visited.value(path);
     }
 
     /// Whether the folder that belongs at @p path is one that this remover has removed: whatever
@@ -34,24 +34,24 @@ public:
 
     /// Whether the folder @p id, found at @p path, belongs there; from now on it does where none
     /// did before.
-    [[nodiscard]] bool isRight(const QString &path, const EntryId &id)
+    [[nodiscard]] bool accept(const QString &path, const EntryId &id)
     {
         const EntryId expected = idOf(path);
         if (expected.isKnown())
             return expected == id;
         m_removed.remove(id); // its number has been given to a new folder
-        m_met.insert(path, id);
+        m_visited.insert(path, id);
         return true;
     }
 
     /// Whether another folder than @p id was listed at @p path. One that is inside a folder which
     /// is removed whole need not have been listed.
-    [[nodiscard]] bool wasAnotherListed(const QString &path, const EntryId &id) const
+    [[nodiscard]] bool differsFromListed(const QString &path, const EntryId &id) const
     {
         const EntryId listed = m_listed ? m_listed->idOf(path) : EntryId();
         return listed.isKnown() && listed != id;
     }
-    [[nodiscard]] bool hasListed() const { return m_listed != nullptr; }
+    [[nodiscard]] bool hasListedFolders() const { return m_listed != nullptr; }
 
     void noteRemoved(const EntryId &id)
     {
@@ -61,7 +61,7 @@ public:
 
 private:
     const ListedFolders *m_listed = nullptr;
-    QHash<QString, EntryId> m_met;
+    QHash<QString, EntryId> m_visited;
     QSet<EntryId> m_removed; ///< folders
 };
 

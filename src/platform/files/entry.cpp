@@ -7,7 +7,7 @@ QString joinedPath(const QString &folder, const QString &name)
     QString path;
     path.reserve(folder.size() + 1 + name.size());
     path += folder;
-    if (!folder.endsWith(u'/')) // only the top of a file system does
+    if (!folder.endsWith(u'/')) // only the root of a file system ends in a slash
         path += u'/';
     path += name;
     return path;

@@ -3,13 +3,13 @@
 #include <QHash>
 #include <QString>
 
-// What stands at a path, and how paths are put together and taken apart.
+// What an entry of a file system is, and how paths are joined and split.
 namespace platform {
 
-/// What tells an entry of a file system from all others, whatever path leads to it.
+/// Identifies an entry of a file system, whichever path leads to it. A small value.
 struct EntryId {
-    quint64 volume = 0; ///< on Linux the device, on Windows the volume's serial number
-    quint64 number = 0; ///< of the entry there; 0 where the system does not tell
+    quint64 volume = 0; ///< the device on Linux, the volume's serial number on Windows
+    quint64 number = 0; ///< the entry's number on the volume; 0 when the system does not tell it
 
     [[nodiscard]] bool isKnown() const { return number != 0; }
 
@@ -20,30 +20,31 @@ struct EntryId {
     }
 };
 
-/// What a path itself is, never what a link at it leads to.
+/// The kind of the entry at a path. Links are not followed.
 enum class EntryKind {
-    Missing, ///< nothing is there
+    Missing, ///< there is no entry
     File, ///< a regular file
     Folder, ///< a real folder
-    Link, ///< a symbolic link, junction or mount point; also a path that passes through one
-    Other, ///< a pipe, socket, device, or something that cannot be looked at
+    Link, ///< a symbolic link, junction or mount point, or a path that passes through one
+    Other, ///< a pipe, socket, device, or an entry that cannot be examined
 };
 
+/// What inspect() tells about a path. A small value.
 struct Entry {
     EntryKind kind = EntryKind::Missing;
     qint64 size = 0; ///< bytes, for files only
-    QString error; ///< for people; why it cannot be looked at, with EntryKind::Other
-    EntryId folder; ///< the folder that holds it, for files only
+    QString error; ///< why the entry cannot be examined, for people; set with EntryKind::Other
+    EntryId folder; ///< the folder that holds the file; for files only
 };
 
-/// Looks at the entry at an absolute path without following a link anywhere on the way.
+/// Examines the entry at an absolute path. Follows no link, neither on the way nor at the end.
 [[nodiscard]] Entry inspect(const QString &path);
 
-/// The path of the entry @p name of a folder.
+/// The path of the entry @p name in @p folder.
 [[nodiscard]] QString joinedPath(const QString &folder, const QString &name);
 
-/// The path of the folder that holds the entry at @p path. The top of a file system comes without
-/// its slash.
+/// The path of the folder that holds the entry at @p path. The root of a file system is returned
+/// without its slash.
 [[nodiscard]] QString folderOf(const QString &path);
 
 } // namespace platform

@@ -10,10 +10,11 @@ namespace platform {
 
 namespace {
 
-/// One call of walkEntries(), on its thread. Works without recursion: each folder on the way down
-/// keeps its listing until all of it is told. On Windows folders are read by path: if one becomes a
-/// link while the walk runs, what is behind the link may be listed. The remover's own check keeps
-/// that from being removed.
+/// One call of walkEntries(). Lives on its stack and its thread. There is no recursion: each open
+/// folder keeps its listing until all of it is visited.
+///
+/// On Windows folders are read by their path. If a folder becomes a link during the walk, the
+/// target's contents may be listed. The check of FileRemover keeps them from being removed.
 class EntryWalk
 {
 public:
@@ -47,12 +48,13 @@ public:
     }
 
 private:
+    /// A folder on the way down to the current one, with the entries that are still to be visited.
     struct Folder {
         QString path;
         std::vector<ListedEntry> entries;
         std::size_t next;
         qint64 size;
-        bool isShown; ///< neither hidden nor in a hidden folder
+        bool isShown; ///< neither hidden itself nor inside a hidden folder
     };
 
     bool isStopped() const
@@ -62,7 +64,7 @@ private:
 
     void noteFailure(const QString &path, const FolderListing &listing)
     {
-        // A folder that is gone since its parent was read is no failure.
+        // A folder that was removed after its parent was read is no failure.
         if (listing.error.isEmpty() || listing.isMissing)
             return;
         m_report.addFailure(path, listing.error);
@@ -94,7 +96,7 @@ private:
             m_visitor.leaveFolder(0, false);
     }
 
-    // Adds to m_open, so that references into it no longer hold.
+    // Adds to m_open, which invalidates references into it.
     void enterFolder(const QString &path, bool isShown)
     {
         FolderListing listing = m_lister.list(path, m_stopRequested);
@@ -124,7 +126,7 @@ private:
     const std::atomic_bool *m_stopRequested;
     ListedFolders *m_listed;
     const FolderLister m_lister;
-    std::vector<Folder> m_open; ///< the way down to the current folder
+    std::vector<Folder> m_open; ///< from the root down to the current folder
     quint64 m_device = 0;
     WalkReport m_report;
 };

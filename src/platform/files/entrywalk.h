@@ -12,7 +12,7 @@ namespace platform {
 
 struct ListedEntry;
 
-/// One file or folder that a walk found.
+/// One file or folder that walkEntries() has found. A value that the visitor takes over.
 struct WalkedEntry {
     QString name; ///< without its folder
     QString path; ///< absolute, with forward slashes
@@ -20,7 +20,7 @@ struct WalkedEntry {
     bool isFolder = false; ///< a folder, or a link to one
 };
 
-/// Receives what walkEntries() finds.
+/// Receives what walkEntries() finds, on the thread of that call. The caller owns it.
 class EntryVisitor
 {
     Q_DISABLE_COPY_MOVE(EntryVisitor)
@@ -28,27 +28,28 @@ public:
     EntryVisitor() = default;
     virtual ~EntryVisitor() = default;
 
-    /// A folder has been read, and none of its entries met yet: at first the root, then each one
-    /// right after it was met. Of the hidden folders that are read for their size this is all that
-    /// is told, with @p isShown false.
+    /// Called when a folder has been read, before visitEntry() is called for its entries. The first
+    /// call is for the root. Every other call follows the folder's own visitEntry(). Hidden folders
+    /// are read only for their size: for them this is the only call, with @p isShown false.
     virtual void visitListing(const std::vector<ListedEntry> &entries, bool isShown);
-    /// An entry of the folder that was met last and not yet left; at first, of the root.
+    /// Called for an entry of the innermost folder that was visited and not yet left. Without such
+    /// a folder it is an entry of the root.
     virtual void visitEntry(WalkedEntry &&entry) = 0;
-    /// The folder, or link to one, that was met last and not yet left is done. @p size is the bytes
-    /// of all files below it, hidden ones included, what links lead to not. @p wasRead is false for
-    /// a link, for a folder that is gone by now, and for what lies on another device; one that may
-    /// not be read counts as an empty one.
+    /// The innermost folder or link to a folder that was visited and not yet left is done. @p size
+    /// is the bytes of all files below it. Hidden files count, targets of links do not. @p wasRead
+    /// is false for a link, for a folder that has been removed meanwhile, and for a folder on
+    /// another device. A folder that may not be read counts as an empty one.
     virtual void leaveFolder(qint64 size, bool wasRead) = 0;
 };
 
-/// Lists the files and folders below @p root, each folder right before what is in it.
+/// Lists the files and folders below @p root, each folder right before its contents.
 ///
-/// @p root is absolute and leads through no link, see inspect(). What comes out equals
-/// QDirIterator's recursive QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot listing, order
-/// included, except that nothing mounted below the root is listed or entered and that a junction
-/// counts as a link. Hidden folders are entered only for their size. When @p stopRequested is set
-/// the walk ends, without leaveFolder() for the folders that it is in. Each folder that is read and
-/// not hidden is recorded in @p listed.
+/// @p root is absolute and passes through no link, see inspect(). The result equals QDirIterator's
+/// recursive QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot listing, order included, with two
+/// exceptions: mount points below the root are neither listed nor entered, and a junction counts as
+/// a link. Hidden folders are entered only for their size. When @p stopRequested is set the walk
+/// ends. It then makes no leaveFolder() calls for the open folders. @p listed receives each folder
+/// that is read and not hidden.
 WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
                        const std::atomic_bool *stopRequested = nullptr,
                        ListedFolders *listed = nullptr);

@@ -8,7 +8,8 @@ namespace platform {
 
 namespace {
 
-/// Builds the record of every file that a walk meets.
+/// Turns each file of a walk into a WalkedFile. Lives on the stack of walkFiles(). It records a
+/// folder only with the folder's first file.
 class Lister final : public TreeVisitor
 {
     Q_DISABLE_COPY_MOVE(Lister)

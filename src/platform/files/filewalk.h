@@ -9,17 +9,17 @@
 
 namespace platform {
 
-/// One file that a walk found.
+/// One file that walkFiles() has found. A value that the visitor takes over.
 struct WalkedFile {
     QString name; ///< without its folder
     QString path; ///< absolute, with forward slashes
-    qint64 size = 0; ///< bytes; of a link its own, which is what its removal frees
+    qint64 size = 0; ///< bytes; for a link its own size, which its removal frees
 };
 
 using FileVisitor = std::function<void(WalkedFile &&file)>;
 
-/// Lists the files that walkTree() meets, on this thread. Each folder from which a file is listed
-/// is recorded in @p listed.
+/// Lists the files that walkTree() visits, on the calling thread. @p listed receives each folder
+/// from which a file is listed.
 WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
                      ListedFolders *listed = nullptr);
 

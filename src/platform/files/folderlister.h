@@ -12,24 +12,26 @@ namespace platform {
 
 enum class ListedKind { File, Folder, FileLink, FolderLink };
 
-/// One entry of a folder.
+/// One entry of a listed folder. A value.
 struct ListedEntry {
     QString name;
     ListedKind kind = ListedKind::File;
-    bool isHidden = false; ///< or, to Windows programs, the system's
+    bool isHidden = false; ///< hidden, or for Windows programs a system entry
     qint64 size = 0; ///< bytes; for a link its own size, for folders 0
 };
 
+/// The contents of one folder, or why there are none. A value.
 struct FolderListing {
     std::vector<ListedEntry> entries; ///< in the file system's order
-    /// Where the folder lies, for comparing; 0 where links alone lead elsewhere.
+    /// The device of the folder, only for comparisons. 0 on Windows, where mount points count as
+    /// links and no listing reaches another device.
     quint64 device = 0;
-    EntryId id; ///< of the folder
-    bool isMissing = false; ///< gone, or no folder, or (on Linux) reached through a link
-    QString error; ///< why it could not be read; what was read before is kept
+    EntryId id; ///< identifies the folder
+    bool isMissing = false; ///< the path leads to no folder, or on Linux passes through a link
+    QString error; ///< why reading failed; the entries read before are kept
 };
 
-/// Reads whole folders. A walk owns one; list() may be called on any thread.
+/// Reads whole folders. A walk owns one. list() may be called on any thread.
 class FolderLister final
 {
     Q_DISABLE_COPY_MOVE(FolderLister)
@@ -37,12 +39,13 @@ public:
     FolderLister();
     ~FolderLister();
 
-    /// Reads the folder at an absolute path. On Linux it is opened without following a link
-    /// anywhere; on Windows the caller has looked at the path before, see inspect().
+    /// Reads the folder at an absolute path. On Linux it is opened without following any link. On
+    /// Windows the caller has checked the path before, see inspect().
     ///
-    /// Left out: pipes, sockets and devices, names that cannot be decoded, links that lead to
-    /// neither a file nor a folder, and on Linux what is mounted there, folder or file; on Windows
-    /// a mount point counts as a link. Ends early once @p stopRequested is set.
+    /// Left out are pipes, sockets and devices, names that cannot be decoded, and links whose
+    /// target is neither a file nor a folder. On Linux mount points are left out, for folders and
+    /// for files. On Windows a mount point counts as a link. Ends early when @p stopRequested is
+    /// set.
     [[nodiscard]] FolderListing list(const QString &path,
                                      const std::atomic_bool *stopRequested = nullptr) const;
 

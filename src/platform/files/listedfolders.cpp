@@ -9,7 +9,7 @@ namespace {
 constexpr quint64 largestNumber = std::numeric_limits<quint64>::max();
 constexpr EntryId ambiguousFolder{largestNumber, largestNumber};
 
-// Only the top of a file system has a slash at its end, and not everybody writes it.
+// Only the root of a file system ends in a slash, and some callers leave that slash out.
 QString keyOf(const QString &path)
 {
     return path.endsWith(u'/') ? path.chopped(1) : path;

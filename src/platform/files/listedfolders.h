@@ -9,19 +9,19 @@
 
 namespace platform {
 
-/// Which folder stood at each path when a scan listed what is in it. A clean holds the remover to
-/// that: a path alone does not tell that another folder, or what is mounted there, has taken the
-/// place of the one that was looked at. Any thread.
+/// Records which folder was at each path when a scan listed its contents. A clean gives it to the
+/// FileRemover, which then refuses another folder at the same path. A path alone does not tell that
+/// the folder was replaced or mounted over. The engine of the scan owns it. Any thread.
 class ListedFolders final
 {
     Q_DISABLE_COPY_MOVE(ListedFolders)
 public:
     ListedFolders() = default;
 
-    /// A folder whose @p id is unknown is not recorded. Where two listings met different folders at
-    /// one @p path, none is the right one from then on.
+    /// Records that the folder @p id is at @p path. An unknown @p id is ignored. If two listings
+    /// find different folders at one @p path, idOf() then returns an id that no folder has.
     void add(const QString &path, const EntryId &id);
-    /// Unknown for a path that was not recorded.
+    /// The id of the folder that was recorded at @p path, else an unknown id.
     [[nodiscard]] EntryId idOf(const QString &path) const;
     void clear();
 

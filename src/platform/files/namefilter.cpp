@@ -15,7 +15,7 @@ bool isPlain(QStringView text)
     });
 }
 
-// Characters as they are compared.
+// The characters in the form in which they are compared.
 QList<char32_t> foldedCharacters(QStringView text)
 {
     QList<char32_t> characters;
@@ -26,14 +26,14 @@ QList<char32_t> foldedCharacters(QStringView text)
     return characters;
 }
 
-// Whether the name is made of the pattern's characters, of any one for a "?" and of any number for
-// a "*". The last star met takes ever more until the rest fits.
+// Whether the name matches the pattern: "?" stands for one character, "*" for any number. If the
+// rest of the name does not fit, the last star stands for one character more.
 bool matchesGlob(const QList<char32_t> &pattern, const QList<char32_t> &name)
 {
     qsizetype patternIndex = 0;
     qsizetype nameIndex = 0;
     qsizetype star = -1;
-    qsizetype starEnd = 0; // by that star: up to here
+    qsizetype starEnd = 0; // end of the characters that the last star stands for
     while (nameIndex < name.size()) {
         if (patternIndex < pattern.size() && pattern.at(patternIndex) == U'*') {
             star = patternIndex++;

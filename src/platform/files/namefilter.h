@@ -8,11 +8,12 @@
 
 namespace platform {
 
-/// Decides whether a file name matches any of a list of wildcards, ignoring case.
+/// Decides whether a file name matches any of a list of wildcards, ignoring case. A value.
+///
 ///
 /// The wildcards are those of QDir's name filters ("*", "?", "[...]"). An empty list matches every
-/// name. Every file of a walk is asked here, so wildcards without sets are compared directly; only
-/// the others become regular expressions, which are slow.
+/// name. A walk calls this for every file. Therefore wildcards without sets are compared directly.
+/// Only the others become regular expressions, which are slow.
 class NameFilter
 {
 public:
@@ -21,16 +22,18 @@ public:
     [[nodiscard]] bool matches(QStringView name) const;
     [[nodiscard]] bool matches(QUtf8StringView name) const
     {
-        return m_matchesEverything || matches(name.toString()); // no string for those who take all
+        // an unfiltered walk needs no string
+        return m_matchesEverything || matches(name.toString());
     }
     [[nodiscard]] bool matchesEverything() const { return m_matchesEverything; }
 
 private:
     enum class Kind { Exact, Prefix, Suffix, Glob, Expression };
+    /// One wildcard, prepared for the comparison that its kind needs.
     struct Rule {
         Kind kind;
         QString text;
-        QList<char32_t> glob; ///< folded
+        QList<char32_t> glob; ///< the pattern's case-folded characters
         QRegularExpression expression;
     };
 

@@ -14,27 +14,30 @@ namespace platform {
 
 /// How far a walk goes.
 enum class Reach {
-    /// Stays on the device of the root and behind no link. The root leads through no link either.
+    /// Stays on the root's device and follows no link. The root's path passes through no link
+    /// either.
     OwnDevice,
-    /// Also enters links to folders and what is mounted below the root, and takes the root as it
-    /// comes. Each real folder is walked once, by its own path where it has one below the root; a
-    /// file system that shows the kernel's state as files is entered as the root alone.
+    /// Also follows links to folders and crosses mount points. The path of the root may pass
+    /// through links. Each real folder is walked once. It is walked by its own path if it has one
+    /// below the root. A file system that shows the kernel's state as files is walked only when it
+    /// is the root.
     Everywhere,
 };
 
+/// What a walk lists and how far it goes. Must outlive the walk.
 struct WalkOptions {
     QStringList nameFilters; ///< wildcards, ignoring case; an empty list takes every file
     bool recursive = true; ///< also walk the folders below
-    const std::atomic_bool *stopRequested = nullptr; ///< looked at before every entry
+    const std::atomic_bool *stopRequested = nullptr; ///< may be null; checked before each entry
     Reach reach = Reach::OwnDevice;
 };
 
-/// The folder that a walker is reading.
+/// The folder that a walker reads at the moment. The walker owns it and uses it on its own thread.
 class WalkedFolder final
 {
 public:
     WalkedFolder() = default;
-    /// With no @p id, that is looked up when somebody asks for it first.
+    /// Without an @p id, the first call of id() looks it up.
     explicit WalkedFolder(const QString &path, const EntryId &id = {})
         : m_path(path)
         , m_id(id)
@@ -47,17 +50,17 @@ private:
     mutable EntryId m_id;
 };
 
-/// A file as a walk meets it. No string is built for it: most are looked at and passed over.
+/// A file as a visitor sees it. No string is built for it, because most visitors skip most files.
 struct VisitedFile {
     QAnyStringView name; ///< without its folder; valid until the visitor returns
-    qint64 size = 0; ///< bytes; of a link its own, which is what its removal frees
-    qint64 modified = 0; ///< milliseconds since 1970, UTC; of a link its own
+    qint64 size = 0; ///< bytes; for a link its own size, which its removal frees
+    qint64 modified = 0; ///< milliseconds since 1970, UTC; for a link its own time
     bool isLink = false;
-    quint64 number = 0; ///< EntryId::number of the file or link; 0 where a listing tells none
-    const WalkedFolder *folder = nullptr; ///< that it lies in; never null in a visitor
+    quint64 number = 0; ///< EntryId::number of the file or link; 0 when a listing does not tell it
+    const WalkedFolder *folder = nullptr; ///< the folder of the file; never null in a visitor
 };
 
-/// Receives what one walker meets, on the thread of that walker.
+/// Receives what one walker finds, on that walker's thread. The caller of walkTree() owns it.
 class TreeVisitor
 {
     Q_DISABLE_COPY_MOVE(TreeVisitor)
@@ -65,27 +68,34 @@ public:
     TreeVisitor() = default;
     virtual ~TreeVisitor() = default;
 
+    /// What a visitor needs to know about the files of a folder.
     enum class Wanted {
         SizesAndTimes,
-        Names, ///< size and time of the folder's files stay 0, which saves asking for them
+        Names, ///< sizes and times may stay 0, which saves a system call per file
     };
-    /// The files that are met next lie in this folder.
+    /// The files of the next calls of visitFile() lie in this folder.
     [[nodiscard]] virtual Wanted enterFolder(const QString &path) = 0;
     virtual void visitFile(const VisitedFile &file) = 0;
 };
 
-/// Walks the files of a folder, and of those below it unless told otherwise, with one walker for
-/// each of @p visitors: the first on this thread, every other on one of its own. Returns when all
-/// of them are done.
+/// Walks the files of a folder and, unless the options say otherwise, of its subfolders. Each of @p
+/// visitors gets a walker: the first on the calling thread, every other one on a thread of its own.
+/// Returns when all walkers are done.
 ///
-/// @p root is absolute and leads through no link, see inspect(); the caller resolves what it
-/// trusts. What is met equals QDirIterator's QDir::Files listing but for the sizes of links:
-/// neither hidden entries (on Windows, and below a Wine prefix: nor system ones) nor what lies in
-/// hidden folders, no pipes, sockets, devices or undecodable names, links to folders not entered,
-/// links to files listed. In addition a walk never leaves the device of its root, unless the
-/// options say otherwise. The files of one folder go to one visitor, one after the other. With one
-/// walker they come before those of the subfolders; with several the order of folders is free.
-/// What else there is to the order is the file system's.
+/// @p root is absolute and passes through no link, see inspect(). The caller resolves the links
+/// that it trusts. The visited files equal the QDir::Files listing of QDirIterator, except for the
+/// sizes of links:
+/// - Hidden entries and the contents of hidden folders are skipped. On Windows and below a Wine
+///   prefix this includes system entries.
+/// - Pipes, sockets, devices and undecodable names are skipped.
+/// - Links to files are listed. Links to folders are not entered.
+///
+/// Unlike QDirIterator, a walk never leaves the device of its root. Reach::Everywhere changes the
+/// rules about links and devices.
+///
+/// All files of one folder go to one visitor, one after the other. A single walker visits them
+/// before the files of the subfolders. Several walkers take the folders in any order. Within a
+/// folder the order is the file system's.
 WalkReport walkTree(const QString &root, const WalkOptions &options,
                     const QList<TreeVisitor *> &visitors);
 

@@ -10,11 +10,11 @@
 #include <utility>
 #include <vector>
 
-// What a walk is on every system: which entries it lists, who is told of them, and how its walkers
-// share the work. What differs is handed in as a class System, see Walker.
+// The part of a walk that all systems share. It decides which entries are listed, which visitor is
+// called, and how the walkers share the work. A class System supplies the rest, see Walker.
 namespace platform {
 
-/// The report of a walk, written by all its walkers.
+/// The report of a walk. All its walkers write it, each on its own thread. The Walk owns it.
 class SharedReport final
 {
     Q_DISABLE_COPY_MOVE(SharedReport)
@@ -33,7 +33,7 @@ public:
         m_report.followed.append(link);
     }
 
-    /// The report, once all walkers are done.
+    /// The report. To be called when all walkers are done.
     [[nodiscard]] WalkReport take() { return std::move(m_report); }
 
 private:
@@ -41,15 +41,16 @@ private:
     WalkReport m_report;
 };
 
-/// What an entry of a folder is to a walk.
+/// How a walk treats an entry of a folder.
 enum class WalkedKind {
-    Nothing, ///< not listed, whatever the options say
+    Nothing, ///< never listed
     File,
     Folder,
-    Link, ///< where it leads is looked up when somebody wants to know
+    Link, ///< its target is looked up only when it matters
 };
 
-/// What the walkers of one walk share. Lives on the stack of walkTree().
+/// What the walkers of one walk share. Lives on the stack of walkTree(). Queue, report and system
+/// are safe to use from every walker's thread.
 template<class System>
 struct Walk {
     Walk(const WalkOptions &walkOptions, qsizetype walkers)
@@ -67,22 +68,28 @@ struct Walk {
     const bool hasOneWalker;
 };
 
-/// One of the walkers of a walk, on its own thread. Without recursion: folders that still have to
-/// be read wait in the queue.
+/// One of the walkers of a walk. It works on its own thread and calls its own visitor. There is no
+/// recursion: the queue holds the folders that are still to be read.
 ///
-/// The system's part of the walk is one object, which all walkers use at once:
-/// - System::Folder and System::Link are a folder and a link to one that wait in the queue;
-/// - openRoot(path), open(Folder) and open(Link) give the System::OpenFolder to be read, or nothing
-///   for one that is not, and report what failed.
+/// The System is the system's part of the walk. All walkers use the one object at the same time:
+/// - System::Folder and System::Link describe a folder, or a link to one, that waits in the queue.
+/// - openRoot(path), open(Folder) and open(Link) return the System::OpenFolder to read. They return
+///   nothing for a folder that is not to be read, and report what failed.
+///
 /// An OpenFolder belongs to the walker that reads it:
-/// - path(), id(); source(), which a System::Reader takes; failureText(error) of that reader, for
-///   people, and empty for what is no failure;
-/// - nameOf(entry), kindOf(entry, reader) and isShown(entry), of which the last is asked only about
-///   what is wanted otherwise;
-/// - fileAt(entry, isLink, wanted) is what the visitor is told; nothing for what is no file;
-/// - subfolderAt(entry); targetOf(entry) of a link, and linkAt(entry, target) of one to a folder;
-/// - shouldShareSubfolders(reader, count): whether @c count subfolders go to the queue before all
-/// is read.
+/// - path() and id() identify it.
+/// - source() is what a System::Reader reads.
+/// - failureText(error) describes an error of that reader for people. It is empty if the error is
+///   no failure.
+/// - nameOf(entry) and kindOf(entry, reader) describe an entry.
+/// - isShown(entry) is called last, and only for entries that are wanted otherwise.
+/// - fileAt(entry, isLink, wanted) is what the visitor gets. It returns nothing if there is no
+///   file.
+/// - subfolderAt(entry) describes a subfolder for the queue.
+/// - targetOf(entry) tells where a link leads. linkAt(entry, target) describes a link to a folder
+///   for the queue.
+/// - shouldShareSubfolders(reader, count) tells whether @c count subfolders go to the queue before
+///   the folder is read to its end.
 template<class System>
 class Walker final
 {
@@ -98,7 +105,7 @@ public:
     {
     }
 
-    /// Reads what waits in the queue until all walkers are done.
+    /// Reads the folders in the queue until all walkers are done.
     void run()
     {
         m_walk.queue.process([this](const auto &waiting) {
@@ -114,7 +121,7 @@ public:
         m_reader.begin(folder.source());
         while (const auto *entry = m_reader.next()) {
             readEntry(folder, *entry);
-            // Another walker may be waiting for them.
+            // Another walker may be waiting for these subfolders.
             if (!m_walk.hasOneWalker && folder.shouldShareSubfolders(m_reader, m_subfolders.size()))
                 m_walk.queue.add(m_subfolders);
         }
@@ -146,7 +153,8 @@ private:
         }
     }
 
-    // A link to a file is listed as a link; one to a folder is entered at most.
+    // A link to a file is listed as a link. A link to a folder is never listed, but may be
+    // followed.
     template<class Entry>
     void readLink(OpenFolder &folder, const Entry &entry)
     {
@@ -174,12 +182,14 @@ private:
     const NameFilter m_filter;
     TreeVisitor &m_visitor;
     typename System::Reader m_reader;
-    WalkedFolder m_folder; ///< that is being read
-    TreeVisitor::Wanted m_wanted = TreeVisitor::Wanted::SizesAndTimes; ///< of that folder
-    std::vector<typename System::Folder> m_subfolders; ///< of that folder
+    WalkedFolder m_folder; ///< the folder that is being read
+    /// for the files of m_folder
+    TreeVisitor::Wanted m_wanted = TreeVisitor::Wanted::SizesAndTimes;
+    /// the subfolders of m_folder that are not in the queue yet
+    std::vector<typename System::Folder> m_subfolders;
 };
 
-/// walkTree() by the means of one system.
+/// walkTree() for one system.
 template<class System>
 WalkReport walkTreeWith(const QString &root, const WalkOptions &options,
                         const QList<TreeVisitor *> &visitors)

@@ -11,11 +11,12 @@
 
 namespace platform {
 
-/// The folders that the walkers of one walk still have to read. Any walker's thread.
+/// The folders that the walkers of one walk still have to read. walkTree() owns it, and every
+/// walker's thread uses it.
 ///
-/// The folders that were added last are read first, which keeps the queue short. Links are read
-/// when nothing else waits and no walker can add anything: by then each folder that can be reached
-/// by its own path has been read by that path. walkTree() owns the queue of a walk.
+/// The folders that were added last are read first, which keeps the queue short. A link is read
+/// only when the queue holds no folder and no walker is busy. By then each folder below the root
+/// has been read by its own path.
 template<class Folder, class Link>
 class WalkQueue final
 {
@@ -26,7 +27,8 @@ public:
     {
     }
 
-    /// Takes over @p folders, which come next and in their order, and leaves the list empty.
+    /// Moves @p folders into the queue and leaves the list empty. They are read next, in their
+    /// order.
     void add(std::vector<Folder> &folders)
     {
         if (folders.empty())
@@ -44,8 +46,8 @@ public:
         m_links.push_back(std::move(link));
     }
 
-    /// The first walker reads the root, which never was in this queue, between begin() and end():
-    /// meanwhile the others do not end, but wait for the subfolders that it will add.
+    /// The first walker calls these before and after it reads the root, which is not in the queue.
+    /// In between, the other walkers wait for its subfolders instead of ending.
     void beginRoot()
     {
         const std::lock_guard lock(m_mutex);
@@ -57,8 +59,8 @@ public:
         endReading();
     }
 
-    /// Has @p read called with one folder or link after the other until none is left or the walk is
-    /// stopped.
+    /// Calls @p read with one folder or link after the other. Ends when the queue is empty and no
+    /// walker is busy, or when the walk is stopped.
     template<class Read>
     void process(const Read &read)
     {
@@ -104,7 +106,7 @@ private:
     }
 
     const std::atomic_bool *const m_stopRequested;
-    std::mutex m_mutex; ///< guards what follows
+    std::mutex m_mutex; ///< guards the members below
     std::condition_variable m_changed;
     std::vector<Folder> m_folders;
     std::vector<Link> m_links;

@@ -5,25 +5,28 @@
 
 namespace platform {
 
+/// A folder that could not be read.
 struct WalkFailure {
     QString path;
     QString reason;
 };
 
-/// A folder that was entered under another path than its own.
+/// A folder that was entered by another path than its own.
 struct FollowedLink {
-    QString path; ///< as the files below it are listed
-    QString target; ///< the same folder, link-free
+    QString path; ///< as in the paths of its files
+    QString target; ///< the folder's own path, without links
 };
 
-/// What could not be walked, and what was followed. A walk never gives up for one folder.
+/// What a walk could not read, and the links that it followed. A folder that fails does not end the
+/// walk. A value.
 struct WalkReport {
-    /// Keeps the report small where very many folders cannot be read.
+    /// Limits the size of the report when very many folders cannot be read.
     static constexpr int maximumFailures = 20;
 
-    QList<WalkFailure> failures; ///< the first unreadable folders
-    qint64 failureCount = 0; ///< all of them
-    QList<FollowedLink> followed; ///< on Windows none: files are listed below the link's target
+    QList<WalkFailure> failures; ///< the first folders that could not be read
+    qint64 failureCount = 0; ///< the number of all folders that could not be read
+    /// empty on Windows, where files are listed below the link's target
+    QList<FollowedLink> followed;
 
     void addFailure(const QString &path, const QString &reason)
     {

@@ -18,6 +18,7 @@ namespace {
 
 using Extent = ProtectedPlace::Extent;
 
+/// A row of the tables below: a protected place relative to a base folder.
 struct RelativePlace {
     QLatin1StringView path;
     Extent extent = Extent::Itself;
@@ -25,13 +26,13 @@ struct RelativePlace {
 
 constexpr std::array belowWindows{
     RelativePlace{""_L1, Extent::Itself},
-    RelativePlace{"System32"_L1, Extent::Tree}, // the system itself, and the machine's registry
+    RelativePlace{"System32"_L1, Extent::Tree}, // the system and the machine's registry
     RelativePlace{"SysWOW64"_L1, Extent::Tree}, // the same for 32-bit programs
-    RelativePlace{"WinSxS"_L1, Extent::Tree}, // what the system's files are repaired from
-    RelativePlace{"servicing"_L1, Extent::Tree}, // and updated by
+    RelativePlace{"WinSxS"_L1, Extent::Tree}, // the source for repairs of system files
+    RelativePlace{"servicing"_L1, Extent::Tree}, // the files that install updates
     RelativePlace{"assembly"_L1, Extent::Tree}, // libraries that programs share
     RelativePlace{"Fonts"_L1, Extent::Tree},
-    RelativePlace{"Installer"_L1, Extent::Itself}, // without it programs cannot be removed
+    RelativePlace{"Installer"_L1, Extent::Itself}, // needed to uninstall programs
     RelativePlace{"SoftwareDistribution"_L1, Extent::Itself}, // the list of installed updates
 };
 
@@ -40,16 +41,16 @@ constexpr std::array belowDrive{
     RelativePlace{"Users"_L1, Extent::Children}, // each profile
     RelativePlace{"Program Files"_L1, Extent::Tree},
     RelativePlace{"Program Files (x86)"_L1, Extent::Tree},
-    RelativePlace{"ProgramData"_L1, Extent::Itself}, // what programs keep for all users
+    RelativePlace{"ProgramData"_L1, Extent::Itself}, // data of programs for all users
     RelativePlace{"Boot"_L1, Extent::Tree},
     RelativePlace{"Recovery"_L1, Extent::Tree},
     RelativePlace{"System Volume Information"_L1, Extent::Tree},
 };
 
-// A temporary folder may well lie in one of them, if its owner says so.
+// The temporary folder may be inside one of them, if its owner has chosen that.
 constexpr std::array belowProfile{
-    RelativePlace{"AppData"_L1, Extent::Children}, // what programs keep for the user
-    RelativePlace{"Desktop"_L1, Extent::Itself}, // from here on: what people made
+    RelativePlace{"AppData"_L1, Extent::Children}, // data of programs for the user
+    RelativePlace{"Desktop"_L1, Extent::Itself}, // from here on: the user's own files
     RelativePlace{"Documents"_L1, Extent::Itself},
     RelativePlace{"My Documents"_L1, Extent::Itself},
     RelativePlace{"Downloads"_L1, Extent::Itself},
@@ -74,7 +75,7 @@ void addPlaces(QList<ProtectedPlace> &list, const QString &base, const Places &p
         list.append({locate(base, place.path), place.extent});
 }
 
-// The user's own profile, and those of others beside it.
+// The user's own profile and the other profiles beside it.
 void addProfiles(QList<ProtectedPlace> &list)
 {
     list.append({homeFolder(), Extent::Itself});
@@ -88,7 +89,7 @@ void addProfiles(QList<ProtectedPlace> &list)
     }
 }
 
-// Where the system's settings say that people keep what they made.
+// The folders that the system's settings name for documents, pictures and other personal files.
 void addPersonalFolders(QList<ProtectedPlace> &list)
 {
     for (const QStandardPaths::StandardLocation location :

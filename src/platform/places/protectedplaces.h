@@ -4,13 +4,16 @@
 
 namespace platform {
 
-/// Whether everything in @p path (absolute, from locate()) must never be clutter: the top of a
-/// drive or of the file system, a place that a table says is kept, a folder that holds such a
-/// place, and what lies in those that are kept whole. So is what does not exist.
+/// Whether a rule must never treat all files in @p path as clutter. @p path is absolute, from
+/// locate(). True for:
+/// - the root of a drive or of the file system;
+/// - a protected place, and a folder that contains one;
+/// - everything inside a place that is protected with its whole tree;
+/// - a folder that does not exist.
 [[nodiscard]] bool isProtectedRoot(const QString &path);
 
-/// The same, but a folder inside of a place that is kept whole may be taken: for what its owner has
-/// put there, such as the profile of a browser below the program folder.
+/// The same, but false for a folder inside a place that is protected with its whole tree. The owner
+/// may have put files there, such as a browser's profile below the program folder.
 [[nodiscard]] bool holdsProtectedPlace(const QString &path);
 
 } // namespace platform

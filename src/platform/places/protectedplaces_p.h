@@ -3,23 +3,24 @@
 #include <QList>
 #include <QString>
 
-// What the two halves of protectedplaces.h share.
+// What the Unix and the Windows part of protectedplaces.h share.
 namespace platform {
 
+/// A folder that no rule may take whole. A value.
 struct ProtectedPlace {
-    /// What of it is kept.
+    /// Which part of the place is protected.
     enum class Extent {
-        Itself, ///< it must not be taken whole; what lies in it may be clutter
-        Children, ///< the same for each folder right below it
-        Grandchildren, ///< and for those right below these
-        Tree, ///< everything in it
+        Itself, ///< the folder must not be taken whole; its contents may be clutter
+        Children, ///< the same holds for each folder directly in it
+        Grandchildren, ///< the same holds for the next level below, too
+        Tree, ///< everything in it is protected
     };
 
     QString path; ///< may be empty or missing
     Extent extent = Extent::Itself;
 };
 
-/// Places that only one of the systems has.
+/// The protected places of this system alone.
 [[nodiscard]] QList<ProtectedPlace> systemPlaces();
 
 } // namespace platform

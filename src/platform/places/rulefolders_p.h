@@ -3,28 +3,29 @@
 #include <QString>
 #include <QStringList>
 
-// What the two halves of rulefolders.h and the table of protected places share.
+// What both parts of rulefolders.h and the table of protected places share.
 namespace platform {
 
-/// A folder that the environment names as an absolute path of this file system, its links and dots
-/// as they stand; empty when it is none.
+/// A folder from the environment as an absolute path of this file system. Links and dots stay in
+/// it. Empty when it is not absolute.
 [[nodiscard]] QString localFolder(const QString &path);
 
-/// @p folder, a canonicalPath(), with @p names appended, which are at least one: spelled as they
-/// are stored where the file system or the Wine prefix takes them in any case, and not resolved.
-/// Empty when a folder on the way must not be looked into; @p problem, unless it is null, says so.
+/// Appends at least one name of @p names to @p folder, a canonicalPath(). Where the file system or
+/// the Wine prefix ignores case, the names get the spelling on the disk. Links are not resolved. @p
+/// problem may be null. It tells that a folder in the path may not be read.
 [[nodiscard]] QString storedPath(const QString &folder, const QStringList &names, QString *problem);
 
-/// @p path without links, "." and ".."; empty when it is not absolute or does not exist.
+/// @p path without links, "." and "..". Empty when it is not absolute or does not exist.
 [[nodiscard]] QString canonicalPath(const QString &path);
 
-/// Why the system does not say what @p path leads to; empty when it does, or when nothing is there.
+/// Why the system cannot tell where @p path leads. Empty when it can, or when there is no such
+/// entry.
 [[nodiscard]] QString problemWith(const QString &path);
 
-/// Whether a canonicalPath() is the top of the file system, of a drive, a share or a volume.
+/// Whether a canonicalPath() is the root of the file system, of a drive, a share or a volume.
 [[nodiscard]] bool isRoot(const QString &path);
 
-/// How the file system compares names.
+/// Whether the file system ignores case in names.
 [[nodiscard]] Qt::CaseSensitivity pathCase();
 
 } // namespace platform

@@ -5,16 +5,16 @@
 #include <memory>
 #include <optional>
 
-// What a path or variable of the Windows world means here. Elsewhere than on Windows it is the Wine
-// prefix that answers.
+// The meaning of Windows paths and variables on this system. On Linux the Wine prefix defines it.
 namespace platform {
 
-/// Where the Windows path @p path, such as "C:\Program Files\x.exe", lies in this file system; on
-/// Windows the path itself. Names are matched to those on the disk without regard to case; what
-/// does not exist keeps its name.
+/// The place of the Windows path @p path, such as "C:\Program Files\x.exe", in this file system. On
+/// Windows it is the path itself. Existing names are found regardless of case. Missing names keep
+/// their spelling.
 [[nodiscard]] QString localPath(const QString &path);
 
-/// Whether @p path begins with a drive and a separator. All others depend on what is current.
+/// Whether @p path begins with a drive and a separator. All other paths depend on the current drive
+/// or folder.
 [[nodiscard]] inline bool isOnDrive(const QString &path)
 {
     return path.size() >= 3 && path.at(0).unicode() < 0x80 && path.at(0).isLetter()
@@ -22,18 +22,20 @@ namespace platform {
 }
 
 /// The environment variable @p name, in capitals, as a Windows program sees it; empty when unset.
-/// With a Wine prefix only the prefix is asked, whatever is set here: nothing when it does not
-/// tell.
+/// If there is a Wine prefix, only the prefix is asked. Then nothing is returned when the prefix
+/// does not tell it.
 [[nodiscard]] std::optional<QString> windowsVariable(const QString &name);
 
+/// Whether a path leads to a file or folder.
 enum class Presence {
     Present,
     Missing,
-    Unknown, ///< it cannot be told, for instance for want of rights
+    Unknown, ///< it cannot be determined, for instance without the permission
 };
 
-/// Tells whether Windows paths lead to a file or folder; links are followed. Remembers what it has
-/// seen of folders: make one for a run, not one for a question.
+/// Tells whether Windows paths lead to a file or folder; links are followed. A run owns one and
+/// uses it on one thread. It remembers the contents of folders, so make one for a run and not for a
+/// single question.
 class PathLookup final
 {
     Q_DISABLE_COPY_MOVE(PathLookup)
@@ -41,7 +43,7 @@ public:
     PathLookup();
     ~PathLookup();
 
-    /// @p path begins with a drive and a separator.
+    /// @p path must begin with a drive and a separator.
     [[nodiscard]] Presence presenceOf(const QString &path);
 
 private:

@@ -9,6 +9,7 @@ namespace platform {
 
 namespace {
 
+/// The names of one hive.
 struct HiveNames {
     Hive hive;
     QString fullName;

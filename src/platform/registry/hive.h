@@ -6,28 +6,27 @@
 
 namespace platform {
 
-/// ClassesRoot is the view that merges the user's classes with the machine's: it can be read, but
-/// every change names the hive that it means.
+/// The hives that the program uses. ClassesRoot merges the user's classes with the machine's. It is
+/// only read: each change names the hive that it is made in.
 enum class Hive { LocalMachine, CurrentUser, ClassesRoot };
 
-/// The name in full, such as "HKEY_LOCAL_MACHINE".
+/// The full name, such as "HKEY_LOCAL_MACHINE".
 [[nodiscard]] QString hiveName(Hive hive);
 
-/// The name as it is shown before a path, such as "HKLM".
+/// The short name that is shown before a path, such as "HKLM".
 [[nodiscard]] QString shortHiveName(Hive hive);
 
-/// The hive that @p name means, in full or short, in exactly this spelling; nothing for any other
+/// The hive with the full or short name @p name, in exactly this spelling. Nothing for any other
 /// text.
 [[nodiscard]] std::optional<Hive> hiveNamed(const QString &name);
 
-/// The hive that a full path such as "HKEY_CURRENT_USER\\Software" begins with, and what is below
-/// it.
+/// A full path such as "HKEY_CURRENT_USER\\Software", split into its hive and its key.
 struct HivePath {
     Hive hive;
     QString key;
 };
 
-/// @p path taken apart; nothing when it does not begin with a hive's name in full and a backslash.
+/// Splits @p path. Nothing when it does not begin with a hive's full name and a backslash.
 [[nodiscard]] std::optional<HivePath> hivePath(const QString &path);
 
 } // namespace platform

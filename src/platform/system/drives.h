@@ -4,10 +4,11 @@
 
 namespace platform {
 
+/// The kinds of drives that the program treats differently.
 enum class DriveKind { Fixed, Removable, Optical };
 
-/// What kind of drive the volume with the root @p root ("C:/", "/media/disk") lies on. What cannot
-/// be told counts as fixed.
+/// The kind of the drive that holds the volume with the root @p root ("C:/", "/media/disk"). Fixed
+/// when the kind is unknown.
 [[nodiscard]] DriveKind driveKind(const QString &root);
 
 } // namespace platform

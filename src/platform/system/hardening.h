@@ -2,8 +2,9 @@
 
 namespace platform {
 
-/// Makes the system look for libraries that are loaded later in its own folder alone, so that one
-/// planted beside the program or in the current folder is never loaded. The first thing in main().
+/// Restricts the search for libraries that are loaded later to the system's own folder. A library
+/// that was planted beside the program or in the current folder is then never loaded. To be called
+/// first in main().
 void hardenProcess();
 
 } // namespace platform

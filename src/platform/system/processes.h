@@ -5,8 +5,8 @@
 
 namespace platform {
 
-/// The names of the programs that are running, such as "chrome.exe", in lower case and without
-/// their folders. Programs whose name may not be read are left out.
+/// The names of all running programs, such as "chrome.exe", in lower case and without their
+/// folders. A program is left out if its name may not be read.
 [[nodiscard]] QSet<QString> runningPrograms();
 
 } // namespace platform

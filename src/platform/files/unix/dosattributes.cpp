@@ -18,7 +18,7 @@ namespace {
 
 constexpr unsigned long hidden = 2;
 constexpr unsigned long system = 4;
-constexpr std::size_t longestPath = 64 + 256; ///< of the open folder, and the name
+constexpr std::size_t longestPath = 64 + 256; ///< the path of the open folder and the name
 
 } // namespace
 
@@ -28,10 +28,10 @@ DosAttributes::DosAttributes()
     if (prefix.isEmpty())
         return;
     m_roots.append(prefix + u'/');
-    // It need not lie in the prefix.
+    // The temporary folder can be outside the prefix.
     if (const QString temporary = wineprefix::temporaryFolder(); !temporary.isEmpty())
         m_roots.append(QFileInfo(temporary).canonicalFilePath() + u'/');
-    // Not of the drive that is the whole system: each of its files would have to be asked.
+    // The drive that is the whole system is skipped: the attribute of each file would be read.
     for (const QString &drive : wineprefix::drives()) {
         if (drive != u'/')
             m_roots.append(drive + u'/');
@@ -46,7 +46,7 @@ bool DosAttributes::canApplyIn(const QString &folder) const
     });
 }
 
-// The value is a text such as "0x6"; others may have written something else there.
+// The value is a text such as "0x6". Other programs may have written something else there.
 bool DosAttributes::isHidden(int folder, const char *name)
 {
     char path[longestPath];

@@ -3,20 +3,20 @@
 #include <QString>
 #include <QStringList>
 
-// The attributes that Wine keeps of files beside what this file system knows of them.
+// The DOS attributes of files, which Wine stores in an extended attribute.
 namespace platform {
 
-/// Tells where files may bear such attributes: below the prefix, what it calls its drives, and its
-/// temporary folder. One object a run; any thread.
+/// Tells where files can have DOS attributes: below the prefix, below its drives and in its
+/// temporary folder. The drive that is the whole system is left out. One object a run; any thread.
 class DosAttributes final
 {
 public:
     DosAttributes();
 
-    /// Whether what lies in the folder at a link-free path has to be asked.
+    /// Whether entries of the folder at a link-free path can have DOS attributes.
     [[nodiscard]] bool canApplyIn(const QString &folder) const;
-    /// Whether Windows programs see the entry @p name of an open folder as hidden or as the
-    /// system's. Of a link what it leads to counts, as it does there.
+    /// Whether Windows programs see the entry @p name of an open folder as hidden or as a system
+    /// entry. For a link its target decides, as it does there.
     [[nodiscard]] static bool isHidden(int folder, const char *name);
 
 private:

@@ -36,24 +36,25 @@ bool isFolderAt(int folder, const char *name)
     return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode);
 }
 
-/// Whether the entry @p name is still the file of which a listing told.
+/// Whether the entry @p name is still the file that was listed.
 bool isListedFile(int folder, const char *name, const FileRemover::ListedFile &listed)
 {
     FileStatus status{};
     if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return true; // the removal will tell
+        return true; // the removal reports the error
     return S_ISLNK(status.st_mode) == listed.isLink && (listed.isLink || S_ISREG(status.st_mode))
         && (listed.number == 0 || listed.number == status.st_ino);
 }
 
-/// Sees to it that entries are removed only where they were listed. An open folder stays usable
-/// when somebody moves it away, so the guard looks again, every few entries and after every short
-/// while, whether it is still at its path. A FileRemover owns one for the folder of its entries, a
+/// Checks that an open folder is still at its path. An open folder stays usable when somebody moves
+/// it, and its entries would be removed at the new place. The check is repeated after a number of
+/// entries and after a short time. A FileRemover owns one for the folder of its entries, a
 /// FolderRemoval one for its levels.
 class PlaceGuard
 {
 public:
-    /// For each entry of the open @p folder before it is removed; @p path tells where that belongs.
+    /// To be called before each removal from the open @p folder. @p path returns the path of that
+    /// folder.
     template<class Path>
     [[nodiscard]] bool isInPlace(int folder, const Path &path)
     {
@@ -63,7 +64,7 @@ public:
         const UniqueFd there = openFolder(path(), Access::PassThrough);
         return there.isValid() && idOf(folder) == idOf(there.get());
     }
-    /// The folder has been opened by its path just now.
+    /// Tells that the folder was opened by its path just now.
     void restartInterval()
     {
         m_entriesUntilCheck = entriesPerCheck - 1;
@@ -85,13 +86,13 @@ private:
     qint64 m_lastCheck = 0;
 };
 
-/// Empties and removes one folder, level by level without recursion. Only the deepest levels are
-/// held open; a level further up is opened anew, link-free from the top of the folder, when the
-/// work comes back to it.
+/// Empties and removes one folder, level by level without recursion. Lives on the stack of
+/// FileRemover::remove(). Only the deepest levels are held open. A higher level is opened again
+/// when the work returns to it, without following links, from the removed folder down.
 class FolderRemoval
 {
 public:
-    /// The folder @p name of the open folder @p parent, which is at @p parentPath.
+    /// Removes the folder @p name of the open folder @p parent, whose path is @p parentPath.
     FolderRemoval(ExpectedFolders &folders, int parent, const QByteArray &parentPath,
                   const QByteArray &name, const std::atomic_bool *stopRequested)
         : m_folders(folders)
@@ -132,10 +133,11 @@ public:
 private:
     static constexpr std::size_t maximumOpenLevels = 64;
 
+    /// A folder on the way down to the current one.
     struct Level {
         UniqueFd fd;
         EntryId id;
-        QByteArray name; ///< in its parent level; empty at the top
+        QByteArray name; ///< its name in the parent level; empty for the removed folder itself
         std::vector<QByteArray> subfolders; ///< still to be removed
     };
 
@@ -147,8 +149,8 @@ private:
             m_error = error;
     }
 
-    // Asked before anything in the level is removed. Once the folder is not at its path any more,
-    // nothing else is removed.
+    // To be called before each removal in the level. Once a folder was moved nothing else is
+    // removed.
     bool isInPlace(const Level &level)
     {
         if (m_wasMoved || m_guard.isInPlace(level.fd.get(), [&] { return pathOf(level); }))
@@ -162,7 +164,7 @@ private:
         return (m_parentPath == "/" ? QByteArray() : m_parentPath) + '/' + m_name;
     }
 
-    // Of the deepest level, or of one that is about to become it.
+    // The path of the deepest level, or of a level that is about to be the deepest.
     QByteArray pathOf(const Level &level) const
     {
         QByteArray path = rootPath();
@@ -172,7 +174,8 @@ private:
         return isOnStack || level.name.isEmpty() ? path : path + '/' + level.name;
     }
 
-    // Removes everything in the folder but its subfolders, and puts it on the stack with those.
+    // Removes everything in the folder except its subfolders. Then pushes the folder with its
+    // subfolders on the stack.
     bool enter(UniqueFd fd, const QByteArray &name)
     {
         if (!fd.isValid()) {
@@ -210,7 +213,7 @@ private:
         if (m_reader.typeOf(entry) == DT_DIR) {
             level.subfolders.emplace_back(entry.d_name);
         } else if (isInPlace(level) && ::unlinkat(fd, entry.d_name, 0) != 0 && errno != ENOENT) {
-            // In a folder that is removed whole, entries go although its owner made it read-only.
+            // When a whole folder is removed, a read-only folder inside does not keep its entries.
             const int error = errno;
             if (error != EACCES || !makeWritable(fd) || ::unlinkat(fd, entry.d_name, 0) != 0)
                 keepFirstError(error);
@@ -240,18 +243,18 @@ private:
         const int fd = level.fd.get();
         UniqueFd subfolder = openFolderBelow(fd, name, Mounts::Stay);
         if (!subfolder.isValid() && (errno == ELOOP || errno == ENOTDIR)) {
-            // Something else has come to its path since its parent was read: it is removed as what
-            // it is.
+            // The subfolder was replaced by something else after its parent was read. That is
+            // removed as what it is.
             if (isInPlace(level) && ::unlinkat(fd, name.constData(), 0) != 0 && errno != ENOENT)
                 keepFirstError(errno);
             return;
         }
         if (!subfolder.isValid() && errno == ENOENT)
-            return; // somebody else has removed it
+            return; // another program has removed it
         enter(std::move(subfolder), name);
     }
 
-    // The deepest level is empty: back to its parent, which removes it.
+    // The deepest level is empty. Returns to its parent and removes it from there.
     void leaveLevel()
     {
         const QByteArray name = m_levels.back().name;
@@ -277,8 +280,8 @@ private:
             keepFirstError(error);
     }
 
-    // Opens the deepest levels anew, as many as are held open: the first from the top, each other
-    // from its parent.
+    // Opens the deepest levels again, at most maximumOpenLevels. The first is opened from the
+    // removed folder down, every other one from its parent.
     bool reopen()
     {
         const std::size_t count = m_levels.size();
@@ -309,17 +312,18 @@ private:
     std::vector<Level> m_levels;
     PlaceGuard m_guard;
     bool m_wasMoved = false;
-    bool m_hasReplacedFolder = false; ///< a folder inside, which stays
+    bool m_hasReplacedFolder = false; ///< a folder inside was replaced; the new one stays
     int m_error = 0;
 };
 
 } // namespace
 
+/// The folder of the last entry, kept open for the next one.
 class FileRemover::Private
 {
 public:
-    // Opens the folder of the next entry, unless it is the one that is open already and still
-    // there. Otherwise tells what became of the entry.
+    // Opens the folder of the next entry. The folder that is open already is used again if it is
+    // still at its path. On failure returns the outcome for the entry.
     std::optional<Outcome> openParent(const QByteArray &path)
     {
         if (isOpen(path) && guard.isInPlace(fd.get(), [&] { return path; }))
@@ -371,7 +375,8 @@ FileRemover::Outcome FileRemover::removeFile(const QString &path,
     if (split.name.isEmpty())
         return failure(EINVAL);
 
-    // An open folder may have been removed and made again under the same name: then one fresh look.
+    // The open folder may have been removed and made again under the same name. Then it is opened
+    // once more.
     const bool wasOpen = d->isOpen(split.folder);
     int error = ENOENT;
     for (int attempts = wasOpen ? 2 : 1; attempts > 0 && error == ENOENT; --attempts) {

@@ -15,11 +15,11 @@ namespace platform {
 bool writeToDisk(QFileDevice &file, const QByteArray &bytes, QString &error)
 {
     errno = 0;
-    // Some file systems cannot be asked to sync.
+    // Some file systems do not support fsync().
     if (file.write(bytes) == bytes.size() && file.flush()
         && (::fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOTSUP))
         return true;
-    // When a part got onto the disk before it was full, the file has no word for it.
+    // If the disk became full in the middle of the write, QFileDevice has no error text.
     const int code = errno;
     error = code != 0 ? qt_error_string(code) : file.errorString();
     return false;

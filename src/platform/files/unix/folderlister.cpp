@@ -18,7 +18,7 @@ namespace platform {
 
 namespace {
 
-// One look at the entry itself; at what a link leads to when @p flags say so.
+// The status of the entry itself, or of a link's target if @p flags say so.
 std::optional<struct statx> readStatus(int folder, const char *name, int flags)
 {
     struct statx status = {};
@@ -52,6 +52,7 @@ std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry, bool 
 
 } // namespace
 
+/// What stays the same for all folders of one lister. Never changed, so any thread may read it.
 class FolderLister::Private
 {
 public:

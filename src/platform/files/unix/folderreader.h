@@ -14,20 +14,21 @@ namespace platform {
 /// Reads the entries of open folders, one folder after the other. A walker, a listing or a removal
 /// owns one and uses it on its own thread.
 ///
-/// Many entries come with one system call and stand in a buffer that is used again: an entry costs
-/// neither a call nor an allocation. Entries of the folder may be removed while it is read.
+/// One system call reads many entries into a buffer that is used again. A single entry costs
+/// neither a call nor an allocation. Entries may be removed while the folder is read.
 class FolderReader final
 {
     Q_DISABLE_COPY_MOVE(FolderReader)
 public:
-    /// Reading ends once @p stopRequested is set, which may be null.
+    /// Reading ends when @p stopRequested is set, which may be null.
     explicit FolderReader(const std::atomic_bool *stopRequested)
         : m_stopRequested(stopRequested)
         , m_buffer(std::make_unique_for_overwrite<char[]>(bufferSize))
     {
     }
 
-    /// Starts with a folder that was opened for reading and stays open until its end.
+    /// Starts with a folder that is open for reading. The caller keeps it open until the last
+    /// next().
     void begin(int folder)
     {
         m_folder = folder;
@@ -37,7 +38,7 @@ public:
     }
 
     /// The next entry other than "." and "..", valid until the next call. Null at the end of the
-    /// folder, on failure, and when told to stop.
+    /// folder, on failure, and after a stop.
     [[nodiscard]] const dirent64 *next()
     {
         while (!isStopped() && (m_offset < m_length || fill())) {
@@ -49,13 +50,14 @@ public:
         return nullptr;
     }
 
-    /// The errno for which reading ended; 0 when it ended otherwise.
+    /// The errno of the failure that ended reading, else 0.
     [[nodiscard]] int error() const { return m_error; }
 
-    /// Whether the next entry takes a system call.
+    /// Whether the next call of next() needs a system call.
     [[nodiscard]] bool isBufferRead() const { return m_offset == m_length; }
 
-    /// DT_REG and so on. Some file systems list no types: then it is asked for.
+    /// The type of an entry, such as DT_REG. If the file system does not list types, a system call
+    /// looks it up.
     [[nodiscard]] unsigned char typeOf(const dirent64 &entry) const
     {
         if (entry.d_type != DT_UNKNOWN)
@@ -67,8 +69,7 @@ public:
     }
 
 private:
-    // Large enough that a folder of a thousand files needs one call, small enough to stay in the
-    // cache.
+    // One call reads a folder of a thousand files, and the buffer still fits into the cache.
     static constexpr std::size_t bufferSize = 65'536;
 
     bool isStopped() const
@@ -95,8 +96,8 @@ private:
     const std::atomic_bool *const m_stopRequested;
     const std::unique_ptr<char[]> m_buffer;
     int m_folder = -1;
-    ssize_t m_length = 0; ///< of what is in the buffer
-    ssize_t m_offset = 0; ///< of the next entry there
+    ssize_t m_length = 0; ///< bytes in the buffer
+    ssize_t m_offset = 0; ///< offset of the next entry in the buffer
     int m_error = 0;
 };
 

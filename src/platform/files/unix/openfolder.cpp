@@ -15,7 +15,8 @@ namespace platform {
 
 namespace {
 
-// Below PATH_MAX with room for the terminator: what one system call is given of a longer path.
+// The longest part of a path that one system call gets: below PATH_MAX, with room for the
+// terminator.
 constexpr qsizetype longestStep = 4000;
 
 constexpr int flagsOf(Access access)
@@ -26,8 +27,7 @@ constexpr int flagsOf(Access access)
 UniqueFd openWithKernelCheck(int base, const QByteArray &relative, Mounts mounts, Access access)
 {
     open_how how{};
-    // With the flag a link at the very end would be refused as no folder, not as the link that it
-    // is.
+    // With O_NOFOLLOW a link at the end of the path would give ENOTDIR instead of ELOOP.
     how.flags = static_cast<decltype(how.flags)>(flagsOf(access) & ~O_NOFOLLOW);
     how.resolve = RESOLVE_NO_SYMLINKS | RESOLVE_BENEATH;
     if (mounts == Mounts::Stay)
@@ -47,7 +47,7 @@ UniqueFd openComponent(int base, const QByteArray &name, Access access)
     return fd;
 }
 
-// For kernels (and sandboxes) without openat2.
+// For kernels and sandboxes without openat2.
 UniqueFd openStepByStep(int base, const QByteArray &relative, Mounts mounts, Access access)
 {
     QByteArrayList components = relative.split('/');

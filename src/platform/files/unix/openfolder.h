@@ -12,17 +12,17 @@
 
 namespace platform {
 
-/// What the system tells of an entry; the function of the same name hides its type.
+/// The system's status of an entry. An alias, because the function stat() hides the type stat.
 using FileStatus = struct stat;
 
 [[nodiscard]] inline EntryId idOf(const FileStatus &status)
 {
     return {status.st_dev, status.st_ino};
 }
-/// Of an open folder; unknown when the system does not tell.
+/// The id of an open folder; unknown when the system does not tell it.
 [[nodiscard]] EntryId idOf(int folder);
 
-/// Owns a file descriptor; -1 is none.
+/// Owns a file descriptor and closes it; -1 is none. It can be moved, not copied.
 class UniqueFd
 {
 public:
@@ -60,30 +60,31 @@ private:
     int m_fd = -1;
 };
 
+/// Whether mount points below the base are crossed.
 enum class Mounts { Cross, Stay };
 
-/// What an open folder is for. To look at what is in it by name, or to remove that, it needs only
-/// be passed through, for which nobody has to be allowed to list it.
+/// What an open folder is used for. PassThrough is enough to examine or remove entries by name. It
+/// needs no permission to list the folder.
 enum class Access { Read, PassThrough };
 
-/// Opens the folder at @p relative below the open folder @p base, never through a symbolic link.
+/// Opens the folder at @p relative below the open folder @p base. No symbolic link is followed.
 ///
-/// An empty path opens @p base anew. Paths may be longer than the system's limit for one call. On
-/// failure the result is invalid and errno tells why: ELOOP for a link on the way, ENOTDIR for
-/// something that is no folder, EXDEV for a mount point below @p base when told to stay.
+/// An empty path opens @p base again. Paths may exceed the length limit of a system call. On
+/// failure the result is invalid and errno tells why: ELOOP for a link in the path, ENOTDIR for an
+/// entry that is no folder, EXDEV for a mount point below @p base with Mounts::Stay.
 [[nodiscard]] UniqueFd openFolderBelow(int base, const QByteArray &relative, Mounts mounts,
                                        Access access = Access::Read);
 
-/// The same for an absolute path, from the root of the file system down; mount points are crossed.
+/// The same for an absolute path. Mount points are crossed.
 [[nodiscard]] UniqueFd openFolder(const QByteArray &path, Access access = Access::Read);
 
-/// What the system says of an errno, for people.
+/// The system's text for an errno, for people.
 [[nodiscard]] QString reasonOf(int error);
 
 /// An absolute path split into its folder and the name of its last entry.
 struct SplitPath {
-    QByteArray folder; ///< "/" or without a slash at the end
-    /// Empty when the path names no entry: relative, the root, or with "." or "..".
+    QByteArray folder; ///< the root "/", or a path without a slash at the end
+    /// Empty when the path names no entry: it is relative, is the root, or contains "." or "..".
     QByteArray name;
 };
 [[nodiscard]] SplitPath splitPath(const QString &path);

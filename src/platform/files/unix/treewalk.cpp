@@ -28,33 +28,35 @@ namespace {
 
 using SharedFd = std::shared_ptr<const UniqueFd>;
 
-/// The root of the walk or a folder behind a link: from here down no link is passed.
+/// The root of the walk or a folder behind a link. Below it no link is followed.
 struct Base {
     SharedFd fd;
     QString path;
 };
 
-/// A folder with subfolders still to be read.
+/// A folder with subfolders that are still to be read.
 struct Level {
     std::shared_ptr<const Base> base;
     QString path;
     dev_t device;
-    SharedFd fd; ///< belongs to OpenLevels
+    SharedFd fd; ///< only OpenLevels reads and writes it
 };
 
+/// A subfolder that waits in the queue.
 struct Folder {
     QString path;
     std::shared_ptr<Level> parent;
 };
 
+/// A link to a folder that waits in the queue.
 struct Link {
     QString path;
     EntryId target;
 };
 
-/// Keeps the levels open that were entered last, so that each folder is opened from its parent;
-/// not all of them, since a tree may be deeper than the number of files that a process may hold
-/// open. Any walker's thread.
+/// Keeps the levels that were entered last open, so that each folder is opened from its parent. It
+/// limits their number: a tree can be deeper than the number of files that a process may open. The
+/// walk owns it, and every walker's thread uses it.
 class OpenLevels final
 {
     Q_DISABLE_COPY_MOVE(OpenLevels)
@@ -89,14 +91,14 @@ private:
     std::deque<std::weak_ptr<Level>> m_levels;
 };
 
-/// The folders that have been read. Any walker's thread.
+/// The folders that have been read. The walk owns it, and every walker's thread uses it.
 class VisitedFolders final
 {
     Q_DISABLE_COPY_MOVE(VisitedFolders)
 public:
     VisitedFolders() = default;
 
-    /// False when @p id was there before.
+    /// Returns false if @p id was inserted before.
     [[nodiscard]] bool insert(const EntryId &id)
     {
         const std::lock_guard lock(m_mutex);
@@ -116,19 +118,20 @@ private:
     QSet<EntryId> m_ids;
 };
 
-/// What all walkers of one walk share here.
+/// What all walkers of one walk share on Linux. The members are safe to use from every walker's
+/// thread; the device is set before the walkers start.
 struct Shared {
     const WalkOptions &options;
     SharedReport &report;
     OpenLevels levels = {};
     VisitedFolders visited = {};
     const DosAttributes attributes = {};
-    dev_t device = 0; ///< of the root
+    dev_t device = 0; ///< the device of the root
 
     [[nodiscard]] bool isEverywhere() const { return options.reach == Reach::Everywhere; }
 };
 
-/// The folder that a walker is reading.
+/// The folder that a walker reads. The walker owns it and uses it on its thread.
 class OpenFolder
 {
 public:
@@ -157,7 +160,7 @@ public:
 
     static WalkedKind kindOf(const dirent64 &entry, const FolderReader &reader)
     {
-        // A leading dot is what hides an entry here.
+        // A leading dot hides an entry.
         if (entry.d_name[0] == '.' || !nameOf(entry).isValidUtf8())
             return WalkedKind::Nothing;
         return kindOf(reader.typeOf(entry));
@@ -187,7 +190,7 @@ public:
         struct statx status = {};
         if (!readStatus(entry, AT_SYMLINK_NOFOLLOW, status))
             return {};
-        // A single file can be a mount point as well.
+        // A single file can be a mount point, too.
         const bool isMounted = (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
         if (!isLink && (!S_ISREG(status.stx_mode) || (isMounted && !m_shared.isEverywhere())))
             return {};
@@ -198,7 +201,7 @@ public:
         return file;
     }
 
-    /// Where a link leads.
+    /// The target of a link.
     struct Target {
         WalkedKind kind = WalkedKind::Nothing;
         EntryId id;
@@ -247,12 +250,12 @@ private:
     SharedFd m_fd;
     EntryId m_id;
     std::shared_ptr<const Base> m_base;
-    std::shared_ptr<Level> m_level; ///< made for the first subfolder
-    bool m_canHoldHidden; ///< what is in it, though it has no dot in front
+    std::shared_ptr<Level> m_level; ///< made when the first subfolder is found
+    bool m_canHoldHidden; ///< entries without a leading dot can be hidden by their DOS attributes
 };
 
-// What the kernel tells of itself in the form of files takes no room on any disk; one such file
-// claims to be larger than all of them together.
+// Whether the folder belongs to a file system that shows the kernel's state as files. Such files
+// take no room on a disk. One of them claims to be larger than all disks together.
 bool isKernelFileSystem(int fd)
 {
     struct statfs system = {};
@@ -279,7 +282,7 @@ bool isKernelFileSystem(int fd)
     }
 }
 
-/// The path of an open folder, whatever way led to it; empty when the system does not tell.
+/// The link-free path of an open folder; empty when the system does not tell it.
 QString realPath(int fd)
 {
     QByteArray buffer(PATH_MAX, Qt::Uninitialized);
@@ -291,8 +294,9 @@ QString realPath(int fd)
     return QUtf8StringView(buffer).isValidUtf8() ? QFile::decodeName(buffer) : QString();
 }
 
-/// The system's part of a walk, see Walker. Folders that wait are kept as paths, so that the
-/// breadth of the tree is not bound by the number of files that a process may hold open.
+/// The system's part of a walk, see Walker. Lives in the Walk; all walkers' threads use it. The
+/// queue holds paths and no open folders, because a process may open only a limited number of
+/// files.
 class UnixWalk final
 {
     Q_DISABLE_COPY_MOVE(UnixWalk)
@@ -365,8 +369,8 @@ private:
         m_shared.report.addFailure(path, reasonOf(error));
     }
 
-    // What is gone, or has become a link or a mount point since its parent was read, is not for
-    // this walk: that is no failure.
+    // An entry that was removed, or replaced by a link or a mount point, after its parent was read
+    // is no failure.
     void addFailureUnlessChanged(const QString &path, int error)
     {
         if (error != ENOENT && error != ELOOP && error != EXDEV && error != ENOTDIR)
@@ -379,7 +383,7 @@ private:
             ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     }
 
-    // The root, or the folder behind a link.
+    // Makes the root, or a folder behind a link, a new base.
     std::optional<OpenFolder> baseAt(const QString &path, const SharedFd &fd,
                                      const FileStatus &status)
     {
@@ -393,7 +397,7 @@ private:
                           std::make_shared<const Base>(Base{fd, path}));
     }
 
-    // The parent is opened from the base when it is not open any more.
+    // Opens the parent from the base if it is not open any more.
     UniqueFd openFromParent(const Folder &folder)
     {
         Level &parent = *folder.parent;

@@ -17,7 +17,7 @@ namespace {
 using Status = FileRemover::Status;
 using Outcome = FileRemover::Outcome;
 
-// FileDispositionInfoEx by its number, which the compiler's headers give to something else.
+// The value of FileDispositionInfoEx. The compiler's headers give that name another value.
 constexpr auto immediateDisposition = static_cast<FILE_INFO_BY_HANDLE_CLASS>(21);
 
 Outcome failure(DWORD error, bool wasFolder = false)
@@ -25,8 +25,8 @@ Outcome failure(DWORD error, bool wasFolder = false)
     return {Status::Failed, wasFolder, reasonOf(error)};
 }
 
-/// An entry that was opened for removal, without following it, and found to be the one that its
-/// path names.
+/// An entry that was opened for removal without being followed. Its final path was compared with
+/// the requested one.
 struct OpenedEntry {
     UniqueHandle handle;
     DWORD attributes = 0;
@@ -35,18 +35,18 @@ struct OpenedEntry {
     [[nodiscard]] bool isFolder() const { return nature == EntryNature::Folder; }
 };
 
-/// Removes single entries by handle: what was looked at is what is removed, whatever happens
-/// meanwhile to the folders above. A FileRemover owns one and uses it on its thread.
+/// Removes single entries by their handle. The entry that was checked is the one that is removed,
+/// even if a folder above is exchanged meanwhile. A FileRemover owns one and uses it on its thread.
 class EntryRemover
 {
 public:
-    /// On failure the entry has no handle and error() tells why.
+    /// On failure the result has no handle and error() tells why.
     [[nodiscard]] OpenedEntry open(const QString &extended, DWORD moreAccess = 0)
     {
         OpenedEntry entry;
         if (const QString root = extended.left(rootLength(extended)); root != m_root) {
             m_root = root;
-            m_hasImmediateDeletion = true; // until this volume says otherwise
+            m_hasImmediateDeletion = true; // until this volume refuses it
         }
         UniqueHandle handle =
             openEntry(extended, DELETE | FILE_READ_ATTRIBUTES | moreAccess, Links::Open);
@@ -58,7 +58,8 @@ public:
         case PlaceCheck::Place::AsAsked:
             break;
         case PlaceCheck::Place::OtherCase:
-            // Names that differ by case alone are two names to some folders: not the one asked for.
+            // Some folders have two entries whose names differ only in case. This is not the
+            // requested one.
             m_error = ERROR_FILE_NOT_FOUND;
             return entry;
         case PlaceCheck::Place::Elsewhere:
@@ -76,7 +77,7 @@ public:
         return entry;
     }
 
-    /// Removes a file, a link or an empty folder; the handle is closed either way.
+    /// Removes a file, a link or an empty folder. Closes the handle in any case.
     [[nodiscard]] bool remove(OpenedEntry entry)
     {
         const bool isRemoved = markForDeletion(entry.handle);
@@ -85,7 +86,7 @@ public:
         return isRemoved;
     }
 
-    /// The same, with one attempt more for an entry that is read-only.
+    /// The same. A read-only entry gets a second attempt without the attribute.
     [[nodiscard]] bool removeEvenIfReadOnly(const QString &extended, OpenedEntry entry)
     {
         const DWORD attributes = entry.attributes;
@@ -126,7 +127,7 @@ private:
             != 0;
     }
 
-    // The attribute belongs to the file, not to the name: a file that has other names keeps it.
+    // The attribute belongs to the file and not to the name. A file with other names keeps it.
     bool removeWithoutReadOnly(OpenedEntry entry)
     {
         FILE_STANDARD_INFO standard{};
@@ -143,19 +144,19 @@ private:
 
     static bool setAttributes(const UniqueHandle &handle, DWORD attributes)
     {
-        FILE_BASIC_INFO basic{}; // a time of 0 is left as it is
+        FILE_BASIC_INFO basic{}; // a time of 0 leaves the file's time unchanged
         basic.FileAttributes = attributes == 0 ? FILE_ATTRIBUTE_NORMAL : attributes;
         return ::SetFileInformationByHandle(handle.get(), FileBasicInfo, &basic, sizeof basic) != 0;
     }
 
     PlaceCheck m_check;
-    QString m_root; ///< of the volume that was removed from last
+    QString m_root; ///< the root of the volume of the last entry
     bool m_hasImmediateDeletion = true;
     DWORD m_error = ERROR_SUCCESS;
 };
 
-/// Empties and removes one folder, level by level without recursion. Every entry is opened and
-/// looked at before it is removed or entered.
+/// Empties and removes one folder, level by level without recursion. Lives on the stack of
+/// FileRemover::remove(). Each entry is opened and checked before it is removed or entered.
 class FolderRemoval
 {
 public:
@@ -194,8 +195,9 @@ public:
     }
 
 private:
+    /// A folder on the way down to the current one.
     struct Level {
-        QString path; ///< extended
+        QString path; ///< in the extended form
         EntryId id;
         std::vector<QString> subfolders; ///< still to be removed
     };
@@ -208,7 +210,8 @@ private:
             m_error = error;
     }
 
-    // Removes everything in the folder but its subfolders, and puts it on the stack with those.
+    // Removes everything in the folder except its subfolders. Then pushes the folder with its
+    // subfolders on the stack.
     void enter(const QString &path)
     {
         OpenedEntry entry = m_remover.open(path);
@@ -217,8 +220,8 @@ private:
             return;
         }
         if (!entry.isFolder()) {
-            // Something else has come to its path since its parent was read: it is removed as what
-            // it is.
+            // The subfolder was replaced by something else after its parent was read. That is
+            // removed as what it is.
             if (!m_remover.removeEvenIfReadOnly(path, std::move(entry)))
                 keepFirstError(m_remover.error());
             return;
@@ -254,15 +257,15 @@ private:
             keepFirstError(reader.error());
     }
 
-    // Before each entry of the level, which is opened by its path. Once another folder is there,
-    // nothing more is removed.
+    // To be called before each removal in the level, because entries are opened by their path. Once
+    // another folder is at the path of the level nothing else is removed.
     bool isInPlace(const Level &level)
     {
         m_wasMoved = m_wasMoved || idOfFolder(plainPath(level.path)) != level.id;
         return !m_wasMoved;
     }
 
-    // A file, a link, or a folder that has been emptied. Whether it was removed.
+    // Removes a file, a link or an emptied folder. Returns whether it was removed.
     bool removeEntry(const QString &path)
     {
         OpenedEntry entry = m_remover.open(path);
@@ -288,7 +291,7 @@ private:
     const std::atomic_bool *const m_stopRequested;
     std::vector<Level> m_levels;
     bool m_wasMoved = false;
-    bool m_hasReplacedFolder = false; ///< the folder or one inside, which stays
+    bool m_hasReplacedFolder = false; ///< the folder or one inside was replaced; the new one stays
     DWORD m_error = ERROR_SUCCESS;
 };
 
@@ -302,6 +305,7 @@ bool isFolderAt(const QString &extended)
 
 } // namespace
 
+/// What a FileRemover keeps between two entries.
 class FileRemover::Private
 {
 public:
@@ -347,15 +351,15 @@ private:
             && (listed.number == 0 || listed.number == idOf(entry.handle).number);
     }
 
-    // Whether the folder around the entry is the right one; otherwise tells what became of the
-    // entry. It is asked for each entry: they are opened by their path.
+    // Checks the folder of the entry. If it is not the expected one, returns the outcome for the
+    // entry. To be called for each entry, because entries are opened by their path.
     std::optional<Outcome> checkFolderOf(const QString &extended)
     {
         const QString folder = folderOf(plainPath(extended));
         if (m_expected.isRemoved(folder))
             return Outcome{Status::NotFound, false, {}};
         const EntryId id = idOfFolder(folder);
-        // Where the folder does not tell, what becomes of the entry does.
+        // Without an id to compare, the removal of the entry itself gives the outcome.
         if (!id.isKnown() && !m_expected.idOf(folder).isKnown())
             return {};
         if (!m_expected.accept(folder, id))

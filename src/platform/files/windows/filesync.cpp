@@ -22,7 +22,7 @@ bool writeToDisk(QFileDevice &file, const QByteArray &bytes, QString &error)
     return false;
 }
 
-// The file system's journal has a name before the call that gave it returns.
+// The file system has the name in its journal when the call that made it returns.
 bool syncFolder(const QString &, QString &)
 {
     return true;

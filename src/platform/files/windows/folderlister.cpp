@@ -40,6 +40,7 @@ std::optional<ListedEntry> inspectEntry(const QString &folder, const WIN32_FIND_
 
 } // namespace
 
+/// A listing on Windows needs no state.
 class FolderLister::Private
 {
 };
@@ -51,15 +52,16 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
 {
     FolderListing listing;
     const QString folder = path.endsWith(u'/') ? path.chopped(1) : path;
-    // Without its slash a drive would be whatever folder is current on it.
+    // A drive without its slash means the current folder of that drive.
     const QString absolute = folder.endsWith(u':') ? folder + u'/' : folder;
     const QString extended = extendedPath(absolute);
-    // What is no absolute path must not become one: a bare pattern lists the current drive.
+    // A path that is not absolute is refused: a bare pattern would list the current drive.
     if (extended.isEmpty()) {
         listing.isMissing = true;
         return listing;
     }
-    // Before anything is listed: what comes to the path later is then another folder.
+    // The id is taken before the listing. A folder that comes to the path later then has another
+    // id.
     listing.id = idOfFolder(absolute);
     FolderReader reader(stopRequested);
     reader.begin(extended);

@@ -11,20 +11,20 @@
 namespace platform {
 
 /// Reads the entries of folders, one folder after the other. A walker, a listing or a removal owns
-/// one and uses it on its own thread. The system itself reads many entries ahead.
+/// one and uses it on its own thread. The system reads many entries ahead.
 class FolderReader final
 {
     Q_DISABLE_COPY_MOVE(FolderReader)
 public:
-    /// Reading ends once @p stopRequested is set, which may be null.
+    /// Reading ends when @p stopRequested is set, which may be null.
     explicit FolderReader(const std::atomic_bool *stopRequested)
         : m_stopRequested(stopRequested)
     {
     }
     ~FolderReader() { close(); }
 
-    /// Starts with the folder at an extended path. False when it cannot be opened; then there is no
-    /// entry, and error() tells why.
+    /// Starts with the folder at an extended path. Returns false if it cannot be opened; then
+    /// error() tells why and next() returns null.
     bool begin(const QString &folder)
     {
         close();
@@ -40,8 +40,8 @@ public:
         return isOpen();
     }
 
-    /// The next entry other than "." and "..", valid until the next call. Null at the end of the
-    /// folder, on failure, and when told to stop: then the folder is closed.
+    /// The next entry other than "." and "..", valid until the next call. At the end of the folder,
+    /// on failure, and after a stop it is null and the folder is closed.
     [[nodiscard]] const WIN32_FIND_DATAW *next()
     {
         while (isOpen() && !isStopped() && advance()) {
@@ -52,7 +52,7 @@ public:
         return nullptr;
     }
 
-    /// The system's error for which reading ended; ERROR_SUCCESS when it ended otherwise.
+    /// The system's error that ended reading, else ERROR_SUCCESS.
     [[nodiscard]] DWORD error() const { return m_error; }
 
 private:
@@ -63,7 +63,7 @@ private:
         return m_stopRequested && m_stopRequested->load(std::memory_order_relaxed);
     }
 
-    // The first entry came when the folder was opened.
+    // The call that opened the folder has already read the first entry.
     bool advance()
     {
         if (m_isFirst) {

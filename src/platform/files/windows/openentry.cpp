@@ -14,8 +14,8 @@ namespace {
 constexpr QLatin1StringView extendedPrefix("\\\\?\\");
 constexpr QLatin1StringView sharePrefix("\\\\?\\UNC\\");
 
-// Sockets, pipes and devices that the Linux subsystem left on a disk. Not all of them are in the
-// compiler's headers.
+// Tags of sockets, pipes and devices of the Linux subsystem. The compiler's headers lack some of
+// them.
 constexpr quint32 socketTag = 0x80000023;
 constexpr quint32 pipeTag = 0x80000024;
 constexpr quint32 characterDeviceTag = 0x80000025;
@@ -49,9 +49,8 @@ QStringView withoutTrailingDotsAndBlanks(QStringView name)
     return name;
 }
 
-// Wine reports a name without the dots and blanks at its end, whatever was opened. Of Windows
-// itself the same answer would mean that a server had stripped them, and so had opened another
-// file.
+// Wine reports a name without the dots and blanks at its end, whatever was opened. On Windows the
+// same answer would mean that a server had removed them and opened another file.
 bool isWine()
 {
     static const bool isRunning =
@@ -59,8 +58,9 @@ bool isWine()
     return isRunning;
 }
 
+/// A path split into its folder and its last name. Views of that path.
 struct Split {
-    QStringView folder; ///< with the backslash; empty at the top
+    QStringView folder; ///< with its backslash; empty for an entry of the root
     QStringView name;
 };
 
@@ -92,7 +92,7 @@ EntryNature natureOf(quint32 attributes, quint32 reparseTag)
 {
     const bool isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
-        // A link that has no tag is one of the file system below Wine.
+        // A link without a tag is a Unix link below Wine.
         if (reparseTag == 0 || IsReparseTagNameSurrogate(reparseTag))
             return isFolder ? EntryNature::FolderLink : EntryNature::FileLink;
         if (reparseTag >= socketTag && reparseTag <= blockDeviceTag)
@@ -112,8 +112,7 @@ std::optional<EntryAttributes> attributesOf(const UniqueHandle &entry)
     if (::GetFileInformationByHandleEx(entry.get(), FileAttributeTagInfo, &tagged, sizeof tagged))
         return EntryAttributes{tagged.FileAttributes,
                                natureOf(tagged.FileAttributes, tagged.ReparseTag)};
-    // File systems that know no reparse points, such as those of memory sticks, refuse the
-    // question.
+    // File systems without reparse points, for instance on memory sticks, refuse this query.
     FILE_BASIC_INFO basic{};
     if (::GetFileInformationByHandleEx(entry.get(), FileBasicInfo, &basic, sizeof basic))
         return EntryAttributes{basic.FileAttributes, natureOf(basic.FileAttributes, 0)};
@@ -129,7 +128,7 @@ QString extendedPath(const QString &path)
     else if (native.startsWith("\\\\"_L1) && !native.startsWith(extendedPrefix))
         native.replace(0, 2, sharePrefix);
     if (native.startsWith(sharePrefix) && rootLength(native) == 0)
-        native += u'\\'; // a share may be named without the slash that a drive needs
+        native += u'\\'; // a share can be named without a slash at the end, a drive cannot
     const qsizetype root = rootLength(native);
     if (root == 0)
         return {};
@@ -189,7 +188,7 @@ EntryId idOf(const UniqueHandle &entry)
 
 EntryId idOfFolder(const QString &path)
 {
-    // Without its slash a drive would be whatever folder is current on it.
+    // A drive without its slash means the current folder of that drive.
     const QString extended = extendedPath(path.endsWith(u':') ? path + u'/' : path);
     return idOf(openEntry(extended, FILE_READ_ATTRIBUTES, Links::Open));
 }
@@ -209,7 +208,7 @@ QString finalPath(const UniqueHandle &entry, PathForm form)
         return {};
     const DWORD volume = form == PathForm::Drive ? VOLUME_NAME_DOS : VOLUME_NAME_NT;
     QVarLengthArray<wchar_t, 512> buffer(512);
-    // The name as it was opened has its links resolved as well; only short names stay in it.
+    // Links are resolved in the opened name, too. Only short names stay in it.
     for (const DWORD kind : {DWORD(FILE_NAME_NORMALIZED), DWORD(FILE_NAME_OPENED)}) {
         for (;;) {
             const auto room = static_cast<DWORD>(buffer.size());
@@ -267,7 +266,7 @@ PlaceCheck::Place PlaceCheck::placeOf(const UniqueHandle &entry, const QString &
         return Place::Elsewhere;
 
     const Split asked = split(QStringView(extended).mid(root.size()));
-    if (asked.name.isEmpty()) // some systems name the top without the backslash
+    if (asked.name.isEmpty()) // some systems return the root without its backslash
         return isSameText(withBackslash(actual), top, true) ? Place::AsAsked : Place::Elsewhere;
     if (!isSameText(QStringView(actual).left(top.size()), top, true))
         return Place::Elsewhere;

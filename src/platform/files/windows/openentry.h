@@ -9,7 +9,7 @@
 
 namespace platform {
 
-/// Owns a file handle; null is none.
+/// Owns a file handle and closes it; null is none. It can be moved, not copied.
 class UniqueHandle
 {
 public:
@@ -42,7 +42,7 @@ private:
     void *m_handle = nullptr;
 };
 
-/// What the attributes and the reparse tag of an entry say that it is.
+/// The kind of an entry according to its attributes and its reparse tag.
 enum class EntryNature {
     File,
     Folder,
@@ -52,61 +52,65 @@ enum class EntryNature {
 };
 [[nodiscard]] EntryNature natureOf(quint32 attributes, quint32 reparseTag);
 
-/// Whether the attributes are those of a hidden entry or of one of the system's own. Neither is
-/// shown to people.
+/// Whether the attributes are those of a hidden entry or of a system entry. People see neither.
 [[nodiscard]] bool isHidden(quint32 attributes);
 
-/// What an open entry says of itself.
+/// The attributes of an open entry.
 struct EntryAttributes {
     quint32 attributes = 0;
     EntryNature nature = EntryNature::File;
 };
-/// Nothing on failure, when the thread's last error tells why.
+/// Returns nothing on failure; then the thread's last error tells why.
 [[nodiscard]] std::optional<EntryAttributes> attributesOf(const UniqueHandle &entry);
 
-/// @p path in the form that the system takes as it stands: of any length, and with names that end
-/// in a dot or a blank. Empty when the path is not absolute or holds an empty name, "." or "..".
+/// @p path in the extended form. The system takes it unchanged, with any length and with names that
+/// end in a dot or a blank. Empty when the path is not absolute or contains an empty name, "." or
+/// "..".
 [[nodiscard]] QString extendedPath(const QString &path);
 
-/// The way back: with forward slashes and without the prefix.
+/// The reverse of extendedPath(): with forward slashes and without the prefix.
 [[nodiscard]] QString plainPath(const QString &extended);
 
-/// How long the part of an extended path is that names the drive or share, its backslash included.
+/// The length of the part of an extended path that names the drive or share, its backslash
+/// included.
 [[nodiscard]] qsizetype rootLength(const QString &extended);
 
+/// Whether a link at the end of a path is followed or opened itself.
 enum class Links { Follow, Open };
 
-/// Opens what stands at an extended path, shared with everybody. On failure the result is invalid
-/// and the thread's last error tells why.
+/// Opens the entry at an extended path and lets all other programs use it. On failure the result is
+/// invalid and the thread's last error tells why.
 [[nodiscard]] UniqueHandle openEntry(const QString &extended, quint32 access, Links links);
 
-/// Unknown on failure, and where the file system numbers nothing.
+/// The id of an open entry. Unknown on failure, and on file systems without file numbers.
 [[nodiscard]] EntryId idOf(const UniqueHandle &entry);
-/// Of the folder at a path with forward slashes; a link there is not followed. On failure unknown,
-/// and the thread's last error tells why.
+/// The id of the folder at a path with forward slashes. A link there is not followed. Unknown on
+/// failure; then the thread's last error tells why.
 [[nodiscard]] EntryId idOfFolder(const QString &path);
 
 /// Whether a link at an extended path leads to a file.
 [[nodiscard]] bool leadsToFile(const QString &extended);
 
-/// The path that the system gives an open entry, below the drive letters or below the devices
-/// themselves; empty on failure, as openEntry().
+/// Whether a path begins with a drive letter or with the name of a device.
 enum class PathForm { Drive, Device };
+/// The path that the system reports for an open entry. Empty on failure; then the thread's last
+/// error tells why.
 [[nodiscard]] QString finalPath(const UniqueHandle &entry, PathForm form);
 
-/// The same in a form of this program's own, the volume's number and the path on it, for volumes
-/// and paths of which the system tells no more than that.
+/// The same as the volume's number and the path on the volume, in a form of this program's own. For
+/// volumes and paths of which the system tells nothing else.
 [[nodiscard]] QString pathOnVolume(const UniqueHandle &entry);
 
-/// Tells whether an open entry is the one that its path names, or whether a link on the way led
-/// elsewhere. The drive or share itself is trusted; what is known of the last one is kept.
+/// Tells whether an open entry is the one that its path names, or whether a link in the path led
+/// elsewhere. The drive or share itself is trusted. Keeps what it knows of the last drive. Its
+/// owner uses it on one thread.
 class PlaceCheck
 {
 public:
     enum class Place {
         AsAsked,
-        OtherCase, ///< in the right folder, by a name that differs in case
-        Elsewhere, ///< a link was passed
+        OtherCase, ///< in the requested folder, but the name differs in case
+        Elsewhere, ///< the path passes through a link
     };
     [[nodiscard]] Place placeOf(const UniqueHandle &entry, const QString &extended);
 
@@ -114,14 +118,17 @@ private:
     void lookUp(const QString &root);
 
     QString m_root; ///< as in the extended path, with the backslash
-    QString m_device; ///< its finalPath(), with the backslash
+    QString m_device; ///< its finalPath() as a device, with the backslash
     QString m_volume; ///< its pathOnVolume(), with the backslash
 };
 
-/// What is said of a path that passes through a link; the system has a number for it.
+/// The system's error for a path that passes through a link.
 extern const quint32 linkInPathError;
 
+/// Whether the system's error means that there is no such entry, drive or share, or no disk
+/// in the drive.
 [[nodiscard]] bool isMissing(quint32 error);
+/// The system's text for an error, for people.
 [[nodiscard]] QString reasonOf(quint32 error);
 
 } // namespace platform

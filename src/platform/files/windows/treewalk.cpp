@@ -18,33 +18,35 @@ namespace platform {
 
 namespace {
 
-// The system counts in steps of 100 nanoseconds from 1601 on.
+// FILETIME counts ticks of 100 nanoseconds since 1601.
 qint64 millisecondsSince1970(const FILETIME &time)
 {
     const quint64 ticks = (static_cast<quint64>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
     return (static_cast<qint64>(ticks) - 116'444'736'000'000'000) / 10'000;
 }
 
-/// The root of the walk or a folder that a link leads to: from here down no link is passed.
+/// The root of the walk or the target of a link. Below it no link is followed.
 struct Base {
-    QString path; ///< as its files are listed
-    QString target; ///< the same folder, link-free
+    QString path; ///< as in the paths of its files
+    QString target; ///< the folder's own path, without links
 };
 
+/// A subfolder that waits in the queue.
 struct Folder {
     QString path;
     std::shared_ptr<const Base> base;
 };
 
+/// A link to a folder that waits in the queue.
 struct Link {
     QString path;
 };
 
-/// What stands for a folder whatever path leads to it. Both are compared: not every file system
-/// numbers its files, nor resolves every path.
+/// Identifies a folder, whichever path leads to it. Path and id are both compared, because some
+/// file systems have no file numbers and some paths cannot be resolved.
 struct FolderIdentity {
-    QString path; ///< link-free
-    EntryId id; ///< unknown where the file system numbers nothing
+    QString path; ///< without links
+    EntryId id; ///< unknown on file systems without file numbers
 };
 
 FolderIdentity identityOf(const UniqueHandle &folder, const QString &path)
@@ -56,14 +58,16 @@ FolderIdentity identityOf(const UniqueHandle &folder, const QString &path)
     return identity;
 }
 
-/// The folders from which the walk goes down: its root and what links lead to. Any walker's thread.
+/// The folders where the walk starts: its root and the targets of links. The walk owns it, and
+/// every walker's thread uses it.
 class Bases final
 {
     Q_DISABLE_COPY_MOVE(Bases)
 public:
     Bases() = default;
 
-    /// False when the folder was there before, or is walked anyhow because it lies below one.
+    /// Returns false if the folder was inserted before, or is walked anyway because it is below a
+    /// base.
     [[nodiscard]] bool insert(const FolderIdentity &folder)
     {
         const std::lock_guard lock(m_mutex);
@@ -76,7 +80,7 @@ public:
         return true;
     }
 
-    /// Whether the folder at this link-free path below a base is a base itself.
+    /// Whether the folder at a link-free path below a base is itself a base.
     [[nodiscard]] bool contains(const QString &path)
     {
         if (!m_hasSeveral)
@@ -87,7 +91,8 @@ public:
     [[nodiscard]] bool hasSeveral() const { return m_hasSeveral; }
 
 private:
-    // Upwards from the folder to a base, unless what is hidden stands in between.
+    // Looks for a base above the folder. A hidden folder in between means that the walk does not
+    // reach it.
     [[nodiscard]] bool isWalked(QString path) const
     {
         for (;;) {
@@ -110,7 +115,7 @@ private:
     std::atomic_bool m_hasSeveral = false;
 };
 
-/// The folder that a walker is reading.
+/// The folder that a walker reads. The walker owns it and uses it on its thread.
 class OpenFolder
 {
 public:
@@ -120,10 +125,10 @@ public:
     }
 
     const QString &path() const { return m_folder.path; }
-    static EntryId id() { return {}; } // a listing does not tell
+    static EntryId id() { return {}; } // a listing does not tell it
     QString source() const { return extendedPath(m_folder.path); }
 
-    // A folder that is gone since its parent was read is no failure, nor is an empty drive.
+    // A folder that was removed after its parent was read is no failure, nor is an empty drive.
     static QString failureText(DWORD error)
     {
         return error == ERROR_SUCCESS || isMissing(error) ? QString() : reasonOf(error);
@@ -158,7 +163,7 @@ public:
         return {pathAt(entry), m_folder.base};
     }
 
-    // The size and time come with the name, wanted or not; of a link they are its own.
+    // Size and time come with the name, even if they are not wanted. For a link they are its own.
     std::optional<VisitedFile> fileAt(const WIN32_FIND_DATAW &entry, bool isLink,
                                       TreeVisitor::Wanted) const
     {
@@ -169,7 +174,7 @@ public:
             nullptr};
     }
 
-    /// What a link says that it leads to.
+    /// The target's kind according to the link itself.
     struct Target {
         WalkedKind kind;
     };
@@ -190,8 +195,9 @@ private:
     Folder m_folder;
 };
 
-/// The system's part of a walk, see Walker. A folder that is exchanged for a link while the walk
-/// runs may have what is behind it listed; the remover's own check keeps that from being removed.
+/// The system's part of a walk, see Walker. Lives in the Walk; all walkers' threads use it. If a
+/// folder is replaced by a link during the walk, the target's contents may be listed. The check of
+/// FileRemover keeps them from being removed.
 class WindowsWalk final
 {
     Q_DISABLE_COPY_MOVE(WindowsWalk)
@@ -210,11 +216,11 @@ public:
     std::optional<OpenFolder> openRoot(const QString &root)
     {
         QString top = root.size() > 1 && root.endsWith(u'/') ? root.chopped(1) : root;
-        // Without its slash a drive would be whatever folder is current on it.
+        // A drive without its slash means the current folder of that drive.
         if (top.endsWith(u':'))
             top += u'/';
         const QString extended = extendedPath(top);
-        // What is no absolute path must not become one: a bare pattern lists the current drive.
+        // A path that is not absolute is refused: a bare pattern would list the current drive.
         if (extended.isEmpty()) {
             addFailure(root, ERROR_INVALID_NAME);
             return {};
@@ -270,7 +276,7 @@ private:
         return handle;
     }
 
-    // The root, or the folder that a link leads to.
+    // Makes the root, or the target of a link, a new base.
     std::optional<OpenFolder> baseAt(const QString &path, const FolderIdentity &identity)
     {
         if (!m_bases.insert(identity))
@@ -285,7 +291,8 @@ private:
 
 } // namespace
 
-// A listing does not tell: another look for each folder, of which most hold nothing that is wanted.
+// A listing does not tell the id, so this is one more system call per folder. Most folders have no
+// wanted file, so the id is looked up only when it is asked for.
 EntryId WalkedFolder::id() const
 {
     if (!m_id.isKnown())

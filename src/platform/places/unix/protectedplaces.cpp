@@ -22,20 +22,20 @@ QList<ProtectedPlace> systemPlaces()
         {u"/lib64"_s, Extent::Tree},
         {u"/libx32"_s, Extent::Tree},
         {u"/boot"_s, Extent::Tree},
-        {u"/dev"_s, Extent::Tree}, // from here on: no files, but what the kernel shows as such
+        {u"/dev"_s, Extent::Tree}, // from here on: state of the kernel that looks like files
         {u"/proc"_s, Extent::Tree},
         {u"/sys"_s, Extent::Tree},
-        {u"/run"_s, Extent::Itself}, // the state of what runs now
+        {u"/run"_s, Extent::Itself}, // the state of running programs
         {u"/opt"_s, Extent::Children}, // programs
         {u"/snap"_s, Extent::Tree},
-        {u"/srv"_s, Extent::Children}, // what servers serve
+        {u"/srv"_s, Extent::Children}, // the files of servers
         {u"/var"_s, Extent::Itself},
-        {u"/var/lib"_s, Extent::Children}, // what programs keep: databases, packages, machines
+        {u"/var/lib"_s, Extent::Children}, // data of programs: databases, packages, machines
         {u"/var/log"_s, Extent::Itself},
         {u"/var/mail"_s, Extent::Tree},
-        {u"/var/spool"_s, Extent::Itself}, // mail and prints under way
+        {u"/var/spool"_s, Extent::Itself}, // waiting mail and print jobs
         {u"/var/www"_s, Extent::Children},
-        {u"/home"_s, Extent::Children}, // everybody's home
+        {u"/home"_s, Extent::Children}, // the homes of all users
         {u"/root"_s, Extent::Itself},
         {u"/mnt"_s, Extent::Children}, // from here on: other disks
         {u"/media"_s, Extent::Grandchildren},
@@ -45,7 +45,7 @@ QList<ProtectedPlace> systemPlaces()
         {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), Extent::Itself},
         {QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), Extent::Itself},
     };
-    // What the prefix calls a drive is one, wherever it leads; and the prefix itself.
+    // The prefix's drives are protected wherever they lead, and so is the prefix itself.
     for (const QString &drive : wineprefix::drives())
         list.append({drive, Extent::Itself});
     list.append({wineprefix::folder(), Extent::Itself});

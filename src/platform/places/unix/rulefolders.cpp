@@ -19,7 +19,7 @@ namespace platform {
 
 namespace {
 
-// The environment's word first, then the prefix's folder, then whatever the desktop has.
+// The environment variable counts first, then the prefix's folder, then the desktop's folder.
 QString firstSet(const char *variable, const QString &inPrefix, const QString &desktopFolder)
 {
     const QString fromEnvironment = qEnvironmentVariable(variable);

@@ -27,11 +27,11 @@ QString localPath(const QString &path)
         return local;
     const QString drive = wineprefix::drive(local.at(0));
     if (drive.isEmpty())
-        return path; // with its backslashes it is nothing here
+        return path; // a path with backslashes names nothing here
     const QString exact = drive + u'/' + local.mid(2);
     if (QFileInfo::exists(exact))
         return exact;
-    // What ends in a separator is a folder or nothing.
+    // A path that ends in a separator can only name a folder.
     return wineprefix::matchCase(drive, local.mid(2)) + (local.endsWith(u'/') ? u"/"_s : QString());
 }
 
@@ -44,7 +44,7 @@ std::optional<QString> windowsVariable(const QString &name)
 
 namespace {
 
-// What the system says of the path itself, case and all.
+// The system's answer for exactly this path; case counts.
 Presence presenceAt(const QString &path)
 {
     struct stat data {
@@ -64,10 +64,11 @@ Presence presenceAt(const QString &path)
 
 } // namespace
 
+/// The drives and folders that were looked up. A PathLookup owns it and uses it on its thread.
 class PathLookup::Private
 {
 public:
-    /// The names in a folder by what they are in one case; nothing when it cannot be listed.
+    /// The names in a folder by their case-folded form. Nothing when the folder cannot be listed.
     using Names = std::optional<QHash<QString, QString>>;
 
     const Names &namesIn(const QString &folder)
@@ -140,7 +141,7 @@ Presence PathLookup::presenceOf(const QString &path)
             return Presence::Missing;
         current += u'/' + *found;
     }
-    // What ends in a separator is a folder or nothing; a link may lead nowhere.
+    // A path that ends in a separator can only name a folder. A link can be broken.
     return presenceAt(relative.endsWith(u'/') ? current + u'/' : current);
 }
 

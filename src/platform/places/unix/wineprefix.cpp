@@ -45,8 +45,8 @@ const QString machineEnvironmentKey =
     u"System\\CurrentControlSet\\Control\\Session Manager\\Environment"_s;
 constexpr std::array environmentNames{"TEMP"_L1, "TMP"_L1};
 
-// Where the user's hive keeps the places of what people make; the second is what the first was
-// worth when it was last asked.
+// The keys of the user's hive that name the folders of personal files. The second holds the values
+// of the first, expanded when they were last used.
 const std::array folderKeys{
     u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"_s,
     u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders"_s};
@@ -58,7 +58,7 @@ constexpr std::array folderNames{
     "My Video"_L1,
     "Favorites"_L1,
     "{374DE290-123F-4565-9164-39C4925E467B}"_L1, // downloads
-    // The same as newer programs know them: documents, pictures, music, videos, downloads.
+    // The names that newer programs use for documents, pictures, music, videos, downloads.
     "{F42EE2D3-909F-4907-8871-4C22FC0BF756}"_L1,
     "{0DDD015D-B06C-45D5-8C4C-F59713854639}"_L1,
     "{A0C69A99-21C8-4671-8703-7934162FCF1D}"_L1,
@@ -66,7 +66,7 @@ constexpr std::array folderNames{
     "{7D83EE9B-2244-4E70-B1F5-5393042AF1E4}"_L1,
 };
 
-// Of a text of the registry: its key and its name.
+// Identifies a text of the registry.
 using KeyAndName = std::pair<QString, QString>;
 
 template<class Keys, class Names>
@@ -80,8 +80,8 @@ QList<KeyAndName> combine(const Keys &keys, const Names &names)
     return entries;
 }
 
-// The few texts that tell where things are, of one hive's file. They are asked for again and again:
-// the file is read once for as long as it stays the same.
+/// The texts of one hive's file that name folders. They are needed very often, so the file is read
+/// again only when it has changed. A static object; any thread.
 class HiveTexts
 {
 public:
@@ -97,7 +97,7 @@ public:
         const QByteArray path = QFile::encodeName(folder() + m_hive);
         struct stat status {
         };
-        // Opening a pipe would wait for somebody to write into it.
+        // Opening a pipe would wait for a writer.
         if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
             return {};
         const Stamp stamp{path,           status.st_dev,         status.st_ino,
@@ -144,7 +144,7 @@ HiveTexts &userTexts()
     return texts;
 }
 
-// A text of the environment that the prefix's registry lays down: the user's, else the machine's.
+// A variable that the prefix's registry defines: the user's value, else the machine's.
 QString environmentValue(const QString &name)
 {
     static HiveTexts machineTexts("/system.reg"_L1,
@@ -153,7 +153,7 @@ QString environmentValue(const QString &name)
     return text.isEmpty() ? machineTexts.text(machineEnvironmentKey, name) : text;
 }
 
-// A folder below the C: drive as Windows programs name it; empty for others.
+// The Windows name of a folder below the C: drive; empty for other folders.
 QString windowsPath(const QString &folder)
 {
     const QString drive = systemDrive();
@@ -162,7 +162,7 @@ QString windowsPath(const QString &folder)
     return "C:"_L1 + folder.mid(drive.size()).replace(u'/', u'\\');
 }
 
-// What Wine sets for every program.
+// The variables that Wine sets for each program.
 std::optional<QString> fixedVariable(const QString &name)
 {
     static const QHash<QString, QString> values{
@@ -197,7 +197,7 @@ std::optional<QString> userVariable(const QString &name)
     return {};
 }
 
-// With the variables in it replaced; nothing when one of them is not known.
+// The text with its variables replaced; nothing when one of them is unknown.
 std::optional<QString> expanded(const QString &text)
 {
     QString result;
@@ -244,7 +244,8 @@ QString userFolder()
     const QString own = pathIfFolder(matchCase(users, userName()));
     if (!own.isEmpty() && own != users)
         return own;
-    // A prefix that somebody else made: only one profile beside the public one leaves no doubt.
+    // Another user made the prefix. The profile is clear if there is only one beside the public
+    // one.
     QStringList profiles = QDir(users).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     profiles.removeIf(
         [](const QString &name) { return name.compare("Public"_L1, Qt::CaseInsensitive) == 0; });
@@ -265,7 +266,7 @@ std::optional<QString> variable(const QString &name)
 
 QString temporaryFolder()
 {
-    // In the order in which Windows asks them.
+    // The order in which Windows looks at them.
     for (const QString &name : {u"TMP"_s, u"TEMP"_s}) {
         const std::optional<QString> path = variable(name);
         if (const QString local = path ? localPath(*path) : QString(); !local.isEmpty())

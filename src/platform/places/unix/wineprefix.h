@@ -5,43 +5,45 @@
 
 #include <optional>
 
-/// The Wine prefix that gives this system a C: drive and a registry: WINEPREFIX, else ~/.wine.
+/// The Wine prefix, which provides the C: drive and the registry on this system. It is WINEPREFIX,
+/// else ~/.wine.
 namespace platform::wineprefix {
 
-/// The prefix folder without links; empty when there is none with a C: drive.
+/// The prefix folder without links. Empty when there is no prefix with a C: drive.
 [[nodiscard]] QString folder();
 
 /// The folder of the C: drive; empty without a prefix.
 [[nodiscard]] QString systemDrive();
 
-/// The user's profile folder on the C: drive; empty without a prefix or when it cannot be told.
+/// The user's profile folder on the C: drive. Empty without a prefix, or when the user's folder is
+/// not clear.
 [[nodiscard]] QString userFolder();
 
-/// The temporary folder of the prefix's programs, as its registry names it; empty without a prefix
-/// or when it cannot be told.
+/// The temporary folder of the prefix's programs, from its registry. Empty without a prefix, or
+/// when it cannot be determined.
 [[nodiscard]] QString temporaryFolder();
 
-/// Where the prefix's registry says that its user keeps what people make: documents, pictures and
-/// the like. Without what it does not tell.
+/// The folders of documents, pictures and other personal files, from the prefix's registry. Folders
+/// that the registry does not name are left out.
 [[nodiscard]] QStringList personalFolders();
 
-/// The environment variable @p name, in capitals, of the prefix's programs; nothing without a
-/// prefix or when the prefix does not tell.
+/// The environment variable @p name, in capitals, of the prefix's programs. Nothing without a
+/// prefix, or when the prefix does not tell it.
 [[nodiscard]] std::optional<QString> variable(const QString &name);
 
-/// Where the drive of @p letter leads, without links; empty when the prefix has no such drive.
+/// The target of the drive @p letter, without links. Empty when the prefix has no such drive.
 [[nodiscard]] QString drive(QChar letter);
 
-/// Where each of the prefix's drives leads, without links; without those that lead nowhere.
+/// The targets of the prefix's drives, without links. Drives that lead nowhere are left out.
 [[nodiscard]] QStringList drives();
 
-/// Where a path that begins with a drive, such as "C:\Temp", lies; names are found without regard
-/// to case. Empty when the prefix has no such drive, and for every other path.
+/// The place of a path that begins with a drive, such as "C:\Temp". Names are found regardless of
+/// case. Empty when the prefix has no such drive, and for every other path.
 [[nodiscard]] QString localPath(const QString &windowsPath);
 
-/// @p relative below the existing folder @p base with each name in the case that the disk has.
-/// Names that are not there are kept as they were given. Where a folder may not be listed in which
-/// a name might stand in other case, @p problem, for people, says so.
+/// Appends @p relative to the existing folder @p base and gives each name the case that it has on
+/// the disk. Missing names keep their spelling. A name may exist in another case inside a folder
+/// that may not be listed. Then @p problem says so, for people.
 [[nodiscard]] QString matchCase(const QString &base, const QString &relative,
                                 QString *problem = nullptr);
 

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// Every drive is the top of a file system here.
+// On Windows each drive is the root of a file system, so drives need no row here.
 QList<ProtectedPlace> systemPlaces()
 {
     using Extent = ProtectedPlace::Extent;

@@ -23,8 +23,8 @@ QString fromEnvironment(const char *variable, const QString &defaultFolder = {})
     return value.isEmpty() ? defaultFolder : QDir::fromNativeSeparators(value);
 }
 
-// The name by which a folder knows an entry, which may differ in case or be the long form of a
-// short one; nothing is opened for it. Empty when there is no such entry.
+// The spelling of an entry's name in its folder. It can differ in case, or be the long form of a
+// short name. Nothing is opened for it. Empty when there is no such entry.
 QString storedName(const QString &extended)
 {
     WIN32_FIND_DATAW data{};
@@ -56,7 +56,7 @@ QString localDataFolder()
 
 QString roamingDataFolder()
 {
-    // Of the standard locations only this one lies below the roaming root.
+    // This is the only standard location below the roaming folder.
     QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     for (const QString &own :
          {QCoreApplication::applicationName(), QCoreApplication::organizationName()}) {
@@ -100,7 +100,8 @@ QString problemWith(const QString &path)
     return reasonOf(::GetLastError());
 }
 
-// A bare drive is its top here; to the system it would be whatever folder is current on it.
+// A drive without a slash means its root here. For the system it would be the drive's current
+// folder.
 QString localFolder(const QString &path)
 {
     QString folder = QDir::fromNativeSeparators(path);
@@ -134,7 +135,7 @@ QString canonicalPath(const QString &path)
     if (!entry.isValid())
         return {};
     const QString canonical = finalPath(entry, PathForm::Drive);
-    // A volume may be known to the system by a name that no path can begin with.
+    // The system may know a volume by a name that cannot begin a path.
     if (canonical.isEmpty() || !openEntry(canonical, FILE_READ_ATTRIBUTES, Links::Follow).isValid())
         return {};
     return plainPath(canonical);

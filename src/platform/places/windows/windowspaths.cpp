@@ -18,6 +18,7 @@ std::optional<QString> windowsVariable(const QString &name)
     return qEnvironmentVariable(name.toLatin1().constData());
 }
 
+/// A lookup on Windows needs no state.
 class PathLookup::Private
 {
 };

@@ -21,7 +21,7 @@ namespace platform {
 
 namespace {
 
-// Tells a file that was written in between from the one that was read.
+/// Identifies the state of a file, to notice that another program has written it.
 struct Stamp {
     bool exists = false;
     ino_t inode = 0;
@@ -44,11 +44,12 @@ Stamp stampOf(const QString &path)
     return {true, data.st_ino, data.st_size, data.st_mtim};
 }
 
+/// One registry file of the prefix as it was read. The Registry owns it.
 struct HiveFile {
     QString path;
     Stamp stamp;
     std::optional<RegistryFile> content;
-    QString error; ///< why there is no content; empty when there is no such file
+    QString error; ///< why there is no content; empty when the file does not exist
 };
 
 HiveFile readHive(const QString &path)
@@ -64,7 +65,7 @@ HiveFile readHive(const QString &path)
         return hive;
     }
     const QByteArray text = file.readAll();
-    // Half a file would be written back as a whole one.
+    // A file that was read in part would be written back as a whole.
     if (file.error() != QFileDevice::NoError || text.size() != hive.stamp.size) {
         hive.error = RegistryTexts::tr("%1 cannot be read: %2").arg(path, file.errorString());
         return hive;
@@ -75,7 +76,7 @@ HiveFile readHive(const QString &path)
     return hive;
 }
 
-// Wine's server works in a folder that is named after the prefix's device and file number.
+// Wine's server works in a folder with the prefix's device and file number in its name.
 bool isPrefixInUse(const QString &prefix)
 {
     struct stat data {
@@ -92,10 +93,11 @@ bool isPrefixInUse(const QString &prefix)
 
 } // namespace
 
+/// The two registry files of the prefix, read when they are first needed.
 class Registry::Private
 {
 public:
-    /// The keys that together are the one asked for, the first with precedence.
+    /// A key in one of the files.
     struct Place {
         RegistryFile *file = nullptr;
         RegistryFile::Key key = RegistryFile::none;
@@ -103,7 +105,8 @@ public:
 
     [[nodiscard]] QList<Place> places(Hive hive, const QString &key);
     [[nodiscard]] HiveFile &file(Hive hive);
-    /// Where a change of an existing key is made; without a file or key the error is set.
+    /// The place for a change of an existing key. Without a file or key it is empty and the error
+    /// is set.
     [[nodiscard]] Place placeToChange(Hive hive, const QString &key);
     bool refuse(const QString &message)
     {
@@ -189,7 +192,7 @@ bool Registry::hasKey(Hive hive, const QString &key) const
 
 QStringList Registry::subkeys(Hive hive, const QString &key) const
 {
-    // What the machine's keys have and the user's add to them.
+    // The machine's keys first, then the keys that only the user has.
     const QList<Private::Place> places = d->places(hive, key);
     QStringList names;
     QSet<QString> seen;
@@ -306,6 +309,7 @@ bool Registry::setValue(Hive hive, const QString &key, const RegistryValue &valu
 
 bool Registry::save()
 {
+    /// A changed file and its replacement, which has a temporary name until commit().
     struct Change {
         Hive hive;
         HiveFile *file;
@@ -320,7 +324,7 @@ bool Registry::save()
         else
             saved.append(hive);
     }
-    // What was read is not what the files are any more, or never became it.
+    // The kept contents no longer equal the files, so they are dropped.
     const auto finish = [this, &saved](const QString &error) {
         *d = Private();
         d->saved = saved;
@@ -331,7 +335,7 @@ bool Registry::save()
         d->saved = saved;
         return true;
     }
-    // Each is on the disk under another name before the first takes the place of the old one.
+    // Each new file is on the disk under another name before the first replaces an old one.
     for (const Change &change : changes) {
         QString error;
         if (!change.saver->open(QIODevice::WriteOnly))

@@ -14,7 +14,7 @@ using namespace registrytext;
 
 namespace {
 
-// The start of the next line that begins a section, from the start of a line on.
+// The start of the next section at or after @p from, which is the start of a line.
 qsizetype nextSection(const QByteArray &text, qsizetype from)
 {
     if (from < text.size() && text.at(from) == '[')
@@ -34,7 +34,7 @@ QByteArray slice(const QByteArray &text, qsizetype from, qsizetype end)
     return QByteArray::fromRawData(text.constData() + from, end - from);
 }
 
-// Where the "=" of a value's line is; its name goes to name. Below 0 for a line that is no value.
+// The offset of the "=" in a value's line; negative for a line that is no value. Sets @p name.
 qsizetype valueStart(QByteArrayView line, QString &name)
 {
     if (line.startsWith("@="))
@@ -93,7 +93,7 @@ void RegistryFile::addSection(const QByteArray &head, const QByteArray &body)
             key = child == none ? addChild(key, name, false) : child;
         }
         node(key).sections.push_back(static_cast<qsizetype>(m_sections.size()));
-        // The lines that tell of the key itself come first.
+        // The lines that describe the key itself come first.
         for (qsizetype at = 0; at < body.size() && body.at(at) == '#'; at = lineEnd(body, at)) {
             if (slice(body, at, lineEnd(body, at)).trimmed() == "#link")
                 node(key).isLink = true;
@@ -108,7 +108,8 @@ RegistryFile::Key RegistryFile::childOf(Key parent, const QString &name) const
     return m_children.value({parent, folded(name)}, none);
 }
 
-// A file lists the keys in the registry's order; one that is made here goes where it sorts.
+// A file lists the keys in the registry's order. A key that is created here is inserted in sorted
+// order.
 RegistryFile::Key RegistryFile::addChild(Key parent, const QString &name, bool isSorted)
 {
     const auto key = static_cast<Key>(m_nodes.size());
@@ -203,7 +204,7 @@ QStringList RegistryFile::valueNames(Key key) const
     return names;
 }
 
-// Where a name stands twice, the last one counts.
+// If a name occurs twice, the last line counts.
 std::optional<RegistryValue> RegistryFile::value(Key key, const QString &name) const
 {
     const QList<Line> &all = lines(key);
@@ -222,7 +223,7 @@ void RegistryFile::removeTree(Key key)
     const Key parent = node(key).parent;
     std::vector<Key> &siblings = node(parent).children;
     siblings.erase(std::find(siblings.begin(), siblings.end(), key));
-    // It existed through this key alone.
+    // The parent existed only because of this key.
     if (siblings.empty() && node(parent).sections.empty() && parent != root)
         node(parent).needsSection = true;
     markRemoved(key);
@@ -279,8 +280,8 @@ void RegistryFile::setValue(Key key, const RegistryValue &value)
     QList<Line> &all = lines(key);
     const QString foldedName = folded(value.name);
     RegistryValue written = value;
-    // After the lines that tell of the key itself: the last line may be a broken one that would
-    // take the next for its continuation.
+    // The new value goes behind the lines that describe the key itself. At the end of the section
+    // it could follow a broken line, which would take it for its continuation.
     const auto isNoComment = [](const Line &line) { return !line.raw.startsWith('#'); };
     auto position = std::find_if(all.cbegin(), all.cend(), isNoComment) - all.cbegin();
     if (node(key).values.contains(foldedName)) {
@@ -337,7 +338,7 @@ QByteArray RegistryFile::text() const
             text += section.head + section.body;
         } else if (owner.sections.front() == i) {
             text += section.head;
-            if (!text.endsWith('\n')) // the file broke off here
+            if (!text.endsWith('\n')) // the file ends without a line end
                 text += '\n';
             writeLines(section.key, text);
         }

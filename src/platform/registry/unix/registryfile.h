@@ -10,15 +10,15 @@
 
 namespace platform {
 
-/// One registry file of a Wine prefix, such as system.reg: read, asked, changed and written.
+/// One registry file of a Wine prefix, such as system.reg: parsed, queried, changed and written. A
+/// Registry owns it. Reading fills caches, so no two threads may use it at once.
 ///
-/// The format is text, "WINE REGISTRY Version 2": a section "[Key\\Path] time" a key, in it one
-/// line a value, long ones continued after a backslash; see decodeName() for the escapes. Keys
-/// above a section exist without a section of their own. What is not understood, and everything
-/// that is not changed, is written as it was read.
+/// The format is text, "WINE REGISTRY Version 2". A section "[Key\\Path] time" is a key. Each line
+/// in it is a value; a long one continues after a backslash. decodeName() describes the escapes. A
+/// key above a section exists without a section of its own. Unknown lines and unchanged parts are
+/// written as they were read.
 ///
-/// Names are found without regard to case. A path is not followed through a key that is a
-/// symbolic link.
+/// Names are found regardless of case. A key that is a symbolic link is not followed.
 class RegistryFile final
 {
 public:
@@ -26,20 +26,20 @@ public:
     static constexpr Key none = -1;
     static constexpr Key root = 0;
 
-    /// Nothing when @p text is not such a file.
+    /// Returns nothing when @p text is not such a file.
     [[nodiscard]] static std::optional<RegistryFile> parse(const QByteArray &text);
 
-    [[nodiscard]] Key find(const QString &path) const; ///< none when it does not exist
+    [[nodiscard]] Key find(const QString &path) const; ///< none when there is no such key
     [[nodiscard]] QStringList subkeys(Key key) const;
     [[nodiscard]] bool isLink(Key key) const { return node(key).isLink; }
     [[nodiscard]] QStringList valueNames(Key key) const;
     [[nodiscard]] std::optional<RegistryValue> value(Key key, const QString &name) const;
 
-    /// Removes the key, which is not the root, with all below it.
+    /// Removes the key with everything below it. It must not be the root.
     void removeTree(Key key);
-    /// False when there is no such value.
+    /// Returns false when there is no such value.
     bool removeValue(Key key, const QString &name);
-    /// The key at @p path, made if need be with those above it.
+    /// The key at @p path. It is created if it is missing, and so are the keys above it.
     Key create(const QString &path);
     void setValue(Key key, const RegistryValue &value);
 
@@ -47,18 +47,20 @@ public:
     [[nodiscard]] QByteArray text() const;
 
 private:
-    // A value with its continuation lines, or a line that is none or cannot be read.
+    /// A value with its continuation lines, or a line that is not a readable value.
     struct Line {
         QByteArray raw; ///< with its line end
         bool isValue = false;
         QString name;
-        qsizetype dataStart = 0; ///< where in raw the data begin, after the "="
+        qsizetype dataStart = 0; ///< offset of the data in raw, after the "="
     };
+    /// A section as it was read. The head is its first line.
     struct Section {
         Key key = none;
         QByteArray head;
         QByteArray body;
     };
+    /// A key. The changed lines of a node replace the bodies of its sections.
     struct Node {
         QString name;
         Key parent = none;
@@ -66,10 +68,11 @@ private:
         std::vector<qsizetype> sections; ///< indices in m_sections, usually one
         bool isLink = false;
         bool isRemoved = false;
-        bool needsSection = false; ///< it must be written even without a value
-        mutable std::optional<QList<Line>> lines; ///< read when first asked for
-        mutable QHash<QString, qsizetype> values; ///< by folded name the last of that name's lines
-        bool isChanged = false; ///< lines count, the sections' bodies do not
+        bool needsSection = false; ///< must be written even without a value
+        mutable std::optional<QList<Line>> lines; ///< parsed when first needed
+        /// the index of a name's last line, by folded name
+        mutable QHash<QString, qsizetype> values;
+        bool isChanged = false; ///< the lines are written instead of the sections' bodies
     };
 
     RegistryFile() = default;
@@ -87,7 +90,7 @@ private:
     void markRemoved(Key key);
     void writeLines(Key key, QByteArray &text) const;
 
-    QByteArray m_text; ///< what sections and lines point into
+    QByteArray m_text; ///< sections and lines point into this text
     QByteArray m_prologue;
     std::vector<Section> m_sections;
     std::vector<Node> m_nodes;

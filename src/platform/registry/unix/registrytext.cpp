@@ -21,7 +21,7 @@ int digitValue(char c, int base)
     return value < base ? value : -1;
 }
 
-// The number at the start of text, of at most so many digits; how many there were.
+// Reads the number at the start of text. Returns how many digits it has.
 qsizetype readNumber(QByteArrayView text, int base, qsizetype maximumDigits, quint64 &number)
 {
     number = 0;
@@ -36,7 +36,7 @@ qsizetype readNumber(QByteArrayView text, int base, qsizetype maximumDigits, qui
     return count;
 }
 
-// The character of the escape after a backslash; how many bytes it has.
+// Reads the escape after a backslash. Returns how many bytes it has.
 qsizetype readEscape(QByteArrayView text, QChar &character)
 {
     const char first = text.front();
@@ -59,7 +59,7 @@ std::optional<QByteArray> decodeHex(QByteArrayView text)
 {
     QByteArray bytes;
     bytes.reserve(text.size() / 3 + 1);
-    bool wantsByte = true; // no two bytes without a comma between them
+    bool wantsByte = true; // there must be a comma between two bytes
     for (qsizetype at = 0; at < text.size();) {
         const char c = text[at];
         quint64 number = 0;
@@ -87,7 +87,7 @@ QByteArray littleEndian(const QString &text)
     return bytes;
 }
 
-// Strings are written as text only when they end in a NUL: what is read back gets one.
+// A string is written as text only if it ends in a NUL, because a decoded text always has one.
 bool isProperText(const RegistryValue &value)
 {
     return (value.type == RegistryText || value.type == RegistryExpandText
@@ -227,8 +227,8 @@ QByteArray encodeValue(const RegistryValue &value)
     return line + '\n';
 }
 
-// What Windows makes of a name before it compares: single characters in upper case, but nothing
-// that is not ASCII becomes ASCII.
+// Folds a name as Windows does before it compares: each character becomes upper case. A non-ASCII
+// character never becomes an ASCII one.
 QString folded(const QString &name)
 {
     constexpr char16_t microSign = u'\u00b5';

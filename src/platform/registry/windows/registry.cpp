@@ -19,7 +19,7 @@ HKEY rootOf(Hive hive)
         return HKEY_LOCAL_MACHINE;
     case Hive::CurrentUser:
         return HKEY_CURRENT_USER;
-    case Hive::ClassesRoot: // is put together from the other two
+    case Hive::ClassesRoot: // is merged from the other two
         break;
     }
     return nullptr;
@@ -33,14 +33,15 @@ const wchar_t *wide(const QString &text)
 constexpr qsizetype longestValueName = 16384; ///< characters, its NUL included
 constexpr qsizetype longestKeyName = 256;
 
-// A handle that closes itself; opens nothing when the key cannot be had with that access.
+/// Opens a key and closes it in the destructor. It is false when the key cannot be opened with the
+/// requested access; status then tells why. Lives on the stack of one call.
 class OpenKey final
 {
     Q_DISABLE_COPY_MOVE(OpenKey)
 public:
     OpenKey(Hive hive, const QString &key, REGSAM access, DWORD options = 0)
     {
-        // A name ends at a NUL for the system: it would be another key.
+        // For the system a name ends at a NUL, so it would open another key.
         status = key.contains(QChar(u'\0'))
             ? ERROR_INVALID_NAME
             : ::RegOpenKeyExW(rootOf(hive), wide(key), options, access, &handle);
@@ -56,7 +57,7 @@ public:
     LSTATUS status = ERROR_SUCCESS;
 };
 
-// One call of an enumeration, with the data or without; the value's name and type go to value.
+// One step of an enumeration. Reads the value's name and type, and its data if @p data is not null.
 LSTATUS enumerate(HKEY key, DWORD index, std::vector<wchar_t> &name, std::vector<BYTE> *data,
                   RegistryValue &value)
 {
@@ -76,13 +77,13 @@ LSTATUS enumerate(HKEY key, DWORD index, std::vector<wchar_t> &name, std::vector
     return status;
 }
 
-// Whether nothing comes after that; one value that cannot be read is passed over.
+// Whether the enumeration is over. A value that cannot be read is skipped.
 bool endsEnumeration(LSTATUS status)
 {
     return status != ERROR_MORE_DATA && status != ERROR_ACCESS_DENIED;
 }
 
-// A link would be followed by every call that does not say otherwise.
+// A call follows a link unless it says otherwise.
 bool isLink(Hive hive, const QString &key)
 {
     const OpenKey openKey(hive, key, KEY_QUERY_VALUE, REG_OPTION_OPEN_LINK);
@@ -94,7 +95,7 @@ bool isLink(Hive hive, const QString &key)
         && type == REG_LINK;
 }
 
-// The names of both, those of the first in their order before what the second adds.
+// The first list in its order, followed by the names that only the second list has.
 QStringList merged(QStringList names, const QStringList &more)
 {
     QSet<QString> seen;
@@ -109,6 +110,7 @@ QStringList merged(QStringList names, const QStringList &more)
 
 } // namespace
 
+/// The last error, and the checks before each change.
 class Registry::Private
 {
 public:
@@ -118,7 +120,7 @@ public:
             error = qt_error_string(static_cast<int>(status));
         return status == ERROR_SUCCESS;
     }
-    // What must never reach the system as the path of a key to change.
+    // Whether a change of this key may be passed to the system.
     bool isAllowed(Hive hive, const QString &key)
     {
         if (hive == Hive::ClassesRoot) {
@@ -209,7 +211,7 @@ std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
     value.data.fill('\0', static_cast<qsizetype>(size));
     status = ::RegQueryValueExW(openKey.handle, wide(name), nullptr, &type,
                                 reinterpret_cast<BYTE *>(value.data.data()), &size);
-    if (status != ERROR_SUCCESS) // it may have grown since it was measured
+    if (status != ERROR_SUCCESS) // the value may have grown since its size was read
         return std::nullopt;
     value.data.truncate(static_cast<qsizetype>(size));
     value.type = type;
@@ -219,7 +221,7 @@ std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
 std::optional<QList<RegistryValue>> Registry::values(Hive hive, const QString &key,
                                                      qsizetype maximumSize) const
 {
-    if (hive == Hive::ClassesRoot) // nobody asks for the values of both at once
+    if (hive == Hive::ClassesRoot) // no caller needs the values of both hives at once
         return std::nullopt;
     const OpenKey openKey(hive, key, KEY_READ);
     if (!openKey)
@@ -298,8 +300,8 @@ QString Registry::errorString() const
     return d->error;
 }
 
-// The system keeps its files open for itself. Wine's server does not, and would write over what was
-// put there.
+// The system locks its files. Wine's server does not, and would overwrite a file that was put
+// there.
 bool isRegistryFile(const QString &path)
 {
     const DWORD attributes = ::GetFileAttributesW(reinterpret_cast<const wchar_t *>(path.utf16()));

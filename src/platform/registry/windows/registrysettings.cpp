@@ -17,9 +17,10 @@ bool fail(QString &error, const QString &reason)
     return false;
 }
 
-// The settings class splits a name at slashes and turns backslashes into them: a slash is written
-// as the one that it turns, and a name with a backslash cannot be written at all. Two names mean
-// the key's default value to it, and texts that begin with "@" something else than themselves.
+// Whether QSettings stores name and text unchanged. QSettings splits a name at slashes and turns a
+// backslash into a slash. So a slash is passed as a backslash, and a name with a backslash cannot
+// be written. "." and "Default" mean the key's default value. A text that begins with "@" has
+// another meaning.
 bool canBeWritten(const QString &name, const QString &text)
 {
     return !name.contains(u'\\') && name != "."_L1
@@ -63,7 +64,7 @@ bool setText(Hive hive, const QString &key, const QString &name, const QString &
     return true;
 }
 
-// Not by the settings class: it would also remove a key of the same name with all below it.
+// QSettings is not used: it would also remove a key of the same name with everything below it.
 bool remove(Hive hive, const QString &key, const QStringList &names, QString &error)
 {
     Registry registry;

@@ -12,8 +12,8 @@ namespace platform {
 
 namespace {
 
-// Where the system tells of the block device that holds the volume; of a partition the folder above
-// is the whole disk, and only that knows whether it can be taken out.
+// The system's folder about the block device of the volume. For a partition it is the folder above,
+// that of the whole disk. Only that folder tells whether the disk is removable.
 QString deviceFolder(const QString &root)
 {
     struct stat status = {};

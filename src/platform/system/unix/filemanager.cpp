@@ -9,7 +9,7 @@ namespace platform {
 
 bool revealFile(const QString &path)
 {
-    // There is no common way to have a file selected, so its folder is opened.
+    // No standard way exists to select a file, so its folder is opened.
     return QProcess::startDetached(u"xdg-open"_s, {QFileInfo(path).absolutePath()});
 }
 

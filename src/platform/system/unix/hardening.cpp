@@ -4,7 +4,7 @@ namespace platform {
 
 void hardenProcess()
 {
-    // The loader takes libraries from the system's folders as it is.
+    // On Linux the loader searches only the system's folders already.
 }
 
 } // namespace platform

@@ -9,8 +9,8 @@ namespace platform {
 
 namespace {
 
-// The first word of the command line, which for a Windows program under Wine is its Windows path.
-// The short name that the kernel keeps is cut off after 15 characters.
+// The first word of the command line. For a Windows program under Wine it is its Windows path. The
+// kernel's own short name is not used, because it ends after 15 characters.
 QString programName(const QString &process)
 {
     QFile commandLine(u"/proc/%1/cmdline"_s.arg(process));

@@ -24,14 +24,14 @@ QString systemFolder()
 
 bool revealFile(const QString &path)
 {
-    // By its full path: a program of that name in the current folder is not the system's.
+    // The full path is used, because the current folder can contain another program of that name.
     const QString folder = systemFolder();
     if (folder.isEmpty())
         return false;
     QProcess explorer;
     explorer.setProgram(folder + "\\explorer.exe"_L1);
-    // Explorer reads its command line itself and takes a comma for the end of a path unless the
-    // path is in quotes, which QProcess would set for blanks alone. A path cannot hold a quote.
+    // Explorer parses its command line itself. A comma ends a path that is not in quotes, and
+    // QProcess adds quotes only for blanks. A path cannot contain a quote.
     explorer.setNativeArguments("/select, \""_L1 + QDir::toNativeSeparators(path) + u'"');
     return explorer.startDetached();
 }

@@ -13,7 +13,7 @@ using platform::DriveKind;
 #ifdef Q_OS_WIN
 namespace {
 
-// Drives of every kind, which no machine that runs the tests has.
+// Fake drives of each kind, because no test machine has all of them.
 UINT WINAPI fakeDriveType(LPCWSTR root)
 {
     const QString path = QString::fromWCharArray(root);
@@ -28,7 +28,7 @@ UINT WINAPI fakeDriveType(LPCWSTR root)
 
 } // namespace
 
-// The entry of the program's table of imports, which the linker takes from here.
+// The linker takes this entry of the program's import table instead of the system's.
 extern "C" {
 extern decltype(&fakeDriveType) const importedDriveType asm("__imp_GetDriveTypeW");
 decltype(&fakeDriveType) const importedDriveType = fakeDriveType;

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Writes down what a walk tells, and checks that what is found and left is nested properly.
+/// Records all calls of a walk. Checks that each folder is left in the reverse order of visiting.
 class Record final : public platform::EntryVisitor
 {
 public:
@@ -30,7 +30,8 @@ public:
         for (const platform::ListedEntry &entry : entries)
             names.append(entry.name);
         names.sort();
-        // What is shown is told right after it was found, before anything in it.
+        // The listing of a shown folder comes right after the folder itself and before its
+        // contents.
         QVERIFY(!isShown || paths.isEmpty()
                 || (!m_open.isEmpty() && paths.constLast() == m_open.constLast()));
         reads.append((isShown ? "shown: "_L1 : "hidden: "_L1) + names.join(u' '));
@@ -62,7 +63,7 @@ public:
         return platform::walkEntries(root, *this, &stop);
     }
 
-    QStringList paths; ///< in the order in which they came
+    QStringList paths; ///< in the order of the calls
     QHash<QString, qint64> sizes;
     QStringList notRead;
     QStringList reads; ///< the names in each folder that was read

@@ -27,6 +27,7 @@ using Status = FileRemover::Status;
 
 namespace {
 
+/// A visitor for walks that only fill ListedFolders.
 class IgnoringVisitor final : public platform::EntryVisitor
 {
 public:
@@ -45,7 +46,7 @@ void recordFolders(const QString &root, platform::ListedFolders &listed)
 #ifdef Q_OS_UNIX
 namespace {
 
-int removalsBeforeAction = -1; ///< below 0 never
+int removalsBeforeAction = -1; ///< negative: the action never runs
 std::function<void()> actionBetweenRemovals;
 
 int filesIn(const QString &folder)
@@ -55,7 +56,7 @@ int filesIn(const QString &folder)
 
 } // namespace
 
-// Every removal comes by here, so that a test can have something happen between two of them.
+// Replaces the system's function, so that a test can run an action between two removals.
 extern "C" int unlinkat(int folder, const char *name, int flags) noexcept
 {
     if (removalsBeforeAction >= 0 && --removalsBeforeAction < 0)
@@ -70,7 +71,7 @@ class TestFileRemove : public QObject
 private Q_SLOTS:
     void init()
     {
-        // The fence: whatever a test removes, nothing out here may change.
+        // The fence: no test may change anything in this tree.
         m_fence = std::make_unique<TestTree>();
         m_fence->file(u"canary"_s, "alive");
         m_fence->file(u"folder/canary"_s, "alive");
@@ -170,7 +171,8 @@ private Q_SLOTS:
         QVERIFY(tree.has(u"away/f"_s));
     }
 
-    // It may have been given the number of the old one: then only the remover itself knows.
+    // The new folder may have the number of the old one. Then only the remover knows that it is
+    // another one.
     void aNewFolderAtThePathOfARemovedOneStays()
     {
         const TestTree tree;
@@ -334,7 +336,7 @@ private Q_SLOTS:
         }));
         attacker->start();
         int removed = 0;
-        // A remover for a few files each, so that the folder is opened often while it is being
+        // Each remover removes a few files, so that the folder is opened often while it is
         // exchanged.
         for (qsizetype i = 0; i < paths.size();) {
             FileRemover remover;
@@ -348,7 +350,7 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    // The folder stays open between two of its files; somebody moves it away meanwhile.
+    // The folder stays open between two of its files. Meanwhile another program moves it.
     void filesOfAMovedFolderAreNotRemoved()
     {
         const TestTree tree;
@@ -452,7 +454,7 @@ private Q_SLOTS:
     void aFolderMovedDuringItsRemovalIsNotEmptied_data()
     {
         QTest::addColumn<QString>("moved");
-        QTest::addColumn<int>("kept"); ///< how much of it at least
+        QTest::addColumn<int>("kept"); ///< the number of folders whose files stay at least
         QTest::newRow("the folder itself") << u"around/listed"_s << 5;
         QTest::newRow("a folder above it") << u"around"_s << 5;
         QTest::newRow("a folder in it") << u"around/listed/sub"_s << 4;
@@ -470,7 +472,7 @@ private Q_SLOTS:
                 tree.file(u"%1/f%2"_s.arg(folder, QString::number(i)));
         }
         tree.file(u"around/precious"_s);
-        // The files of the folder itself come first; then those of its only subfolder.
+        // The files of the folder itself are removed first, then those of its only subfolder.
         const bool isInside = moved.endsWith("sub"_L1);
         removalsBeforeAction = isInside ? filesInFolder + 20 : 20;
         actionBetweenRemovals = [&] { QDir().rename(tree.path(moved), tree.path(u"kept"_s)); };
@@ -629,8 +631,8 @@ private Q_SLOTS:
 
 private:
 #ifdef Q_OS_UNIX
-    // Puts "other", or another file system with the same files, in the place of "listed". False
-    // where that is not allowed.
+    // Replaces "listed" by "other", or by another file system with the same files. False where that
+    // is not allowed.
     static bool exchange(const TestTree &tree, const QString &how)
     {
         const QString folder = tree.path(u"listed"_s);

@@ -26,7 +26,7 @@ using platform::WalkReport;
 
 namespace {
 
-/// Collects the files of a walk that lists folders too.
+/// Collects the files that walkEntries() finds. Folders are ignored.
 class FilesOfEntries final : public platform::EntryVisitor
 {
 public:
@@ -74,7 +74,7 @@ QStringList iterate(const QString &root, const WalkOptions &options)
         struct stat own {
         };
         if (::lstat(QFile::encodeName(info.filePath()).constData(), &own) == 0)
-            size = own.st_size; // of a link its own
+            size = own.st_size; // for a link its own size
 #endif
         found.append(u"%1 %2"_s.arg(QString::number(size), info.absoluteFilePath()));
     }
@@ -157,8 +157,8 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
-    // Windows programs do not see these; the values are those that Wine understands and some that
-    // it does not.
+    // Windows programs do not see the hidden files. Some of the values are valid for Wine, others
+    // are not.
     void entriesThatWineMarksAsHiddenAreNotListed()
     {
         const TestTree tree;
@@ -211,7 +211,7 @@ private Q_SLOTS:
                        "user.DOSATTRIB", "0x2", 3, 0);
             if (folder.startsWith("elsewhere"_L1))
                 expected.append(inside);
-            // A link is what it leads to.
+            // A link has the attributes of its target.
             const QString link = tree.link(tree.path(folder + "/hidden"_L1), folder + "/link"_L1);
             if (folder.startsWith("elsewhere"_L1))
                 expected.append(link);
@@ -404,7 +404,7 @@ private Q_SLOTS:
 
     void manyLevelsWithManyBranchesAreWalked()
     {
-        // Deeper than what is held open, with more to read at every level on the way back.
+        // More levels than a walk holds open. Each level has more folders to read on the way back.
         const TestTree tree;
         makeBranches(tree, 150);
         QCOMPARE(walk(tree.path()).size(), 450);

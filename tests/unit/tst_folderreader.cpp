@@ -53,7 +53,7 @@ private Q_SLOTS:
     {
         const TestTree tree;
         QStringList expected;
-        for (int i = 0; i < 1000; ++i) // of 200 characters: three times the buffer
+        for (int i = 0; i < 1000; ++i) // names of 200 characters fill the buffer three times
             expected.append(
                 QFileInfo(tree.file(u"%1"_s.arg(i, 200, 10, QChar(u'0')), {})).fileName());
         FolderReader reader(nullptr);

@@ -13,6 +13,7 @@ using platform::ListedFolders;
 
 namespace {
 
+/// A visitor for walks that only fill ListedFolders.
 class IgnoringVisitor final : public platform::EntryVisitor
 {
 public:
@@ -41,7 +42,7 @@ private Q_SLOTS:
         QVERIFY(!listed.idOf(u"/a/b"_s).isKnown());
     }
 
-    // Of two rules that look at one path one may have met the old folder, one the new.
+    // If two rules list one path, one may have found the old folder and the other the new one.
     void aPathWithTwoDifferentFoldersMatchesNeither()
     {
         ListedFolders listed;

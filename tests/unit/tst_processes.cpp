@@ -29,7 +29,8 @@ private Q_SLOTS:
 
     void aProgramIsListedWhileItRuns()
     {
-        // A copy of this test under a name that no other program has, longer than the kernel keeps.
+        // A copy of this test with a name that no other program has. The kernel's short name would
+        // cut it off.
         const TestTree tree;
         const QString program = tree.path(u"Some Browser With Long Name.exe"_s);
         QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));

@@ -29,7 +29,8 @@ QByteArray utf16(const QString &text)
 
 } // namespace
 
-/// The registry as the engines ask and change it: the live one under Windows, elsewhere a prefix's.
+/// The registry as the engines read and change it: on Windows the live one, on Linux that of a
+/// prefix.
 class TestRegistry : public QObject
 {
     Q_OBJECT
@@ -254,7 +255,7 @@ private Q_SLOTS:
         QVERIFY(registry.errorString().contains(m_fixture->file(u"HKEY_CURRENT_USER"_s)));
         QVERIFY(m_fixture->hasValue(userKey, u"a"_s));
         QVERIFY(m_fixture->hasValue(userKey, u"b"_s));
-        // The next reading starts anew.
+        // After the failure the files are read again.
         QVERIFY(registry.deleteValue(Hive::CurrentUser, software, u"a"_s));
         QVERIFY(registry.save());
         QVERIFY(!m_fixture->hasValue(userKey, u"a"_s));
@@ -280,7 +281,7 @@ private Q_SLOTS:
     {
         m_fixture->addText(userKey, u"a"_s, u"x"_s);
         m_fixture->write();
-        // A server of Wine works in a folder that bears the prefix's device and file number.
+        // Wine's server works in a folder with the prefix's device and file number in its name.
         struct stat data {
         };
         const QString prefix = m_home.folder(u"prefix"_s);

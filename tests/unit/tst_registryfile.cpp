@@ -26,7 +26,7 @@ QByteArray utf16(const QString &text)
     return {reinterpret_cast<const char *>(text.utf16()), text.size() * 2};
 }
 
-// How many damaged inputs are tried; a longer run is asked for by the environment.
+// The number of damaged inputs. The environment can ask for a longer run.
 int fuzzRounds()
 {
     bool isNumber = false;
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(value->type, type);
         QCOMPARE(value->data, data);
 
-        // What is written is read as the same.
+        // A written value is read as the same value.
         file.setValue(file.find(u"K"_s), {u"copy"_s, type, data});
         const RegistryFile again = parsed(file.text());
         const std::optional<RegistryValue> copy = again.value(again.find(u"K"_s), u"copy"_s);
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QVERIFY(file.removeValue(file.find(u"A"_s), u"V"_s));
         QCOMPARE(file.text(), QByteArray(text).replace("\"v\"=\"1\"\n", ""));
 
-        // A key with two sections is one key; the later value counts.
+        // A key with two sections is one key, and its later value counts.
         RegistryFile twice = parsed(text);
         const RegistryFile::Key key = twice.find(u"B"_s);
         QCOMPARE(twice.value(key, u"v"_s)->data, utf16(u"later\0"_s));
@@ -189,7 +189,7 @@ private Q_SLOTS:
         file.removeTree(file.find(u"a\\b"_s));
         QCOMPARE(file.text(), head + "[A\\\\BB] 1\n[F] 1\n");
         QCOMPARE(file.find(u"A\\B\\C"_s), RegistryFile::none);
-        // It lives on without the one key below that told of it.
+        // A stays, although it has no section of its own and only the removed key implied it.
         file.removeTree(file.find(u"A\\BB"_s));
         const RegistryFile again = parsed(file.text());
         QVERIFY(again.find(u"A"_s) != RegistryFile::none);
@@ -246,7 +246,7 @@ private Q_SLOTS:
         QVERIFY(!RegistryFile::parse(text));
     }
 
-    // A seeded walk through what breaks parsers: cuts, doubled and exchanged bytes.
+    // Random damage from a fixed seed: cuts, and inserted, exchanged and doubled bytes.
     void damagedTextIsParsedWithoutLoss()
     {
         const QByteArray intact = head

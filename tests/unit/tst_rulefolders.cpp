@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// The folders of the Linux build, which come from the environment, a Wine prefix or the desktop.
+/// The folders of the Linux build. They come from the environment, a Wine prefix or the desktop.
 class TestRuleFolders : public QObject
 {
     Q_OBJECT
@@ -274,7 +274,7 @@ private Q_SLOTS:
         QCOMPARE(platform::isProtectedRoot(path), expected);
     }
 
-    // What its owner has put into a place that is kept may be taken; the place itself may not.
+    // The owner's own folder inside a protected tree may be taken. The tree itself may not.
     void aFolderInAProtectedTreeHoldsNoProtectedPlace()
     {
         const QString drive = makePrefix();
@@ -288,7 +288,7 @@ private Q_SLOTS:
         QVERIFY(platform::holdsProtectedPlace(u"/no/such/folder"_s));
     }
 
-    // Outside of the table's reach nothing changes by what is set for the host alone.
+    // Variables of the host alone do not change the folders of the prefix.
     void thePrefixIgnoresTheHostsTemporaryVariables()
     {
         const QString drive = makePrefix();

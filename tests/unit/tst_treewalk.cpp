@@ -23,7 +23,7 @@ using platform::WalkReport;
 
 namespace {
 
-/// Remembers what it meets, as lines that can be compared.
+/// Records all calls of one walker. Each test makes one for each walker.
 class Record final : public platform::TreeVisitor
 {
     Q_DISABLE_COPY_MOVE(Record)
@@ -55,7 +55,7 @@ public:
     std::atomic_bool *stop = nullptr;
 };
 
-/// The paths of all files that are met everywhere below @p root, sorted.
+/// The sorted paths of all files below @p root with Reach::Everywhere.
 QStringList walkEverywhere(const QString &root, int walkers, WalkReport *report = nullptr)
 {
     std::vector<std::unique_ptr<Record>> records;
@@ -81,7 +81,7 @@ void addWalkerCounts()
 }
 
 #ifdef Q_OS_UNIX
-// Each file by its folder's own path: which of several paths leads there is nobody's promise.
+// Each file by its folder's own path, because any of several paths may be used for a folder.
 QStringList byRealFolders(const QStringList &paths)
 {
     QStringList real;
@@ -279,7 +279,7 @@ private Q_SLOTS:
         platform::walkTree(tree.path(), {{}, true, nullptr, platform::Reach::Everywhere},
                            {&record});
         QCOMPARE(record.paths, QStringList{tree.path(u"link"_s)});
-        // What would go is the link, whose content is the path.
+        // The size is that of the link itself, whose content is the path.
         QCOMPARE(record.sizes, QList<qint64>{outside.path(u"target"_s).size()});
     }
 
@@ -364,7 +364,7 @@ private Q_SLOTS:
 
     void manyLevelsWithManyBranchesAreWalked()
     {
-        // Deeper than what is held open, with more to read at every level on the way back.
+        // More levels than a walk holds open. Each level has more folders to read on the way back.
         const TestTree tree;
         makeBranches(tree, 150);
         QCOMPARE(walkEverywhere(tree.path(), 2).size(), 450);

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Names that have tripped such programs before; all of them valid on a Linux disk.
+// Unusual names that programs often handle wrongly. All of them are valid on a Linux disk.
 QString randomName(QRandomGenerator &random)
 {
     static const QStringList stems{

@@ -11,9 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The fakes of the whole test program.
 struct State {
     QHash<QString, quint32> tags; // by lower-case name
-    QString junction; // in the system's form, as below
+    QString junction; // in the extended form, as the target
     QString target;
     std::atomic_bool isJunctionActive = false;
     bool areTagsRefused = false;
@@ -25,7 +26,7 @@ State &state()
     return instance;
 }
 
-// The function of the system itself, which the table of imports no longer leads to.
+// The system's own function, which the import table no longer contains.
 template<typename Function>
 Function original(const char *name)
 {
@@ -40,8 +41,8 @@ QString systemForm(const QString &path)
     return "\\\\?\\"_L1 + QDir::toNativeSeparators(path);
 }
 
-/// Where @p path leads with the junction on its way; the junction itself leads anywhere only if
-/// it is followed.
+/// The target of @p path if the junction is in it. The junction itself is redirected only if @p
+/// follow is set.
 std::wstring redirected(const wchar_t *path, bool follow)
 {
     const QString asked = QString::fromWCharArray(path);
@@ -136,8 +137,7 @@ BOOL WINAPI removeDirectory(LPCWSTR path)
 
 } // namespace
 
-// The entries of the program's table of imports, which the linker takes from here and not from the
-// system's library.
+// The linker takes these entries of the program's import table instead of the system's.
 extern "C" {
 extern decltype(&findFirst) const importedFindFirst asm("__imp_FindFirstFileExW");
 decltype(&findFirst) const importedFindFirst = findFirst;

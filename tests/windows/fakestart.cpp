@@ -28,8 +28,7 @@ BOOL WINAPI createProcess(LPCWSTR program, LPWSTR command, LPSECURITY_ATTRIBUTES
 
 } // namespace
 
-// The entry of the program's table of imports, which the linker takes from here and not from the
-// system's library.
+// The linker takes this entry of the program's import table instead of the system's.
 extern "C" {
 extern decltype(&createProcess) const importedCreateProcess asm("__imp_CreateProcessW");
 decltype(&createProcess) const importedCreateProcess = createProcess;

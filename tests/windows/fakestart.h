@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Keeps programs from being started while it lives, and tells which it would have been. One at a
-/// time; the linker has the whole test program call this instead of the system.
+/// Prevents the start of programs while it exists, and records what would have been started. Only
+/// one may exist at a time. It replaces the system's function in the whole test program.
 class FakeStart final
 {
     Q_DISABLE_COPY_MOVE(FakeStart)
@@ -11,7 +11,7 @@ public:
     FakeStart();
     ~FakeStart();
 
-    // As the system was given them last.
+    // The arguments of the last start.
     [[nodiscard]] QString program() const;
     [[nodiscard]] QString command() const;
 };

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Installs a product with a real installer, switches its start-up entry on and off with both builds of the companion, and sees at
-the next starts of the prefix whether the program runs.
+"""Installs a product with a real installer and switches its start-up entry on and off with both builds of the companion. Checks
+at the next starts of the prefix whether the program runs.
 
 Usage: installed_program.py NATIVE_CLI WINDOWS_CLI PLAYER SCRIPT, with WINEPREFIX set to a prefix that the test may fill.
 """
@@ -19,7 +19,7 @@ name = "Sample Player"
 
 
 def run(command, check=True):
-    """Output goes through a file: a pipe would stay open for as long as the services that a prefix's first program starts."""
+    """The output goes through a file. The first program of a prefix starts services, which would keep a pipe open."""
     with tempfile.TemporaryFile() as output:
         result = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.DEVNULL, check=False)
         output.seek(0)
@@ -30,13 +30,13 @@ def run(command, check=True):
 
 
 def stop():
-    """The native build reads and writes the files, which the server writes when it ends."""
+    """Ends the server, which writes the registry files only then. The native build reads and writes those files."""
     subprocess.run(["wineserver", "-k"], check=False)
     subprocess.run(["wineserver", "-w"], check=True)
 
 
 def boot(timeout=20):
-    """Starts the prefix as a user's session does; how often the program ran by that, after waiting so many seconds for it."""
+    """Starts the prefix as a user's session does. Waits up to timeout seconds for the program and returns how often it ran."""
     before = log.read_text().count("started") if log.exists() else 0
     stop()
     run(["wineboot"])
@@ -90,7 +90,7 @@ def main():
         assert not listed(native)["isStartup"] and not listed(windows)["isStartup"]
         assert boot() == 0, "it was switched off and ran"
 
-    # The uninstaller hands over to a copy of itself, which takes a moment and removes the entry last.
+    # The uninstaller starts a copy of itself. That takes a moment, and the entry is removed last.
     run(["wine", str(drive / "Program Files" / "Sample Player" / "uninstall.exe"), "/S"])
     deadline = time.monotonic() + 60
     while time.monotonic() < deadline and listed(windows):

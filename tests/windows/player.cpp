@@ -1,5 +1,4 @@
-// The program that sample.nsi installs: leaves a line in C:\player.log for each time it was
-// started.
+// The program that sample.nsi installs. Each start adds a line to C:\player.log.
 
 #include <windows.h>
 

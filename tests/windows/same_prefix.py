@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Scans one Wine prefix with the native companion and with the Windows one, and requires the same items, sizes and ticks, and the
+"""Scans one Wine prefix with the native and with the Windows companion. Both must find the same items, sizes and ticks, and the
 same registry entries with the same descriptions.
 
 Usage: same_prefix.py NATIVE_CLI WINDOWS_CLI, with WINEPREFIX set to a prefix that the test may fill.
@@ -17,7 +17,7 @@ drive = pathlib.Path(os.environ["WINEPREFIX"]).resolve() / "drive_c"
 
 
 def output_of(command, environment=None):
-    """Through a file: a pipe would stay open for as long as the services that the first program of a prefix starts."""
+    """The output goes through a file. The first program of a prefix starts services, which would keep a pipe open."""
     with tempfile.TemporaryFile() as output:
         subprocess.run(command, check=True, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.DEVNULL,
                        env=environment)
@@ -26,7 +26,7 @@ def output_of(command, environment=None):
 
 
 def variable(name):
-    """As the prefix's own programs have it."""
+    """The value of a variable for the programs of the prefix."""
     return output_of(["wine", "cmd", "/c", f"echo %{name}%"]).strip()
 
 
@@ -41,7 +41,7 @@ temporary = variable("TEMP")
 
 
 def fill():
-    """Files where the rules look, odd names and places among them. Returns how many of each category are to be found."""
+    """Makes files for the rules, some with odd names and places. Returns the least number of items of each category."""
     def write(path, size):
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_bytes(b"x" * size)
@@ -57,7 +57,7 @@ def fill():
     (temp / "empty").mkdir(parents=True)
     (temp / "link").symlink_to("/etc")
     write(temp / ".hidden.tmp", 9)
-    # Hidden and system files and folders, which the server keeps in an attribute; one was shown again.
+    # Hidden and system files and folders. The server stores that in an attribute. One file is no longer hidden.
     for name, value in (("hidden.tmp", b"0x2"), ("system.tmp", b"0x4"), ("shown again.tmp", b"0x0")):
         write(temp / "marked" / name, 50)
         os.setxattr(temp / "marked" / name, "user.DOSATTRIB", value)
@@ -82,7 +82,7 @@ def fill():
 
 
 def fill_browsers():
-    """Profiles of a browser of each family. Returns the least number of items of some categories."""
+    """Makes profiles of a browser of each family. Returns the least number of items of some categories."""
     def write(path, size):
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_bytes(b"x" * size)
@@ -112,7 +112,7 @@ def fill_browsers():
 
 
 def fill_registry():
-    """Entries of every kind that the checks look at, whole and dead ones. Returns how many dead ones of each category."""
+    """Makes valid and invalid entries of each kind that is checked. Returns the number of invalid ones of each category."""
     present = "C:\\windows\\system32\\kernel32.dll"
     missing = "C:\\Nowhere\\Sweepwise %s.exe"
     current = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion"
@@ -135,7 +135,7 @@ def fill_registry():
                     (machine + current + "\\SharedDLLs", path, "1"),
                     (user + mui, path + ".FriendlyAppName", "x")]
 
-    # Found where the system looks for programs; the last one nowhere.
+    # The system finds all of these commands but the last.
     entries += [(user + current + "\\Run", command, command) for command in ("notepad", "wmic.exe /x", "C:\\windows\\notepad",
                                                                             "sweepwise none -x")]
 
@@ -161,20 +161,20 @@ def set_text(key, name, text):
 
 
 def set_temporary_folder(path):
-    """For the programs of the prefix, in its registry, which is on the disk then."""
+    """Sets the temporary folder in the registry of the prefix, and waits until that is on the disk."""
     for name in ("TMP", "TEMP"):
         set_text("HKCU\\Environment", name, path)
     stop_server()
 
 
 def stop_server():
-    """What the native build reads is the files, which the server writes when it ends."""
+    """Ends the server, which writes the registry files only then. The native build reads those files."""
     subprocess.run(["wineserver", "-k"], check=False)
     subprocess.run(["wineserver", "-w"], check=True)
 
 
 def start_server():
-    """The first Windows program of a server starts services that keep its output open."""
+    """Starts the services of the prefix first, because they keep the output of the program that starts them open."""
     subprocess.run(["wine", "cmd", "/c", "exit"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                    stderr=subprocess.DEVNULL, check=False)
 
@@ -190,14 +190,14 @@ def items(result, translate):
 
 
 def entries(result):
-    """With their order, which decides what of a long list is looked at."""
+    """The entries with their order. The order decides which part of a long list is checked."""
     return collections.Counter((category["id"], place, item["name"], item["path"], item["description"], item["registryRoot"],
                                 item["registryKey"])
                                for category in result["categories"] for place, item in enumerate(category["items"]))
 
 
 def compare(what, native, windows_items, expected):
-    """Whether both are the same and have at least what was to be found."""
+    """Whether both are the same and contain at least the expected items."""
     for title, left, right in (("only native", native, windows_items), ("only Windows", windows_items, native)):
         for item in sorted((left - right).elements()):
             print(f"{title}: {item}")
@@ -237,14 +237,14 @@ def main():
         windows_items = items(scan(["wine", windows_cli], "junk", plain), local_path)
         return compare(what, native, windows_items, expected), native
 
-    # The temporary folder named in other case than the disk has it.
+    # The name of the temporary folder has another case than on the disk.
     set_temporary_folder(temporary[:3] + temporary[3:].swapcase())
     is_same, again = compare_junk("junk, temporary folder in other case", expected)
     if again != native:
         print("the case of the temporary folder's name makes a difference")
     same = is_same and again == native and same
 
-    # The temporary folder is a whole drive: nothing of it is listed, by either.
+    # The temporary folder is a whole drive: neither build lists anything of it.
     with tempfile.TemporaryDirectory() as disk:
         letter = drive.parent / "dosdevices" / "d:"
         letter.symlink_to(disk)
@@ -258,7 +258,7 @@ def main():
             print(f"would be deleted: {listed}")
         same = is_same and not listed and same
 
-        # It is where the user keeps documents by now.
+        # The temporary folder is the folder of the user's documents.
         documents = pathlib.Path(disk).resolve() / "Papers"
         documents.mkdir()
         (documents / "thesis.odt").write_bytes(b"x")

@@ -24,7 +24,7 @@ constexpr auto matchInThreads = "--match-in-threads"_L1;
 Words atDestruction;
 QSemaphore destructions;
 
-/// Tells what its memory held when its thread ended.
+/// Records the contents of its memory when its thread ends.
 class Witness final
 {
     Q_DISABLE_COPY_MOVE(Witness)
@@ -63,7 +63,7 @@ void matchSomething()
         static_cast<void>(letters.match(QString::number(i)));
 }
 
-// What the child process does.
+// The work of the child process.
 int matchInManyThreads()
 {
     std::vector<std::unique_ptr<QThread>> threads;
@@ -76,8 +76,8 @@ int matchInManyThreads()
 
 } // namespace
 
-/// The thread_local objects of a thread are destroyed while they have their memory. When they are
-/// not, QRegularExpression leaves a program unable to end.
+/// The thread_local objects of a thread must be destroyed before their memory is freed. Otherwise a
+/// program that used QRegularExpression in a thread cannot end.
 class TestThreadLocals final : public QObject
 {
     Q_OBJECT
@@ -99,7 +99,7 @@ void TestThreadLocals::anObjectIsWholeWhenItIsDestroyed()
     QFETCH(const std::function<void(const std::function<void()> &)>, run);
     for (int i = 0; i < 20; ++i) {
         run([] { witness.write(); });
-        // A thread of Qt counts as finished a little before it has ended.
+        // A QThread counts as finished shortly before it has ended.
         QVERIFY(destructions.tryAcquire(1, timeoutMs));
         QCOMPARE(atDestruction, written);
     }

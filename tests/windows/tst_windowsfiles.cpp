@@ -34,7 +34,7 @@ QString message(DWORD error)
     return qt_error_string(int(error));
 }
 
-/// A file that nobody else may open while this lives.
+/// Keeps a file open so that no other program can open it.
 class HeldFile final
 {
     Q_DISABLE_COPY_MOVE(HeldFile)
@@ -52,7 +52,7 @@ private:
     const HANDLE m_handle;
 };
 
-/// Runs the junk engine with one rule, which takes all files of @p folder, and cleans.
+/// Scans and cleans with one rule that takes all files of @p folder.
 void cleanWithEngine(JunkCleaner &engine, const QString &folder)
 {
     const TestTree rules;
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(walk(tree.path()),
                  listed ? (QStringList{u"file"_s, u"other"_s}) : QStringList{u"other"_s});
         QVERIFY(QFile::remove(tree.path(u"other"_s)));
-        // Removing a folder takes it whole, whatever is in it.
+        // Removing a folder also removes hidden and system entries in it.
         QCOMPARE(remove(tree.path()).status, Status::Removed);
     }
 
@@ -249,7 +249,7 @@ private Q_SLOTS:
         setAttributes(tree.file(u"folder/file"_s), FILE_ATTRIBUTE_READONLY);
         setAttributes(tree.file(u"folder/sub/hidden"_s),
                       FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
-        if (!isWine()) // whose folders are never read-only
+        if (!isWine()) // under Wine folders are never read-only
             setAttributes(tree.path(u"folder/sub"_s),
                           FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY);
         const FileRemover::Outcome outcome = remove(tree.path(u"folder"_s));
@@ -276,7 +276,7 @@ private Q_SLOTS:
         QVERIFY(!tree.has(u"folder/plain"_s));
         setAttributes(outside, FILE_ATTRIBUTE_NORMAL);
 
-        // Without the attribute the name goes, and the file keeps its other one.
+        // Without the attribute the name is removed, and the file keeps its other name.
         QCOMPARE(remove(tree.path(u"folder"_s)).status, Status::Removed);
         QCOMPARE(content(outside), QByteArray("content"));
     }
@@ -312,7 +312,7 @@ private Q_SLOTS:
         QCOMPARE(walk(tree.path()), (QStringList{u"NAME"_s, u"name"_s}));
         QCOMPARE(remove(tree.path(u"NAME"_s)).status, Status::Removed);
         QCOMPARE(walk(tree.path()), QStringList{u"name"_s});
-        // A rule that lists the same file once more must not take the other one for it.
+        // A second rule that lists the same file must not remove the other one.
         QCOMPARE(remove(tree.path(u"NAME"_s)).status, Status::NotFound);
         QCOMPARE(content(tree.path(u"name"_s)), QByteArray("lower"));
     }
@@ -358,8 +358,8 @@ private Q_SLOTS:
         makeFile(oddPath + "/file"_L1, "odd");
         makeFile(oddPath + "/second"_L1, "odd");
         QCOMPARE(walk(oddPath), (QStringList{u"file"_s, u"second"_s}));
-        // Of what is in a folder with a dot at its end Wine says that it were in the neighbour, so
-        // that it has to stay.
+        // Wine reports the contents of a folder with a dot at its end as the neighbour's. Then they
+        // are not removed.
         const bool isKept = isWine() && ending == "."_L1;
         QCOMPARE(remove(oddPath + "/file"_L1).status, isKept ? Status::Failed : Status::Removed);
         QCOMPARE(content(victim), QByteArray("precious"));

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int timeoutMs = 120'000;
 
-/// The paths that a scan finds, sorted.
+/// The sorted paths that a scan finds.
 QStringList scan(LargeFileScanner &scanner, const QString &drive, qint64 minSize = 0)
 {
     const SignalSpy finished(&scanner, &LargeFileScanner::scanFinished);

@@ -65,8 +65,8 @@ private Q_SLOTS:
         QCOMPARE(platform::inspect(tree.path(u"folder/tagged"_s)).kind, kind);
         QCOMPARE(walk(tree.path()),
                  entered ? QStringList{u"folder/tagged/sub/file"_s} : QStringList());
-        // What is behind a link is not the folder's to lose. Here the link cannot go either, being
-        // in truth a folder that is not empty.
+        // The target of a link stays when the link's folder is removed. The fake link cannot be
+        // removed here, because it is a folder that is not empty.
         QCOMPARE(remove(tree.path(u"folder"_s)).status, entered ? Status::Removed : Status::Failed);
         fakelinks::clear();
         QCOMPARE(tree.has(u"folder/tagged/sub/file"_s), !entered);
@@ -243,7 +243,7 @@ private Q_SLOTS:
 
         QCOMPARE(walk(outside.path()).size(), fileCount);
         QCOMPARE(walk(parent).size(), refused);
-        // Otherwise nothing was exchanged in time and the test shows nothing.
+        // Otherwise the exchange was too slow and the test shows nothing.
         QVERIFY2(removed > fileCount / 20 && refused > fileCount / 20,
                  qPrintable(u"removed %1, refused %2"_s.arg(removed).arg(refused)));
     }
@@ -266,7 +266,7 @@ private Q_SLOTS:
         QCOMPARE(remove(link + "/sub"_L1).status, Status::Failed);
         QCOMPARE(outside.snapshot(), before);
 
-        // Wine opens what such a link leads to, however it is asked: there the link has to stay.
+        // Wine always opens the target of such a link, so the link has to stay.
         const Status expected = isWine() ? Status::Failed : Status::Removed;
         QCOMPARE(remove(tree.path(u"folder"_s)).status, expected);
         QCOMPARE(remove(link).status, isWine() ? Status::Failed : Status::NotFound);

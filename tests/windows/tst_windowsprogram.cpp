@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The resources of a program that is read and not run.
+/// The resources of a program file. The program is loaded as data and does not run.
 class ProgramFile final
 {
     Q_DISABLE_COPY_MOVE(ProgramFile)
@@ -277,7 +277,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         const TestTree tree;
-        // A program of that name where the program happens to stand must not be the one.
+        // A program of that name in the current folder must not be started.
         tree.file(u"explorer.exe"_s);
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(tree.path()));
@@ -308,7 +308,7 @@ private Q_SLOTS:
 
         platform::hardenProcess();
         QVERIFY(!::LoadLibraryW(name.toStdWString().c_str()));
-        // The system's own are found as before.
+        // Libraries of the system are still found.
         const HMODULE system = ::LoadLibraryW(L"wininet.dll");
         QVERIFY(system);
         ::FreeLibrary(system);
@@ -354,8 +354,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, path);
         const ProgramFile program(path);
-        // A directory of six bytes of head and fourteen for each image: width, height, two bytes,
-        // planes, bits a pixel, length in bytes and number.
+        // The directory has a header of 6 bytes and 14 bytes for each image: width, height, two
+        // bytes, planes, bits per pixel, length in bytes and number.
         const QByteArray directory = program.resource(1, RT_GROUP_ICON);
         QVERIFY(directory.size() > 6);
         QList<int> sizes;

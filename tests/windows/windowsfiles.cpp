@@ -16,7 +16,7 @@ namespace {
 
 using ToUnixName = char *(CDECL *)(const wchar_t *);
 
-// Wine's own; Windows has none.
+// Wine's own function; null on Windows.
 ToUnixName toUnixName()
 {
     const FARPROC found =
@@ -29,7 +29,7 @@ std::wstring extendedForm(const QString &path)
     return ("\\\\?\\"_L1 + QDir::toNativeSeparators(path)).toStdWString();
 }
 
-// What a path is called below Wine.
+// The Unix path of a file.
 QString pathBelowWine(const QString &path)
 {
     char *const name = toUnixName()(extendedForm(path).c_str());
@@ -43,7 +43,8 @@ bool exists(const QString &path)
     return ::GetFileAttributesW(extendedForm(path).c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-// Judged by what comes of it: Wine knows neither the end nor the exit code of a program below it.
+// Starts a program and waits for its result, because Wine reports neither the end nor the exit code
+// of a Unix program.
 void runUntil(const std::function<bool()> &isDone, const QString &program,
               const QStringList &arguments, int timeoutMs = 10'000)
 {
@@ -68,7 +69,7 @@ void windowsfiles::setAttributes(const QString &path, quint32 attributes)
 
 quint32 windowsfiles::attributes(const QString &path)
 {
-    // Neither bit tells the entries apart that the tests make.
+    // These two bits do not matter to the tests.
     constexpr DWORD ignored = FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
     const DWORD found = ::GetFileAttributesW(extendedForm(path).c_str());
     if (found == INVALID_FILE_ATTRIBUTES)
@@ -153,7 +154,7 @@ void windowsfiles::makeManyFiles(const QString &folder, int count)
             makeFile(folder + u"/f%1"_s.arg(i));
         return;
     }
-    // One file for each line of a list.
+    // split writes one file for each line of the list.
     const QString list = folder + ".list"_L1;
     makeFile(list, QByteArray(count, '\n'));
     const QString last =

@@ -109,8 +109,7 @@ class TestDashboardPage : public QObject
     Q_OBJECT
 public:
     explicit TestDashboardPage(const TestHome &home)
-        : m_home(home)
-        , m_fixture(home)
+        : m_fixture(home)
     {
     }
 
@@ -510,7 +509,6 @@ private Q_SLOTS:
     }
 
 private:
-    const TestHome &m_home;
     RegistryFixture m_fixture;
     TestTree m_tree;
     QString m_profiles;

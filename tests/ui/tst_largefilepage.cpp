@@ -389,7 +389,6 @@ private Q_SLOTS:
         const TestTree tree;
         for (int i = 0; i < 500; ++i)
             tree.file(u"f%1"_s.arg(i));
-        QStringList everything;
         LargeFilePage page({drive(tree.path())});
         show(page);
         page.findChild<DriveCard *>()->checkBox()->setChecked(true);

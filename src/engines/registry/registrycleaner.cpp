@@ -46,24 +46,30 @@ RegistryCleaner::RegistryCleaner(QObject *parent)
     : CleanEngine(parent)
 {
     const auto add = [this](Check check, const QString &id, const QString &name,
-                            const QString &description, int level, bool checked = true) {
-        m_categories.append({check, id, name, description, {}, {}, level, checked});
+                            const QString &description, const char *progressText, int level,
+                            bool checked = true) {
+        m_categories.append({check, id, name, description, {}, {}, progressText, level, checked});
     };
     add(&RegistryChecks::findSoftware, u"invalid_software"_s, tr("Invalid Software Paths"),
-        tr("Registry entries pointing to non-existent locations"), LowRisk);
+        tr("Registry entries pointing to non-existent locations"),
+        QT_TR_NOOP("Scanning invalid software paths..."), LowRisk);
     add(&RegistryChecks::findFileAssociations, u"invalid_file_assoc"_s,
         tr("Invalid File Associations"), tr("File associations pointing to missing programs"),
-        LowRisk);
+        QT_TR_NOOP("Scanning invalid file associations..."), LowRisk);
     add(&RegistryChecks::findCom, u"invalid_com"_s, tr("Invalid COM/ActiveX"),
-        tr("Invalid COM components and ActiveX controls"), MediumRisk);
+        tr("Invalid COM components and ActiveX controls"),
+        QT_TR_NOOP("Scanning invalid COM components..."), MediumRisk);
     add(&RegistryChecks::findFonts, u"invalid_fonts"_s, tr("Invalid Font References"),
-        tr("Registry entries pointing to non-existent font files"), LowRisk);
+        tr("Registry entries pointing to non-existent font files"),
+        QT_TR_NOOP("Scanning invalid font references..."), LowRisk);
     add(&RegistryChecks::findStartup, u"invalid_startup"_s, tr("Invalid Startup Items"),
-        tr("Startup items pointing to non-existent programs"), MediumRisk);
+        tr("Startup items pointing to non-existent programs"),
+        QT_TR_NOOP("Scanning invalid startup items..."), MediumRisk);
     add(&RegistryChecks::findSharedDlls, u"invalid_shared_dll"_s, tr("Invalid Shared DLLs"),
-        tr("References to non-existent shared DLL files"), MediumRisk, false);
+        tr("References to non-existent shared DLL files"),
+        QT_TR_NOOP("Scanning invalid shared DLLs..."), MediumRisk, false);
     add(&RegistryChecks::findMuiCache, u"mui_cache"_s, tr("MUI Cache"),
-        tr("Application MUI cache data"), LowRisk);
+        tr("Application MUI cache data"), QT_TR_NOOP("Scanning MUI cache..."), LowRisk);
 }
 
 RegistryCleaner::~RegistryCleaner()
@@ -87,20 +93,11 @@ bool RegistryCleaner::pathExists(const QString &text)
 void RegistryCleaner::doScan()
 {
     Logger::instance().info(u"Starting registry scan..."_s);
-    const QStringList texts{
-        tr("Scanning invalid software paths..."),
-        tr("Scanning invalid file associations..."),
-        tr("Scanning invalid COM components..."),
-        tr("Scanning invalid font references..."),
-        tr("Scanning invalid startup items..."),
-        tr("Scanning invalid shared DLLs..."),
-        tr("Scanning MUI cache..."),
-    };
     const Registry registry;
     RegistryChecks checks(registry, stopFlag());
     const int count = static_cast<int>(m_categories.size());
     for (int i = 0; i < count; ++i) {
-        Q_EMIT scanProgress(i + 1, count, texts.at(i));
+        Q_EMIT scanProgress(i + 1, count, tr(m_categories.at(i).progressText));
         if (!isStopRequested())
             runCheck(m_categories.at(i), checks);
     }

@@ -51,6 +51,7 @@ private:
         QString description;
         QString icon;
         QString details;
+        const char *progressText = nullptr; ///< the source of its translation
         int level = LowRisk;
         bool checked = true;
     };

@@ -5,7 +5,6 @@
 #include "categorywidget.h"
 #include "options.h"
 #include "parts.h"
-#include "progressdialog.h"
 #include "svglabel.h"
 #include "theme.h"
 
@@ -262,7 +261,7 @@ void BasePage::onStateChanged(CleanEngine::State state)
         Q_EMIT cleanFinished();
 }
 
-ProgressDialog *BasePage::openProgressDialog(int mode)
+ProgressDialog *BasePage::openProgressDialog(ProgressDialog::Mode mode)
 {
     m_focus.keep(this, [this, mode] {
         m_scanButton->setEnabled(false);
@@ -270,7 +269,7 @@ ProgressDialog *BasePage::openProgressDialog(int mode)
         setLocked(mode == ProgressDialog::Cleaning);
     });
     closeProgressDialog();
-    m_progressDialog = new ProgressDialog(static_cast<ProgressDialog::Mode>(mode), this);
+    m_progressDialog = new ProgressDialog(mode, this);
     connect(m_progressDialog, &ProgressDialog::cancelRequested, this, &BasePage::cancelOperation);
     m_progressDialog->showWith(this);
     return m_progressDialog;

@@ -2,6 +2,7 @@
 
 #include "cleanengine.h"
 #include "focuskeeper.h"
+#include "progressdialog.h"
 #include "scanresult.h"
 
 #include <QList>
@@ -10,7 +11,6 @@
 
 #include <memory>
 
-class ProgressDialog;
 class ResultWidget;
 class QLabel;
 class QPushButton;
@@ -92,7 +92,7 @@ protected:
     /// still allows it.
     void runClean();
     /// Replaces any earlier progress dialog by one for a new run, and locks the buttons.
-    ProgressDialog *openProgressDialog(int mode);
+    ProgressDialog *openProgressDialog(ProgressDialog::Mode mode);
     [[nodiscard]] bool isEngineBusy() const;
 
 private:

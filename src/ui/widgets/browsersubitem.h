@@ -42,12 +42,12 @@ public:
 public Q_SLOTS:
     /// Opens the dialog that lists all items.
     void showDetails();
-    [[nodiscard]] bool isGuarded(const CleanItem &item) const;
 
 Q_SIGNALS:
     void checkChanged();
 
 private:
+    [[nodiscard]] bool isGuarded(const CleanItem &item) const;
     void onStateChanged(int state);
     void showCheckState();
 

@@ -92,15 +92,7 @@ void BasePage::setupHeader()
 
 void BasePage::setupContent()
 {
-    m_scrollArea = new QScrollArea(this);
-    m_scrollArea->setObjectName("contentScrollArea"_L1);
-    m_scrollArea->setWidgetResizable(true);
-    m_scrollArea->setFrameShape(QFrame::NoFrame);
-    // The content takes the focus, and the area scrolls to it.
-    m_scrollArea->setFocusPolicy(Qt::NoFocus);
-    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scrollArea->setStyleSheet(theme::transparentScrollArea());
-    m_scrollArea->viewport()->setAutoFillBackground(false);
+    m_scrollArea = parts::verticalScrollArea(u"contentScrollArea"_s, this);
 
     auto *list = new QWidget(m_scrollArea);
     list->setObjectName("categoryList"_L1);

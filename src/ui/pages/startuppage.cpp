@@ -47,15 +47,7 @@ StartupPage::StartupPage(QWidget *parent)
     layout->addLayout(buildTools());
     layout->addWidget(buildLoadingPanel());
 
-    m_scrollArea = new QScrollArea(this);
-    m_scrollArea->setObjectName("startupScrollArea"_L1);
-    m_scrollArea->setWidgetResizable(true);
-    m_scrollArea->setFrameShape(QFrame::NoFrame);
-    // The cards take the focus, and the area scrolls to them.
-    m_scrollArea->setFocusPolicy(Qt::NoFocus);
-    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scrollArea->setStyleSheet(theme::transparentScrollArea());
-    m_scrollArea->viewport()->setAutoFillBackground(false);
+    m_scrollArea = parts::verticalScrollArea(u"startupScrollArea"_s, this);
     auto *cards = new QWidget(m_scrollArea);
     m_list = new QVBoxLayout(cards);
     m_list->setContentsMargins(0, 0, 16, 0);

@@ -1,7 +1,10 @@
 #include "parts.h"
 
+#include "theme.h"
+
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 
 namespace parts {
 
@@ -40,6 +43,19 @@ QPushButton *tabButton(const QString &name, const QString &text, const QString &
     QPushButton *made = button(name, text, style, parent);
     made->setFocusPolicy(Qt::TabFocus);
     return made;
+}
+
+QScrollArea *verticalScrollArea(const QString &name, QWidget *parent)
+{
+    auto *area = new QScrollArea(parent);
+    area->setObjectName(name);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setStyleSheet(theme::transparentScrollArea());
+    area->viewport()->setAutoFillBackground(false);
+    return area;
 }
 
 } // namespace parts

@@ -22,6 +22,7 @@ public:
     std::atomic_bool hold = false; ///< while set, a run does not end unless it is cancelled
     std::atomic_bool canCancel = true; ///< if not set, a held run ignores a cancel
     std::atomic_int progress = 1; ///< steps of 4 that a scan reports before it is held
+    std::atomic_bool failsCleans = false; ///< while set, a clean ends with an error
     std::atomic_int scans = 0;
     std::atomic_int cleans = 0;
 
@@ -40,6 +41,11 @@ protected:
     void doClean() override
     {
         ++cleans;
+        if (failsCleans) {
+            endClean(State::Error);
+            fail(QStringLiteral("broken"));
+            return;
+        }
         qint64 size = 0;
         int count = 0;
         const int total = selection().checkedCount();

@@ -362,6 +362,24 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(categories(page).isEmpty(), patience);
     }
 
+    void afterAFailedCleanTheSameListCanBeCleaned()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        showAndScan(page, engine);
+        engine.failsCleans = true;
+        click(page, u"cleanBtn"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(dialog(page)->isFinished(), patience);
+        QVERIFY(button(page, u"cleanBtn"_s)->isEnabled());
+        engine.failsCleans = false;
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        click(page, u"cleanBtn"_s);
+        QVERIFY(cleaned.wait(patience));
+        QCOMPARE(engine.cleans.load(), 2);
+        QVERIFY(categories(page).isEmpty());
+    }
+
     void theDialogIsShownOnlyWithItsPage()
     {
         ScriptedEngine engine;

@@ -421,6 +421,7 @@ void BasePage::onEngineError(QString error)
 {
     if (m_progressDialog)
         m_progressDialog->showResult(false, error);
+    m_isCleanPending = false;
     setLocked(false);
     m_scanButton->setEnabled(true);
     m_cleanButton->setEnabled(isResultShown());

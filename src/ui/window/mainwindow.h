@@ -59,7 +59,8 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
-    /// Whether the tray icon is visible. Without it, the user could not bring a hidden window back.
+    /// Whether the tray icon is visible and the desktop has a tray. Without them, the user could
+    /// not bring a hidden window back.
     [[nodiscard]] virtual bool isTrayShown() const;
     virtual void showTrayMessage(const QString &title, const QString &text, int milliseconds);
 

@@ -24,7 +24,6 @@
 #include "svgicon.h"
 #include "theme.h"
 #include "titlebar.h"
-#include <QSettings>
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -37,6 +36,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QSettings>
 #include <QStackedWidget>
 #include <QTranslator>
 #include <QVBoxLayout>

@@ -8,6 +8,13 @@
 // of one with a destructor creates the key of the destructors. So the destructors would find freed
 // memory.
 //
+// This program shows it. It prints another number than 4 without this file:
+//
+//   struct Value { long long number[4] = {1, 2, 3, 4};
+//                  ~Value() { std::printf("%llx\n", number[3]); } };
+//   thread_local Value value;
+//   int main() { std::thread([] { value.number[0] = 2; }).join(); }
+//
 // QRegularExpression has such a variable in each thread that matches. Its destructor then calls
 // through a wild pointer, and the system hides the fault. The thread ends without releasing the
 // lock on the keys, and exit() waits for that lock for ever.

@@ -123,7 +123,7 @@ protected:
         qint64 freed = 0; ///< bytes
         int cleaned = 0;
         int failed = 0;
-        bool isStopped = false; ///< the clean ended before its last item
+        bool isStopped = false; ///< a stop may have kept something from being removed
     };
     using RemoveItem = std::function<Removal(const CleanItem &)>;
     using EnterCategory = std::function<void(const CleanCategory &)>;

@@ -91,8 +91,8 @@ QStringList checkButton(const QAbstractButton *button, QStyle::SubElement conten
     QSize needed = textSize(button, button->text());
     if (!button->icon().isNull())
         needed.rwidth() += button->iconSize().width() + 4;
-    needed.setHeight(
-        button->fontMetrics().height()); // emoji are higher than the line, which does not matter
+    // Emoji are higher than the line, which does not matter.
+    needed.setHeight(button->fontMetrics().height());
     if (fits(needed, given))
         return {};
     return {describe(button, button->text(), sizeText(needed, given))};

@@ -91,8 +91,8 @@ public:
             QWheelEvent event(position, views.mapToGlobal(position), {},
                               {0, notches > 0 ? -120 : 120}, Qt::NoButton, Qt::NoModifier,
                               Qt::NoScrollPhase, false);
-            QSpontaneKeyEvent::setSpontaneous(
-                &event); // only spontaneous events go on to the parents
+            // Only spontaneous events go on to the parents.
+            QSpontaneKeyEvent::setSpontaneous(&event);
             qApp->notify(views.windowHandle(), &event);
         }
     }

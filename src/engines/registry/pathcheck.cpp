@@ -56,8 +56,8 @@ bool hasUnusualCharacters(const QString &text)
 }
 
 // Whether the path may be another name of a file than the one in a listing. The system also accepts
-// the short form of a long name, and blanks and dots at the end of a name. Only backslashes
-// separate names here, because a slash may begin the arguments of a program.
+// the short form of a long name, and blanks and dots at the end of a name. Blanks and dots are
+// looked for before a backslash only: a slash may begin the arguments of a program.
 bool mayBeAlias(const QString &path)
 {
     static const QRegularExpression shortName(

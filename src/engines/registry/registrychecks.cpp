@@ -40,8 +40,8 @@ bool isProtectedExtension(const QString &extension)
     return extensions.contains(extension);
 }
 
-// The classes of these file types. @p name is in lower case, so "InternetShortcut" never matches.
-// This is kept as it always was.
+// The classes of these file types. @p name is in lower case, so "InternetShortcut" never matches: a
+// shortcut whose program is missing is listed.
 bool isProtectedClass(const QString &name)
 {
     static const QSet<QString> classes{

@@ -31,7 +31,7 @@ constexpr std::array belowWindows{
     RelativePlace{"WinSxS"_L1, Extent::Tree}, // the source for repairs of system files
     RelativePlace{"servicing"_L1, Extent::Tree}, // the files that install updates
     RelativePlace{"assembly"_L1, Extent::Tree}, // libraries that programs share
-    RelativePlace{"Fonts"_L1, Extent::Tree},
+    RelativePlace{"Fonts"_L1, Extent::Tree}, // the fonts of all programs
     RelativePlace{"Installer"_L1, Extent::Itself}, // needed to uninstall programs
     RelativePlace{"SoftwareDistribution"_L1, Extent::Itself}, // the list of installed updates
 };
@@ -39,12 +39,12 @@ constexpr std::array belowWindows{
 constexpr std::array belowDrive{
     RelativePlace{""_L1, Extent::Itself},
     RelativePlace{"Users"_L1, Extent::Children}, // each profile
-    RelativePlace{"Program Files"_L1, Extent::Tree},
-    RelativePlace{"Program Files (x86)"_L1, Extent::Tree},
+    RelativePlace{"Program Files"_L1, Extent::Tree}, // installed programs
+    RelativePlace{"Program Files (x86)"_L1, Extent::Tree}, // the same, 32-bit
     RelativePlace{"ProgramData"_L1, Extent::Itself}, // data of programs for all users
-    RelativePlace{"Boot"_L1, Extent::Tree},
-    RelativePlace{"Recovery"_L1, Extent::Tree},
-    RelativePlace{"System Volume Information"_L1, Extent::Tree},
+    RelativePlace{"Boot"_L1, Extent::Tree}, // needed to start the system
+    RelativePlace{"Recovery"_L1, Extent::Tree}, // needed to repair the system
+    RelativePlace{"System Volume Information"_L1, Extent::Tree}, // restore points
 };
 
 // The temporary folder may be inside one of them, if its owner has chosen that.

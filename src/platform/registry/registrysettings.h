@@ -2,8 +2,8 @@
 
 #include "registry.h"
 
-/// Writes this program's own entries into the registry: single text values, such as those that
-/// start a program with the session.
+/// Writes and removes single text values of the registry: those that start a program with the
+/// session, this program or another one, and the uninstall lists.
 ///
 /// On Windows this is the only place that writes with QSettings, which has several traps. QSettings
 /// creates a key when it is merely opened. It treats slashes as backslashes and gives texts that

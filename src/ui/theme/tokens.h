@@ -7,7 +7,7 @@
 /// and C++ writes theme::name.
 
 /// White has a row for each use, because the uses may get different colours later. The spellings
-/// differ, because tests compare the styles as text.
+/// differ, because the texts of the styles are fixed to the letter.
 #define THEME_COLOURS(COLOUR)                                                                      \
     COLOUR(accent, "#10B981") /* chosen, checked, finished */                                      \
     COLOUR(accentHover, "#059669") /* accent under the mouse; end of gradients */                  \

@@ -218,7 +218,7 @@ void FileCardList::scrollToRow(int row)
 void FileCardList::focusRow(int row, Qt::FocusReason reason)
 {
     scrollToRow(row);
-    // An inactive window sends no focus event.
+    // The focus event sets the row too, but an inactive window sends none.
     m_currentRow = row;
     if (const FileCard *card = cardOf(row))
         card->checkBox()->setFocus(reason);

@@ -95,8 +95,8 @@ void StartupCard::showState(bool isStartup)
     if (m_shownState == isStartup)
         return;
     m_shownState = isStartup;
-    const theme::Colour ground = isStartup ? theme::goodTint : theme::buttonBackground;
-    m_icon->setStyleSheet(m_icon->property("hasRealIcon").toBool() ? theme::pictureBox(ground)
-                                                                   : theme::emojiBox(ground));
+    const theme::Colour background = isStartup ? theme::goodTint : theme::buttonBackground;
+    m_icon->setStyleSheet(m_icon->property("hasRealIcon").toBool() ? theme::pictureBox(background)
+                                                                   : theme::emojiBox(background));
     m_status->setVisible(isStartup);
 }

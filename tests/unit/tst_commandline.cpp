@@ -336,6 +336,14 @@ private:
     {
         if (use.effect.key.isEmpty())
             return nullptr;
+#ifdef Q_OS_WIN
+        // A use that took effect may have left it in the live registry. This removes it again.
+        if (!use.effect.isThere) {
+            RegistryFixture leftover(m_home);
+            leftover.addText(use.effect.key, use.effect.value, u"left over"_s);
+            leftover.write();
+        }
+#endif
         auto fixture = std::make_unique<RegistryFixture>(m_home);
         fixture->addText(deadProgram, {}, u"C:\\Sweepwise Missing\\use.exe"_s);
         fixture->addText(restoredKey, u"here"_s, u"before"_s);

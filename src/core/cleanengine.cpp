@@ -48,6 +48,8 @@ void CleanEngine::startClean()
     m_stopRequested = false;
     m_selection = m_result.checkedOnly();
     m_failures.clear();
+    m_cleanedSize = 0;
+    m_cleanedCount = 0;
     setState(State::Cleaning);
 
     startWorker(std::unique_ptr<QThread>(QThread::create([this] {
@@ -120,6 +122,8 @@ CleanEngine::CleanTotals CleanEngine::cleanSelection(const RemoveItem &remove,
 
 void CleanEngine::reportClean(const CleanTotals &totals)
 {
+    m_cleanedSize = totals.freed;
+    m_cleanedCount = totals.cleaned;
     endClean(totals.isStopped ? State::Cancelled : State::Finished);
     Q_EMIT cleanFinished(totals.freed, totals.cleaned);
 }

@@ -28,7 +28,7 @@ struct CleanFailure {
 ///  - result: the worker while a scan runs, otherwise the GUI thread;
 ///  - selection: the GUI thread sets it before a clean's worker starts; the worker reads and drops
 ///    it;
-///  - failures: the worker while a clean runs, otherwise the GUI thread;
+///  - failures, cleaned size and count: the worker while a clean runs, otherwise the GUI thread;
 ///  - worker, run signals: the GUI thread;
 ///  - worker done: atomic. The worker sets it last. A thread that sees it set also sees everything
 ///    that the run wrote.
@@ -65,6 +65,9 @@ public:
     [[nodiscard]] ScanResult &result() { return m_result; }
     /// What the last clean could not remove. While a clean runs, the list belongs to the worker.
     [[nodiscard]] const QList<CleanFailure> &failures() const { return m_failures; }
+    /// What the last clean removed: bytes and items. Same rule.
+    [[nodiscard]] qint64 cleanedSize() const { return m_cleanedSize; }
+    [[nodiscard]] int cleanedCount() const { return m_cleanedCount; }
     /// Makes an object to connect the engine's signals to. Queued signals of a run are dropped
     /// there when the next run begins or the engine is deleted. GUI thread.
     [[nodiscard]] std::unique_ptr<QObject> makeRunReceiver() const
@@ -148,6 +151,8 @@ private:
     std::unique_ptr<QThread> m_worker;
     ScanResult m_selection;
     QList<CleanFailure> m_failures;
+    qint64 m_cleanedSize = 0;
+    int m_cleanedCount = 0;
     std::atomic_bool m_isWorkerDone = false;
     RunSignals m_runSignals{this};
 };

@@ -46,30 +46,20 @@ protected:
             fail(QStringLiteral("broken"));
             return;
         }
-        qint64 size = 0;
-        int count = 0;
-        const int total = selection().checkedCount();
-        for (const CleanCategory &category : selection().categories) {
-            for (const CleanItem &item : category.items) {
-                wait();
-                if (isStopRequested()) {
-                    endClean(State::Cancelled);
-                    Q_EMIT cleanFinished(size, count);
-                    return;
-                }
-                Q_EMIT cleanProgress(count + 1, total, size);
-                size += item.size;
-                ++count;
-            }
-        }
-        endClean(State::Finished);
-        Q_EMIT cleanFinished(size, count);
+        wait(); // also when the cancel comes before the worker has begun
+        reportClean(cleanSelection([this](const CleanItem &item) -> Removal {
+            wait();
+            if (isStopRequested())
+                return {Removal::NotCounted, 0, {}};
+            return {Removal::Cleaned, item.size, {}};
+        }));
     }
 
 private:
     void wait() const
     {
-        while (hold && !(canCancel && isStopRequested()))
+        // In this order: a test forbids the cancel first and then cancels.
+        while (hold && !(isStopRequested() && canCancel))
             QThread::msleep(1);
     }
 };

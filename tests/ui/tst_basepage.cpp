@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QPointer>
 #include <QProgressBar>
@@ -378,6 +379,31 @@ private Q_SLOTS:
         QVERIFY(cleaned.wait(patience));
         QCOMPARE(engine.cleans.load(), 2);
         QVERIFY(categories(page).isEmpty());
+    }
+
+    void aScanRightAfterACleanStillShowsItsOutcome()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        showAndScan(page, engine);
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        click(page, u"cleanBtn"_s);
+        const QPointer<ProgressDialog> shown = dialog(page);
+        // The clean ends, and its end waits in the event loop.
+        const QDeadlineTimer deadline(patience);
+        while (engine.state() != CleanEngine::State::Finished && !deadline.hasExpired())
+            QThread::msleep(1);
+        engine.stopAndWait();
+        engine.hold = true;
+        engine.startScan(); // as the dashboard does
+        QVERIFY(shown && shown->isFinished());
+        QVERIFY(hasText(*shown, u"Cleaned 3 items, freed 3.0 KB"_s));
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        QCOMPARE(cleaned.size(), 1);
+        engine.hold = false;
+        QTRY_COMPARE_WITH_TIMEOUT(categories(page).size(), 1, patience);
+        QCOMPARE(cleaned.size(), 1);
     }
 
     void theDialogIsShownOnlyWithItsPage()

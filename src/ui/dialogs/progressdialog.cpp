@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
     : FramelessDialog(parent)
+    , m_mode(mode)
 {
     setAttribute(Qt::WA_TranslucentBackground);
     setFixedSize(420, 330);

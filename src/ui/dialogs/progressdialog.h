@@ -30,6 +30,7 @@ public:
     /// Turns the dialog into the result view, which stays open until the user closes it.
     void showResult(bool success, const QString &message);
 
+    [[nodiscard]] Mode mode() const { return m_mode; }
     [[nodiscard]] bool isFinished() const { return m_isFinished; }
 
 public Q_SLOTS:
@@ -42,6 +43,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    Mode m_mode;
     bool m_isFinished = false;
     QString m_cleanedSize;
     QLabel *m_icon;

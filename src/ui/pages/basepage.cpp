@@ -247,10 +247,12 @@ void BasePage::onStateChanged(CleanEngine::State state)
         m_isCleanPending = true;
     if (state != CleanEngine::State::Scanning)
         return;
-    releaseResult();
-    // The scan replaces a cancelled clean, and the end of that clean will not arrive.
-    if (std::exchange(m_isCleanPending, false))
-        Q_EMIT cleanFinished();
+    if (!m_isCleanPending) {
+        releaseResult();
+        return;
+    }
+    // The scan has dropped the end of a clean.
+    onCleanFinished(m_engine->cleanedSize(), m_engine->cleanedCount());
 }
 
 ProgressDialog *BasePage::openProgressDialog(ProgressDialog::Mode mode)
@@ -405,15 +407,20 @@ void BasePage::onCleanProgress(int current, int total, qint64 cleanedSize)
 
 void BasePage::onCleanFinished(qint64 totalCleaned, int itemsCleaned)
 {
-    if (m_progressDialog)
+    // After a clean that was cancelled the dialog may be that of the next scan.
+    const bool isScanOpen =
+        m_progressDialog && m_progressDialog->mode() == ProgressDialog::Scanning;
+    if (m_progressDialog && !isScanOpen)
         m_progressDialog->showResult(
             true,
             tr("Cleaned %1 items, freed %2")
                 .arg(QString::number(itemsCleaned), formatSize(totalCleaned)));
     m_isCleanPending = false;
-    m_scanButton->setEnabled(true);
     releaseResult();
-    m_focus.restore(m_scanButton);
+    if (!isScanOpen) {
+        m_scanButton->setEnabled(true);
+        m_focus.restore(m_scanButton);
+    }
     Q_EMIT cleanFinished();
 }
 

@@ -95,12 +95,12 @@ const Command *findCommand(const QStringList &words)
 ExitStatus refuseCommand(const QStringList &words)
 {
     if (words.isEmpty())
-        return refuse(u"a command is wanted, such as 'scan junk'"_s);
+        return refuse(u"a command is missing, for example 'scan junk'"_s);
     const QStringList nextWords = wordsAfter(words.constFirst());
     if (nextWords.isEmpty())
         return refuse(u"there is no command '%1'"_s.arg(words.constFirst()));
-    return refuse(u"one of these words is wanted after '%1': %2"_s.arg(words.constFirst(),
-                                                                       nextWords.join(", "_L1)));
+    return refuse(
+        u"'%1' needs one of these words: %2"_s.arg(words.constFirst(), nextWords.join(", "_L1)));
 }
 
 ExitStatus runCommand(const QCommandLineParser &parser)
@@ -121,7 +121,7 @@ ExitStatus runCommand(const QCommandLineParser &parser)
     const QStringList arguments = words.sliced(wordsOf(*command).size());
     if (arguments.size() < command->arguments.minimum
         || arguments.size() > command->arguments.maximum)
-        return refuse(u"what is wanted is '%1'"_s.arg(command->help.form));
+        return refuse(u"the command is used as '%1'"_s.arg(command->help.form));
     return command->run({arguments, givenOptions});
 }
 

@@ -52,7 +52,7 @@ ExitStatus scan(const Target &target, const Invocation &invocation)
 ExitStatus clean(const Target &target, const Invocation &invocation)
 {
     if (!invocation.has(Option::Yes))
-        return refuse(u"cleaning deletes for good: say so with --yes"_s);
+        return refuse(u"cleaning deletes for good; add --yes to allow it"_s);
     const QStringList chosenIds = invocation.values(Option::Category);
     for (const QString &id : chosenIds) {
         if (!target.categories.contains(id))

@@ -198,11 +198,11 @@ private Q_SLOTS:
         QCOMPARE(theme::fill(style), filled);
     }
 
-    void valuesAreTakenByTheirNames()
+    void holesAreFilledByName()
     {
         const theme::Filled result =
-            theme::fillHoles(u"#{name} { a: {size}px {ink}; } #{name}:hover { b: {text}; }",
-                             {{"ink", theme::danger}, {"size", 7}, {"name", u"{card}"_s}});
+            theme::fillHoles(u"#{name} { a: {size}px {colour}; } #{name}:hover { b: {text}; }",
+                             {{"colour", theme::danger}, {"size", 7}, {"name", u"{card}"_s}});
         QCOMPARE(result.faults, QStringList());
         QCOMPARE(result.text, u"#{card} { a: 7px #EF4444; } #{card}:hover { b: #111827; }"_s);
     }
@@ -350,10 +350,10 @@ private Q_SLOTS:
     // The pairs of text and background colours that this project chose itself.
     void textIsReadable_data()
     {
-        QTest::addColumn<QColor>("ink");
-        QTest::addColumn<QColor>("ground");
-        const auto add = [](const char *name, theme::Colour ink, theme::Colour ground) {
-            QTest::newRow(name) << theme::color(ink) << theme::color(ground);
+        QTest::addColumn<QColor>("foreground");
+        QTest::addColumn<QColor>("background");
+        const auto add = [](const char *name, theme::Colour foreground, theme::Colour background) {
+            QTest::newRow(name) << theme::color(foreground) << theme::color(background);
         };
         add("text", theme::text, theme::pageBackground);
         add("quiet text on a page", theme::muted, theme::pageBackground);
@@ -373,9 +373,9 @@ private Q_SLOTS:
 
     void textIsReadable()
     {
-        QFETCH(QColor, ink);
-        QFETCH(QColor, ground);
-        const double ratio = contrast(ink, ground);
+        QFETCH(QColor, foreground);
+        QFETCH(QColor, background);
+        const double ratio = contrast(foreground, background);
         QVERIFY2(ratio >= 4.5, qPrintable(QString::number(ratio)));
     }
 };

@@ -63,7 +63,7 @@ private Q_SLOTS:
         reader.begin(folder.get());
         while (const dirent64 *entry = reader.next()) {
             names.append(QFile::decodeName(entry->d_name));
-            buffers += reader.isBufferRead() ? 1 : 0;
+            buffers += reader.isBufferConsumed() ? 1 : 0;
         }
         names.sort();
         QCOMPARE(names, expected);

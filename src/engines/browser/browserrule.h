@@ -12,7 +12,7 @@ struct BrowserRule {
     QString description;
     QString subPath; ///< folder below a Chromium profile; empty for the profile itself
     QString firefoxSubPath; ///< not used by a scan: FirefoxScan has its own mapping
-    QStringList patterns; ///< file-name wildcards for Chromium profiles; empty takes everything
+    QStringList patterns; ///< file-name wildcards for Chromium profiles; empty matches everything
     QStringList firefoxPatterns; ///< not used by a scan
     bool defaultChecked = true;
     int riskLevel = 0;

@@ -11,7 +11,7 @@ struct JunkRule {
     QString name;
     QString description;
     QStringList paths; ///< files or folders, with placeholders and backslashes
-    QStringList patterns; ///< file-name wildcards for the folders; empty takes every file
+    QStringList patterns; ///< file-name wildcards for the folders; empty matches every file
     bool defaultChecked = true;
     int riskLevel = 0;
     bool recursive = true;

@@ -26,7 +26,7 @@ enum class Reach {
 
 /// What a walk lists and how far it goes. Must outlive the walk.
 struct WalkOptions {
-    QStringList nameFilters; ///< wildcards, ignoring case; an empty list takes every file
+    QStringList nameFilters; ///< wildcards, ignoring case; an empty list matches every file
     bool recursive = true; ///< also walk the folders below
     const std::atomic_bool *stopRequested = nullptr; ///< may be null; checked before each entry
     Reach reach = Reach::OwnDevice;

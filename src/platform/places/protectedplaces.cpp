@@ -119,7 +119,7 @@ bool isInside(const QString &path, const QString &folder)
     return path.startsWith(withTrailingSlash(folder), pathCase());
 }
 
-bool isKeptBy(const QString &path, const ProtectedPlace &place)
+bool isProtectedBy(const QString &path, const ProtectedPlace &place)
 {
     if (path.compare(place.path, pathCase()) == 0 || isInside(place.path, path))
         return true;
@@ -138,7 +138,7 @@ bool isProtected(const QString &path, bool includesTreeContents)
         return true;
     const QList<ProtectedPlace> places = protectedPlaces();
     return std::any_of(places.begin(), places.end(), [&](const ProtectedPlace &place) {
-        return isKeptBy(root, place)
+        return isProtectedBy(root, place)
             || (includesTreeContents && place.extent == Extent::Tree && isInside(root, place.path));
     });
 }

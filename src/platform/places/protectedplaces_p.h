@@ -10,7 +10,7 @@ namespace platform {
 struct ProtectedPlace {
     /// Which part of the place is protected.
     enum class Extent {
-        Itself, ///< the folder must not be taken whole; its contents may be clutter
+        Itself, ///< the folder must not be removed whole; its contents may be clutter
         Children, ///< the same holds for each folder directly in it
         Grandchildren, ///< the same holds for the next level below, too
         Tree, ///< everything in it is protected

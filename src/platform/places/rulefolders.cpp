@@ -8,11 +8,11 @@ namespace platform {
 
 QString locate(const QString &base, const QString &relative, QString *problem)
 {
-    const QString asked = localFolder(base);
-    const QString folder = canonicalPath(asked);
+    const QString requested = localFolder(base);
+    const QString folder = canonicalPath(requested);
     if (folder.isEmpty()) {
         if (problem)
-            *problem = problemWith(asked);
+            *problem = problemWith(requested);
         return {};
     }
     const QStringList names =

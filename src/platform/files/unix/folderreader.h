@@ -54,7 +54,7 @@ public:
     [[nodiscard]] int error() const { return m_error; }
 
     /// Whether the next call of next() needs a system call.
-    [[nodiscard]] bool isBufferRead() const { return m_offset == m_length; }
+    [[nodiscard]] bool isBufferConsumed() const { return m_offset == m_length; }
 
     /// The type of an entry, such as DT_REG. If the file system does not list types, a system call
     /// looks it up.

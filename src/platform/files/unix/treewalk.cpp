@@ -153,7 +153,7 @@ public:
     static QString failureText(int error) { return error != 0 ? reasonOf(error) : QString(); }
     static bool shouldShareSubfolders(const FolderReader &reader, std::size_t)
     {
-        return reader.isBufferRead();
+        return reader.isBufferConsumed();
     }
 
     static QUtf8StringView nameOf(const dirent64 &entry) { return {entry.d_name}; }

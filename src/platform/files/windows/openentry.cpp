@@ -265,18 +265,19 @@ PlaceCheck::Place PlaceCheck::placeOf(const UniqueHandle &entry, const QString &
     if (actual.isEmpty() || top.isEmpty())
         return Place::Elsewhere;
 
-    const Split asked = split(QStringView(extended).mid(root.size()));
-    if (asked.name.isEmpty()) // some systems return the root without its backslash
+    const Split requested = split(QStringView(extended).mid(root.size()));
+    if (requested.name.isEmpty()) // some systems return the root without its backslash
         return isSameText(withBackslash(actual), top, true) ? Place::AsAsked : Place::Elsewhere;
     if (!isSameText(QStringView(actual).left(top.size()), top, true))
         return Place::Elsewhere;
     const Split found = split(QStringView(actual).mid(top.size()));
-    if (!isSameText(found.folder, asked.folder, true))
+    if (!isSameText(found.folder, requested.folder, true))
         return Place::Elsewhere;
-    const QStringView stripped = isWine() ? withoutTrailingDotsAndBlanks(asked.name) : asked.name;
-    if (found.name == asked.name || found.name == stripped)
+    const QStringView stripped =
+        isWine() ? withoutTrailingDotsAndBlanks(requested.name) : requested.name;
+    if (found.name == requested.name || found.name == stripped)
         return Place::AsAsked;
-    return isSameText(found.name, asked.name, true) || isSameText(found.name, stripped, true)
+    return isSameText(found.name, requested.name, true) || isSameText(found.name, stripped, true)
         ? Place::OtherCase
         : Place::Elsewhere;
 }

@@ -379,10 +379,10 @@ QString Registry::errorString() const
 
 bool isRegistryFile(const QString &path)
 {
-    struct stat asked {
+    struct stat status {
     };
-    const bool exists = ::stat(QFile::encodeName(path).constData(), &asked) == 0;
-    if (exists && S_ISREG(asked.st_mode) && beginsAsRegistryFile(path))
+    const bool exists = ::stat(QFile::encodeName(path).constData(), &status) == 0;
+    if (exists && S_ISREG(status.st_mode) && beginsAsRegistryFile(path))
         return true;
     const QString prefix = wineprefix::folder();
     if (prefix.isEmpty())
@@ -393,7 +393,7 @@ bool isRegistryFile(const QString &path)
         };
         if (path == file
             || (exists && ::stat(QFile::encodeName(file).constData(), &data) == 0
-                && data.st_dev == asked.st_dev && data.st_ino == asked.st_ino))
+                && data.st_dev == status.st_dev && data.st_ino == status.st_ino))
             return true;
     }
     return false;

@@ -88,7 +88,7 @@ QByteArray littleEndian(const QString &text)
 }
 
 // A string is written as text only if it ends in a NUL, because a decoded text always has one.
-bool isProperText(const RegistryValue &value)
+bool isTerminatedText(const RegistryValue &value)
 {
     return (value.type == RegistryText || value.type == RegistryExpandText
             || value.type == RegistryMultiText)
@@ -197,7 +197,7 @@ QByteArray encodeValue(const RegistryValue &value)
 {
     QByteArray line =
         value.name.isEmpty() ? QByteArray("@=") : '"' + encodeName(value.name, "\"") + "\"=";
-    if (isProperText(value)) {
+    if (isTerminatedText(value)) {
         QString string(value.data.size() / 2 - 1, Qt::Uninitialized);
         qFromLittleEndian<char16_t>(value.data.constData(), string.size(),
                                     reinterpret_cast<char16_t *>(string.data()));

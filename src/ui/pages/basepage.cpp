@@ -408,13 +408,12 @@ void BasePage::onCleanProgress(int current, int total, qint64 cleanedSize)
 void BasePage::onCleanFinished(qint64 totalCleaned, int itemsCleaned)
 {
     // After a clean that was cancelled the dialog may be that of the next scan.
-    const bool isScanOpen =
-        m_progressDialog && m_progressDialog->mode() == ProgressDialog::Scanning;
-    if (m_progressDialog && !isScanOpen)
-        m_progressDialog->showResult(
-            true,
-            tr("Cleaned %1 items, freed %2")
-                .arg(QString::number(itemsCleaned), formatSize(totalCleaned)));
+    ProgressDialog *dialog = m_progressDialog;
+    const bool isScanOpen = dialog && dialog->mode() == ProgressDialog::Scanning;
+    if (dialog && !isScanOpen)
+        dialog->showResult(true,
+                           tr("Cleaned %1 items, freed %2")
+                               .arg(QString::number(itemsCleaned), formatSize(totalCleaned)));
     m_isCleanPending = false;
     releaseResult();
     if (!isScanOpen) {

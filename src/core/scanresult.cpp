@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -16,7 +17,26 @@ QString formatNumber(qint64 bytes, qint64 unit, int decimals)
     return QString::number(static_cast<double>(bytes) / static_cast<double>(unit), 'f', decimals);
 }
 
+// The end of @p path with the memory of the path, if that is @p name; else @p name.
+QString sharedName(const QString &name, const QString &path)
+{
+    if (name.isEmpty() || !path.endsWith(name))
+        return name;
+    // A text knows where it begins in its memory, which counts its owners.
+    QString::DataPointer end = path.data_ptr();
+    end.ptr += path.size() - name.size();
+    end.size = name.size();
+    return QString(std::move(end));
+}
+
 } // namespace
+
+CleanItem::CleanItem(const QString &itemName, const QString &itemPath, qint64 itemSize)
+    : name(sharedName(itemName, itemPath))
+    , path(itemPath)
+    , size(itemSize)
+{
+}
 
 int CleanCategory::checkedCount() const
 {

@@ -14,27 +14,27 @@ enum RiskLevel { LowRisk = 0, MediumRisk = 1, HighRisk = 2 };
 enum class RegistryEntry : quint8 { Unknown, Key, Value };
 
 /// One removable thing: a file, a folder that a walk found, a registry entry.
+///
+/// There may be millions of them. The small members stand together, and a name that ends the path
+/// shares its memory.
 struct CleanItem {
-    CleanItem(const QString &itemName, const QString &itemPath, qint64 itemSize)
-        : name(itemName)
-        , path(itemPath)
-        , size(itemSize)
-    {
-    }
+    CleanItem(const QString &itemName, const QString &itemPath, qint64 itemSize);
 
     QString name; ///< of a file: without its folder
     QString path; ///< absolute; what the engine deletes
     qint64 size; ///< bytes; 0 when the item has no size
-    bool checked = true;
     int riskLevel = LowRisk;
-    QString description;
+    bool checked = true;
     bool isDirectory = false;
-    QString registryRoot; ///< such as "HKEY_CLASSES_ROOT"; empty for files
-    QString registryKey; ///< below the root; empty for files
     /// Of an entry of HKEY_CLASSES_ROOT: the scan read it from the user's hive, not the machine's.
     bool isUserClass = false;
     RegistryEntry registryEntry = RegistryEntry::Unknown;
+    QString description;
+    QString registryRoot; ///< such as "HKEY_CLASSES_ROOT"; empty for files
+    QString registryKey; ///< below the root; empty for files
 };
+// A long list grows in its place.
+Q_DECLARE_TYPEINFO(CleanItem, Q_RELOCATABLE_TYPE);
 
 /// One group of items: a junk rule, a kind of browser data, a registry check.
 struct CleanCategory {

@@ -44,6 +44,32 @@ private Q_SLOTS:
         QVERIFY(empty.items.isEmpty());
     }
 
+    void aNameThatEndsThePathSharesItsMemory()
+    {
+        QString path = u"/folder/"_s + u"name of the file"_s;
+        CleanItem item(u"name of the file"_s, path, 7);
+        QCOMPARE(item.name, u"name of the file"_s);
+        QCOMPARE(item.name.constData(), std::as_const(item.path).constData() + 8);
+        QCOMPARE(item.name.utf16()[item.name.size()], u'\0');
+        // Each is a text of its own all the same.
+        CleanItem other = item;
+        other.name.prepend(u"new "_s);
+        other.path.append(u" too"_s);
+        QCOMPARE(other.name, u"new name of the file"_s);
+        QCOMPARE(item.path, u"/folder/name of the file"_s);
+        path.clear();
+        item.path.replace(u"folder"_s, u"x"_s);
+        QCOMPARE(item.name, u"name of the file"_s);
+        item.name += u" and more"_s;
+        QCOMPARE(item.name, u"name of the file and more"_s);
+        QCOMPARE(item.path, u"/x/name of the file"_s);
+        for (const QString &name : {u"name"_s, QString(), u"/folder/name and more"_s})
+            QCOMPARE(CleanItem(name, u"/folder/file"_s, 7).name, name);
+        // Five texts, the size, and the small members in one word.
+        QVERIFY(QTypeInfo<CleanItem>::isRelocatable); // else a list is copied when it grows
+        QCOMPARE(sizeof(CleanItem), 5 * sizeof(QString) + 2 * sizeof(qint64));
+    }
+
     void anEmptyResultYieldsZeroForAllAggregates()
     {
         const ScanResult result;

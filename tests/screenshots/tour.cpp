@@ -142,14 +142,21 @@ void visitDialog(Tour &tour, const QString &name, QWidget *window,
     open();
 }
 
+/// Waits for what @p spy looks for, which may have come already. Ends the tour when it does not
+/// come.
+void awaitSignal(QSignalSpy &spy)
+{
+    if (spy.isEmpty() && !spy.wait(60'000))
+        qFatal("no signal %s", spy.signal().constData());
+}
+
 void visitBrowsers(Tour &tour, MainWindow *window)
 {
     auto *page = window->findChild<BrowserPage *>();
     window->onDashboardNavigate(2);
     QSignalSpy scanned(page, &BasePage::scanFinished);
     page->startScan();
-    if (scanned.isEmpty())
-        scanned.wait(60'000);
+    awaitSignal(scanned);
     tour.stop(u"browser-results"_s, window);
     const auto groups = page->findChildren<BrowserGroupWidget *>();
     groups.at(0)->toggleExpanded();
@@ -219,7 +226,7 @@ void visitLargeFiles(Tour &tour, const TestHome &home)
 
     QSignalSpy scanned(page->scanner(), &LargeFileScanner::scanFinished);
     page->findChild<QPushButton *>(u"startScanBtn"_s)->click();
-    scanned.wait(60'000);
+    awaitSignal(scanned);
     QTest::qWait(200);
     auto *first = page->findChild<QWidget *>(u"fileCard"_s);
     first->findChild<QCheckBox *>()->setChecked(true);
@@ -263,7 +270,7 @@ void visitDashboard(Tour &tour, MainWindow *window)
     tour.stop(u"dashboard-scanning"_s, window);
     QSignalSpy shown(window->findChild<FullScan *>(), &FullScan::finished);
     page->onScanClicked();
-    shown.wait(60'000);
+    awaitSignal(shown);
     tour.stop(u"dashboard-results"_s, window);
     visitFocus(tour, u"card"_s, window, page->findChild<StatCard *>());
     visitFocus(tour, u"navigation"_s, window, window->findChildren<NavButton *>().at(3));
@@ -303,7 +310,7 @@ void visitJunk(Tour &tour)
 
     QSignalSpy scanned(application->junkCleaner(), &CleanEngine::scanFinished);
     scan->click();
-    scanned.wait(60'000);
+    awaitSignal(scanned);
     tour.stop(u"junk-results"_s, window);
     page->findChild<QPushButton *>(u"expandBtn"_s)->click();
     tour.stop(u"junk-results-open"_s, window);
@@ -350,7 +357,7 @@ void visitJunk(Tour &tour)
 
     QSignalSpy cleaned(application->junkCleaner(), &CleanEngine::cleanFinished);
     clean->click();
-    cleaned.wait(60'000);
+    awaitSignal(cleaned);
     QTest::qWait(100);
     tour.stop(u"junk-cleaned"_s, window, {findWindow<ProgressDialog>()});
     findWindow<ProgressDialog>()->accept();
@@ -434,7 +441,7 @@ void visitRegistry(Tour &tour, const TestHome &home)
     window->onDashboardNavigate(3);
     QSignalSpy scanned(page, &BasePage::scanFinished);
     page->findChild<QPushButton *>(u"scanBtn"_s)->click();
-    scanned.wait(60'000);
+    awaitSignal(scanned);
     tour.stop(u"registry-results"_s, window);
     page->findChild<QPushButton *>(u"expandBtn"_s)->click();
     tour.stop(u"registry-results-open"_s, window);

@@ -2,6 +2,7 @@
 // line: the milliseconds from the end of a search to the painted list, the milliseconds of the
 // slowest jump in the list, and the bytes per row in addition to its record.
 
+#include "benchsize.h"
 #include "filecardlist.h"
 #include "largefilemodel.h"
 
@@ -20,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rows = 1'000'000;
+const int rows = benchSize(1'000'000);
 constexpr int jumps = 200;
 
 QList<LargeFileInfo> makeFiles()

@@ -1,6 +1,7 @@
 // Compares the program's file operations with other ways to do the same. The absolute times mean
 // little on a shared machine: the script `run` prints their ratios.
 
+#include "benchsize.h"
 #include "fileremove.h"
 #include "filewalk.h"
 #include "junkcleaner.h"
@@ -25,9 +26,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int files = 100'000;
+const int files = benchSize(100'000);
 constexpr int filesPerFolder = 200;
-constexpr int filesToRemove = 100'000;
+const int filesToRemove = benchSize(100'000);
 
 /// The tree for the walks: up to ten levels deep, sizes from 0 to 2 KiB, every tenth file a log.
 class Tree

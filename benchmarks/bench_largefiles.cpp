@@ -6,6 +6,7 @@
 //        bench_largefiles WAY FOLDER               prints how many files it has found
 // with WAY one of scanner-1, scanner-2 (walkers), bare-1, bare-2 (threads), qdiriterator.
 
+#include "benchsize.h"
 #include "largefilescanner.h"
 
 #include <QCoreApplication>
@@ -30,7 +31,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int files = 500'000;
+const int files = benchSize(500'000);
 constexpr int filesPerFolder = 100;
 constexpr qint64 minimumSize = 104'857'600;
 

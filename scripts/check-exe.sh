@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Check that Windows programs need only libraries of the system and have the usual protections.
+# Check that no library beside a Windows program can run in its place, and that the program has the usual protections.
 #
 #   scripts/check-exe.sh gui|console PROGRAM.exe...    lists each program's imports; exit status 1 on a finding
 set -euo pipefail
@@ -12,23 +12,10 @@ case "$kind" in
   *) echo "check-exe: neither gui nor console: $kind" >&2 && exit 2 ;;
 esac
 
-# Libraries in the system folder of every Windows 10. A library of the compiler or of Qt would have to be installed with the program.
-system_dlls=(
-  advapi32 api-ms-win-* authz bcrypt comctl32 comdlg32 crypt32 d2d1 d3d9 d3d11 dnsapi dwmapi dwrite dxgi gdi32 imm32
-  iphlpapi kernel32 mpr msvcrt netapi32 ntdll ole32 oleaut32 opengl32 powrprof rpcrt4 secur32 setupapi shcore shell32 shlwapi
-  ucrtbase user32 userenv usp10 uxtheme version winmm winspool.drv ws2_32 wtsapi32
-)
+# What a program imports is loaded before main(). Windows keeps these two as known: it takes them from the system folder, whatever lies
+# beside the program. cmake/WindowsProgram.cmake names the libraries that are loaded later.
+known_dlls=(kernel32.dll msvcrt.dll)
 flags=(HIGH_ENTROPY_VA DYNAMIC_BASE NX_COMPAT)
-
-is_system_dll() {
-  local name=${1,,} known
-  name=${name%.dll}
-  for known in "${system_dlls[@]}"; do
-    # shellcheck disable=SC2053  # the known names are patterns
-    [[ $name == $known ]] && return 0
-  done
-  return 1
-}
 
 findings=0
 finding() {
@@ -42,13 +29,26 @@ for program in "$@"; do
   echo "$(basename "$program"): $(stat -c %s "$program") bytes, imports ${imports[*]}"
   [ ${#imports[@]} -gt 0 ] || finding "$program: no imports were read"
   for import in "${imports[@]}"; do
-    is_system_dll "$import" || finding "$program: imports $import, which is no part of the system"
+    [[ " ${known_dlls[*]} " == *" ${import,,} "* ]] || finding "$program: imports $import, which a file beside it can replace"
   done
   for flag in "${flags[@]}"; do
     grep -qE "^[[:space:]]+$flag\$" <<< "$headers" || finding "$program: the flag $flag is missing"
   done
   # Without relocations the system cannot load the program at another address, even with the flags above.
   grep -qE '^Entry 5 0{16} ' <<< "$headers" && finding "$program: there are no relocations"
+  x86_64-w64-mingw32-objdump -h "$program" | paste - - | grep -w CODE | grep -vw READONLY > /dev/null &&
+    finding "$program: a section is both writable and executable"
+  # Symbols are stripped. These are texts of functions that are linked only if the protected code calls them.
+  grep -qaF 'stack smashing detected' "$program" || finding "$program: the stack is not guarded"
+  grep -qaF "Assertion '%s' failed" "$program" || finding "$program: the checks of the C++ library are off"
+  # LOAD_LIBRARY_SEARCH_SYSTEM32, at offset 78 of the load configuration: Windows looks for imports in the system folder alone.
+  configuration=$(x86_64-w64-mingw32-objdump -s -j .loadcfg "$program" 2> /dev/null || true)
+  start=$(sed -n 's/^ \([0-9a-f]*\) 70000000 .*/\1/p' <<< "$configuration")
+  base=$(sed -n 's/^ImageBase[[:space:]]*//p' <<< "$headers")
+  entry=$(printf '%016x' $((16#${start:-$base} - 16#$base)))
+  grep -qE "^Entry a $entry 00000070 " <<< "$headers" || finding "$program: there is no load configuration"
+  grep -qE '^ [0-9a-f]+40 ([0-9a-f]{8} ){3}[0-9a-f]{4}0008 ' <<< "$configuration" ||
+    finding "$program: Windows may look for imports beside it"
   grep -qE "^Subsystem[[:space:]].*\($subsystem\)" <<< "$headers" || finding "$program: the subsystem is not $subsystem"
 done
 [ "$findings" -eq 0 ]

@@ -21,8 +21,13 @@
 //
 // This function registers a destructor first, so that the key of the destructors is the first one.
 // It must run before any use of a thread_local variable, constructors of static objects included.
+//
+// A program with windows gets another __cxa_thread_atexit, from the library that calls its main().
+// That one has no such fault. But it ends the program if the third argument is not the one that the
+// compiler itself passes.
+extern "C" void *__dso_handle;
+
 extern "C" [[gnu::constructor(101)]] void sweepwiseOrderThreadKeys()
 {
-    static int nothing = 0;
-    abi::__cxa_thread_atexit([](void *) {}, &nothing, &nothing);
+    abi::__cxa_thread_atexit([](void *) {}, nullptr, &__dso_handle);
 }

@@ -556,6 +556,25 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>Der Dateimanager konnte nicht gestartet werden, um diese Datei anzuzeigen:
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>Diese Datei ist nicht mehr vorhanden:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -586,18 +605,6 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
         <source>Details</source>
         <translatorcomment>same</translatorcomment>
         <translation>Details</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>Hinweis</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>Der Dateimanager konnte nicht gestartet werden.</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>Diese Datei ist nicht mehr vorhanden.</translation>
     </message>
 </context>
 <context>
@@ -925,6 +932,10 @@ Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     <message>
         <source>Delete Completed</source>
         <translation>Löschen abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>Vorgang fehlgeschlagen</translation>
     </message>
 </context>
 <context>
@@ -1363,6 +1374,10 @@ Soll sie ersetzt werden?</translation>
         <source>It has changed since the scan</source>
         <translation>Der Eintrag hat sich seit dem Scan geändert</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>Der Eintrag konnte vor dem Bereinigen nicht erneut gelesen werden</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1389,6 +1404,24 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>没有选中任何项目</source>
         <translation>Keine Elemente ausgewählt</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>Ohne Sicherung entfernte Einträge: %1</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>Es wurden keine Einträge entfernt.</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>Die Sicherung der Registry konnte nicht gespeichert werden:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1461,16 +1494,16 @@ Soll sie ersetzt werden?</translation>
         <source>the list of bytes breaks off</source>
         <translation>Die Byteliste bricht ab</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>Das Wiederherstellen wurde abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1 ist keine Registry-Datei</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1527,6 +1560,14 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>Eine Klasse wird in der Struktur des Benutzers oder in der des Computers geändert</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>Das ist keine Registry-Datei</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>Die Datei ist beschädigt</translation>
     </message>
 </context>
 <context>
@@ -1604,6 +1645,12 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>Save</source>
         <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1726,6 +1773,19 @@ Das Programm wird jetzt neu gestartet.</translation>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>Das Programm konnte nicht neu gestartet werden. Bitte starten Sie es selbst erneut.</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>Die Sprache konnte nicht gespeichert werden und bleibt daher unverändert:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>Das System kann keinen weiteren Thread starten. Beenden Sie einige Programme und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>

@@ -543,6 +543,25 @@ This action cannot be undone!</translation>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>The file manager could not be started to show this file:
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>This file no longer exists:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -571,18 +590,6 @@ This action cannot be undone!</translation>
     <message>
         <source>Details</source>
         <translation>Details</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>Notice</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>The file manager could not be started.</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>This file no longer exists.</translation>
     </message>
 </context>
 <context>
@@ -909,6 +916,10 @@ This action cannot be undone!</translation>
     <message>
         <source>Delete Completed</source>
         <translation>Delete Completed</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>Operation Failed</translation>
     </message>
 </context>
 <context>
@@ -1339,6 +1350,10 @@ Replace it?</translation>
         <source>It has changed since the scan</source>
         <translation>It has changed since the scan</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>It could not be read again before the clean</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1365,6 +1380,24 @@ Replace it?</translation>
     <message>
         <source>没有选中任何项目</source>
         <translation>No items selected</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>Entries removed without a backup: %1</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>No entries were removed.</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>The registry backup could not be written:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1437,16 +1470,16 @@ Replace it?</translation>
         <source>the list of bytes breaks off</source>
         <translation>the list of bytes breaks off</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>The restoring was cancelled</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 cannot be read: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1 is not a registry file</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1503,6 +1536,14 @@ Replace it?</translation>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>A class is changed in the user&apos;s or in the machine&apos;s hive</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>It is not a registry file</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>It is damaged</translation>
     </message>
 </context>
 <context>
@@ -1580,6 +1621,12 @@ Replace it?</translation>
     <message>
         <source>Save</source>
         <translation>Save</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>The settings could not be saved:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1701,6 +1748,19 @@ The application will restart now.</translation>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>The application could not be restarted. Please start it again yourself.</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>The language could not be saved and does not change:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>The system cannot start another thread. End some programs and try again.</translation>
     </message>
 </context>
 <context>

@@ -555,6 +555,25 @@ Esta acción no se puede deshacer.</translation>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>No se ha podido abrir el gestor de archivos para mostrar este archivo:
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>Este archivo ya no existe:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -583,18 +602,6 @@ Esta acción no se puede deshacer.</translation>
     <message>
         <source>Details</source>
         <translation>Detalles</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>Aviso</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>No se ha podido abrir el gestor de archivos.</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>Este archivo ya no existe.</translation>
     </message>
 </context>
 <context>
@@ -922,6 +929,10 @@ Esta acción no se puede deshacer.</translation>
     <message>
         <source>Delete Completed</source>
         <translation>Eliminación completada</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>Error en la operación</translation>
     </message>
 </context>
 <context>
@@ -1360,6 +1371,10 @@ Replace it?</source>
         <source>It has changed since the scan</source>
         <translation>La entrada ha cambiado desde el análisis</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>No se pudo volver a leer antes de la limpieza</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1386,6 +1401,24 @@ Replace it?</source>
     <message>
         <source>没有选中任何项目</source>
         <translation>No hay ningún elemento seleccionado</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>Entradas eliminadas sin copia de seguridad: %1</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>No se ha eliminado ninguna entrada.</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>No se ha podido guardar la copia de seguridad del Registro:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1458,16 +1491,16 @@ Replace it?</source>
         <source>the list of bytes breaks off</source>
         <translation>la lista de bytes se interrumpe</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>La restauración se canceló</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>No se puede leer %1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1 no es un archivo del Registro</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1524,6 +1557,14 @@ Replace it?</source>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>Una clase se cambia en el subárbol del usuario o en el del equipo</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>No es un archivo del registro</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>Está dañado</translation>
     </message>
 </context>
 <context>
@@ -1602,6 +1643,12 @@ Replace it?</source>
     <message>
         <source>Save</source>
         <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>No se ha podido guardar la configuración:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1723,6 +1770,19 @@ El programa se reiniciará ahora.</translation>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>No se ha podido reiniciar el programa. Vuelva a iniciarlo manualmente.</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>No se ha podido guardar el idioma, por lo que no cambia:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>El sistema no puede iniciar otro hilo. Cierre algunos programas e inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>

@@ -556,6 +556,25 @@ Cette action est irréversible&#xa0;!</translation>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>Impossible de lancer le gestionnaire de fichiers pour afficher ce fichier&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>Ce fichier n’existe plus&#xa0;:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -585,18 +604,6 @@ Cette action est irréversible&#xa0;!</translation>
     <message>
         <source>Details</source>
         <translation>Détails</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>Information</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>Impossible de lancer le gestionnaire de fichiers.</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>Ce fichier n’existe plus.</translation>
     </message>
 </context>
 <context>
@@ -923,6 +930,10 @@ Cette action est irréversible&#xa0;!</translation>
     <message>
         <source>Delete Completed</source>
         <translation>Suppression terminée</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>Échec de l’opération</translation>
     </message>
 </context>
 <context>
@@ -1354,6 +1365,10 @@ Voulez-vous le remplacer&#xa0;?</translation>
         <source>It has changed since the scan</source>
         <translation>L’entrée a changé depuis l’analyse</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>Elle n’a pas pu être relue avant le nettoyage</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1380,6 +1395,24 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>没有选中任何项目</source>
         <translation>Aucun élément sélectionné</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>Entrées supprimées sans sauvegarde&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>Aucune entrée n’a été supprimée.</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>Impossible d’enregistrer la sauvegarde du Registre&#xa0;:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1452,16 +1485,16 @@ Voulez-vous le remplacer&#xa0;?</translation>
         <source>the list of bytes breaks off</source>
         <translation>la liste d’octets s’interrompt</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>La restauration a été annulée</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>Impossible de lire %1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1 n’est pas un fichier de Registre</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1518,6 +1551,14 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>Une classe se modifie dans la ruche de l’utilisateur ou dans celle de l’ordinateur</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>Il ne s’agit pas d’un fichier du Registre</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>Il est endommagé</translation>
     </message>
 </context>
 <context>
@@ -1595,6 +1636,12 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>Save</source>
         <translation>Valider</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>Impossible d’enregistrer les paramètres&#xa0;:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1717,6 +1764,19 @@ L’application va maintenant redémarrer.</translation>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>Impossible de redémarrer l’application. Veuillez la relancer vous-même.</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>Impossible d’enregistrer la langue, elle reste donc inchangée&#xa0;:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>Le système ne peut pas démarrer d’autre fil d’exécution. Fermez quelques programmes et réessayez.</translation>
     </message>
 </context>
 <context>

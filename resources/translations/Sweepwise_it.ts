@@ -557,6 +557,25 @@ L&apos;operazione non può essere annullata.</translation>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>Impossibile avviare il gestore di file per mostrare questo file:
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>Il file non esiste più:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -585,18 +604,6 @@ L&apos;operazione non può essere annullata.</translation>
     <message>
         <source>Details</source>
         <translation>Dettagli</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>Avviso</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>Impossibile avviare il gestore di file.</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>Il file non esiste più.</translation>
     </message>
 </context>
 <context>
@@ -924,6 +931,10 @@ L&apos;operazione non può essere annullata.</translation>
     <message>
         <source>Delete Completed</source>
         <translation>Eliminazione completata</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>Operazione non riuscita</translation>
     </message>
 </context>
 <context>
@@ -1363,6 +1374,10 @@ Sostituirlo?</translation>
         <source>It has changed since the scan</source>
         <translation>La voce è cambiata dopo la scansione</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>Non è stato possibile rileggerla prima della pulizia</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1389,6 +1404,24 @@ Sostituirlo?</translation>
     <message>
         <source>没有选中任何项目</source>
         <translation>Nessun elemento selezionato</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>Voci rimosse senza backup: %1</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>Nessuna voce è stata rimossa.</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>Impossibile salvare il backup del registro:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1461,16 +1494,16 @@ Sostituirlo?</translation>
         <source>the list of bytes breaks off</source>
         <translation>l&apos;elenco dei byte si interrompe</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>Il ripristino è stato annullato</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>Impossibile leggere %1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1 non è un file del registro</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1527,6 +1560,14 @@ Sostituirlo?</translation>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>Una classe si modifica nell&apos;hive dell&apos;utente o in quello del computer</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>Non è un file del registro</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>È danneggiato</translation>
     </message>
 </context>
 <context>
@@ -1604,6 +1645,12 @@ Sostituirlo?</translation>
     <message>
         <source>Save</source>
         <translation>Salva</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>Impossibile salvare le impostazioni:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1726,6 +1773,19 @@ Il programma verrà ora riavviato.</translation>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>Impossibile riavviare il programma. Avviarlo di nuovo manualmente.</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>Impossibile salvare la lingua, che resta quindi invariata:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>Il sistema non può avviare un altro thread. Chiudi alcuni programmi e riprova.</translation>
     </message>
 </context>
 <context>

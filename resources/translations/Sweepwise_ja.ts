@@ -556,6 +556,25 @@ This action cannot be undone!</source>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>ファイル マネージャーを起動できなかったため、次のファイルを表示できません:
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>次のファイルは既に存在しません:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -584,18 +603,6 @@ This action cannot be undone!</source>
     <message>
         <source>Details</source>
         <translation>詳細</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>お知らせ</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>ファイル マネージャーを起動できませんでした。</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>このファイルは既に存在しません。</translation>
     </message>
 </context>
 <context>
@@ -923,6 +930,10 @@ This action cannot be undone!</source>
     <message>
         <source>Delete Completed</source>
         <translation>削除完了</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>操作に失敗しました</translation>
     </message>
 </context>
 <context>
@@ -1362,6 +1373,10 @@ Replace it?</source>
         <source>It has changed since the scan</source>
         <translation>スキャン後に変更されています</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>クリーニングの前に読み直せませんでした</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1388,6 +1403,24 @@ Replace it?</source>
     <message>
         <source>没有选中任何项目</source>
         <translation>項目が選択されていません</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>バックアップなしで削除したエントリ: %1 件</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>エントリは削除されませんでした。</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>レジストリのバックアップを保存できませんでした:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1460,16 +1493,16 @@ Replace it?</source>
         <source>the list of bytes breaks off</source>
         <translation>バイト列が途切れています</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>復元はキャンセルされました</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 を読み取れません: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1 はレジストリ ファイルではありません</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1526,6 +1559,14 @@ Replace it?</source>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>クラスの変更は、ユーザーまたはコンピューターのハイブで行います</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>レジストリのファイルではありません</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>破損しています</translation>
     </message>
 </context>
 <context>
@@ -1603,6 +1644,12 @@ Replace it?</source>
     <message>
         <source>Save</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>設定を保存できませんでした:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1724,6 +1771,19 @@ The application will restart now.</source>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>アプリケーションを再起動できませんでした。手動で起動してください。</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>言語を保存できなかったため、変更されません:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>システムはこれ以上スレッドを開始できません。いくつかのプログラムを終了して、もう一度お試しください。</translation>
     </message>
 </context>
 <context>

@@ -556,6 +556,25 @@ This action cannot be undone!</source>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>알림</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>파일 관리자를 시작할 수 없어 다음 파일을 표시할 수 없습니다.
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>다음 파일은 더 이상 존재하지 않습니다.
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -584,18 +603,6 @@ This action cannot be undone!</source>
     <message>
         <source>Details</source>
         <translation>세부 정보</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>알림</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>파일 관리자를 시작할 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>이 파일은 더 이상 존재하지 않습니다.</translation>
     </message>
 </context>
 <context>
@@ -923,6 +930,10 @@ This action cannot be undone!</source>
     <message>
         <source>Delete Completed</source>
         <translation>삭제 완료</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>작업 실패</translation>
     </message>
 </context>
 <context>
@@ -1362,6 +1373,10 @@ Replace it?</source>
         <source>It has changed since the scan</source>
         <translation>검사 후 변경되었습니다</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>정리하기 전에 다시 읽을 수 없었습니다</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1388,6 +1403,24 @@ Replace it?</source>
     <message>
         <source>没有选中任何项目</source>
         <translation>선택한 항목이 없습니다</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>백업 없이 제거된 항목: %1개</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>제거된 항목이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>레지스트리 백업을 저장하지 못했습니다.
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1460,16 +1493,16 @@ Replace it?</source>
         <source>the list of bytes breaks off</source>
         <translation>바이트 목록이 중간에 끊겼습니다</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>복원이 취소되었습니다</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1을(를) 읽을 수 없습니다: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1은(는) 레지스트리 파일이 아닙니다</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1526,6 +1559,14 @@ Replace it?</source>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>클래스는 사용자 또는 컴퓨터의 하이브에서 변경합니다</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>레지스트리 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>손상되었습니다</translation>
     </message>
 </context>
 <context>
@@ -1603,6 +1644,12 @@ Replace it?</source>
     <message>
         <source>Save</source>
         <translation>저장</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>설정을 저장하지 못했습니다.
+%1</translation>
     </message>
 </context>
 <context>
@@ -1724,6 +1771,19 @@ The application will restart now.</source>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>프로그램을 다시 시작할 수 없습니다. 직접 다시 실행하세요.</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>언어를 저장하지 못하여 변경되지 않습니다.
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>시스템이 스레드를 더 시작할 수 없습니다. 일부 프로그램을 종료하고 다시 시도하세요.</translation>
     </message>
 </context>
 <context>

@@ -557,6 +557,25 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>Melding</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>Het bestandsbeheerprogramma kan niet worden gestart om dit bestand te tonen:
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>Dit bestand bestaat niet meer:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -586,18 +605,6 @@ Dit kan niet ongedaan worden gemaakt!</translation>
         <source>Details</source>
         <translatorcomment>same</translatorcomment>
         <translation>Details</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>Melding</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>Het bestandsbeheerprogramma kan niet worden gestart.</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>Dit bestand bestaat niet meer.</translation>
     </message>
 </context>
 <context>
@@ -925,6 +932,10 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     <message>
         <source>Delete Completed</source>
         <translation>Verwijderen voltooid</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>Bewerking mislukt</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +1375,10 @@ Vervangen?</translation>
         <source>It has changed since the scan</source>
         <translation>Het item is sinds de scan gewijzigd</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>Het kon voor het opschonen niet opnieuw worden gelezen</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1390,6 +1405,24 @@ Vervangen?</translation>
     <message>
         <source>没有选中任何项目</source>
         <translation>Er zijn geen items geselecteerd</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>Zonder back-up verwijderde vermeldingen: %1</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>Er zijn geen vermeldingen verwijderd.</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>De back-up van het register kan niet worden opgeslagen:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1462,16 +1495,16 @@ Vervangen?</translation>
         <source>the list of bytes breaks off</source>
         <translation>de lijst met bytes breekt af</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>Het herstellen is geannuleerd</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 kan niet worden gelezen: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1 is geen registerbestand</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1528,6 +1561,14 @@ Vervangen?</translation>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>Een klasse wordt gewijzigd in de component van de gebruiker of in die van de computer</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>Het is geen registerbestand</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>Het is beschadigd</translation>
     </message>
 </context>
 <context>
@@ -1605,6 +1646,12 @@ Vervangen?</translation>
     <message>
         <source>Save</source>
         <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>De instellingen kunnen niet worden opgeslagen:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1728,6 +1775,19 @@ Het programma wordt nu opnieuw gestart.</translation>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>Het programma kan niet opnieuw worden gestart. Start het zelf opnieuw.</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>De taal kan niet worden opgeslagen en blijft daarom ongewijzigd:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>Het systeem kan geen nieuwe thread starten. Sluit enkele programma’s en probeer het opnieuw.</translation>
     </message>
 </context>
 <context>

@@ -558,6 +558,25 @@ Esta ação não pode ser anulada!</translation>
     </message>
 </context>
 <context>
+    <name>FileLocation</name>
+    <message>
+        <source>Notice</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>The file manager could not be started to show this file:
+%1</source>
+        <translation>Não foi possível iniciar o gestor de ficheiros para mostrar este ficheiro:
+%1</translation>
+    </message>
+    <message>
+        <source>This file no longer exists:
+%1</source>
+        <translation>Este ficheiro já não existe:
+%1</translation>
+    </message>
+</context>
+<context>
     <name>ItemDetailDialog</name>
     <message>
         <source>Back</source>
@@ -586,18 +605,6 @@ Esta ação não pode ser anulada!</translation>
     <message>
         <source>Details</source>
         <translation>Detalhes</translation>
-    </message>
-    <message>
-        <source>Notice</source>
-        <translation>Aviso</translation>
-    </message>
-    <message>
-        <source>The file manager could not be started.</source>
-        <translation>Não foi possível iniciar o gestor de ficheiros.</translation>
-    </message>
-    <message>
-        <source>This file no longer exists.</source>
-        <translation>Este ficheiro já não existe.</translation>
     </message>
 </context>
 <context>
@@ -925,6 +932,10 @@ Esta ação não pode ser anulada!</translation>
     <message>
         <source>Delete Completed</source>
         <translation>Eliminação concluída</translation>
+    </message>
+    <message>
+        <source>Operation Failed</source>
+        <translation>A operação falhou</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +1375,10 @@ Pretende substituí-lo?</translation>
         <source>It has changed since the scan</source>
         <translation>A entrada mudou desde a análise</translation>
     </message>
+    <message>
+        <source>It could not be read again before the clean</source>
+        <translation>Não foi possível lê-la novamente antes da limpeza</translation>
+    </message>
 </context>
 <context>
     <name>RegistryPage</name>
@@ -1390,6 +1405,24 @@ Pretende substituí-lo?</translation>
     <message>
         <source>没有选中任何项目</source>
         <translation>Nenhum item selecionado</translation>
+    </message>
+    <message>
+        <source>Entries removed without a backup: %1</source>
+        <translation>Entradas removidas sem cópia de segurança: %1</translation>
+    </message>
+    <message>
+        <source>No entries were removed.</source>
+        <translation>Nenhuma entrada foi removida.</translation>
+    </message>
+    <message>
+        <source>The registry backup could not be written:
+%1
+
+%2</source>
+        <translation>Não foi possível guardar a cópia de segurança do registo:
+%1
+
+%2</translation>
     </message>
 </context>
 <context>
@@ -1462,16 +1495,16 @@ Pretende substituí-lo?</translation>
         <source>the list of bytes breaks off</source>
         <translation>a lista de bytes está incompleta</translation>
     </message>
+    <message>
+        <source>The restoring was cancelled</source>
+        <translation>A restauração foi cancelada</translation>
+    </message>
 </context>
 <context>
     <name>RegistryTexts</name>
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>Não é possível ler %1: %2</translation>
-    </message>
-    <message>
-        <source>%1 is not a registry file</source>
-        <translation>%1 não é um ficheiro do registo</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the path of a key</source>
@@ -1528,6 +1561,14 @@ Pretende substituí-lo?</translation>
     <message>
         <source>A class is changed in the user&apos;s or in the machine&apos;s hive</source>
         <translation>Uma classe altera-se no ramo do utilizador ou no do computador</translation>
+    </message>
+    <message>
+        <source>It is not a registry file</source>
+        <translation>Não é um ficheiro do registo</translation>
+    </message>
+    <message>
+        <source>It is damaged</source>
+        <translation>Está danificado</translation>
     </message>
 </context>
 <context>
@@ -1605,6 +1646,12 @@ Pretende substituí-lo?</translation>
     <message>
         <source>Save</source>
         <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved:
+%1</source>
+        <translation>Não foi possível guardar as definições:
+%1</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1774,19 @@ O programa será agora reiniciado.</translation>
     <message>
         <source>The application could not be restarted. Please start it again yourself.</source>
         <translation>Não foi possível reiniciar o programa. Inicie-o manualmente.</translation>
+    </message>
+    <message>
+        <source>The language could not be saved and does not change:
+%1</source>
+        <translation>Não foi possível guardar o idioma, pelo que não muda:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Worker</name>
+    <message>
+        <source>The system cannot start another thread. End some programs and try again.</source>
+        <translation>O sistema não consegue iniciar outro thread. Feche alguns programas e tente novamente.</translation>
     </message>
 </context>
 <context>

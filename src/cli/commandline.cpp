@@ -2,8 +2,10 @@
 
 #include "commands.h"
 #include "logger.h"
+#include "output.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -72,7 +74,7 @@ QString programHelp()
     for (const CommandHelp &line : lines)
         text += "  "_L1 + QString(line.form).leftJustified(width) + "  "_L1 + line.text + u'\n';
     text += "\nEngines: "_L1 + wordsAfter(u"scan"_s).join(", "_L1) + ".\n"_L1;
-    return text + "Exit status: "_L1 + exitStatusHelp() + u'.';
+    return text + "\nExit status:\n"_L1 + exitStatusHelp();
 }
 
 QString optionHelp(const OptionInfo &option)
@@ -141,10 +143,12 @@ ExitStatus runCommandLine(const QStringList &arguments)
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
     // The parser adds --help-all by itself and does nothing about it.
+    // What the parser prints itself goes to a message box on Windows, where there is no console.
     if (parser.isSet(help) || parser.isSet(u"help-all"_s))
-        parser.showHelp(Success);
+        return printText(parser.helpText());
     if (parser.isSet(version))
-        parser.showVersion();
+        return printText(u"%1 %2\n"_s.arg(QCoreApplication::applicationName(),
+                                          QCoreApplication::applicationVersion()));
 
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     Logger::instance().init(dataFolder + "/logs"_L1);

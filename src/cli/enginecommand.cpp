@@ -5,9 +5,11 @@
 #include "output.h"
 #include "registrycleaner.h"
 #include "report.h"
+#include "waiting.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QTextStream>
 
 #include <algorithm>
 #include <functional>
@@ -30,22 +32,33 @@ struct Target {
 /// scan() or clean().
 using Action = ExitStatus (*)(const Target &target, const Invocation &invocation);
 
-void runScan(CleanEngine &engine)
+/// Starts a run, waits for its end and adds it to @p end. Returns false, with a line on standard
+/// error, if the system cannot start it.
+bool runToEnd(CleanEngine &engine, void (CleanEngine::*start)(), RunEnd &end)
 {
-    QObject::connect(&engine, &CleanEngine::scanFinished, qApp, &QCoreApplication::quit);
-    engine.startScan();
-    QCoreApplication::exec();
+    const QMetaObject::Connection connection =
+        QObject::connect(&engine, &CleanEngine::errorOccurred, qApp,
+                         [](const QString &error) { (void)refuse(error); });
+    (engine.*start)();
+    end.isCancelled = waitForEnd(engine);
+    end.incomplete.add(engine.incomplete());
+    QObject::disconnect(connection);
+    return engine.state() != CleanEngine::State::Error;
 }
 
 ExitStatus scan(const Target &target, const Invocation &invocation)
 {
-    runScan(target.engine);
+    platform::interrupt::catchRequests();
+    RunEnd end;
+    if (!runToEnd(target.engine, &CleanEngine::startScan, end))
+        return WrongUse;
     const auto items =
         invocation.has(Option::Items) ? report::Items::Listed : report::Items::Omitted;
     const ScanResult &result = std::as_const(target.engine).result();
-    return printReport(
-        invocation, [&] { return report::scanAsJson(target.subject, result, items); },
-        [&] { return report::scanAsText(target.subject, result, items); });
+    return printRun(
+        invocation, end,
+        [&](JsonWriter &json) { report::writeScan(json, target.subject, result, items); },
+        [&](QTextStream &stream) { report::writeScan(stream, target.subject, result, items); });
 }
 
 /// Every clean starts here, so --yes is checked in one place only.
@@ -58,29 +71,34 @@ ExitStatus clean(const Target &target, const Invocation &invocation)
         if (!target.categories.contains(id))
             return refuse(u"there is no category '%1'"_s.arg(id));
     }
+    platform::interrupt::catchRequests();
     CleanEngine &engine = target.engine;
-    runScan(engine);
+    RunEnd end;
+    if (!runToEnd(engine, &CleanEngine::startScan, end))
+        return WrongUse;
     for (CleanCategory &category : engine.result().categories)
         category.checked =
             category.checked && (chosenIds.isEmpty() || chosenIds.contains(category.id));
 
     report::CleanOutcome outcome;
-    QObject::connect(&engine, &CleanEngine::cleanFinished, qApp,
-                     [&outcome](qint64 totalCleaned, int itemsCleaned) {
-                         outcome.cleanedSize = totalCleaned;
-                         outcome.cleanedCount = itemsCleaned;
-                         QCoreApplication::quit();
-                     });
-    engine.startClean();
-    QCoreApplication::exec();
-    engine.stopAndWait();
-    if (target.otherFailures)
-        outcome.failures = target.otherFailures();
-    outcome.failures += engine.failures();
-    return printReport(
-        invocation, [&] { return report::cleanAsJson(target.subject, outcome); },
-        [&] { return report::cleanAsText(target.subject, outcome); },
-        outcome.failures.isEmpty() ? Success : SomeFailed);
+    ExitStatus status = Success;
+    end.isCancelled = platform::interrupt::isRequested();
+    if (end.isCancelled) {
+        // Nothing was cleaned.
+    } else if (!runToEnd(engine, &CleanEngine::startClean, end)) {
+        status = WrongUse; // what the scan could not read is reported all the same
+    } else {
+        outcome.cleanedSize = engine.cleanedSize();
+        outcome.cleanedCount = engine.cleanedCount();
+        if (target.otherFailures)
+            outcome.failures = target.otherFailures();
+        outcome.failures += engine.failures();
+        status = outcome.failures.isEmpty() ? Success : SomeFailed;
+    }
+    return printRun(
+        invocation, end,
+        [&](JsonWriter &json) { report::writeClean(json, target.subject, outcome); },
+        [&](QTextStream &stream) { report::writeClean(stream, target.subject, outcome); }, status);
 }
 
 ExitStatus runWithJunk(Action action, const Invocation &invocation)

@@ -3,7 +3,7 @@
 #include "invocation.h"
 #include "output.h"
 
-/// The commands "scan ENGINE" and "clean ENGINE". All of them run the application's event loop.
+/// The commands "scan ENGINE" and "clean ENGINE".
 namespace cli {
 
 [[nodiscard]] ExitStatus scanJunk(const Invocation &invocation);

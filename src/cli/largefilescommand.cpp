@@ -4,6 +4,7 @@
 #include "output.h"
 #include "scanresult.h"
 #include "text.h"
+#include "waiting.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -31,26 +32,23 @@ QJsonObject asObject(const LargeFileInfo &file)
     };
 }
 
-QJsonObject asJson(const LargeFileScanner &scanner, const QList<LargeFileInfo> &files)
+void writeFiles(JsonWriter &json, const LargeFileScanner &scanner,
+                const QList<LargeFileInfo> &files)
 {
-    return {
-        {u"filesScanned"_s, scanner.filesScanned()},
-        {u"totalCount"_s, files.size()},
-        {u"totalSize"_s, scanner.totalSize()},
-        {u"files"_s, jsonArray(files, asObject)},
-    };
+    json.member("filesScanned"_L1, scanner.filesScanned());
+    json.member("totalCount"_L1, files.size());
+    json.member("totalSize"_L1, scanner.totalSize());
+    json.array("files"_L1, files, asObject);
 }
 
-QString asText(const LargeFileScanner &scanner, const QList<LargeFileInfo> &files)
+void writeFiles(QTextStream &out, const LargeFileScanner &scanner,
+                const QList<LargeFileInfo> &files)
 {
-    QString text;
-    QTextStream out(&text);
     for (const LargeFileInfo &file : files)
         out << formatSize(file.size).rightJustified(12) << "  "_L1 << singleLine(file.path) << '\n';
     out << "Found %1 large files, %2, among %3 files\n"_L1.arg(
         QString::number(files.size()), formatSize(scanner.totalSize()),
         QString::number(scanner.filesScanned()));
-    return text;
 }
 
 // Nothing when the text is not a size or is less than one byte.
@@ -90,17 +88,27 @@ ExitStatus listLargeFiles(const Invocation &invocation)
             return refuse(u"'%1' is no size such as 100M"_s.arg(minSize));
         scanner.setMinSize(*size);
     }
-    QObject::connect(&scanner, &LargeFileScanner::scanFinished, qApp, &QCoreApplication::quit);
+    bool isStarted = true;
+    QObject::connect(&scanner, &LargeFileScanner::errorOccurred, qApp,
+                     [&isStarted](const QString &error) {
+                         (void)refuse(error);
+                         isStarted = false;
+                     });
+    platform::interrupt::catchRequests();
     scanner.startScan();
-    QCoreApplication::exec();
+    const bool isCancelled = waitForEnd(scanner);
+    if (!isStarted)
+        return WrongUse;
 
     QList<LargeFileInfo> files = scanner.results();
     std::sort(files.begin(), files.end(),
               [](const LargeFileInfo &left, const LargeFileInfo &right) {
                   return left.size != right.size ? left.size > right.size : left.path < right.path;
               });
-    return printReport(
-        invocation, [&] { return asJson(scanner, files); }, [&] { return asText(scanner, files); });
+    return printRun(
+        invocation, {scanner.incomplete(), isCancelled},
+        [&](JsonWriter &json) { writeFiles(json, scanner, files); },
+        [&](QTextStream &stream) { writeFiles(stream, scanner, files); });
 }
 
 } // namespace cli

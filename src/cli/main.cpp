@@ -1,6 +1,7 @@
 #include "appinfo.h"
 #include "commandline.h"
 #include "hardening.h"
+#include "idledispatcher.h"
 #include "output.h"
 
 #include <QCoreApplication>
@@ -20,6 +21,7 @@ void writeWarningsOnly(QtMsgType type, const QMessageLogContext &, const QString
 int main(int argc, char *argv[])
 {
     platform::hardenProcess();
+    QCoreApplication::setEventDispatcher(new IdleDispatcher); // the application owns it
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(appinfo::name);
     QCoreApplication::setApplicationVersion(appinfo::version);

@@ -26,20 +26,17 @@ QJsonObject itemAsJson(const CleanItem &item)
     };
 }
 
-QJsonObject categoryAsJson(const CleanCategory &category, Items items)
+void writeCategory(cli::JsonWriter &json, const CleanCategory &category, Items items)
 {
-    QJsonObject object{
-        {u"id"_s, category.id},
-        {u"name"_s, category.name},
-        {u"description"_s, category.description},
-        {u"checked"_s, category.checked},
-        {u"riskLevel"_s, category.riskLevel},
-        {u"totalSize"_s, category.totalSize()},
-        {u"checkedCount"_s, category.checkedCount()},
-    };
+    json.member("id"_L1, category.id);
+    json.member("name"_L1, category.name);
+    json.member("description"_L1, category.description);
+    json.member("checked"_L1, category.checked);
+    json.member("riskLevel"_L1, category.riskLevel);
+    json.member("totalSize"_L1, category.totalSize());
+    json.member("checkedCount"_L1, category.checkedCount());
     if (items == Items::Listed)
-        object.insert("items"_L1, cli::jsonArray(category.items, itemAsJson));
-    return object;
+        json.array("items"_L1, category.items, itemAsJson);
 }
 
 QJsonObject failureAsJson(const CleanFailure &failure)
@@ -74,26 +71,22 @@ void writeItem(QTextStream &stream, const CleanItem &item, const CleanCategory &
 
 } // namespace
 
-QJsonObject scanAsJson(const Subject &subject, const ScanResult &result, Items items)
+void writeScan(cli::JsonWriter &json, const Subject &subject, const ScanResult &result, Items items)
 {
-    const auto category = [items](const CleanCategory &found) {
-        return categoryAsJson(found, items);
-    };
-    return {
-        {u"engine"_s, subject.engine},
-        {u"scanTime"_s, timeStamp(result.scanTime)},
-        {u"totalCount"_s, result.totalCount()},
-        {u"totalSize"_s, result.totalSize()},
-        {u"checkedCount"_s, result.checkedCount()},
-        {u"checkedSize"_s, result.checkedSize()},
-        {u"categories"_s, cli::jsonArray(result.categories, category)},
-    };
+    json.member("engine"_L1, subject.engine);
+    json.member("scanTime"_L1, timeStamp(result.scanTime));
+    json.member("totalCount"_L1, result.totalCount());
+    json.member("totalSize"_L1, result.totalSize());
+    json.member("checkedCount"_L1, result.checkedCount());
+    json.member("checkedSize"_L1, result.checkedSize());
+    json.array("categories"_L1, result.categories,
+               [items](cli::JsonWriter &writer, const CleanCategory &category) {
+                   writeCategory(writer, category, items);
+               });
 }
 
-QString scanAsText(const Subject &subject, const ScanResult &result, Items items)
+void writeScan(QTextStream &stream, const Subject &subject, const ScanResult &result, Items items)
 {
-    QString text;
-    QTextStream stream(&text);
     const bool hasSizes = subject.unit == Unit::Bytes;
     for (const CleanCategory &category : result.categories) {
         const Qt::CheckState state = category.checkState();
@@ -129,24 +122,19 @@ QString scanAsText(const Subject &subject, const ScanResult &result, Items items
     stream << "; selected ";
     writeTotal(result.checkedCount(), result.checkedSize());
     stream << ".\n";
-    return text;
 }
 
-QJsonObject cleanAsJson(const Subject &subject, const CleanOutcome &outcome)
+void writeClean(cli::JsonWriter &json, const Subject &subject, const CleanOutcome &outcome)
 {
-    return {
-        {u"engine"_s, subject.engine},
-        {u"cleanedCount"_s, outcome.cleanedCount},
-        {u"cleanedSize"_s, outcome.cleanedSize},
-        {u"failedCount"_s, outcome.failures.size()},
-        {u"failures"_s, cli::jsonArray(outcome.failures, failureAsJson)},
-    };
+    json.member("engine"_L1, subject.engine);
+    json.member("cleanedCount"_L1, outcome.cleanedCount);
+    json.member("cleanedSize"_L1, outcome.cleanedSize);
+    json.member("failedCount"_L1, outcome.failures.size());
+    json.array("failures"_L1, outcome.failures, failureAsJson);
 }
 
-QString cleanAsText(const Subject &subject, const CleanOutcome &outcome)
+void writeClean(QTextStream &stream, const Subject &subject, const CleanOutcome &outcome)
 {
-    QString text;
-    QTextStream stream(&text);
     for (const CleanFailure &failure : outcome.failures)
         stream << "Not cleaned: " << singleLine(failure.path) << " - " << singleLine(failure.reason)
                << '\n';
@@ -154,7 +142,6 @@ QString cleanAsText(const Subject &subject, const CleanOutcome &outcome)
     if (subject.unit == Unit::Bytes)
         stream << ", freed " << formatSize(outcome.cleanedSize);
     stream << "; " << outcome.failures.size() << " failed.\n";
-    return text;
 }
 
 } // namespace report

@@ -3,8 +3,13 @@
 #include "cleanengine.h"
 #include "scanresult.h"
 
-#include <QJsonObject>
 #include <QString>
+
+class QTextStream;
+
+namespace cli {
+class JsonWriter;
+}
 
 /// Formats the results of a scan and of a clean for standard output, in the same way for every
 /// engine.
@@ -20,10 +25,12 @@ struct Subject {
     Unit unit = Unit::Bytes;
 };
 
-/// @p result as JSON. The members have the names of the fields of the records.
-[[nodiscard]] QJsonObject scanAsJson(const Subject &subject, const ScanResult &result, Items items);
-/// @p result as text for people: one line for each category and, if listed, one for each item.
-[[nodiscard]] QString scanAsText(const Subject &subject, const ScanResult &result, Items items);
+/// Writes @p result as JSON. The members have the names of the fields of the records.
+void writeScan(cli::JsonWriter &json, const Subject &subject, const ScanResult &result,
+               Items items);
+/// Writes @p result as text for people: one line for each category and, if listed, one for each
+/// item.
+void writeScan(QTextStream &stream, const Subject &subject, const ScanResult &result, Items items);
 
 /// The result of a clean.
 struct CleanOutcome {
@@ -32,7 +39,7 @@ struct CleanOutcome {
     QList<CleanFailure> failures;
 };
 
-[[nodiscard]] QJsonObject cleanAsJson(const Subject &subject, const CleanOutcome &outcome);
-[[nodiscard]] QString cleanAsText(const Subject &subject, const CleanOutcome &outcome);
+void writeClean(cli::JsonWriter &json, const Subject &subject, const CleanOutcome &outcome);
+void writeClean(QTextStream &stream, const Subject &subject, const CleanOutcome &outcome);
 
 } // namespace report

@@ -1,11 +1,13 @@
 #include "restorecommand.h"
 
+#include "interrupt.h"
 #include "output.h"
+#include "readfile.h"
 #include "registrybackup.h"
 #include "registryrestore.h"
 #include "text.h"
 
-#include <QFile>
+#include <QTextStream>
 
 #include <algorithm>
 
@@ -15,19 +17,20 @@ namespace cli {
 
 namespace {
 
-QString asText(const QList<RegistryRestore::Outcome> &outcomes, qsizetype restored)
+constexpr qint64 maximumSize = 1 << 30; // bytes, more than any registry has
+
+void writeOutcomes(QTextStream &stream, const QList<RegistryRestore::Outcome> &outcomes,
+                   qsizetype restored)
 {
-    QString text;
     for (const RegistryRestore::Outcome &outcome : outcomes) {
-        text += (outcome.isRestored ? "Restored: "_L1 : "Not restored: "_L1)
-            + singleLine(outcome.entry);
+        stream << (outcome.isRestored ? "Restored: " : "Not restored: ")
+               << singleLine(outcome.entry);
         if (!outcome.isRestored)
-            text += " - "_L1 + singleLine(outcome.error);
-        text += u'\n';
+            stream << " - " << singleLine(outcome.error);
+        stream << '\n';
     }
-    text += u"Restored %1 keys and values; %2 failed.\n"_s.arg(
-        QString::number(restored), QString::number(outcomes.size() - restored));
-    return text;
+    stream << "Restored " << restored << " keys and values; " << outcomes.size() - restored
+           << " failed.\n";
 }
 
 QJsonObject asObject(const RegistryRestore::Outcome &outcome)
@@ -37,11 +40,12 @@ QJsonObject asObject(const RegistryRestore::Outcome &outcome)
             {u"error"_s, outcome.error}};
 }
 
-QJsonObject asJson(const QList<RegistryRestore::Outcome> &outcomes, qsizetype restored)
+void writeOutcomes(JsonWriter &json, const QList<RegistryRestore::Outcome> &outcomes,
+                   qsizetype restored)
 {
-    return {{u"restoredCount"_s, restored},
-            {u"failedCount"_s, outcomes.size() - restored},
-            {u"entries"_s, jsonArray(outcomes, asObject)}};
+    json.member("restoredCount"_L1, restored);
+    json.member("failedCount"_L1, outcomes.size() - restored);
+    json.array("entries"_L1, outcomes, asObject);
 }
 
 } // namespace
@@ -49,23 +53,31 @@ QJsonObject asJson(const QList<RegistryRestore::Outcome> &outcomes, qsizetype re
 ExitStatus restore(const Invocation &invocation)
 {
     const QString path = invocation.arguments().constFirst();
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refuse(u"%1 cannot be read: %2"_s.arg(path, file.errorString()));
-    const std::optional<QString> text = RegistryBackup::decode(file.readAll());
-    QString error = u"it ends in the middle of a character"_s;
+    QString error;
+    const std::optional<QByteArray> bytes = platform::readFile(path, maximumSize, error);
+    if (!bytes)
+        return refuse(u"%1 cannot be read: %2"_s.arg(path, error));
+    const std::optional<QString> text = RegistryBackup::decode(*bytes);
+    error = u"it ends in the middle of a character"_s;
     const auto keys = text ? RegistryRestore::parse(*text, error) : std::nullopt;
     if (!keys)
         return refuse(u"%1 is damaged, nothing was restored: %2"_s.arg(path, error));
 
+    platform::interrupt::catchRequests();
     platform::Registry registry;
-    const QList<RegistryRestore::Outcome> outcomes = RegistryRestore::restore(registry, *keys);
+    const QList<RegistryRestore::Outcome> outcomes =
+        RegistryRestore::restore(registry, *keys, platform::interrupt::isRequested());
     const auto restored =
         std::count_if(outcomes.begin(), outcomes.end(),
                       [](const RegistryRestore::Outcome &outcome) { return outcome.isRestored; });
-    return printReport(
-        invocation, [&] { return asJson(outcomes, restored); },
-        [&] { return asText(outcomes, restored); },
+    // A request after the last entry comes too late to cancel anything.
+    const bool isCancelled =
+        std::any_of(outcomes.begin(), outcomes.end(),
+                    [](const RegistryRestore::Outcome &outcome) { return outcome.isCancelled; });
+    return printRun(
+        invocation, {registry.readFailures(), isCancelled},
+        [&](JsonWriter &json) { writeOutcomes(json, outcomes, restored); },
+        [&](QTextStream &stream) { writeOutcomes(stream, outcomes, restored); },
         restored == outcomes.size() ? Success : SomeFailed);
 }
 

@@ -1,7 +1,10 @@
 #include "cleanengine.h"
 
-#include <QThread>
+#include "logger.h"
 
+#include <QCoreApplication>
+
+#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -27,18 +30,21 @@ void CleanEngine::startScan()
     m_stopRequested = false;
     // Freeing a million records takes noticeable time, so the worker does it. By then the pages
     // have let go of them, because of the new state.
-    QList<CleanCategory> discarded = std::exchange(m_result.categories, {});
+    const auto discarded =
+        std::make_shared<QList<CleanCategory>>(std::exchange(m_result.categories, {}));
+    m_readFailures.clear();
     setState(State::Scanning);
 
     startWorker(
-        std::unique_ptr<QThread>(QThread::create([this, run, old = std::move(discarded)]() mutable {
-            old.clear();
+        [this, discarded] {
+            discarded->clear();
             doScan();
-            const bool stopped = isStopRequested();
-            m_isWorkerDone = true;
-            if (!stopped)
+            Logger::instance().warnings(m_readFailures.lines());
+        },
+        [this, run] {
+            if (!isStopRequested())
                 run.post([this, run] { completeScan(run); });
-        })));
+        });
 }
 
 void CleanEngine::startClean()
@@ -50,13 +56,14 @@ void CleanEngine::startClean()
     m_failures.clear();
     m_cleanedSize = 0;
     m_cleanedCount = 0;
+    m_readFailures.clear();
     setState(State::Cleaning);
 
-    startWorker(std::unique_ptr<QThread>(QThread::create([this] {
+    startWorker([this] {
         doClean();
         m_selection.categories.clear();
-        m_isWorkerDone = true;
-    })));
+        Logger::instance().warnings(m_readFailures.lines());
+    });
 }
 
 void CleanEngine::cancel()
@@ -67,12 +74,17 @@ void CleanEngine::cancel()
 
 void CleanEngine::stopAndWait()
 {
-    if (!m_worker)
-        return;
     m_stopRequested = true;
-    m_worker->wait();
-    Q_ASSERT(m_isWorkerDone);
-    m_worker.reset();
+    m_worker.wait();
+}
+
+bool CleanEngine::waitForEnd(QDeadlineTimer deadline)
+{
+    if (!m_worker.wait(deadline))
+        return false;
+    // The end of a scan, and the signals of a clean, are in the queue by now.
+    QCoreApplication::sendPostedEvents();
+    return true;
 }
 
 void CleanEngine::setState(State state)
@@ -128,19 +140,23 @@ void CleanEngine::reportClean(const CleanTotals &totals)
     Q_EMIT cleanFinished(totals.freed, totals.cleaned);
 }
 
-void CleanEngine::startWorker(std::unique_ptr<QThread> worker)
+void CleanEngine::startWorker(const std::function<void()> &work,
+                              const std::function<void()> &report)
 {
-    m_worker = std::move(worker);
-    m_isWorkerDone = false;
-    m_worker->setObjectName(QString::fromLatin1(metaObject()->className()) + "Worker"_L1);
-    m_worker->start();
+    const QString name = QString::fromLatin1(metaObject()->className()) + "Worker"_L1;
+    if (m_worker.start(name, work, report))
+        return;
+    const QString error = Worker::startError();
+    Logger::instance().error(u"%1 was not started: %2"_s.arg(name, error));
+    setState(State::Error);
+    Q_EMIT errorOccurred(error);
 }
 
 // The worker posts this call. cancel() may have been called since, so the state is checked. A
 // receiver of stateChanged() may start the next run, so the run is checked too.
 void CleanEngine::completeScan(const RunSignals::Run &run)
 {
-    Q_ASSERT(m_isWorkerDone);
+    Q_ASSERT(!m_worker.isBusy());
     if (state() != State::Scanning)
         return;
     setState(State::Finished);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "readfailures.h"
 #include "runsignals.h"
 #include "scanresult.h"
+#include "worker.h"
 
 #include <QList>
 #include <QObject>
@@ -10,8 +12,6 @@
 #include <atomic>
 #include <functional>
 #include <memory>
-
-class QThread;
 
 /// One thing that a clean could not remove.
 struct CleanFailure {
@@ -29,9 +29,8 @@ struct CleanFailure {
 ///  - selection: the GUI thread sets it before a clean's worker starts; the worker reads and drops
 ///    it;
 ///  - failures, cleaned size and count: the worker while a clean runs, otherwise the GUI thread;
-///  - worker, run signals: the GUI thread;
-///  - worker done: atomic. The worker sets it last. A thread that sees it set also sees everything
-///    that the run wrote.
+///  - read failures: the worker while a run is busy, otherwise the GUI thread;
+///  - worker, run signals: the GUI thread.
 ///
 /// The worker emits progress and the end of a clean. A receiver that must not hear of an earlier
 /// run is connected through an object of makeRunReceiver().
@@ -68,6 +67,9 @@ public:
     /// What the last clean removed: bytes and items. Same rule.
     [[nodiscard]] qint64 cleanedSize() const { return m_cleanedSize; }
     [[nodiscard]] int cleanedCount() const { return m_cleanedCount; }
+    /// What the last run could not read. A scan that is done may have missed something there. Same
+    /// rule.
+    [[nodiscard]] const platform::ReadFailures &incomplete() const { return m_readFailures; }
     /// Makes an object to connect the engine's signals to. Queued signals of a run are dropped
     /// there when the next run begins or the engine is deleted. GUI thread.
     [[nodiscard]] std::unique_ptr<QObject> makeRunReceiver() const
@@ -90,6 +92,9 @@ public Q_SLOTS:
 public:
     /// Stops the worker, if there is one, and waits for its end.
     void stopAndWait();
+    /// Waits for the end of the run, but not longer than until @p deadline. Returns whether no run
+    /// is busy any more. Then the end of the run has been reported: it needs no event loop.
+    bool waitForEnd(QDeadlineTimer deadline);
 
 Q_SIGNALS:
     void stateChanged(CleanEngine::State state);
@@ -140,19 +145,23 @@ protected:
     /// log line about the end, before or after this call.
     void reportClean(const CleanTotals &totals);
     void addFailure(const CleanFailure &failure) { m_failures.append(failure); }
+    /// The subclass adds what it cannot read. At the end of the run the log gets a line for each
+    /// reason.
+    [[nodiscard]] platform::ReadFailures &readFailures() { return m_readFailures; }
 
 private:
-    void startWorker(std::unique_ptr<QThread> worker);
+    /// Runs @p work and then @p report on the worker. Without a thread the run ends as failed.
+    void startWorker(const std::function<void()> &work, const std::function<void()> &report = {});
     void completeScan(const RunSignals::Run &run);
 
     std::atomic<State> m_state = State::Idle;
     ScanResult m_result;
     std::atomic_bool m_stopRequested = false;
-    std::unique_ptr<QThread> m_worker;
     ScanResult m_selection;
     QList<CleanFailure> m_failures;
     qint64 m_cleanedSize = 0;
     int m_cleanedCount = 0;
-    std::atomic_bool m_isWorkerDone = false;
+    platform::ReadFailures m_readFailures;
     RunSignals m_runSignals{this};
+    Worker m_worker;
 };

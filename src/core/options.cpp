@@ -32,4 +32,13 @@ void set(QSettings &settings, const Option &option, bool on)
     settings.setValue(option.key, on);
 }
 
+bool save(const QSettings &settings)
+{
+    // Both objects share what is not saved yet. But each keeps its first failure for ever, so an
+    // old object does not tell how this attempt has ended.
+    QSettings sameFile(settings.fileName(), settings.format());
+    sameFile.sync();
+    return sameFile.status() == QSettings::NoError;
+}
+
 } // namespace options

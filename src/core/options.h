@@ -32,5 +32,7 @@ inline constexpr QLatin1StringView language("language");
 
 [[nodiscard]] bool isOn(const QSettings &settings, const Option &option);
 void set(QSettings &settings, const Option &option, bool on);
+/// Writes what has been set to the settings file. Returns whether everything is in it now.
+[[nodiscard]] bool save(const QSettings &settings);
 
 } // namespace options

@@ -3,6 +3,7 @@
 #include "appinfo.h"
 #include "languages.h"
 #include "options.h"
+#include "settingsfile.h"
 
 #include <QDebug>
 #include <QDesktopServices>
@@ -86,8 +87,7 @@ bool LinkManager::loadTable(const QString &path)
 
 QString LinkManager::chooseLanguage(const QString &systemLocale) const
 {
-    const QString stored =
-        QSettings(appinfo::organisation, appinfo::name).value(options::language).toString();
+    const QString stored = settingsfile::openLanguage()->value(options::language).toString();
     if (!stored.isEmpty() && m_supportedLanguages.contains(stored)) {
         qDebug() << "[LinkManager] 使用用户设置的语言:" << stored;
         return stored;
@@ -182,7 +182,7 @@ void LinkManager::setLanguage(const QString &code)
     if (code == m_currentLanguage)
         return;
     m_currentLanguage = code;
-    QSettings(appinfo::organisation, appinfo::name).setValue(options::language, code);
+    settingsfile::openLanguage()->setValue(options::language, code);
     qDebug() << "[LinkManager] 语言已切换为:" << code;
     Q_EMIT languageChanged(code);
 }

@@ -4,11 +4,16 @@
 #include "ask.h"
 #include "languages.h"
 #include "linkmanager.h"
+#include "logger.h"
 #include "options.h"
+#include "settingsfile.h"
+#include "text.h"
 #include "theme.h"
 
 #include <QActionGroup>
 #include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -23,9 +28,7 @@ TitleBar::TitleBar(QWidget *parent)
     setObjectName("titleBar"_L1);
     setAttribute(Qt::WA_StyledBackground);
     setFixedHeight(48);
-    m_currentLanguage = QSettings(appinfo::organisation, appinfo::name)
-                            .value(options::language, u"en"_s)
-                            .toString();
+    m_currentLanguage = settingsfile::openLanguage()->value(options::language, u"en"_s).toString();
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 0, 1, 0);
@@ -88,9 +91,9 @@ void TitleBar::buildMenu()
         QAction *action = languageMenu->addAction(language.menuText.toString());
         action->setCheckable(true);
         action->setData(QString(language.code));
-        action->setChecked(language.code == m_currentLanguage);
         m_languages->addAction(action);
     }
+    checkLanguage();
     connect(m_languages, &QActionGroup::triggered, this,
             [this](QAction *action) { changeLanguage(action->data().toString()); });
 
@@ -99,14 +102,36 @@ void TitleBar::buildMenu()
     m_menu->addAction(tr("Support"), this, &TitleBar::supportClicked);
 }
 
+void TitleBar::checkLanguage()
+{
+    for (QAction *action : m_languages->actions())
+        action->setChecked(action->data().toString() == m_currentLanguage);
+}
+
 void TitleBar::changeLanguage(const QString &code)
 {
     if (code == m_currentLanguage)
         return;
-    m_currentLanguage = code;
-    QSettings store(appinfo::organisation, appinfo::name);
+    const std::unique_ptr<QSettings> opened = settingsfile::openLanguage();
+    QSettings &store = *opened;
+    const QVariant before = store.value(options::language);
     store.setValue(options::language, code);
     store.sync();
+    if (store.status() != QSettings::NoError) {
+        // Other readers of the settings would get the new code until the end of the program.
+        if (before.isValid())
+            store.setValue(options::language, before);
+        else
+            store.remove(options::language);
+        checkLanguage();
+        Logger::instance().error("The language cannot be saved: "_L1 + store.fileName());
+        ask::notice(window(), tr("Language"),
+                    tr("The language could not be saved and does not change:\n%1")
+                        .arg(singleLine(QDir::toNativeSeparators(store.fileName()))),
+                    QMessageBox::Warning);
+        return;
+    }
+    m_currentLanguage = code;
     LinkManager::instance()->setLanguage(code);
     Q_EMIT languageChanged(code);
 

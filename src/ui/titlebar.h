@@ -45,6 +45,10 @@ protected:
 private:
     WinButton *addButton(WinButton::Type type, const QString &name);
     void buildMenu();
+    /// Checks the action of the current language.
+    void checkLanguage();
+    /// Stores @p code, tells everybody and restarts the program. If the code cannot be stored, a
+    /// box says so and nothing changes.
     void changeLanguage(const QString &code);
     void restartProgram();
 

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Messages of the offscreen platform, and one that comes because there is no file manager.
+// Messages of the offscreen platform.
 bool isHarmless(const QString &message)
 {
     static const QStringList harmless{
@@ -23,7 +23,6 @@ bool isHarmless(const QString &message)
         u"This plugin does not support propagateSizeHints()"_s,
         u"This plugin does not support raise()"_s,
         u"This plugin does not support grabbing the keyboard"_s,
-        u"[LargeFilePage] The file manager could not be started"_s,
     };
     return harmless.contains(message);
 }

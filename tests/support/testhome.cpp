@@ -1,6 +1,7 @@
 #include "testhome.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -8,6 +9,10 @@ using namespace Qt::StringLiterals;
 TestHome::TestHome()
     : m_folder(QFileInfo(m_temporary.path()).canonicalFilePath())
 {
+    // The rights of the test may be taken away for a while, see OrdinaryUser. It still finds its
+    // home then.
+    QFile::setPermissions(m_folder,
+                          QFile::permissions(m_folder) | QFile::ExeGroup | QFile::ExeOther);
     setFolderVariable("HOME", u"home"_s);
     setFolderVariable("XDG_CONFIG_HOME", u"config"_s);
     setFolderVariable("XDG_DATA_HOME", u"data"_s);

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #ifdef Q_OS_UNIX
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -85,5 +86,21 @@ OrdinaryUser::~OrdinaryUser()
 #ifdef Q_OS_UNIX
     if (m_changed && ::seteuid(0) != 0)
         qFatal("cannot become the administrator again");
+#endif
+}
+
+FileMask::FileMask(unsigned mask)
+{
+#ifdef Q_OS_UNIX
+    m_before = ::umask(mask);
+#else
+    Q_UNUSED(mask)
+#endif
+}
+
+FileMask::~FileMask()
+{
+#ifdef Q_OS_UNIX
+    ::umask(m_before);
 #endif
 }

@@ -44,3 +44,16 @@ public:
 private:
     bool m_changed = false;
 };
+
+/// Sets the process's mask for new files as long as the object exists. By default nothing is
+/// masked: what a program makes without a mode is then open to everybody. Does nothing on Windows.
+class FileMask final
+{
+    Q_DISABLE_COPY_MOVE(FileMask)
+public:
+    explicit FileMask(unsigned mask = 0);
+    ~FileMask();
+
+private:
+    unsigned m_before = 0;
+};

@@ -9,6 +9,7 @@
 #include "scriptedengine.h"
 #include "signalspy.h"
 #include "testhome.h"
+#include "threadfault.h"
 #include "uisupport.h"
 
 #include <QApplication>
@@ -361,6 +362,40 @@ private Q_SLOTS:
         QVERIFY(categories(page).at(0)->isEnabled());
         engine.hold = false;
         QTRY_VERIFY_WITH_TIMEOUT(categories(page).isEmpty(), patience);
+    }
+
+    void aRunWithoutAThreadShowsTheFailureAndCanBeRepeated()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        page.setEngine(&engine);
+        page.resize(700, 500);
+        page.show();
+        {
+            const ThreadFault fault;
+            click(page, u"scanBtn"_s);
+        }
+        const auto showsFailure = [&page] {
+            const auto labels = dialog(page)->findChildren<QLabel *>();
+            return dialog(page)->isFinished()
+                && std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+                       return label->text().contains("cannot start another thread"_L1);
+                   });
+        };
+        QVERIFY(showsFailure());
+        QVERIFY(button(page, u"scanBtn"_s)->isEnabled());
+        click(page, u"scanBtn"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(categories(page).size(), 1, patience);
+        {
+            const ThreadFault fault;
+            click(page, u"cleanBtn"_s);
+        }
+        QVERIFY(showsFailure());
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        click(page, u"cleanBtn"_s);
+        QVERIFY(cleaned.wait(patience));
+        QCOMPARE(engine.cleans.load(), 1);
     }
 
     void afterAFailedCleanTheSameListCanBeCleaned()

@@ -11,12 +11,14 @@
 #include "signalspy.h"
 #include "testhome.h"
 #include "testtree.h"
+#include "threadfault.h"
 #include "uisupport.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QInputDialog>
@@ -169,6 +171,57 @@ public:
 
 private Q_SLOTS:
     void initTestCase() { Application::instance()->initialize(); }
+
+    // --- without a thread
+
+    void aScanWithoutAThreadShowsAWarning()
+    {
+        const TestTree tree;
+        LargeFilePage page({drive(tree.path())});
+        show(page);
+        page.findChild<DriveCard *>()->checkBox()->setChecked(true);
+        MessageBoxes boxes(QMessageBox::Ok);
+        {
+            const ThreadFault fault;
+            click(page, u"startScanBtn"_s);
+        }
+        QCOMPARE(boxes.seen().size(), 1);
+        QVERIFY(boxes.seen().constFirst().startsWith("Operation Failed|"_L1));
+        QVERIFY(boxes.seen().constFirst().contains("thread"_L1));
+        QVERIFY(!dialog(page));
+        QVERIFY(!areResultsShown(page));
+    }
+
+    void aDeletionWithoutAThreadShowsOneWarning()
+    {
+        const TestTree tree;
+        makeSparse(tree.path(u"a"_s), 1536);
+        LargeFilePage page({drive(tree.path())});
+        show(page);
+        scan(page);
+        cards(page).constFirst()->checkBox()->setChecked(true);
+        MessageBoxes boxes(QMessageBox::Yes);
+        {
+            const ThreadFault fault;
+            click(page, u"deleteBtn"_s);
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(boxes.seen().size(), 2, patience);
+        QVERIFY(boxes.seen().constLast().startsWith("Operation Failed|"_L1));
+        QCOMPARE(cards(page).size(), 1);
+        QVERIFY(find<QPushButton>(page, u"deleteBtn"_s)->isEnabled());
+        QVERIFY(QFile::exists(tree.path(u"a"_s)));
+    }
+
+    void recordsAreFreedWithoutAThread()
+    {
+        LargeFileModel model;
+        model.setFiles({LargeFileInfo(), LargeFileInfo()});
+        {
+            const ThreadFault fault;
+            model.setFiles({});
+        }
+        QCOMPARE(model.rowCount(), 0);
+    }
 
     // --- the selection view
 
@@ -655,6 +708,38 @@ private Q_SLOTS:
         QCOMPARE(action->text(), u"📂 Open file location"_s);
         QCOMPARE(action->property("filePath").toString(), a);
         QVERIFY(menuAction(cards(page).at(0), 1)->isSeparator());
+    }
+
+    void aLocationThatCannotBeShownIsExplained_data()
+    {
+        QTest::addColumn<bool>("isThere");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("gone") << false << u"Notice|This file no longer exists:\n%1"_s;
+#ifndef Q_OS_WIN // Windows always has a file manager
+        QTest::newRow("no file manager")
+            << true << u"Notice|The file manager could not be started to show this file:\n%1"_s;
+#endif
+    }
+
+    void aLocationThatCannotBeShownIsExplained()
+    {
+        QFETCH(bool, isThere);
+        QFETCH(QString, text);
+        const TestTree tree;
+        const QString path = tree.file(u"a"_s);
+        LargeFilePage page({drive(tree.path())});
+        show(page);
+        scan(page);
+        QAction *action = menuAction(cards(page).at(0), 0);
+        if (!isThere)
+            QVERIFY(QFile::remove(path));
+        const EmptySearchPath noPrograms;
+        const LogCapture log;
+        const MessageBoxes boxes(QMessageBox::Ok);
+        action->trigger();
+        QCOMPARE(boxes.seen(), QStringList{text.arg(QDir::toNativeSeparators(path))});
+        QCOMPARE(boxes.icons(), QList<QMessageBox::Icon>{QMessageBox::Warning});
+        QCOMPARE(log.lines().filter(u"[WARN]"_s).filter(path).size(), 1);
     }
 
     // The card of the menu may get another file while the menu is open.

@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDate>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileDialog>
 #include <QLabel>
@@ -251,6 +252,103 @@ private Q_SLOTS:
         QVERIFY(cleaned.wait(patience));
         QVERIFY(!QFile::exists(folder + "/second.reg"_L1));
         QCOMPARE(engine->state(), CleanEngine::State::Cancelled);
+    }
+
+    void aMissingBackupIsSaidAfterTheClean_data()
+    {
+        QTest::addColumn<int>("cancelAt");
+        QTest::addColumn<bool>("changesRegistry");
+        QTest::addColumn<QString>("details");
+        QTest::newRow("all removed") << 0 << false << u"Entries removed without a backup: 2"_s;
+        QTest::newRow("cancelled after one")
+            << 1 << false << u"Entries removed without a backup: 1"_s;
+#ifndef Q_OS_WIN // Windows has no registry file that another program could have written
+        QTest::newRow("nothing removed") << 0 << true << u"No entries were removed."_s;
+#endif
+    }
+
+    void aMissingBackupIsSaidAfterTheClean()
+    {
+        QFETCH(int, cancelAt);
+        QFETCH(bool, changesRegistry);
+        QFETCH(QString, details);
+        RegistryPage page;
+        page.show();
+        scan(page);
+        tick({u"Sweepwise a"_s, u"Sweepwise b"_s});
+        auto *engine = Application::instance()->registryCleaner();
+        const TestTree tree;
+        const QString path = tree.path(u"lost.reg"_s);
+        const BackupDialogUser user([&path](RegistryBackupDialog &dialog) {
+            edit(dialog)->setText(path);
+            QTest::mouseClick(button(dialog, u"startCleanBtn"_s), Qt::LeftButton);
+        });
+        // The path becomes unusable after the dialog has checked it.
+        QObject context;
+        connect(engine, &CleanEngine::stateChanged, &context, [&](CleanEngine::State state) {
+            if (state == CleanEngine::State::Cleaning)
+                tree.folder(u"lost.reg"_s);
+        });
+        connect(
+            engine, &CleanEngine::cleanProgress, &context,
+            [&](int current) {
+                if (current == cancelAt)
+                    engine->cancel();
+                if (changesRegistry && current == 1) {
+                    QFile file(m_fixture->file(u"HKEY_CURRENT_USER"_s));
+                    if (!file.open(QIODevice::Append) || file.write("\n") < 0)
+                        qFatal("cannot change the registry");
+                }
+            },
+            Qt::DirectConnection);
+        const LogCapture log;
+        const MessageBoxes boxes(QMessageBox::Ok);
+        page.startClean();
+        QVERIFY(user.hasSeenDialog());
+        QTRY_COMPARE_WITH_TIMEOUT(boxes.seen().size(), 1, patience);
+        QCOMPARE(boxes.seen().constFirst(),
+                 u"Registry Cleaner|The registry backup could not be written:\n%1\n\n%2"_s.arg(
+                     QDir::toNativeSeparators(path), u"A folder stands there"_s));
+        QCOMPARE(boxes.details(), QStringList{details});
+        QCOMPARE(boxes.icons(), QList<QMessageBox::Icon>{QMessageBox::Warning});
+        QCOMPARE(log.count(u"[ERROR] Failed to create registry backup"_s), 1);
+        // The result itself stays on the screen.
+        if (auto *result = page.findChild<ProgressDialog *>()) {
+            QVERIFY(result->isVisible());
+            result->accept();
+        }
+    }
+
+    void aScanThatOvertakesTheCleanIsNotHeldUpByTheBox()
+    {
+        RegistryPage page;
+        page.show();
+        scan(page);
+        tick({u"Sweepwise a"_s});
+        auto *engine = Application::instance()->registryCleaner();
+        const TestTree tree;
+        const QString path = tree.path(u"lost.reg"_s);
+        const BackupDialogUser user([&path](RegistryBackupDialog &dialog) {
+            edit(dialog)->setText(path);
+            QTest::mouseClick(button(dialog, u"startCleanBtn"_s), Qt::LeftButton);
+        });
+        QObject context;
+        connect(engine, &CleanEngine::stateChanged, &context, [&](CleanEngine::State state) {
+            if (state == CleanEngine::State::Cleaning)
+                tree.folder(u"lost.reg"_s);
+        });
+        const LogCapture log;
+        page.startClean();
+        QVERIFY(user.hasSeenDialog());
+        // Without the event loop, so that the page does not hear of the end of the clean.
+        const QDeadlineTimer deadline(patience);
+        while (!log.contains(u"Failed to create registry backup"_s) && !deadline.hasExpired())
+            QTest::qSleep(1);
+        const MessageBoxes boxes(QMessageBox::Ok);
+        engine->startScan();
+        QVERIFY(boxes.seen().isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(boxes.seen().size(), 1, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(engine->state(), CleanEngine::State::Finished, patience);
     }
 
     // --- the dialog

@@ -4,14 +4,17 @@
 
 #include "appinfo.h"
 #include "detailitemwidget.h"
+#include "logcapture.h"
 #include "scriptedengine.h"
 #include "signalspy.h"
 #include "svgicon.h"
 #include "testhome.h"
+#include "testtree.h"
 #include "uisupport.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -508,14 +511,52 @@ private Q_SLOTS:
         QVERIFY(!dialog);
     }
 
-    void aMissingFileIsExplainedWhenItsLocationIsOpened()
+    void aLocationThatCannotBeShownIsExplained_data()
     {
-        const CleanCategory category = scriptedCategory(u"x"_s, 1);
+        QTest::addColumn<bool>("isThere");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("gone") << false << u"This file no longer exists:\n%1"_s
+                              << u"[WARN] The file whose location was asked for is gone: %1"_s;
+#ifndef Q_OS_WIN // Windows always has a file manager
+        QTest::newRow("no file manager")
+            << true << u"The file manager could not be started to show this file:\n%1"_s
+            << u"[WARN] The file manager could not be started for %1"_s;
+#endif
+    }
+
+    void aLocationThatCannotBeShownIsExplained()
+    {
+        QFETCH(bool, isThere);
+        QFETCH(QString, text);
+        QFETCH(QString, line);
+        const TestTree tree;
+        const QString path = isThere ? tree.file(u"a <b>file"_s) : tree.path(u"a <b>file"_s);
+        CleanCategory category = scriptedCategory(u"x"_s, 1);
+        category.items.first().path = path;
+        ItemDetailDialog dialog(&category);
+        dialog.show();
+        const EmptySearchPath noPrograms;
+        const LogCapture log;
+        const MessageBoxes boxes(QMessageBox::Ok);
+        dialog.findChild<QPushButton *>(u"openLocationBtn"_s)->click();
+        QCOMPARE(boxes.seen(),
+                 QStringList{u"Notice|"_s + text.arg(QDir::toNativeSeparators(path))});
+        QCOMPARE(boxes.icons(), QList<QMessageBox::Icon>{QMessageBox::Warning});
+        QCOMPARE(log.count(line.arg(path)), 1);
+    }
+
+    void anItemWithoutAPathHasNoLocation()
+    {
+        CleanCategory category = scriptedCategory(u"x"_s, 1);
+        category.items.first().path.clear();
         ItemDetailDialog dialog(&category);
         dialog.show();
         const MessageBoxes boxes(QMessageBox::Ok);
-        dialog.findChild<QPushButton *>(u"openLocationBtn"_s)->click();
-        QCOMPARE(boxes.seen(), QStringList{u"Notice|This file no longer exists."_s});
+        const LogCapture log;
+        dialog.onOpenLocation({});
+        QVERIFY(boxes.seen().isEmpty());
+        QVERIFY(!log.contains(u"[WARN]"_s));
     }
 
 private:

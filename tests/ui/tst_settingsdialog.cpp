@@ -4,6 +4,7 @@
 #include "appinfo.h"
 #include "application.h"
 #include "autostart.h"
+#include "logcapture.h"
 #include "registryfixture.h"
 #include "testhome.h"
 #include "testtree.h"
@@ -22,9 +23,73 @@
 #include <QTest>
 #include <QTimer>
 
+#include <optional>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+#ifdef Q_OS_WIN
+bool refusesValues = false;
+
+LSTATUS WINAPI setValue(HKEY key, LPCWSTR name, DWORD reserved, DWORD type, const BYTE *data,
+                        DWORD size)
+{
+    if (refusesValues)
+        return ERROR_ACCESS_DENIED;
+    static const auto systemFunction =
+        reinterpret_cast<decltype(&setValue)>(reinterpret_cast<void *>(
+            ::GetProcAddress(::GetModuleHandleW(L"advapi32.dll"), "RegSetValueExW")));
+    return systemFunction(key, name, reserved, type, data, size);
+}
+#endif
+
+/// Makes the registry refuse every change as long as the object exists.
+class RefusingRegistry final
+{
+    Q_DISABLE_COPY_MOVE(RefusingRegistry)
+public:
+#ifdef Q_OS_WIN
+    explicit RefusingRegistry(const TestHome &)
+    {
+        refusesValues = true;
+    }
+    ~RefusingRegistry()
+    {
+        refusesValues = false;
+    }
+#else
+    explicit RefusingRegistry(const TestHome &home)
+        : m_prefix(home.folder(u"prefix"_s))
+    {
+        // The user who runs the dialog may read the prefix and write the settings.
+        for (const QString &folder : {home.path(), m_prefix})
+            QFile::setPermissions(folder, readable);
+        const QString settings = QSettings(QSettings::IniFormat, QSettings::UserScope,
+                                           appinfo::organisation, appinfo::name)
+                                     .fileName();
+        QDir().mkpath(QFileInfo(settings).path());
+        for (const QString &path : {settings, QFileInfo(settings).path()})
+            QFile::setPermissions(path, readable | QFile::WriteGroup | QFile::WriteOther);
+        m_user.emplace();
+    }
+    ~RefusingRegistry()
+    {
+        m_user.reset();
+        QFile::setPermissions(m_prefix, readable | QFile::WriteOwner);
+    }
+
+private:
+    static constexpr QFile::Permissions readable = QFile::ReadOwner | QFile::ExeOwner
+        | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    QString m_prefix;
+    std::optional<OrdinaryUser> m_user;
+#endif
+};
 
 const QString runKey = u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
 const QString valueName = u"Sweepwise"_s;
@@ -61,6 +126,14 @@ int saveAutoStart(int argc, char **argv)
 }
 
 } // namespace
+
+#ifdef Q_OS_WIN
+// The linker takes this entry of the program's import table instead of the system's.
+extern "C" {
+extern decltype(&setValue) const importedSetValue asm("__imp_RegSetValueExW");
+decltype(&setValue) const importedSetValue = setValue;
+}
+#endif
 
 class TestSettingsDialog : public QObject
 {
@@ -254,6 +327,52 @@ private Q_SLOTS:
         dialog.onSaveClicked();
         QCOMPARE(m_fixture->exported(runKey), before);
         QCOMPARE(m_fixture->hasValue(runKey, valueName), !on);
+    }
+
+    void settingsThatCannotBeSavedAreReported()
+    {
+        SettingsDialog dialog;
+        dialog.show();
+        const QString path = settings()->fileName();
+        QFile::remove(path);
+        QVERIFY(QDir().mkpath(path)); // a folder in the place of the settings
+        const MessageBoxes boxes(QMessageBox::Ok);
+        const LogCapture log;
+        box(dialog, u"confirmClean"_s)->click();
+        click(dialog, u"saveBtn"_s);
+        QVERIFY(QDir().rmdir(path));
+        QCOMPARE(boxes.seen(),
+                 QStringList{u"Settings|The settings could not be saved:\n"_s
+                             + QDir::toNativeSeparators(path)});
+        QCOMPARE(boxes.icons(), QList<QMessageBox::Icon>{QMessageBox::Warning});
+        QCOMPARE(log.count("[ERROR] The settings cannot be saved: "_L1 + path), 1);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        // The next save succeeds, and then nothing is said.
+        dialog.onSaveClicked();
+        QCOMPARE(boxes.seen().size(), 1);
+        QVERIFY(QFileInfo(path).isFile());
+    }
+
+    // The dialog keeps what the user has chosen and says nothing. The log says what went wrong.
+    void aStartThatCannotBeStoredIsLogged()
+    {
+        SettingsDialog dialog;
+        dialog.show();
+        const MessageBoxes boxes(QMessageBox::Ok);
+        const LogCapture log;
+        {
+            const RefusingRegistry registry(m_home);
+            box(dialog, u"autoStart"_s)->click();
+            click(dialog, u"saveBtn"_s);
+        }
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QVERIFY(box(dialog, u"autoStart"_s)->isChecked());
+        QVERIFY(boxes.seen().isEmpty());
+        QVERIFY(runValue().isEmpty());
+        const QString start = u"[ERROR] The start with the session cannot be turned on: "_s;
+        const QStringList lines = log.lines().filter(start);
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines.constFirst().section(start, 1).size() > 5); // the reason
     }
 
     void turningAutoStartOffRemovesTheRunValue()

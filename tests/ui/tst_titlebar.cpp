@@ -7,6 +7,8 @@
 #include "uisupport.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QSettings>
@@ -227,6 +229,37 @@ private Q_SLOTS:
         QVERIFY(boxes.seen().constLast().contains(u"could not be restarted"_s));
         QCOMPARE(storedLanguage(), u"fr"_s);
     }
+
+#ifdef Q_OS_UNIX
+    void aLanguageThatCannotBeStoredChangesNothing()
+    {
+        RecordingTitleBar bar;
+        SignalSpy changed(&bar, &TitleBar::languageChanged);
+        const QString linkLanguage = LinkManager::instance()->currentLanguage();
+        const QString path = QSettings(appinfo::organisation, appinfo::name).fileName();
+        QFile::remove(path);
+        // A file in the place of the folder of the settings.
+        const QString folder = QFileInfo(path).path();
+        QVERIFY(QDir().rename(folder, folder + ".away"_L1));
+        QFile file(folder);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const MessageBoxes boxes(QMessageBox::Ok);
+        language(bar, u"de"_s)->trigger();
+        QTest::qWait(30);
+        QVERIFY(file.remove());
+        QVERIFY(QDir().rename(folder + ".away"_L1, folder));
+        QCOMPARE(boxes.seen(),
+                 QStringList{u"Language|The language could not be saved and does not change:\n"_s
+                             + path});
+        QCOMPARE(boxes.icons(), QList<QMessageBox::Icon>{QMessageBox::Warning});
+        QVERIFY(language(bar, u"en"_s)->isChecked());
+        QCOMPARE(bar.currentLanguage(), u"en"_s);
+        QCOMPARE(LinkManager::instance()->currentLanguage(), linkLanguage);
+        QCOMPARE(changed.size(), 0);
+        QVERIFY(bar.started.isEmpty());
+        QCOMPARE(storedLanguage(), QString());
+    }
+#endif
 
     void theActiveLanguageNeitherWritesNorRestarts()
     {

@@ -16,6 +16,8 @@ void MessageBoxes::answer(QMessageBox::StandardButton button)
     if (!box)
         return;
     m_seen.append(box->windowTitle() + u'|' + box->text());
+    m_details.append(box->informativeText());
+    m_icons.append(box->icon());
     QAbstractButton *wanted = box->button(button);
     if (!wanted && box->buttons().size() == 1)
         wanted = box->buttons().constFirst(); // the box has no choice

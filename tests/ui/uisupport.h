@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QByteArray>
 #include <QDialogButtonBox>
+#include <QList>
 #include <QMessageBox>
 #include <QStringList>
 #include <QTimer>
@@ -16,12 +18,29 @@ public:
 
     /// "title|text" of each box that was answered.
     [[nodiscard]] QStringList seen() const { return m_seen; }
+    /// The smaller text of each box.
+    [[nodiscard]] QStringList details() const { return m_details; }
+    [[nodiscard]] QList<QMessageBox::Icon> icons() const { return m_icons; }
 
 private:
     void answer(QMessageBox::StandardButton button);
 
     QTimer m_timer;
     QStringList m_seen;
+    QStringList m_details;
+    QList<QMessageBox::Icon> m_icons;
+};
+
+/// Lets the system find no program by its name as long as the object exists.
+class EmptySearchPath final
+{
+    Q_DISABLE_COPY_MOVE(EmptySearchPath)
+public:
+    EmptySearchPath() { qputenv("PATH", "/no programs here"); }
+    ~EmptySearchPath() { qputenv("PATH", m_before); }
+
+private:
+    const QByteArray m_before = qgetenv("PATH");
 };
 
 /// The widget that gets the focus from @p widget by the Tab key.

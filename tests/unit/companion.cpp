@@ -11,12 +11,18 @@ using namespace Qt::StringLiterals;
 
 namespace companion {
 
-Run run(const QStringList &arguments)
+QStringList environment(const QStringList &variables)
+{
+    return QProcess::systemEnvironment() + variables;
+}
+
+Run run(const QStringList &arguments, const QStringList &variables)
 {
     QProcess process;
+    process.setEnvironment(environment(variables));
     process.start(QString::fromLocal8Bit(CLI_PROGRAM), arguments);
     if (!process.waitForFinished(60'000))
-        qFatal("the companion did not end");
+        qFatal("the companion did not end: %s", qPrintable(process.errorString()));
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             process.readAllStandardOutput(), process.readAllStandardError()};
 }

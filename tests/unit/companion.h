@@ -16,8 +16,11 @@ struct Run {
     QByteArray error;
 };
 
-/// Runs the companion to its end, with the environment of the test.
-[[nodiscard]] Run run(const QStringList &arguments);
+/// Runs the companion to its end, with the environment of the test and @p variables, each in the
+/// form NAME=VALUE.
+[[nodiscard]] Run run(const QStringList &arguments, const QStringList &variables = {});
+/// The same environment, to start the companion in another way.
+[[nodiscard]] QStringList environment(const QStringList &variables);
 
 /// Gives the companion a temporary folder that contains only "a.tmp" (3 bytes) and "sub/b" (1500
 /// bytes). Returns its path.

@@ -1,11 +1,14 @@
 #include "cleanengine.h"
 
+#include "logcapture.h"
 #include "signalspy.h"
+#include "threadfault.h"
 
 #include <QSemaphore>
 #include <QTest>
 #include <QThread>
 
+#include <atomic>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +38,7 @@ public:
     using CleanEngine::cleanSelection;
     using CleanEngine::CleanTotals;
     using CleanEngine::isStopRequested;
+    using CleanEngine::readFailures;
     using CleanEngine::Removal;
     using CleanEngine::reportClean;
     using CleanEngine::selection;
@@ -543,6 +547,84 @@ private Q_SLOTS:
         QTest::qWait(20);
         QCOMPARE(finished.size(), 1);
         QCOMPARE(finished.constFirst().constFirst().value<ScanResult>().totalCount(), 2);
+    }
+
+    // --- without a thread, without an event loop
+
+    void aRunWithoutAThreadFails()
+    {
+        ScriptedEngine engine;
+        const SignalSpy errors(&engine, &CleanEngine::errorOccurred);
+        const SignalSpy scans(&engine, &CleanEngine::scanFinished);
+        const SignalSpy cleans(&engine, &CleanEngine::cleanFinished);
+        const SignalSpy changes(&engine, &CleanEngine::stateChanged);
+        for (const auto start : {&CleanEngine::startScan, &CleanEngine::startClean}) {
+            const ThreadFault fault;
+            (engine.*start)();
+            QCOMPARE(engine.state(), State::Error);
+        }
+        QTest::qWait(20);
+        QCOMPARE(errors.size(), 2);
+        QVERIFY(errors.constFirst().constFirst().toString().contains("thread"_L1));
+        QCOMPARE(scans.size(), 0);
+        QCOMPARE(cleans.size(), 0);
+        QCOMPARE(states(changes),
+                 (QList{State::Scanning, State::Error, State::Cleaning, State::Error}));
+        engine.stopAndWait();
+    }
+
+    void theNextRunAfterAFailedOneSucceeds()
+    {
+        ScriptedEngine engine;
+        {
+            const ThreadFault fault;
+            engine.startScan();
+        }
+        engine.onScan = [&engine] { engine.add(category(u"a"_s, 2)); };
+        SignalSpy finished(&engine, &CleanEngine::scanFinished);
+        engine.startScan();
+        QVERIFY(finished.wait(patience));
+        QCOMPARE(engine.result().totalCount(), 2);
+    }
+
+    void waitingForTheEndNeedsNoEventLoop()
+    {
+        ScriptedEngine engine;
+        std::atomic_bool mayEnd = false;
+        engine.onScan = [&] {
+            while (!mayEnd)
+                QThread::msleep(1);
+            engine.add(category(u"a"_s, 2));
+        };
+        const SignalSpy finished(&engine, &CleanEngine::scanFinished);
+        engine.startScan();
+        QVERIFY(!engine.waitForEnd(QDeadlineTimer(20)));
+        QCOMPARE(engine.state(), State::Scanning);
+        mayEnd = true;
+        QVERIFY(engine.waitForEnd(QDeadlineTimer(patience)));
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(engine.state(), State::Finished);
+        engine.startClean();
+        QVERIFY(engine.waitForEnd(QDeadlineTimer(patience)));
+        QCOMPARE(engine.state(), State::Finished);
+    }
+
+    void whatCannotBeReadIsKeptForOneRunAndLogged()
+    {
+        ScriptedEngine engine;
+        engine.onScan = [&engine] {
+            engine.readFailures().add(u"/closed"_s, u"no rights"_s);
+            engine.readFailures().add(u"/other"_s, u"no rights"_s);
+        };
+        const LogCapture log;
+        engine.startScan();
+        QVERIFY(engine.waitForEnd(QDeadlineTimer(patience)));
+        QCOMPARE(engine.incomplete().count(), 2);
+        QCOMPARE(log.count(u"[WARN] Cannot read /closed and 1 more: no rights"_s), 1);
+        QCOMPARE(log.count(u"Cannot read"_s), 1);
+        engine.startClean();
+        QVERIFY(engine.waitForEnd(QDeadlineTimer(patience)));
+        QVERIFY(engine.incomplete().isEmpty());
     }
 };
 

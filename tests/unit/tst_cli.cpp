@@ -12,9 +12,20 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QSet>
+#include <QStandardPaths>
 #include <QTest>
+
+#ifdef Q_OS_UNIX
+#include <array>
+#include <chrono>
+#include <thread>
+
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -66,8 +77,11 @@ private Q_SLOTS:
     {
         const QJsonObject plain = scanJson({});
         QCOMPARE(names(plain),
-                 (QStringList{u"categories"_s, u"checkedCount"_s, u"checkedSize"_s, u"engine"_s,
-                              u"scanTime"_s, u"totalCount"_s, u"totalSize"_s}));
+                 (QStringList{u"cancelled"_s, u"categories"_s, u"checkedCount"_s, u"checkedSize"_s,
+                              u"engine"_s, u"incomplete"_s, u"incompleteCount"_s, u"scanTime"_s,
+                              u"totalCount"_s, u"totalSize"_s}));
+        QCOMPARE(plain["cancelled"_L1], QJsonValue(false));
+        QCOMPARE(plain["incomplete"_L1], QJsonValue(QJsonArray()));
         QCOMPARE(plain["engine"_L1].toString(), u"junk"_s);
         QVERIFY(QDateTime::fromString(plain["scanTime"_L1].toString(), Qt::ISODate).isValid());
         const QJsonObject category = tempFiles(plain);
@@ -191,6 +205,26 @@ private Q_SLOTS:
         QCOMPARE(scanJson({u"--items"_s})["totalCount"_L1].toInteger(), 3);
     }
 
+    void everyNameArrivesInTheJson()
+    {
+        QStringList names{u"a.tmp"_s, u"b"_s};
+        for (const char16_t *name :
+             {u"quote\"s", u"back\\slash", u"tab\there", u"line\nbreak", u"\x7f\x1b",
+              u"\u4e2d\u6587 \U0001F600", u"[1, {}]", u" blank "}) {
+            names.append(QString::fromUtf16(name));
+            companion::writeFile(m_temp, names.constLast(), 1);
+        }
+        const QJsonObject object = scanJson({u"--items"_s});
+        QStringList listed;
+        const QJsonArray categories = object["categories"_L1].toArray();
+        for (const QJsonValue &item : categories.first()["items"_L1].toArray())
+            listed.append(item["name"_L1].toString());
+        listed.sort();
+        names.sort();
+        QCOMPARE(listed, names);
+        QCOMPARE(object["totalCount"_L1].toInt(), names.size());
+    }
+
     void aFullDiskIsAFailure()
     {
         QProcess process;
@@ -198,6 +232,76 @@ private Q_SLOTS:
         process.start(QString::fromLocal8Bit(CLI_PROGRAM), {u"scan"_s, u"junk"_s, u"--json"_s});
         QVERIFY(process.waitForFinished(60'000));
         QCOMPARE(process.exitCode(), 2);
+    }
+
+    // The next file that is opened would get the number of a stream that is closed: the log.
+    void closedStreamsGoNowhere_data()
+    {
+        QTest::addColumn<QList<int>>("closed");
+        QTest::addColumn<int>("status");
+        QTest::newRow("output") << QList<int>{STDOUT_FILENO} << 2;
+        QTest::newRow("errors") << QList<int>{STDERR_FILENO} << 0;
+        QTest::newRow("all") << QList<int>{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO} << 2;
+    }
+
+    void closedStreamsGoNowhere()
+    {
+        QFETCH(QList<int>, closed);
+        QFETCH(int, status);
+        QCOMPARE(run({u"scan"_s, u"junk"_s}).exitCode, 0); // makes the folder of the logs
+        QDir logs(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+        QVERIFY(logs.cd(appinfo::organisation + u'/' + appinfo::name + "/logs"_L1));
+        for (const QString &name : logs.entryList(QDir::Files))
+            QVERIFY(logs.remove(name));
+        QProcess process;
+        process.setChildProcessModifier([closed] {
+            for (const int fd : closed)
+                ::close(fd);
+        });
+        process.start(QString::fromLocal8Bit(CLI_PROGRAM), {u"scan"_s, u"junk"_s, u"--items"_s});
+        QVERIFY(process.waitForFinished(60'000));
+        QCOMPARE(process.exitCode(), status);
+        QFile log(logs.filePath(logs.entryList(QDir::Files).constFirst()));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QByteArray content = log.readAll();
+        QVERIFY(content.contains("Junk scan finished"));
+        QVERIFY2(!content.contains("temp_files") && !content.contains("sweepwise-cli"),
+                 content.constData());
+    }
+
+    // A pipe that does not wait refuses what its reader has not made room for.
+    void aReportThatCannotBeWrittenEndsThere()
+    {
+        for (int i = 0; i < 3'000; ++i)
+            companion::writeFile(m_temp, u"a file %1"_s.arg(i), 1);
+        const QStringList command{u"scan"_s, u"junk"_s, u"--items"_s, u"--json"_s};
+        const auto withoutTime = [](const QByteArray &report) {
+            static const QRegularExpression time(u"\"scanTime\": \"[^\"]*\""_s);
+            return QString::fromUtf8(report).remove(time);
+        };
+        const QString whole = withoutTime(run(command).output);
+        std::array<int, 2> pipe{-1, -1};
+        QCOMPARE(::pipe2(pipe.data(), O_NONBLOCK | O_CLOEXEC), 0);
+        QVERIFY(::fcntl(pipe[1], F_SETPIPE_SZ, 4096) > 0);
+        QProcess process;
+        process.setChildProcessModifier([&pipe] { ::dup2(pipe[1], STDOUT_FILENO); });
+        process.start(QString::fromLocal8Bit(CLI_PROGRAM), command);
+        ::close(pipe[1]);
+        QByteArray received;
+        std::array<char, 512> part{};
+        for (ssize_t count = -1; count != 0;) {
+            count = ::read(pipe[0], part.data(), part.size());
+            if (count > 0)
+                received.append(part.data(), count);
+            std::this_thread::sleep_for(std::chrono::microseconds(50)); // slower than the writer
+        }
+        ::close(pipe[0]);
+        QVERIFY(process.waitForFinished(60'000));
+        QCOMPARE(process.exitCode(), 2);
+        const QString begin = withoutTime(received);
+        QVERIFY(!begin.isEmpty());
+        QVERIFY(begin.size() < whole.size());
+        QVERIFY(whole.startsWith(begin));
     }
 #endif
 
@@ -237,7 +341,9 @@ private Q_SLOTS:
         const Run restored = run({u"restore"_s, backup, u"--json"_s});
         QCOMPARE(restored.exitCode, 0);
         const QJsonObject object = QJsonDocument::fromJson(restored.output).object();
-        QCOMPARE(names(object), (QStringList{u"entries"_s, u"failedCount"_s, u"restoredCount"_s}));
+        QCOMPARE(names(object),
+                 (QStringList{u"cancelled"_s, u"entries"_s, u"failedCount"_s, u"incomplete"_s,
+                              u"incompleteCount"_s, u"restoredCount"_s}));
         QCOMPARE(object["failedCount"_L1].toInt(), 0);
         QVERIFY(object["restoredCount"_L1].toInt() >= 3);
         QVERIFY(fixture.hasValue(key, u"Data"_s));
@@ -360,7 +466,8 @@ private Q_SLOTS:
         QVERIFY(json.error.isEmpty());
         const QJsonObject object = QJsonDocument::fromJson(json.output).object();
         QCOMPARE(names(object),
-                 (QStringList{u"files"_s, u"filesScanned"_s, u"totalCount"_s, u"totalSize"_s}));
+                 (QStringList{u"cancelled"_s, u"files"_s, u"filesScanned"_s, u"incomplete"_s,
+                              u"incompleteCount"_s, u"totalCount"_s, u"totalSize"_s}));
         QCOMPARE(object.value("filesScanned"_L1).toInt(), 3);
         QCOMPARE(object.value("totalCount"_L1).toInt(), 2);
         QCOMPARE(object.value("totalSize"_L1).toInt(), 5'242'880);

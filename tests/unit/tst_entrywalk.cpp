@@ -58,7 +58,7 @@ public:
         sizes.insert(m_open.takeLast(), size);
     }
 
-    platform::WalkReport walk(const QString &root)
+    platform::ReadFailures walk(const QString &root)
     {
         return platform::walkEntries(root, *this, &stop);
     }
@@ -134,7 +134,7 @@ private Q_SLOTS:
         }
 #endif
         Record record;
-        QCOMPARE(record.walk(tree.path()).failureCount, 0);
+        QCOMPARE(record.walk(tree.path()).count(), 0);
         QCOMPARE(record.paths, listedByQt(tree.path()));
         QVERIFY(!record.paths.isEmpty());
         for (auto it = record.sizes.cbegin(); it != record.sizes.cend(); ++it) {
@@ -179,7 +179,7 @@ private Q_SLOTS:
     {
         const TestTree tree;
         Record record;
-        QCOMPARE(record.walk(tree.path(u"no/such"_s)).failureCount, 0);
+        QCOMPARE(record.walk(tree.path(u"no/such"_s)).count(), 0);
         QVERIFY(record.paths.isEmpty());
         QVERIFY(record.reads.isEmpty());
     }
@@ -234,7 +234,7 @@ private Q_SLOTS:
         tree.link(tree.path(u"in"_s), u"in/a/loop"_s);
         tree.link(tree.path(u"gone"_s), u"in/a/broken"_s);
         Record record;
-        QCOMPARE(record.walk(tree.path(u"in"_s)).failureCount, 0);
+        QCOMPARE(record.walk(tree.path(u"in"_s)).count(), 0);
         QStringList expected{tree.path(u"in/a"_s), tree.path(u"in/a/own"_s),
                              tree.path(u"in/a/folder"_s), tree.path(u"in/a/file"_s),
                              tree.path(u"in/a/loop"_s)};
@@ -266,7 +266,7 @@ private Q_SLOTS:
         QCOMPARE(::mkdir(odd.constData(), 0700), 0);
         tree.file(u"plain"_s);
         Record record;
-        QCOMPARE(record.walk(tree.path()).failureCount, 0);
+        QCOMPARE(record.walk(tree.path()).count(), 0);
         QCOMPARE(record.paths, QStringList{tree.path(u"plain"_s)});
         QCOMPARE(::rmdir(odd.constData()), 0);
     }
@@ -281,9 +281,9 @@ private Q_SLOTS:
         Record record;
         {
             const OrdinaryUser user;
-            const platform::WalkReport report = record.walk(tree.path());
-            QCOMPARE(report.failureCount, 1);
-            QCOMPARE(report.failures.constFirst().path, tree.path(u"closed"_s));
+            const platform::ReadFailures report = record.walk(tree.path());
+            QCOMPARE(report.count(), 1);
+            QCOMPARE(report.kept().constFirst().where, tree.path(u"closed"_s));
         }
         ::chmod(QFile::encodeName(tree.path(u"closed"_s)).constData(), 0700);
         QCOMPARE(record.paths.size(), 2);

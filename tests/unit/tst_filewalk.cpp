@@ -21,8 +21,8 @@
 
 using namespace Qt::StringLiterals;
 using namespace walktrees;
+using platform::ReadFailures;
 using platform::WalkOptions;
-using platform::WalkReport;
 
 namespace {
 
@@ -45,10 +45,11 @@ private:
     QStringList &m_paths;
 };
 
-QStringList walk(const QString &root, const WalkOptions &options = {}, WalkReport *report = nullptr)
+QStringList walk(const QString &root, const WalkOptions &options = {},
+                 ReadFailures *report = nullptr)
 {
     QStringList found;
-    const WalkReport result =
+    const ReadFailures result =
         platform::walkFiles(root, options, [&found](platform::WalkedFile &&file) {
             if (!file.path.endsWith(u'/' + file.name))
                 qFatal("name and path differ: %s", qPrintable(file.path));
@@ -137,9 +138,9 @@ private Q_SLOTS:
     void aMissingRootIsNoFailure()
     {
         const TestTree tree;
-        WalkReport report;
+        ReadFailures report;
         QVERIFY(walk(tree.path(u"missing"_s), {}, &report).isEmpty());
-        QCOMPARE(report.failureCount, 0);
+        QCOMPARE(report.count(), 0);
     }
 
     void stopsBeforeTheNextEntry()
@@ -239,6 +240,30 @@ private Q_SLOTS:
         }
     }
 
+    // Wine cannot read the attribute of such a file either, so its programs see the file.
+    void aFileThatMayNotBeReadIsNotHidden()
+    {
+        const TestTree tree;
+        const QString path = tree.file(u"prefix/drive_c/t/file"_s);
+        for (const QString &folder :
+             {QString(), u"prefix"_s, u"prefix/drive_c"_s, u"prefix/drive_c/t"_s})
+            QCOMPARE(::chmod(QFile::encodeName(tree.path(folder)).constData(), 0755), 0);
+        QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0), 0);
+        const QByteArray before = qgetenv("WINEPREFIX");
+        qputenv("WINEPREFIX", QFile::encodeName(tree.path(u"prefix"_s)));
+        QStringList found;
+        platform::ReadFailures failures;
+        {
+            const OrdinaryUser user;
+            failures = platform::walkFiles(
+                tree.path(u"prefix/drive_c"_s), {},
+                [&found](platform::WalkedFile &&file) { found.append(file.path); });
+        }
+        qputenv("WINEPREFIX", before);
+        QCOMPARE(found, QStringList{path});
+        QVERIFY(failures.isEmpty());
+    }
+
     void aFolderWithoutReadPermissionIsPassedThrough()
     {
         const TestTree tree;
@@ -288,9 +313,9 @@ private Q_SLOTS:
         tree.file(u"real/sub/f"_s);
         tree.link(tree.path(u"real"_s), u"link"_s);
         for (const QString &root : {u"link"_s, u"link/sub"_s}) {
-            WalkReport report;
+            ReadFailures report;
             QVERIFY(walk(tree.path(root), {}, &report).isEmpty());
-            QCOMPARE(report.failureCount, 1);
+            QCOMPARE(report.count(), 1);
         }
     }
 
@@ -338,13 +363,13 @@ private Q_SLOTS:
         tree.file(u"closed/f"_s, {});
         const QByteArray closed = QFile::encodeName(tree.path(u"closed"_s));
         QCOMPARE(::chmod(closed.constData(), 0), 0);
-        WalkReport report;
+        ReadFailures report;
         QCOMPARE(walk(tree.path(), {}, &report), QStringList{u"0 "_s + tree.path(u"open/f"_s)});
         QCOMPARE(::chmod(closed.constData(), 0700), 0);
-        QCOMPARE(report.failureCount, 1);
-        QCOMPARE(report.failures.size(), 1);
-        QCOMPARE(report.failures.constFirst().path, tree.path(u"closed"_s));
-        QVERIFY(!report.failures.constFirst().reason.isEmpty());
+        QCOMPARE(report.count(), 1);
+        QCOMPARE(report.kept().size(), 1);
+        QCOMPARE(report.kept().constFirst().where, tree.path(u"closed"_s));
+        QVERIFY(!report.kept().constFirst().reason.isEmpty());
     }
 
     void manyUnreadableFoldersAreCountedButNotAllKept()
@@ -353,10 +378,10 @@ private Q_SLOTS:
         const TestTree tree;
         for (int i = 0; i < 30; ++i)
             ::mkdir(QFile::encodeName(tree.path(u"d%1"_s.arg(i))).constData(), 0);
-        WalkReport report;
+        ReadFailures report;
         walk(tree.path(), {}, &report);
-        QCOMPARE(report.failureCount, 30);
-        QCOMPARE(report.failures.size(), WalkReport::maximumFailures);
+        QCOMPARE(report.count(), 30);
+        QCOMPARE(report.kept().size(), ReadFailures::maximumPlaces);
     }
 
     void filesBelowAnExecuteOnlyFolderAreListed()
@@ -391,7 +416,7 @@ private Q_SLOTS:
         QFile inFresh(tree.path(u"fresh/f"_s));
         const bool isWritten = inFresh.open(QIODevice::WriteOnly);
         inFresh.close();
-        WalkReport report;
+        ReadFailures report;
         const QStringList found = walk(tree.path(), {}, &report);
         ::umount2(file.constData(), MNT_DETACH);
         ::umount2(bound.constData(), MNT_DETACH);
@@ -399,7 +424,7 @@ private Q_SLOTS:
         QVERIFY(isBound);
         QVERIFY(isWritten);
         QCOMPARE(found, QStringList{u"0 "_s + tree.path(u"own"_s)});
-        QCOMPARE(report.failureCount, 0);
+        QCOMPARE(report.count(), 0);
     }
 
     void manyLevelsWithManyBranchesAreWalked()

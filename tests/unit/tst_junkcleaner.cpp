@@ -59,6 +59,15 @@ QByteArray rule(const QString &path, const QByteArray &more = {})
         + (more.isEmpty() ? QByteArray() : ", " + more) + "}";
 }
 
+/// The places that the last scan could not read.
+[[maybe_unused]] QStringList unreadPlaces(const JunkCleaner &cleaner)
+{
+    QStringList places;
+    for (const platform::ReadFailure &failure : cleaner.incomplete().kept())
+        places.append(failure.where);
+    return places;
+}
+
 } // namespace
 
 class TestJunkCleaner : public QObject
@@ -543,9 +552,8 @@ private Q_SLOTS:
             }
             const bool isOpen = mode == 0711;
             QCOMPARE(cleaner.result().totalCount(), isOpen ? 1 : 0);
-            QCOMPARE(log.contains("[WARN] Skipped "_L1 + tree.path(u"closed/junk"_s)
-                                  + ": Permission denied"_L1),
-                     !isOpen);
+            QCOMPARE(log.count(u"[WARN] Cannot read "_s), isOpen ? 0 : 1);
+            QCOMPARE(unreadPlaces(cleaner).contains(tree.path(u"closed/junk"_s)), !isOpen);
         }
         // The folder that the environment names cannot be reached.
         qputenv("TMPDIR", QFile::encodeName(tree.path(u"closed/junk"_s)));
@@ -603,7 +611,8 @@ private Q_SLOTS:
         scan(cleaner);
         QCOMPARE(::chmod(closed.constData(), 0700), 0);
         QCOMPARE(names(find(cleaner.result(), u"r"_s)), QStringList{u"a"_s});
-        QVERIFY(log.contains(u"[WARN] Cannot read folder: "_s + tree.path(u"closed"_s) + " - "_L1));
+        QCOMPARE(log.count(u"[WARN] Cannot read "_s), 1);
+        QVERIFY(unreadPlaces(cleaner).contains(tree.path(u"closed"_s)));
     }
 
     void oddNamesAreListedAndCleaned()

@@ -5,6 +5,7 @@
 #include "signalspy.h"
 #include "testhome.h"
 #include "testtree.h"
+#include "threadfault.h"
 
 #include <QBitArray>
 #include <QDir>
@@ -130,6 +131,46 @@ private Q_SLOTS:
         QCOMPARE(log.count(u"[INFO] Starting large file scan, min size: 100 MB"_s), 1);
         QCOMPARE(log.count(u"[INFO] Scan completed. Found 0 files, total size: 0 B"_s), 1);
         QCOMPARE(log.lines().size(), 2);
+    }
+
+    void aScanWithoutAThreadFails()
+    {
+        LargeFileScanner scanner;
+        const SignalSpy started(&scanner, &LargeFileScanner::scanStarted);
+        const SignalSpy finished(&scanner, &LargeFileScanner::scanFinished);
+        const SignalSpy errors(&scanner, &LargeFileScanner::errorOccurred);
+        {
+            const ThreadFault fault;
+            scanner.startScan();
+        }
+        QTest::qWait(20);
+        QVERIFY(!scanner.isRunning());
+        QCOMPARE(started.size(), 1);
+        QCOMPARE(errors.size(), 1);
+        QCOMPARE(finished.size(), 0);
+        scanner.startScan();
+        QVERIFY(scanner.waitForEnd(QDeadlineTimer(patience)));
+        QCOMPARE(finished.size(), 1);
+    }
+
+    void aDeletionWithoutAThreadFailsAndDeletesNothing()
+    {
+        const TestTree tree;
+        makeSparse(tree.path(u"a"_s), 1536);
+        LargeFileScanner scanner;
+        scan(scanner, {tree.path()}, 1000);
+        const SignalSpy finished(&scanner, &LargeFileScanner::deleteFinished);
+        const SignalSpy errors(&scanner, &LargeFileScanner::errorOccurred);
+        {
+            const ThreadFault fault;
+            scanner.startDelete(scanner.results());
+        }
+        QVERIFY(!scanner.isDeleting());
+        QCOMPARE(errors.size(), 1);
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(finished.constFirst(), (QVariantList{QBitArray(1), 0}));
+        QVERIFY(QFile::exists(tree.path(u"a"_s)));
+        QCOMPARE(scanner.results().size(), 1);
     }
 
     void theLogTellsDrivesAndTotals()

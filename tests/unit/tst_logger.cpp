@@ -7,13 +7,17 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <thread>
 #include <vector>
 
 #ifdef Q_OS_UNIX
+#include <fcntl.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -163,11 +167,13 @@ private Q_SLOTS:
         if (::mount("none", disk.constData(), "tmpfs", 0, "size=64k") != 0)
             QSKIP("mounting is not allowed here");
         QString content;
+        QString failure;
         qsizetype heard = 0;
         {
             Logger logger;
             logger.init(tree.path(u"disk/logs"_s));
             logger.info(u"before the disk was full"_s);
+            QCOMPARE(logger.failure(), QString());
             QFile filler(tree.path(u"disk/filler"_s));
             if (filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
                 while (filler.write(QByteArray(1024, 'x')) > 0) { }
@@ -179,14 +185,87 @@ private Q_SLOTS:
             filler.remove();
             logger.info(u"after the disk was full"_s);
             content = contentOf(logger);
+            failure = logger.failure();
         }
         ::umount2(disk.constData(), MNT_DETACH);
         QCOMPARE(heard, 200);
+        QVERIFY(!failure.isEmpty()); // the first one, although the disk has room again
         QVERIFY(content.contains("[INFO] before the disk was full\n"_L1));
         QVERIFY(content.endsWith("[INFO] after the disk was full\n"_L1));
         const QStringList lines = content.split(u'\n', Qt::SkipEmptyParts).mid(3);
         for (const QString &line : lines)
             QVERIFY2(line.startsWith(u'[') && line.count("[INFO]"_L1) == 1, qPrintable(line));
+    }
+#endif
+
+#ifdef Q_OS_UNIX
+    void nothingButAFileOfTheUserIsTakenForTheLog_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("a pipe") << u"pipe"_s; // nobody reads it: to open it would wait for ever
+        QTest::newRow("a pipe with a reader") << u"read pipe"_s;
+        QTest::newRow("a link to a file") << u"link"_s;
+        QTest::newRow("a link to nothing") << u"broken link"_s;
+        QTest::newRow("a second name of a file") << u"hard link"_s;
+        QTest::newRow("a folder") << u"folder"_s;
+        QTest::newRow("a file of somebody else") << u"foreign file"_s;
+    }
+
+    void nothingButAFileOfTheUserIsTakenForTheLog()
+    {
+        QFETCH(QString, kind);
+        const TestTree tree;
+        const QString target = tree.file(u"target"_s);
+        const QString name =
+            "logs/sweepwise_"_L1 + QDate::currentDate().toString(u"yyyyMMdd"_s) + ".log"_L1;
+        tree.folder(u"logs"_s);
+        const QByteArray path = QFile::encodeName(tree.path(name));
+        int reader = -1;
+        if (kind.endsWith("pipe"_L1))
+            QCOMPARE(::mkfifo(path.constData(), S_IRUSR | S_IWUSR), 0);
+        if (kind == "read pipe"_L1)
+            reader = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        const auto closeReader = qScopeGuard([&reader] {
+            if (reader >= 0)
+                ::close(reader);
+        });
+        if (kind == "link"_L1)
+            tree.link(target, name);
+        if (kind == "broken link"_L1)
+            tree.link(tree.path(u"missing"_s), name);
+        if (kind == "hard link"_L1)
+            QCOMPARE(::link(QFile::encodeName(target).constData(), path.constData()), 0);
+        if (kind == "folder"_L1)
+            tree.folder(name);
+        if (kind == "foreign file"_L1) {
+            tree.file(name);
+            if (::chown(path.constData(), 12345, 12345) != 0)
+                QSKIP("only root can give a file away");
+        }
+        const QMap<QString, QString> before = tree.snapshot();
+        const LogCapture capture;
+        Logger logger;
+        logger.init(tree.path(u"logs"_s));
+        logger.info(u"a line"_s);
+        QCOMPARE(capture.lines().size(), 1); // no line says it
+        QVERIFY(!logger.failure().isEmpty());
+        QCOMPARE(tree.snapshot(), before);
+        char byte = 0;
+        if (reader >= 0)
+            QVERIFY(::read(reader, &byte, 1) <= 0);
+    }
+
+    void theLogIsForTheUserAlone()
+    {
+        const TestTree tree;
+        const mode_t mask = ::umask(0);
+        const auto restore = qScopeGuard([mask] { ::umask(mask); });
+        Logger logger;
+        logger.init(tree.path());
+        QCOMPARE(
+            QFileInfo(logger.fileName()).permissions()
+                & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+            QFile::Permissions());
     }
 #endif
 

@@ -3,6 +3,7 @@
 #include "registryfixture.h"
 #include "registryrestore.h"
 #include "testhome.h"
+#include "testtree.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,6 +19,8 @@ using platform::Registry;
 using platform::RegistryValue;
 
 namespace {
+
+const std::atomic_bool notStopped = false;
 
 const QString testKey = u"HKEY_CURRENT_USER\\Software\\Sweepwise Test"_s;
 const QString testPath = u"Software\\Sweepwise Test"_s;
@@ -289,6 +292,24 @@ private Q_SLOTS:
                             14));
     }
 
+#ifdef Q_OS_UNIX
+    void theFileIsForTheUserAlone()
+    {
+        const FileMask none;
+        const QString path = m_home.folder(u"backups"_s) + "/mine.reg"_L1;
+        QFile::remove(path);
+        const QFile::Permissions own =
+            QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+        QString error;
+        QVERIFY(RegistryBackup::write(path, u"x"_s, error));
+        QCOMPARE(QFile::permissions(path), own);
+        // An older one may be open to everybody.
+        QVERIFY(QFile::setPermissions(path, own | QFile::ReadGroup | QFile::ReadOther));
+        QVERIFY(RegistryBackup::write(path, u"y"_s, error));
+        QCOMPARE(QFile::permissions(path), own);
+    }
+#endif
+
     void anUnwritablePlaceIsAnError()
     {
         QString error;
@@ -433,7 +454,8 @@ private Q_SLOTS:
         const auto keys = RegistryRestore::parse(text, error);
         QVERIFY(keys);
         Registry registry;
-        const QList<RegistryRestore::Outcome> outcomes = RegistryRestore::restore(registry, *keys);
+        const QList<RegistryRestore::Outcome> outcomes =
+            RegistryRestore::restore(registry, *keys, notStopped);
         QCOMPARE(outcomes.size(), 4);
         for (const RegistryRestore::Outcome &outcome : outcomes)
             QVERIFY2(outcome.isRestored, qPrintable(outcome.error));

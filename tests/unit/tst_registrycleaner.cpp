@@ -38,6 +38,7 @@ using State = CleanEngine::State;
 namespace {
 
 constexpr int patience = 60'000;
+const std::atomic_bool notStopped = false;
 
 const QString version = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion"_s;
 const QString appPaths = version + "\\App Paths"_L1;
@@ -1073,7 +1074,7 @@ private Q_SLOTS:
         QVERIFY(registry.deleteValue(Hive::CurrentUser, runKey, u"Sweepwise c"_s));
         QVERIFY(registry.save());
         renamesOfUserHiveFail = true;
-        const auto outcomes = RegistryRestore::restore(registry, *keys);
+        const auto outcomes = RegistryRestore::restore(registry, *keys, notStopped);
         renamesOfUserHiveFail = false;
         QCOMPARE(outcomes.size(), 6);
         for (const RegistryRestore::Outcome &outcome : outcomes)
@@ -1166,7 +1167,8 @@ private:
             RegistryBackup::decode(file.readAll()).value_or(QString()), error);
         QVERIFY2(keys, qPrintable(error));
         Registry registry;
-        for (const RegistryRestore::Outcome &outcome : RegistryRestore::restore(registry, *keys))
+        for (const RegistryRestore::Outcome &outcome :
+             RegistryRestore::restore(registry, *keys, notStopped))
             QVERIFY2(outcome.isRestored, qPrintable(outcome.entry + u' ' + outcome.error));
     }
 

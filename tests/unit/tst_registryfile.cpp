@@ -2,7 +2,11 @@
 #include "unix/registrytext.h"
 
 #include <QElapsedTimer>
+#include <QMap>
+#include <QRandomGenerator>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using platform::RegistryFile;
@@ -204,8 +208,8 @@ private Q_SLOTS:
         file.setValue(file.find(u"a\\z"_s), {u"OLD"_s, 4, QByteArray("\1\0\0\0", 4)});
         file.setValue(file.find(u"a\\z"_s), {u"n\\a\"m\ne"_s, 3, QByteArray(70, '\xab')});
         const RegistryFile again = parsed(file.text());
-        QCOMPARE(again.subkeys(again.find(u"A"_s)), (QStringList{u"Z"_s, u"m\u4e2d[\"]"_s}));
-        QCOMPARE(file.subkeys(file.find(u"A"_s)), (QStringList{u"m\u4e2d[\"]"_s, u"Z"_s}));
+        for (const auto *each : {&std::as_const(file), &again})
+            QCOMPARE(each->subkeys(each->find(u"A"_s)), (QStringList{u"Z"_s, u"m\u4e2d[\"]"_s}));
         QCOMPARE(again.value(again.find(u"A\\M\u4e2d[\"]"_s), {})->data, utf16(u"default\0"_s));
         const RegistryFile::Key old = again.find(u"A\\Z"_s);
         QCOMPARE(again.value(old, u"old"_s)->type, 4U);
@@ -223,6 +227,95 @@ private Q_SLOTS:
         QCOMPARE(again.valueNames(again.find(u"A\\B"_s)), QStringList{u"w"_s});
     }
 
+    void aNameThatOccursTwiceIsOneValue()
+    {
+        const QByteArray text = head + "[A] 1\n\"x\"=\"1\"\n\"y\"=\"2\"\n\"X\"=\"3\"\n";
+        RegistryFile removed = parsed(text);
+        QVERIFY(removed.removeValue(removed.find(u"A"_s), u"x"_s));
+        QVERIFY(!removed.removeValue(removed.find(u"A"_s), u"x"_s));
+        QCOMPARE(removed.text(), head + "[A] 1\n\"y\"=\"2\"\n");
+        RegistryFile changed = parsed(text);
+        changed.setValue(changed.find(u"A"_s), {u"X"_s, 4, QByteArray("\1\0\0\0", 4)});
+        QCOMPARE(changed.text(), head + "[A] 1\n\"x\"=dword:00000001\n\"y\"=\"2\"\n");
+    }
+
+    void newValuesComeInTheirOrder()
+    {
+        RegistryFile file = parsed(head + "[A] 1\n#time=1\n\"x\"=\"1\"\n\"broken\n");
+        for (const char *name : {"b", "a"})
+            file.setValue(file.find(u"A"_s), {QString::fromLatin1(name), 1, utf16(u"2\0"_s)});
+        QCOMPARE(file.text(),
+                 head + "[A] 1\n#time=1\n\"b\"=\"2\"\n\"a\"=\"2\"\n\"x\"=\"1\"\n\"broken\n");
+    }
+
+    // Against a plain map of the keys and their values, and again after each writing.
+    void randomChangesGiveWhatAPlainMapGives()
+    {
+        using Values = QMap<QString, QByteArray>; // by lower-case name
+        QMap<QString, Values> model; // by lower-case path; each key above another one is in it
+        QRandomGenerator dice(20'261'122);
+        RegistryFile file = parsed(head
+                                   + "[k0\\\\k1] 1\n#time=1\n\"v0\"=\"a\"\n\"V1\"=\"b\"\n"
+                                     "\"v0\"=\"c\"\n\n[K2] 1\n\"v2\"=\"d\"\n");
+        model = {{u"k0"_s, {}},
+                 {u"k0\\k1"_s, {{u"v0"_s, utf16(u"c\0"_s)}, {u"v1"_s, utf16(u"b\0"_s)}}},
+                 {u"k2"_s, {{u"v2"_s, utf16(u"d\0"_s)}}}};
+        const auto verify = [&model](const RegistryFile &checked) {
+            for (auto key = model.cbegin(); key != model.cend(); ++key) {
+                const RegistryFile::Key found = checked.find(key.key());
+                QVERIFY2(found != RegistryFile::none, qPrintable(key.key()));
+                QCOMPARE(checked.valueNames(found).size(), key->size());
+                for (auto value = key->cbegin(); value != key->cend(); ++value)
+                    QCOMPARE(checked.value(found, value.key().toUpper())->data, *value);
+                const auto below =
+                    std::count_if(model.keyBegin(), model.keyEnd(), [&key](const QString &path) {
+                        return path.startsWith(key.key() + u'\\')
+                            && path.count(u'\\') == key.key().count(u'\\') + 1;
+                    });
+                QCOMPARE(checked.subkeys(found).size(), below);
+                QCOMPARE(checked.hasSubkeys(found), below > 0);
+            }
+        };
+        verify(file);
+        for (int step = 0; step < 3'000 && !QTest::currentTestFailed(); ++step) {
+            QStringList names;
+            for (quint32 depth = dice.bounded(1U, 4U); depth > 0; --depth)
+                names.append(u'k' + QString::number(dice.bounded(4)));
+            const QString path = names.join(u'\\');
+            const QString name = u'v' + QString::number(dice.bounded(4));
+            const bool exists = model.contains(path);
+            QCOMPARE(file.find(path.toUpper()) != RegistryFile::none, exists);
+            switch (dice.bounded(5)) {
+            case 0:
+                for (; !names.isEmpty(); names.removeLast())
+                    model[names.join(u'\\')];
+                file.create(path);
+                break;
+            case 1:
+                if (!exists)
+                    break;
+                file.removeTree(file.find(path));
+                model.removeIf([&path](const auto &key) {
+                    return key.key() == path || key.key().startsWith(path + u'\\');
+                });
+                break;
+            case 2:
+                if (exists)
+                    QCOMPARE(file.removeValue(file.find(path), name),
+                             model[path].remove(name) == 1);
+                break;
+            default:
+                if (!exists)
+                    break;
+                model[path].insert(name, QByteArray::number(step));
+                file.setValue(file.find(path), {name, 3, QByteArray::number(step)});
+            }
+            verify(file);
+            if (step % 50 == 0)
+                file = parsed(file.text());
+        }
+    }
+
     void linksAreRecognized()
     {
         const RegistryFile file =
@@ -231,6 +324,31 @@ private Q_SLOTS:
                      "1\n\"#link\"=\"x\"\n");
         QVERIFY(file.isLink(file.find(u"L"_s)));
         QVERIFY(!file.isLink(file.find(u"K"_s)));
+        const RegistryFile below = parsed(head + "[L] 1\n\"x\"=\"1\"\n#link\n\"y\"=\"2\"\n");
+        QVERIFY(below.isLink(below.find(u"L"_s)));
+    }
+
+    // It would take the line that is written behind it for its continuation.
+    void aValueWithoutItsContinuationIsDamage_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<bool>("isDamaged");
+        QTest::newRow("whole") << QByteArray("\"x\"=hex:01,\\\n  02\n\"y\"=\"1\"\n") << false;
+        QTest::newRow("at the end") << QByteArray("\"x\"=hex:01,\\\n") << true;
+        QTest::newRow("before an empty line") << QByteArray("\"x\"=hex:01,\\\n\n") << true;
+        QTest::newRow("after a part") << QByteArray("@=hex(7):01,\\\n  02,\\\n") << true;
+        QTest::newRow("before a value") << QByteArray("\"x\"=hex:01,\\\n\"y\"=\"1\"\n") << true;
+        QTest::newRow("before a remark") << QByteArray("\"x\"=hex:01,\\\n#time=1\n") << true;
+        QTest::newRow("remark") << QByteArray("; hex \\\n\"y\"=\"1\"\n") << false;
+        QTest::newRow("text") << QByteArray("\"x\"=\"C:\\\\=hex\\\\\"\n") << false;
+    }
+
+    void aValueWithoutItsContinuationIsDamage()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(bool, isDamaged);
+        QCOMPARE(parsed(head + "[A] 1\n" + body).isDamaged(), isDamaged);
+        QCOMPARE(parsed(head + "[A] 1\n" + body + "[A] 2\n\"z\"=\"1\"\n").isDamaged(), isDamaged);
     }
 
     void otherFilesAreNotParsed_data()

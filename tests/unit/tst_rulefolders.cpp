@@ -76,7 +76,7 @@ private Q_SLOTS:
             << QByteArray("\"%FOO%\\\\x\"") << u"DRIVE/users/jane/AppData/Local/Temp"_s;
         QTest::newRow("missing drive")
             << QByteArray("\"Q:\\\\x\"") << u"DRIVE/users/jane/AppData/Local/Temp"_s;
-        QTest::newRow("damaged") << QByteArray("\"C") << u"DRIVE/users/jane/AppData/Local/Temp"_s;
+        QTest::newRow("damaged") << QByteArray("\"C") << QString(); // it may name another one
     }
 
     void thePrefixsRegistryNamesItsTemporaryFolder()
@@ -271,7 +271,7 @@ private Q_SLOTS:
         registry.close();
         path.replace("HOME"_L1, QDir::homePath()).replace("DRIVE"_L1, drive);
         path.replace("OTHER"_L1, other).replace("PREFIX"_L1, m_home.path() + "/prefix"_L1);
-        QCOMPARE(platform::isProtectedRoot(path), expected);
+        QCOMPARE(platform::ProtectedPlaces().isProtectedRoot(path), expected);
     }
 
     // The owner's own folder inside a protected tree may be taken. The tree itself may not.
@@ -279,14 +279,44 @@ private Q_SLOTS:
     {
         const QString drive = makePrefix();
         const QString inside = m_home.folder(u"prefix/drive_c/Program Files/Portable/Profile"_s);
-        QVERIFY(platform::isProtectedRoot(inside));
-        QVERIFY(!platform::holdsProtectedPlace(inside));
-        QVERIFY(platform::holdsProtectedPlace(drive + "/Program Files"_L1));
-        QVERIFY(platform::holdsProtectedPlace(drive + "/users/jane"_L1));
-        QVERIFY(platform::holdsProtectedPlace(drive));
-        QVERIFY(platform::holdsProtectedPlace(u"/"_s));
-        QVERIFY(platform::holdsProtectedPlace(u"/no/such/folder"_s));
+        QVERIFY(platform::ProtectedPlaces().isProtectedRoot(inside));
+        QVERIFY(!platform::ProtectedPlaces().holdsProtectedPlace(inside));
+        QVERIFY(platform::ProtectedPlaces().holdsProtectedPlace(drive + "/Program Files"_L1));
+        QVERIFY(platform::ProtectedPlaces().holdsProtectedPlace(drive + "/users/jane"_L1));
+        QVERIFY(platform::ProtectedPlaces().holdsProtectedPlace(drive));
+        QVERIFY(platform::ProtectedPlaces().holdsProtectedPlace(u"/"_s));
+        QVERIFY(platform::ProtectedPlaces().holdsProtectedPlace(u"/no/such/folder"_s));
     }
+
+#ifdef Q_OS_UNIX
+    // A drive of another user's disk leads to a place that no walk of this user reaches.
+    void aDriveThatMayNotBeEnteredProtectsNothingElse()
+    {
+        const QString drive = makePrefix();
+        const QString closed = m_home.folder(u"disks/closed"_s);
+        m_home.folder(u"disks/closed/disk"_s);
+        const QString link = m_home.path() + "/prefix/dosdevices/e:"_L1;
+        QVERIFY(QFile::link(closed + "/disk"_L1, link));
+        QVERIFY(QFile::setPermissions(closed, QFile::Permissions()));
+        const QString temp = drive + "/users/jane/AppData/Local/Temp"_L1;
+        // Nor does the profile of another user.
+        const QString other = m_home.folder(u"prefix/drive_c/users/closed"_s);
+        m_home.folder(u"prefix/drive_c/users/closed/Documents"_s);
+        QVERIFY(QFile::setPermissions(other, QFile::Permissions()));
+        const auto open = qScopeGuard([&other] {
+            QFile::setPermissions(other, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            QDir(other).removeRecursively();
+        });
+        {
+            const OrdinaryUser user;
+            QVERIFY(!platform::ProtectedPlaces().isProtectedRoot(temp));
+            QVERIFY(platform::ProtectedPlaces().isProtectedRoot(drive));
+        }
+        QVERIFY(
+            QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QVERIFY(QFile::remove(link));
+    }
+#endif
 
     // Variables of the host alone do not change the folders of the prefix.
     void thePrefixIgnoresTheHostsTemporaryVariables()
@@ -302,7 +332,8 @@ private Q_SLOTS:
     void aLinkToAProtectedRootIsProtected()
     {
         const TestTree tree;
-        QVERIFY(platform::isProtectedRoot(tree.link(QDir::homePath(), u"innocent"_s)));
+        QVERIFY(platform::ProtectedPlaces().isProtectedRoot(
+            tree.link(QDir::homePath(), u"innocent"_s)));
     }
 
 private:

@@ -31,6 +31,12 @@ const QString userList =
 const QString runPath = u"Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
 const QString runKey = u"HKEY_CURRENT_USER\\"_s + runPath;
 
+QString findExecutable(const QString &folder, const QString &name)
+{
+    platform::ReadFailures failures;
+    return StartupManager::findExecutable(folder, name, failures);
+}
+
 } // namespace
 
 class TestStartupManager : public QObject
@@ -174,15 +180,15 @@ private Q_SLOTS:
         for (const QString &file : files.split(u' '))
             makeFile("Install Folder/"_L1 + file);
         const QString expected = chosen.isEmpty() ? QString() : folder + u'\\' + chosen;
-        QCOMPARE(StartupManager::findExecutable(folder, name), expected);
-        QCOMPARE(StartupManager::findExecutable(folder + u'\\', name), expected);
+        QCOMPARE(findExecutable(folder, name), expected);
+        QCOMPARE(findExecutable(folder + u'\\', name), expected);
     }
 
     void noInstallFolderGivesNothing()
     {
-        QVERIFY(StartupManager::findExecutable({}, u"x"_s).isEmpty());
-        QVERIFY(StartupManager::findExecutable(u"C:\\Sweepwise Missing"_s, u"x"_s).isEmpty());
-        QVERIFY(StartupManager::findExecutable(makeFile(u"file.exe"_s), u"x"_s).isEmpty());
+        QVERIFY(findExecutable({}, u"x"_s).isEmpty());
+        QVERIFY(findExecutable(u"C:\\Sweepwise Missing"_s, u"x"_s).isEmpty());
+        QVERIFY(findExecutable(makeFile(u"file.exe"_s), u"x"_s).isEmpty());
     }
 
     // A path that is not a full one would be resolved against this program's current folder.
@@ -202,8 +208,8 @@ private Q_SLOTS:
         StartupManager manager;
         const auto found = testApps(manager).size();
         const QString program = StartupManager::commandPath(u"here.exe --x"_s);
-        const QString inFolder = StartupManager::findExecutable(u"folder"_s, u"here"_s);
-        const QString inThis = StartupManager::findExecutable(u"."_s, u"here"_s);
+        const QString inFolder = findExecutable(u"folder"_s, u"here"_s);
+        const QString inThis = findExecutable(u"."_s, u"here"_s);
         QVERIFY(QDir::setCurrent(before));
         QCOMPARE(found, 0);
         QCOMPARE(program, u"here.exe"_s);
@@ -565,20 +571,20 @@ private Q_SLOTS:
     {
         makeFile(u"photo.exe"_s); // in a subfolder of the drive
         makeFile(u"deep/photo.exe"_s);
-        QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).endsWith("\\photo.exe"_L1));
+        QVERIFY(findExecutable(u"C:\\"_s, u"Photo"_s).endsWith("\\photo.exe"_L1));
         QVERIFY(QFile::remove(m_home.folder(filesFolder()) + "/photo.exe"_L1));
-        QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+        QVERIFY(findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
         // A hidden folder is passed over.
         makeFile(u"../Hidden/photo.exe"_s);
         const QString hidden = m_home.folder(u"prefix/drive_c/Hidden"_s);
-        QVERIFY(!StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+        QVERIFY(!findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
         if (::setxattr(QFile::encodeName(hidden).constData(), "user.DOSATTRIB", "0x2", 3, 0) == 0)
-            QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+            QVERIFY(findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
         QVERIFY(QDir(hidden).removeRecursively());
         // A link that leads back up is not followed.
         QFile::link(m_home.folder(u"prefix/drive_c"_s),
                     m_home.folder(u"prefix/drive_c"_s) + "/loop"_L1);
-        QVERIFY(StartupManager::findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
+        QVERIFY(findExecutable(u"C:\\"_s, u"Photo"_s).isEmpty());
     }
 #endif
 

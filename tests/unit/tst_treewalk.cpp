@@ -236,7 +236,7 @@ private Q_SLOTS:
         tree.link(tree.path(u"loop2"_s), u"loop1"_s);
         WalkReport report;
         QCOMPARE(walkEverywhere(tree.path(), walkers, &report), QStringList{tree.path(u"a/f"_s)});
-        QCOMPARE(report.failureCount, 0);
+        QCOMPARE(report.failures.count(), 0);
         QVERIFY(report.followed.isEmpty());
     }
 
@@ -324,7 +324,7 @@ private Q_SLOTS:
         const QStringList found = walkEverywhere(tree.path(), walkers, &report);
         QCOMPARE(::chmod(closed.constData(), 0700), 0);
         QCOMPARE(found, QStringList{tree.path(u"open/f"_s)});
-        QVERIFY(report.failureCount >= 1);
+        QVERIFY(report.failures.count() >= 1);
     }
 
     void kernelFileSystemsAreWalkedOnlyAsTheRoot()

@@ -18,6 +18,9 @@ struct State {
     QString target;
     std::atomic_bool isJunctionActive = false;
     bool areTagsRefused = false;
+    QString refused; // in lower case; empty for none
+    quint32 refusal = 0;
+    quint32 breakOff = 0;
 };
 
 State &state()
@@ -56,6 +59,16 @@ std::wstring redirected(const wchar_t *path, bool follow)
     return (state().target + rest).toStdWString();
 }
 
+bool isRefused(const wchar_t *path)
+{
+    const State &fakes = state();
+    if (fakes.refused.isEmpty()
+        || !QString::fromWCharArray(path).toLower().split(u'\\').contains(fakes.refused))
+        return false;
+    ::SetLastError(fakes.refusal);
+    return true;
+}
+
 quint32 tagOf(const QString &name)
 {
     return state().tags.value(name.toLower());
@@ -74,6 +87,8 @@ HANDLE WINAPI findFirst(LPCWSTR pattern, FINDEX_INFO_LEVELS level, LPVOID data,
                         FINDEX_SEARCH_OPS op, LPVOID filter, DWORD flags)
 {
     static const auto systemFunction = original<decltype(&findFirst)>("FindFirstFileExW");
+    if (isRefused(pattern))
+        return INVALID_HANDLE_VALUE;
     const HANDLE search =
         systemFunction(redirected(pattern, false).c_str(), level, data, op, filter, flags);
     if (search != INVALID_HANDLE_VALUE)
@@ -84,6 +99,10 @@ HANDLE WINAPI findFirst(LPCWSTR pattern, FINDEX_INFO_LEVELS level, LPVOID data,
 BOOL WINAPI findNext(HANDLE search, LPWIN32_FIND_DATAW data)
 {
     static const auto systemFunction = original<decltype(&findNext)>("FindNextFileW");
+    if (state().breakOff != 0) {
+        ::SetLastError(state().breakOff);
+        return FALSE;
+    }
     const BOOL found = systemFunction(search, data);
     if (found)
         addTag(*data);
@@ -95,6 +114,8 @@ HANDLE WINAPI createFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATT
 {
     static const auto systemFunction = original<decltype(&createFile)>("CreateFileW");
     const bool follow = (flags & FILE_FLAG_OPEN_REPARSE_POINT) == 0;
+    if (follow && isRefused(path))
+        return INVALID_HANDLE_VALUE;
     return systemFunction(redirected(path, follow).c_str(), access, share, security, disposition,
                           flags, pattern);
 }
@@ -177,8 +198,21 @@ void fakelinks::refuseTags()
     state().areTagsRefused = true;
 }
 
+void fakelinks::refuse(const QString &name, quint32 error)
+{
+    state().refused = name.toLower();
+    state().refusal = error;
+}
+
+void fakelinks::breakListings(quint32 error)
+{
+    state().breakOff = error;
+}
+
 void fakelinks::clear()
 {
+    state().refused.clear();
+    state().breakOff = 0;
     state().areTagsRefused = false;
     state().isJunctionActive = false;
     state().junction.clear();

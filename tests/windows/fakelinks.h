@@ -21,6 +21,13 @@ void setJunctionActive(bool active);
 /// Lets the system refuse to tell the tag of an open entry, as on a memory stick.
 void refuseTags();
 
+/// Lets the system refuse with the error @p error to open entries with the name @p name or to list
+/// them. Links are refused only if they are followed.
+void refuse(const QString &name, quint32 error);
+
+/// Lets every listing break off behind its first entry, with the error @p error.
+void breakListings(quint32 error);
+
 /// Removes all fakes.
 void clear();
 

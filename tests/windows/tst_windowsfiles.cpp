@@ -88,10 +88,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, root);
         qsizetype found = 0;
-        const platform::WalkReport report = platform::walkFiles(
+        const platform::ReadFailures report = platform::walkFiles(
             root, {{}, false, nullptr}, [&found](platform::WalkedFile &&) { ++found; });
         QCOMPARE(found, 0);
-        QCOMPARE(report.failureCount, 1);
+        QCOMPARE(report.count(), 1);
     }
 
     void pathsAreConvertedToTheExtendedForm_data()

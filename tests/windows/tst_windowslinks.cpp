@@ -4,10 +4,13 @@
 #include "browserprofiles.h"
 #include "fakelinks.h"
 #include "fileremove.h"
+#include "folderlister.h"
+#include "protectedplaces.h"
 #include "rulefolders.h"
 #include "testtree.h"
 #include "windowsfiles.h"
 
+#include <QDir>
 #include <QTest>
 
 #include <atomic>
@@ -19,7 +22,7 @@ using namespace Qt::StringLiterals;
 using namespace windowsfiles;
 using platform::EntryKind;
 using platform::FileRemover;
-using platform::WalkReport;
+using platform::ReadFailures;
 using Status = FileRemover::Status;
 
 namespace {
@@ -111,6 +114,78 @@ private Q_SLOTS:
         QVERIFY(!tree.has(u"folder"_s));
     }
 
+    void whatCannotBeReadIsReported_data()
+    {
+        QTest::addColumn<QString>("refused");
+        QTest::addColumn<quint32>("tag");
+        QTest::addColumn<QStringList>("listed");
+        QTest::newRow("folder") << u"sub"_s << quint32(0) << QStringList{u"file"_s};
+        QTest::newRow("file link")
+            << u"file"_s << quint32(IO_REPARSE_TAG_SYMLINK) << QStringList{u"sub/other"_s};
+    }
+
+    void whatCannotBeReadIsReported()
+    {
+        QFETCH(QString, refused);
+        QFETCH(quint32, tag);
+        QFETCH(QStringList, listed);
+        const TestTree tree;
+        tree.file(u"file"_s);
+        tree.file(u"sub/other"_s);
+        if (tag != 0)
+            fakelinks::tag(refused, tag);
+        fakelinks::refuse(refused, ERROR_READ_FAULT);
+        QStringList names;
+        const ReadFailures report =
+            platform::walkFiles(tree.path(), {}, [&](platform::WalkedFile &&file) {
+                names.append(file.path.sliced(tree.path().size() + 1));
+            });
+        QCOMPARE(names, listed);
+        QCOMPARE(report.count(), 1);
+        QCOMPARE(report.kept().constFirst().where, tree.path(refused));
+        const platform::FolderListing listing =
+            platform::FolderLister().list(tag == 0 ? tree.path(refused) : tree.path());
+        QVERIFY(!listing.error.isEmpty());
+        QVERIFY(!listing.isMissing);
+    }
+
+    void aListingThatBreaksOffIsReported()
+    {
+        const TestTree tree;
+        tree.file(u"a"_s);
+        fakelinks::breakListings(ERROR_READ_FAULT);
+        const ReadFailures report =
+            platform::walkFiles(tree.path(), {}, [](platform::WalkedFile &&) {});
+        QCOMPARE(report.count(), 1);
+        QCOMPARE(report.kept().constFirst().where, tree.path());
+    }
+
+    // The folder may be one of those that cannot be examined.
+    void whileAProtectedPlaceIsUnknownEveryFolderIsProtected_data()
+    {
+        QTest::addColumn<quint32>("error");
+        QTest::addColumn<bool>("isProtected");
+        QTest::newRow("nothing fails") << quint32(0) << false;
+        QTest::newRow("missing") << quint32(ERROR_FILE_NOT_FOUND) << false;
+        // Another user's profile refuses each walk, too.
+        QTest::newRow("without the right") << quint32(ERROR_ACCESS_DENIED) << false;
+        QTest::newRow("fault") << quint32(ERROR_READ_FAULT) << true;
+    }
+
+    void whileAProtectedPlaceIsUnknownEveryFolderIsProtected()
+    {
+        QFETCH(quint32, error);
+        QFETCH(bool, isProtected);
+        const TestTree tree;
+        QVERIFY(QDir().mkpath(QDir::homePath() + "/Saved Games"_L1));
+        if (error != 0)
+            fakelinks::refuse(u"saved games"_s, error);
+        (void)platform::folderFailures();
+        QCOMPARE(platform::ProtectedPlaces().isProtectedRoot(tree.folder(u"clutter"_s)),
+                 isProtected);
+        QCOMPARE(!platform::folderFailures().isEmpty(), isProtected);
+    }
+
     void nothingBehindAJunctionIsListed()
     {
         const TestTree outside;
@@ -123,11 +198,11 @@ private Q_SLOTS:
         QCOMPARE(platform::inspect(tree.path(u"junction/precious"_s)).kind, EntryKind::Link);
         for (const QString &root : {u"junction"_s, u"junction/sub"_s}) {
             outside.file(u"sub/precious"_s);
-            const WalkReport report =
+            const ReadFailures report =
                 platform::walkFiles(tree.path(root), {}, [](platform::WalkedFile &&file) {
                     QFAIL(qPrintable("listed "_L1 + file.path));
                 });
-            QCOMPARE(report.failureCount, 1);
+            QCOMPARE(report.count(), 1);
         }
     }
 

@@ -202,7 +202,7 @@ private Q_SLOTS:
         QFETCH(QString, path);
         QFETCH(bool, expected);
         QDir().mkpath(QDir::homePath() + "/AppData/Local/Cache"_L1);
-        QCOMPARE(platform::isProtectedRoot(path), expected);
+        QCOMPARE(platform::ProtectedPlaces().isProtectedRoot(path), expected);
     }
 
     void rootsOfDrivesAndSharesAreRecognized_data()
@@ -295,7 +295,8 @@ private Q_SLOTS:
     void aPlantedLibraryIsNotLoaded()
     {
         const TestTree tree;
-        const QString name = u"planted.dll"_s;
+        // No other test has a library of this name.
+        const QString name = u"planted-version.dll"_s;
         QVERIFY(QFile::copy(QDir::fromNativeSeparators(platform::windowsFolder())
                                 + "/system32/version.dll"_L1,
                             tree.path(name)));

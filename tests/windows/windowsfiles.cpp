@@ -177,14 +177,14 @@ void windowsfiles::removeManyFiles(const QString &folder)
 QStringList windowsfiles::walk(const QString &root)
 {
     QStringList found;
-    const platform::WalkReport report =
+    const platform::ReadFailures report =
         platform::walkFiles(root, {}, [&](platform::WalkedFile &&file) {
             if (!file.path.startsWith(root + u'/') || !file.path.endsWith(u'/' + file.name))
                 qFatal("not a path below the root: %s", qPrintable(file.path));
             found.append(file.path.mid(root.size() + 1));
         });
-    for (const platform::WalkFailure &failure : report.failures)
-        qWarning("%s: %s", qPrintable(failure.path), qPrintable(failure.reason));
+    for (const platform::ReadFailure &failure : report.kept())
+        qWarning("%s: %s", qPrintable(failure.where), qPrintable(failure.reason));
     found.sort();
     return found;
 }

@@ -13,7 +13,9 @@ class RegistryCleaner;
 /// The one object that owns what the whole program shares: settings, engines, main window. GUI
 /// thread.
 ///
-/// Made on first use and never deleted. When the program quits, it cancels and joins the engines.
+/// Made on first use, after the toolkit's application object, and never deleted. A request to quit,
+/// the session's end or a signal that ends the program leads out of the event loop. Then it cancels
+/// the engines, waits for them and saves the settings.
 /// The window and its pages see only this declaration, which is a library of its own. The
 /// definition owns the window, so it belongs to a higher layer.
 class Application final : public QObject

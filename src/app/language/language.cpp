@@ -3,7 +3,7 @@
 #include "appinfo.h"
 #include "languages.h"
 #include "options.h"
-#include "settingsguard.h"
+#include "settingsfile.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -45,10 +45,9 @@ QString choose(const QString &stored, const QString &systemLocale)
 void install(QTranslator &translator)
 {
     qDebug() << "========== Translation Init ==========";
-    setAsideDamagedSettings(appinfo::name + ".conf"_L1);
-    const QSettings store(appinfo::organisation, appinfo::name);
-    const QString stored = store.value(options::language).toString();
-    qDebug() << "[Main] Settings path:" << store.fileName();
+    const std::unique_ptr<QSettings> store = settingsfile::openLanguage();
+    const QString stored = store->value(options::language).toString();
+    qDebug() << "[Main] Settings path:" << store->fileName();
     qDebug() << "[Main] User language from settings:" << stored;
 
     const QString code = choose(stored, QLocale::system().name());

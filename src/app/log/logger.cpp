@@ -1,10 +1,10 @@
 #include "logger.h"
 
+#include "ownfile.h"
 #include "text.h"
 
 #include <QDateTime>
 #include <QDebug>
-#include <QDir>
 #include <QMutexLocker>
 #include <QTextStream>
 
@@ -52,10 +52,11 @@ void Logger::init(const QString &logDirectory)
         m_file.close();
     m_isFileReady = false;
 
-    QDir().mkpath(logDirectory);
     const QDateTime now = QDateTime::currentDateTime();
-    m_file.setFileName(logDirectory + "/sweepwise_"_L1 + now.toString(u"yyyyMMdd"_s) + ".log"_L1);
-    if (!m_file.open(QIODevice::Append | QIODevice::Text))
+    m_path = logDirectory + "/sweepwise_"_L1 + now.toString(u"yyyyMMdd"_s) + ".log"_L1;
+    m_failure.clear();
+    if (!platform::makePrivateFolder(logDirectory, m_failure)
+        || !platform::openForAppending(m_path, m_file, m_failure))
         return;
     m_isFileReady = true;
 
@@ -64,6 +65,20 @@ void Logger::init(const QString &logDirectory)
     stream << '\n' << separator << '\n';
     stream << "Sweepwise Log Started: " << now.toString(Qt::TextDate) << '\n';
     stream << separator << '\n';
+    stream.flush();
+    noteFailure(stream);
+}
+
+QString Logger::failure() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_failure;
+}
+
+void Logger::noteFailure(const QTextStream &stream)
+{
+    if (stream.status() != QTextStream::Ok && m_failure.isEmpty())
+        m_failure = m_file.errorString();
 }
 
 void Logger::log(int level, const QString &message)
@@ -84,4 +99,5 @@ void Logger::log(int level, const QString &message)
     QTextStream stream(&m_file);
     stream << line << '\n';
     stream.flush();
+    noteFailure(stream);
 }

@@ -6,15 +6,15 @@
 #include "logger.h"
 #include "namefilter.h"
 #include "protectedplaces.h"
+#include "readfile.h"
 #include "registry.h"
 #include "registrykeys.h"
 #include "rulefolders.h"
+#include "scanlog.h"
 #include "scanresult.h"
-#include "walklog.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -60,30 +60,34 @@ constexpr qint64 maxProfilesIniSize = 1'048'576;
 
 // The path of @p relative in a data folder; empty when it cannot be used. Links on the way to the
 // data folder are the user's wish and are followed. Links below the data folder are not.
-QString locateIn(const DataFolders &folders, DataFolder folder, const QString &relative)
+QString locateIn(const DataFolders &folders, DataFolder folder, const QString &relative,
+                 platform::ReadFailures &failures)
 {
-    const QString base = folder == DataFolder::Local ? folders.local : folders.roaming;
-    QString problem;
-    const QString path = platform::locate(base, relative, &problem);
-    if (!problem.isEmpty())
-        logSkipped(base + u'/' + relative, problem);
-    return path;
+    return platform::locate(folder == DataFolder::Local ? folders.local : folders.roaming, relative,
+                            failures);
 }
 
-// The browser's data root. If it cannot be located, the path where it would be.
-QString dataRoot(const DataFolders &folders, const Description &browser)
+// The browser's data root. If it cannot be located, the path where it would be; empty if the data
+// folder is not known.
+QString dataRoot(const DataFolders &folders, const Description &browser,
+                 platform::ReadFailures &failures)
 {
-    const QString located = locateIn(folders, browser.folder, browser.root);
-    if (!located.isEmpty())
+    const QString located = locateIn(folders, browser.folder, browser.root, failures);
+    const QString &base = browser.folder == DataFolder::Local ? folders.local : folders.roaming;
+    if (!located.isEmpty() || base.isEmpty())
         return located;
-    return (browser.folder == DataFolder::Local ? folders.local : folders.roaming) + u'/'
-        + browser.root;
+    return base + u'/' + browser.root;
 }
 
 /// The names of the installed programs. The first call reads them from the registry.
 class InstalledPrograms
 {
 public:
+    explicit InstalledPrograms(platform::ReadFailures &failures)
+        : m_failures(failures)
+    {
+    }
+
     bool hasNameContaining(const QString &text)
     {
         if (!m_names)
@@ -94,7 +98,7 @@ public:
     }
 
 private:
-    static QStringList read()
+    QStringList read() const
     {
         const platform::Registry registry;
         QStringList names;
@@ -102,75 +106,82 @@ private:
             for (const QString &program : registry.subkeys(hive, list))
                 names.append(registry.text(hive, list + u'\\' + program, u"DisplayName"_s));
         }
+        m_failures.add(registry.readFailures());
         return names;
     }
 
+    platform::ReadFailures &m_failures;
     std::optional<QStringList> m_names;
 };
 
 // Whether the browser has data, which makes it count as installed. Its folder may be a link; a scan
-// then skips it.
+// then skips it. Data that cannot be examined may be there.
 bool hasData(const DataFolders &folders, int type, const QString &dataRoot)
 {
-    const auto isFolder = [](const QString &path) {
+    platform::ReadFailures failures;
+    const auto mayBeFolder = [&failures](const QString &path) {
         if (path.isEmpty())
             return false;
         const platform::Entry entry = platform::inspect(path);
-        if (entry.kind == platform::EntryKind::Other)
-            logSkipped(path, entry);
-        return QFileInfo(path).isDir();
+        noteSkipped(path, entry, failures);
+        return entry.kind == platform::EntryKind::Folder || QFileInfo(path).isDir();
     };
-    if (type != Browser::Firefox)
-        return isFolder(dataRoot);
-    return QFileInfo::exists(
-               locateIn(folders, DataFolder::Roaming, u"Mozilla/Firefox/profiles.ini"_s))
-        || isFolder(dataRoot)
-        || isFolder(locateIn(folders, DataFolder::Local, u"Mozilla/Firefox/Profiles"_s));
+    const auto locate = [&](DataFolder folder, const QString &relative) {
+        return locateIn(folders, folder, relative, failures);
+    };
+    const bool isThere = type != Browser::Firefox
+        ? mayBeFolder(dataRoot)
+        : platform::inspect(locate(DataFolder::Roaming, u"Mozilla/Firefox/profiles.ini"_s)).kind
+                != platform::EntryKind::Missing
+            || mayBeFolder(dataRoot)
+            || mayBeFolder(locate(DataFolder::Local, u"Mozilla/Firefox/Profiles"_s));
+    return isThere || !failures.isEmpty();
 }
 
 /// The subfolders directly in @p folder, sorted by name, without links and hidden folders.
-QStringList subfolders(const QString &folder, const QStringList &nameFilters = {})
+QStringList subfolders(const QString &folder, platform::ReadFailures &failures,
+                       const QStringList &nameFilters = {})
 {
     const platform::FolderListing listing = platform::FolderLister().list(folder);
     if (!listing.error.isEmpty() && !listing.isMissing)
-        logUnreadable(folder, listing.error);
+        failures.add(folder, listing.error);
     const platform::NameFilter filter(nameFilters);
     QStringList paths;
     for (const platform::ListedEntry &entry : listing.entries) {
         const bool isFolder = entry.kind == platform::ListedKind::Folder
             || entry.kind == platform::ListedKind::FolderLink;
         const QString path = folder + u'/' + entry.name;
-        if (isFolder && !entry.isHidden && filter.matches(entry.name) && isScannable(path))
+        if (isFolder && !entry.isHidden && filter.matches(entry.name)
+            && isScannable(path, failures))
             paths.append(path);
     }
     paths.sort();
     return paths;
 }
 
-QByteArray readProfilesIni(const QString &path)
+QByteArray readProfilesIni(const QString &path, platform::ReadFailures &failures)
 {
-    QFile file(path);
-    // Opening a pipe would block until another program writes into it.
-    if (!QFileInfo(path).isFile())
+    if (platform::inspect(path).kind == platform::EntryKind::Missing)
         return {};
-    if (!file.open(QIODevice::ReadOnly)) {
-        Logger::instance().warning(u"Cannot read file: %1 - %2"_s.arg(path, file.errorString()));
-        return {};
-    }
-    return file.read(maxProfilesIniSize);
+    QString error;
+    const std::optional<QByteArray> content = platform::readFile(path, maxProfilesIniSize, error);
+    if (!content)
+        failures.add(path, error);
+    return content.value_or(QByteArray());
 }
 
 /// The profile folder that a group of profiles.ini names, with links resolved. Empty when it names
 /// none.
-QString profileFolder(const IniGroup &group, const QString &root)
+QString profileFolder(const IniGroup &group, const QString &root, platform::ReadFailures &failures)
 {
     const QString path = group.values.value(u"path"_s);
     if (path.isEmpty() || path.contains(QChar::Null))
         return {};
     if (group.values.value(u"isrelative"_s) != "1"_L1)
-        return platform::locate(path, {});
+        return platform::locate(path, {}, failures);
+    // A path with ".." in it is not located, but may lead to a profile all the same.
     const QString located = platform::locate(root, path);
-    return platform::locate(located.isEmpty() ? root + u'/' + path : located, {});
+    return platform::locate(located.isEmpty() ? root + u'/' + path : located, {}, failures);
 }
 
 QString makeId(const QString &name)
@@ -195,14 +206,16 @@ DataFolders dataFolders()
 {
     // The roaming folder is always AppData/Roaming in the home folder, even if the environment
     // names another one.
-    const QString roaming = platform::locate(platform::homeFolder(), u"AppData/Roaming"_s);
-    return {platform::localDataFolder(),
-            roaming.isEmpty() ? platform::homeFolder() + "/AppData/Roaming"_L1 : roaming};
+    const QString home = platform::homeFolder();
+    QString roaming = platform::locate(home, u"AppData/Roaming"_s);
+    if (roaming.isEmpty() && !home.isEmpty())
+        roaming = home + "/AppData/Roaming"_L1;
+    return {platform::localDataFolder(), roaming};
 }
 
-QList<Browser> detect(const DataFolders &folders)
+QList<Browser> detect(const DataFolders &folders, platform::ReadFailures &failures)
 {
-    InstalledPrograms programs;
+    InstalledPrograms programs(failures);
     QList<Browser> list;
     for (const Description &description : descriptions) {
         Browser browser;
@@ -210,7 +223,8 @@ QList<Browser> detect(const DataFolders &folders)
         browser.type = static_cast<int>(list.size());
         browser.id = makeId(name);
         browser.name = QCoreApplication::translate("BrowserCleaner", description.name);
-        browser.dataRoot = dataRoot(folders, description);
+        platform::ReadFailures ignored; // a scan meets them again and reports them
+        browser.dataRoot = dataRoot(folders, description, ignored);
         browser.processName = description.process;
         browser.installed =
             hasData(folders, browser.type, browser.dataRoot) || programs.hasNameContaining(name);
@@ -254,42 +268,44 @@ CategoryOrigin originOf(const CleanCategory &category)
     return origin;
 }
 
-QStringList chromiumProfiles(const QString &dataRoot)
+QStringList chromiumProfiles(const QString &dataRoot, platform::ReadFailures &failures)
 {
-    if (!isScannable(dataRoot))
+    if (!isScannable(dataRoot, failures))
         return {};
     QStringList profiles;
-    if (const QString defaultProfile = platform::locate(dataRoot, u"Default"_s);
-        isScannable(defaultProfile))
+    if (const QString defaultProfile = platform::locate(dataRoot, u"Default"_s, failures);
+        isScannable(defaultProfile, failures))
         profiles.append(defaultProfile);
-    return profiles + subfolders(dataRoot, {u"Profile *"_s});
+    return profiles + subfolders(dataRoot, failures, {u"Profile *"_s});
 }
 
-QString firefoxRoot(const DataFolders &folders)
+QString firefoxRoot(const DataFolders &folders, platform::ReadFailures &failures)
 {
-    const QString root = locateIn(folders, DataFolder::Roaming, u"Mozilla/Firefox"_s);
-    return isScannable(root) ? root : QString();
+    const QString root = locateIn(folders, DataFolder::Roaming, u"Mozilla/Firefox"_s, failures);
+    return isScannable(root, failures) ? root : QString();
 }
 
-QStringList firefoxProfiles(const DataFolders &folders)
+QStringList firefoxProfiles(const DataFolders &folders, platform::ProtectedPlaces &places,
+                            platform::ReadFailures &failures)
 {
     QStringList profiles;
     const auto add = [&profiles](const QString &path) {
         if (!profiles.contains(path))
             profiles.append(path);
     };
-    const QString root = firefoxRoot(folders);
+    const QString root = firefoxRoot(folders, failures);
     if (!root.isEmpty()) {
-        const QString ini = platform::locate(root, u"profiles.ini"_s);
-        const QList<IniGroup> groups = parseIni(readProfilesIni(ini));
+        const QString ini = platform::locate(root, u"profiles.ini"_s, failures);
+        const QList<IniGroup> groups = parseIni(readProfilesIni(ini, failures));
         for (const IniGroup &group : groups) {
             if (!group.name.startsWith("Profile"_L1) && !group.name.startsWith("Install"_L1))
                 continue;
-            const QString path = profileFolder(group, root);
-            if (!isScannable(path))
+            const QString path = profileFolder(group, root, failures);
+            if (!isScannable(path, failures))
                 continue;
-            if (platform::holdsProtectedPlace(path)) {
-                Logger::instance().warning(u"Skipped Firefox profile: %1 holds more"_s.arg(path));
+            if (places.holdsProtectedPlace(path)) {
+                Logger::instance().warning(
+                    u"Skipped Firefox profile: %1 may hold more"_s.arg(path));
                 continue;
             }
             add(path);
@@ -297,10 +313,10 @@ QStringList firefoxProfiles(const DataFolders &folders)
         }
     }
     for (const DataFolder data : {DataFolder::Roaming, DataFolder::Local}) {
-        const QString folder = locateIn(folders, data, u"Mozilla/Firefox/Profiles"_s);
-        if (!isScannable(folder))
+        const QString folder = locateIn(folders, data, u"Mozilla/Firefox/Profiles"_s, failures);
+        if (!isScannable(folder, failures))
             continue;
-        const QStringList found = subfolders(folder);
+        const QStringList found = subfolders(folder, failures);
         for (const QString &path : found)
             add(path);
     }

@@ -5,6 +5,11 @@
 
 struct CleanCategory;
 
+namespace platform {
+class ProtectedPlaces;
+class ReadFailures;
+} // namespace platform
+
 /// A browser that can be cleaned, and whether it is installed.
 struct Browser {
     /// The browser's index in the list of known browsers. Pages store the value in a property, so
@@ -22,7 +27,7 @@ struct Browser {
 
 namespace browsers {
 
-/// The folders where programs keep a user's data; absolute paths.
+/// The folders where programs keep a user's data; absolute paths, empty when unknown.
 struct DataFolders {
     QString local;
     QString roaming;
@@ -31,8 +36,10 @@ struct DataFolders {
 /// The folders of the user who runs the program.
 [[nodiscard]] DataFolders dataFolders();
 
-/// The five browsers in their fixed order. Their state is read from the system now.
-[[nodiscard]] QList<Browser> detect(const DataFolders &folders);
+/// The five browsers in their fixed order. Their state is read from the system now. A browser whose
+/// data cannot be examined counts as installed, so that a scan tries it and reports the failure.
+/// @p failures gets what of the list of installed programs could not be read.
+[[nodiscard]] QList<Browser> detect(const DataFolders &folders, platform::ReadFailures &failures);
 
 /// Whether @p name means @p browser. It may be the id ("google_chrome"), the name ("Google Chrome")
 /// or a word of the name ("chrome").
@@ -55,17 +62,21 @@ struct CategoryOrigin {
 [[nodiscard]] CategoryOrigin originOf(const CleanCategory &category);
 
 /// The profile folders of a Chromium browser in scan order. The paths are absolute and contain no
-/// links. A folder that is a link is left out, with a warning in the log.
-[[nodiscard]] QStringList chromiumProfiles(const QString &dataRoot);
+/// links. A folder that is a link is left out, with a warning in the log. What cannot be read is
+/// added to @p failures.
+[[nodiscard]] QStringList chromiumProfiles(const QString &dataRoot,
+                                           platform::ReadFailures &failures);
 
 /// The folder where Firefox keeps data that belongs to no profile. Empty when there is no such
-/// folder.
-[[nodiscard]] QString firefoxRoot(const DataFolders &folders);
+/// folder. What cannot be read is added to @p failures.
+[[nodiscard]] QString firefoxRoot(const DataFolders &folders, platform::ReadFailures &failures);
 
 /// Firefox's profile folders, each once. First come those that profiles.ini names, then the
 /// subfolders of the roaming and the local profiles folder. A path in profiles.ini may lead
 /// anywhere; links in it are resolved. A link in a profiles folder is left out unless profiles.ini
-/// names it.
-[[nodiscard]] QStringList firefoxProfiles(const DataFolders &folders);
+/// names it. What cannot be read is added to @p failures.
+[[nodiscard]] QStringList firefoxProfiles(const DataFolders &folders,
+                                          platform::ProtectedPlaces &places,
+                                          platform::ReadFailures &failures);
 
 } // namespace browsers

@@ -6,14 +6,17 @@
 #include "logger.h"
 #include "processes.h"
 #include "rulefile.h"
+#include "rulefolders.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 BrowserCleaner::BrowserCleaner(QObject *parent)
-    : BrowserCleaner(browsers::dataFolders(), parent)
+    : CleanEngine(parent)
+    , m_hasOwnFolders(true)
 {
+    detectBrowsers();
 }
 
 BrowserCleaner::BrowserCleaner(const browsers::DataFolders &folders, QObject *parent)
@@ -45,7 +48,12 @@ void BrowserCleaner::loadRules(const QString &path)
 
 void BrowserCleaner::detectBrowsers()
 {
-    m_browsers = browsers::detect(m_folders);
+    m_detectFailures.clear();
+    (void)platform::folderFailures(); // of earlier work on this thread
+    if (m_hasOwnFolders)
+        m_folders = browsers::dataFolders();
+    m_browsers = browsers::detect(m_folders, m_detectFailures);
+    m_detectFailures.add(platform::folderFailures());
     const auto installed = std::count_if(m_browsers.begin(), m_browsers.end(),
                                          [](const Browser &browser) { return browser.installed; });
     Logger::instance().info(u"Detected %1 browsers"_s.arg(installed));
@@ -103,36 +111,39 @@ void BrowserCleaner::doScan()
 {
     Logger::instance().info(u"Starting browser scan..."_s);
     m_listed.clear();
+    readFailures().add(m_detectFailures);
+    platform::ProtectedPlaces places;
     const int count = static_cast<int>(m_scanned.size());
     for (int i = 1; i <= count; ++i) {
         const Browser &browser = m_scanned.at(i - 1);
         if (!isStopRequested()) {
             Q_EMIT scanProgress(i, count, browser.name);
-            scanBrowser(browser);
+            scanBrowser(browser, places);
         }
         if (isStopRequested()) {
             setState(State::Cancelled);
             return;
         }
     }
+    readFailures().add(platform::folderFailures());
     result().scanTime = QDateTime::currentDateTime();
     Logger::instance().info(u"Browser scan finished. Found %1 items, %2"_s.arg(
         QString::number(result().totalCount()), formatSize(result().totalSize())));
 }
 
-void BrowserCleaner::scanBrowser(const Browser &browser)
+void BrowserCleaner::scanBrowser(const Browser &browser, platform::ProtectedPlaces &places)
 {
     ItemsByRule found(static_cast<std::size_t>(m_rules.size()));
     if (browser.type == Browser::Firefox) {
-        const FirefoxScan scan(m_rules, m_listed, stopFlag());
-        if (const QString root = browsers::firefoxRoot(m_folders); !root.isEmpty())
+        const FirefoxScan scan(m_rules, places, m_listed, readFailures(), stopFlag());
+        if (const QString root = browsers::firefoxRoot(m_folders, readFailures()); !root.isEmpty())
             scan.scanShared(root, found);
-        const QStringList profiles = browsers::firefoxProfiles(m_folders);
+        const QStringList profiles = browsers::firefoxProfiles(m_folders, places, readFailures());
         for (const QString &profile : profiles)
             scan.scanProfile(profile, found);
     } else {
-        const ChromiumScan scan(m_rules, m_listed, stopFlag());
-        const QStringList profiles = browsers::chromiumProfiles(browser.dataRoot);
+        const ChromiumScan scan(m_rules, places, m_listed, readFailures(), stopFlag());
+        const QStringList profiles = browsers::chromiumProfiles(browser.dataRoot, readFailures());
         for (const QString &profile : profiles)
             scan.scanProfile(profile, found);
     }
@@ -141,7 +152,6 @@ void BrowserCleaner::scanBrowser(const Browser &browser)
         if (items.isEmpty())
             continue;
         CleanCategory category = categoryOf(browser, m_rules.at(i));
-        items.squeeze();
         category.items = std::move(items);
         result().categories.append(std::move(category));
     }
@@ -172,7 +182,12 @@ void BrowserCleaner::warnIfRunning(const CleanCategory &category) const
     const auto browser =
         std::find_if(m_scanned.begin(), m_scanned.end(),
                      [&id](const Browser &candidate) { return candidate.id == id; });
-    if (browser != m_scanned.end() && platform::runningPrograms().contains(browser->processName))
+    if (browser == m_scanned.end())
+        return;
+    const std::optional<QSet<QString>> running = platform::runningPrograms();
+    if (!running)
+        Logger::instance().warning("Cannot tell whether a browser is running: "_L1 + browser->name);
+    else if (running->contains(browser->processName))
         Logger::instance().warning(browser->name + " is running, some files may not be deleted"_L1);
 }
 

@@ -12,7 +12,8 @@ class CleanLedger;
 
 namespace platform {
 class FileRemover;
-}
+class ProtectedPlaces;
+} // namespace platform
 
 /// Finds and removes what browsers keep in their profiles: caches, logs, history, cookies. A rule
 /// file says what to look for, and FirefoxScan where to look for it in Firefox.
@@ -63,14 +64,16 @@ protected:
     void doClean() override;
 
 private:
-    void scanBrowser(const Browser &browser);
+    void scanBrowser(const Browser &browser, platform::ProtectedPlaces &places);
     void warnIfRunning(const CleanCategory &category) const;
     /// Removes one item and records it in @p ledger. A failure is also written to the log.
     Removal removeItem(platform::FileRemover &remover, const CleanItem &item, CleanLedger &ledger);
 
-    const browsers::DataFolders m_folders;
+    const bool m_hasOwnFolders = false; ///< the folders are those of the system
+    browsers::DataFolders m_folders;
     QList<BrowserRule> m_rules;
     QList<Browser> m_browsers;
+    platform::ReadFailures m_detectFailures; ///< what detectBrowsers() could not read
     QMap<int, bool> m_enabled;
     QList<Browser> m_scanned; ///< of the last scan
     platform::ListedFolders m_listed; ///< of the last scan

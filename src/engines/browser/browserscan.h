@@ -3,6 +3,8 @@
 #include "browserrule.h"
 #include "listedfolders.h"
 #include "namefilter.h"
+#include "protectedplaces.h"
+#include "readfailures.h"
 #include "scanresult.h"
 
 #include <QHash>
@@ -23,8 +25,10 @@ class ChromiumScan final
 {
     Q_DISABLE_COPY_MOVE(ChromiumScan)
 public:
-    /// All three must outlive the object. It records the folders that it reads in @p listed.
-    ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+    /// All five must outlive the object. It records the folders that it reads in @p listed, and
+    /// what it cannot read in @p failures.
+    ChromiumScan(const QList<BrowserRule> &rules, platform::ProtectedPlaces &places,
+                 platform::ListedFolders &listed, platform::ReadFailures &failures,
                  const std::atomic_bool &stopRequested);
 
     /// Appends the items of the folder @p profile to @p found. The path is absolute and contains no
@@ -40,7 +44,9 @@ private:
     [[nodiscard]] RulesByFolder ruleFolders(const QString &profile) const;
 
     const QList<BrowserRule> &m_rules;
+    platform::ProtectedPlaces &m_places;
     platform::ListedFolders &m_listed;
+    platform::ReadFailures &m_failures;
     const std::atomic_bool &m_stopRequested;
     std::vector<platform::NameFilter> m_filters; ///< one for each rule
 };
@@ -54,7 +60,8 @@ class FirefoxScan final
     Q_DISABLE_COPY_MOVE(FirefoxScan)
 public:
     /// The parameters are those of ChromiumScan.
-    FirefoxScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+    FirefoxScan(const QList<BrowserRule> &rules, platform::ProtectedPlaces &places,
+                platform::ListedFolders &listed, platform::ReadFailures &failures,
                 const std::atomic_bool &stopRequested);
 
     /// Appends the items below @p root that belong to no profile.
@@ -72,6 +79,8 @@ private:
                     ItemsByRule &found) const;
 
     const QList<BrowserRule> &m_rules;
+    platform::ProtectedPlaces &m_places;
     platform::ListedFolders &m_listed;
+    platform::ReadFailures &m_failures;
     const std::atomic_bool &m_stopRequested;
 };

@@ -2,9 +2,8 @@
 
 #include "entrywalk.h"
 #include "folderlister.h"
-#include "protectedplaces.h"
 #include "rulefolders.h"
-#include "walklog.h"
+#include "scanlog.h"
 
 #include <QCoreApplication>
 
@@ -164,10 +163,13 @@ private:
     std::vector<Bundle> m_bundles; ///< the bundles on that way, including the root
 };
 
-ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, platform::ProtectedPlaces &places,
+                           platform::ListedFolders &listed, platform::ReadFailures &failures,
                            const std::atomic_bool &stopRequested)
     : m_rules(rules)
+    , m_places(places)
     , m_listed(listed)
+    , m_failures(failures)
     , m_stopRequested(stopRequested)
 {
     m_filters.reserve(static_cast<std::size_t>(rules.size()));
@@ -181,10 +183,10 @@ ChromiumScan::RulesByFolder ChromiumScan::ruleFolders(const QString &profile) co
     for (qsizetype i = 0; i < m_rules.size(); ++i) {
         const BrowserRule &rule = m_rules.at(i);
         const QString folder =
-            rule.subPath.isEmpty() ? profile : platform::locate(profile, rule.subPath);
-        if (!folders.contains(folder) && !isScannable(folder))
+            rule.subPath.isEmpty() ? profile : platform::locate(profile, rule.subPath, m_failures);
+        if (!folders.contains(folder) && !isScannable(folder, m_failures))
             continue;
-        if (rule.matchesEverything() && platform::holdsProtectedPlace(folder)) {
+        if (rule.matchesEverything() && m_places.holdsProtectedPlace(folder)) {
             logTooBroadRule(folder, rule.id);
             continue;
         }
@@ -206,7 +208,6 @@ void ChromiumScan::scanProfile(const QString &profile, ItemsByRule &found) const
             folders.begin(), folders.end(),
             [](const QString &a, const QString &b) { return a.size() < b.size(); });
         Visitor visitor(*this, remaining.take(outermost), remaining, found);
-        logWalkFailures(outermost,
-                        platform::walkEntries(outermost, visitor, &m_stopRequested, &m_listed));
+        m_failures.add(platform::walkEntries(outermost, visitor, &m_stopRequested, &m_listed));
     }
 }

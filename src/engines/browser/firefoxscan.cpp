@@ -2,9 +2,8 @@
 
 #include "entrywalk.h"
 #include "filewalk.h"
-#include "protectedplaces.h"
 #include "rulefolders.h"
-#include "walklog.h"
+#include "scanlog.h"
 
 #include <QStringList>
 
@@ -101,10 +100,13 @@ const std::vector<FirefoxScan::Source> &FirefoxScan::sources()
     return list;
 }
 
-FirefoxScan::FirefoxScan(const QList<BrowserRule> &rules, platform::ListedFolders &listed,
+FirefoxScan::FirefoxScan(const QList<BrowserRule> &rules, platform::ProtectedPlaces &places,
+                         platform::ListedFolders &listed, platform::ReadFailures &failures,
                          const std::atomic_bool &stopRequested)
     : m_rules(rules)
+    , m_places(places)
     , m_listed(listed)
+    , m_failures(failures)
     , m_stopRequested(stopRequested)
 {
 }
@@ -135,7 +137,7 @@ void FirefoxScan::scan(const QString &folder, bool isShared, ItemsByRule &found)
             continue;
         QString path;
         for (const QString &candidate : source.folders) {
-            path = platform::locate(folder, candidate);
+            path = platform::locate(folder, candidate, m_failures);
             if (platform::inspect(path).kind != platform::EntryKind::Missing)
                 break;
         }
@@ -160,9 +162,9 @@ void FirefoxScan::scan(const QString &folder, bool isShared, ItemsByRule &found)
 void FirefoxScan::scanFolder(const QString &folder, bool isTree,
                              const std::vector<RuleFilter> &ruleFilters, ItemsByRule &found) const
 {
-    if (!isScannable(folder))
+    if (!isScannable(folder, m_failures))
         return;
-    if (isTree && platform::holdsProtectedPlace(folder)) {
+    if (isTree && m_places.holdsProtectedPlace(folder)) {
         logTooBroadRule(folder);
         return;
     }
@@ -180,16 +182,14 @@ void FirefoxScan::scanFolder(const QString &folder, bool isTree,
         FilesOnly visitor([&addItems](const platform::WalkedEntry &entry) {
             addItems(entry.name, entry.path, entry.size);
         });
-        logWalkFailures(folder,
-                        platform::walkEntries(folder, visitor, &m_stopRequested, &m_listed));
+        m_failures.add(platform::walkEntries(folder, visitor, &m_stopRequested, &m_listed));
         return;
     }
     platform::WalkOptions options;
     options.recursive = false;
     options.stopRequested = &m_stopRequested;
-    const platform::WalkReport report = platform::walkFiles(
+    m_failures.add(platform::walkFiles(
         folder, options,
         [&addItems](platform::WalkedFile &&file) { addItems(file.name, file.path, file.size); },
-        &m_listed);
-    logWalkFailures(folder, report);
+        &m_listed));
 }

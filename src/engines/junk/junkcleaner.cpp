@@ -8,7 +8,7 @@
 #include "protectedplaces.h"
 #include "rulefile.h"
 #include "rulefolders.h"
-#include "walklog.h"
+#include "scanlog.h"
 
 #include <QDebug>
 #include <QDir>
@@ -26,8 +26,10 @@ namespace {
 // folder.
 QString organisationDataFolder()
 {
-    QString folder =
-        platform::roamingDataFolder() + u'/' + appinfo::organisation + u'/' + appinfo::name;
+    const QString data = platform::roamingDataFolder();
+    if (data.isEmpty())
+        return {};
+    QString folder = data + u'/' + appinfo::organisation + u'/' + appinfo::name;
     return folder.remove(u'/' + appinfo::name);
 }
 
@@ -120,6 +122,7 @@ void JunkCleaner::doScan()
 {
     Logger::instance().info(u"Starting junk scan..."_s);
     m_listed.clear();
+    platform::ProtectedPlaces places;
     const int ruleCount = static_cast<int>(m_rules.size());
     for (int i = 1; i <= ruleCount; ++i) {
         if (isStopRequested()) {
@@ -128,14 +131,15 @@ void JunkCleaner::doScan()
         }
         const JunkRule &rule = m_rules.at(i - 1);
         Q_EMIT scanProgress(i, ruleCount, rule.name);
-        scanRule(rule);
+        scanRule(rule, places);
     }
+    readFailures().add(platform::folderFailures());
     result().scanTime = QDateTime::currentDateTime();
     Logger::instance().info(u"Junk scan finished. Found %1 items, %2"_s.arg(
         QString::number(result().totalCount()), formatSize(result().totalSize())));
 }
 
-void JunkCleaner::scanRule(const JunkRule &rule)
+void JunkCleaner::scanRule(const JunkRule &rule, platform::ProtectedPlaces &places)
 {
     CleanCategory category(rule.id, rule.name, rule.description);
     category.checked = rule.defaultChecked;
@@ -143,16 +147,15 @@ void JunkCleaner::scanRule(const JunkRule &rule)
     for (const QString &location : rule.paths) {
         if (isStopRequested())
             return;
-        scanLocation(location, rule, category.items);
+        scanLocation(location, rule, places, category.items);
     }
     if (category.items.isEmpty())
         return;
-    category.items.squeeze();
     result().categories.append(std::move(category));
 }
 
 void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
-                               QList<CleanItem> &items)
+                               platform::ProtectedPlaces &places, QList<CleanItem> &items)
 {
     const Location split = splitLocation(location);
     const QString base = expandPath(split.base);
@@ -160,13 +163,13 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
     QString problem;
     const QString path = platform::locate(base, relative, &problem);
     if (!problem.isEmpty())
-        logSkipped(base + relative, problem);
+        readFailures().add(base + relative, problem);
     if (path.isEmpty())
         return;
     const platform::Entry entry = platform::inspect(path);
     switch (entry.kind) {
     case platform::EntryKind::Folder:
-        if (rule.matchesWholeTrees() && platform::isProtectedRoot(path)) {
+        if (rule.matchesWholeTrees() && places.isProtectedRoot(path)) {
             logTooBroadRule(path, rule.id);
             return;
         }
@@ -188,7 +191,7 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
     case platform::EntryKind::Link:
     case platform::EntryKind::Missing:
     case platform::EntryKind::Other:
-        logSkipped(path, entry);
+        noteSkipped(path, entry, readFailures());
         return;
     }
 }
@@ -197,13 +200,12 @@ void JunkCleaner::scanDirectory(const QString &directory, const QStringList &pat
                                 QList<CleanItem> &items, bool recursive)
 {
     const platform::WalkOptions options{patterns, recursive, &stopFlag()};
-    const platform::WalkReport report = platform::walkFiles(
+    readFailures().add(platform::walkFiles(
         directory, options,
         [&items](platform::WalkedFile &&file) {
             items.emplaceBack(file.name, file.path, file.size);
         },
-        &m_listed);
-    logWalkFailures(directory, report);
+        &m_listed));
 }
 
 void JunkCleaner::doClean()

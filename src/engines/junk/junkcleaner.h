@@ -8,7 +8,8 @@
 
 namespace platform {
 class FileRemover;
-}
+class ProtectedPlaces;
+} // namespace platform
 
 /// Finds and removes system junk: temporary files, caches, logs, dumps. A rule file says what to
 /// look for.
@@ -37,9 +38,10 @@ protected:
     void doClean() override;
 
 private:
-    void scanRule(const JunkRule &rule);
+    void scanRule(const JunkRule &rule, platform::ProtectedPlaces &places);
     /// Appends the files of @p location to @p items. See expandPath() for its placeholders.
-    void scanLocation(const QString &location, const JunkRule &rule, QList<CleanItem> &items);
+    void scanLocation(const QString &location, const JunkRule &rule,
+                      platform::ProtectedPlaces &places, QList<CleanItem> &items);
     void scanDirectory(const QString &directory, const QStringList &patterns,
                        QList<CleanItem> &items, bool recursive);
     /// Removes one item. The reason of a failure is also written to the log.

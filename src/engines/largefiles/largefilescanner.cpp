@@ -6,6 +6,7 @@
 #include "scanresult.h"
 #include "treewalk.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -119,9 +120,7 @@ LargeFileScanner::LargeFileScanner(QObject *parent)
 
 LargeFileScanner::~LargeFileScanner()
 {
-    cancel();
-    if (m_worker)
-        m_worker->wait();
+    stopAndWait();
 }
 
 void LargeFileScanner::setDrives(const QStringList &drives)
@@ -143,56 +142,70 @@ void LargeFileScanner::startScan()
 {
     if (m_isRunning || m_isDeleting)
         return;
-    if (m_worker)
-        m_worker->wait();
+    m_worker.wait();
     const RunSignals::Run run = m_runSignals.open();
     m_isRunning = true;
     m_isCancelled = false;
     m_scannedDrives = m_drives;
     m_scannedMinSize = m_minSize;
     m_scanningWalkers = m_walkerCount;
-    QList<LargeFileInfo> discarded;
+    const auto discarded = std::make_shared<QList<LargeFileInfo>>();
     {
         const QMutexLocker locker(&m_mutex);
-        discarded = std::exchange(m_results, {});
+        discarded->swap(m_results);
         m_followedLinks.clear();
         m_totalSize = 0;
     }
     m_filesScanned = 0;
     m_foundPaths.clear();
+    m_readFailures.clear();
     Q_EMIT scanStarted();
 
     // Freeing a million records takes noticeable time, so the worker does it.
-    std::unique_ptr<QThread> worker(QThread::create([this, old = std::move(discarded)]() mutable {
-        old.clear();
+    const auto scan = [this, discarded] {
+        discarded->clear();
         m_listed.clear();
         doScan();
-    }));
-    connect(worker.get(), &QThread::finished, this, [this, run] {
-        if (run.isCurrent())
-            onWorkerFinished();
-    });
-    startWorker(std::move(worker));
+    };
+    if (!startWorker(scan, [this, run] { run.post([this] { onScanEnded(); }); }))
+        m_isRunning = false;
 }
 
-void LargeFileScanner::startWorker(std::unique_ptr<QThread> worker)
+bool LargeFileScanner::startWorker(const std::function<void()> &work,
+                                   const std::function<void()> &report)
 {
-    m_worker = std::move(worker);
-    m_worker->setObjectName("LargeFileScannerWorker"_L1);
-    m_worker->start();
+    if (m_worker.start(u"LargeFileScannerWorker"_s, work, report))
+        return true;
+    const QString error = Worker::startError();
+    Logger::instance().error("The search for large files was not started: "_L1 + error);
+    Q_EMIT errorOccurred(error);
+    return false;
+}
+
+bool LargeFileScanner::waitForEnd(QDeadlineTimer deadline)
+{
+    if (!m_worker.wait(deadline))
+        return false;
+    QCoreApplication::sendPostedEvents();
+    return true;
 }
 
 void LargeFileScanner::cancel()
 {
     m_isCancelled = true;
-    if (m_worker && m_worker->isRunning())
-        m_worker->wait(cancelTimeout);
+    m_worker.wait(QDeadlineTimer(cancelTimeout));
     // A cancelled deletion still emits deleteFinished(), so its run is not ended here.
     if (m_isRunning.exchange(false))
         m_runSignals.end();
 }
 
-void LargeFileScanner::onWorkerFinished()
+void LargeFileScanner::stopAndWait()
+{
+    cancel();
+    m_worker.wait();
+}
+
+void LargeFileScanner::onScanEnded()
 {
     m_isRunning = false;
     const auto found = static_cast<int>(results().size());
@@ -225,6 +238,7 @@ void LargeFileScanner::doScan()
         sortResults();
     Logger::instance().info(u"Scan completed. Found %1 files, total size: %2"_s.arg(
         QString::number(results().size()), formatSize(totalSize())));
+    Logger::instance().warnings(m_readFailures.lines());
 }
 
 void LargeFileScanner::scanDrive(const QString &drive)
@@ -241,9 +255,7 @@ void LargeFileScanner::scanDrive(const QString &drive)
         platform::walkTree(QDir::cleanPath(QFileInfo(drive).absoluteFilePath()), options, walkers);
     for (const auto &collector : collectors)
         collector->flushCount();
-    if (report.failureCount > 0)
-        Logger::instance().warning(
-            u"Cannot read %1 folders below %2"_s.arg(QString::number(report.failureCount), drive));
+    m_readFailures.add(report.failures);
     const QMutexLocker locker(&m_mutex);
     m_followedLinks += report.followed;
 }
@@ -361,13 +373,24 @@ void LargeFileScanner::startDelete(const QList<LargeFileInfo> &files)
 {
     if (m_isRunning || m_isDeleting)
         return;
-    if (m_worker)
-        m_worker->wait();
+    m_worker.wait();
     const RunSignals::Run run = m_runSignals.open();
     m_isDeleting = true;
     m_isCancelled = false;
-    startWorker(
-        std::unique_ptr<QThread>(QThread::create([this, run, files] { doDelete(run, files); })));
+    /// What the worker reports.
+    struct Outcome {
+        QBitArray deleted;
+        int tried = 0;
+    };
+    const auto outcome = std::make_shared<Outcome>(Outcome{QBitArray(files.size()), 0});
+    const auto remove = [this, files, outcome] {
+        outcome->tried = doDelete(files, outcome->deleted);
+    };
+    const auto report = [this, run, outcome] {
+        run.post([this, outcome] { onDeleteEnded(outcome->deleted, outcome->tried); });
+    };
+    if (!startWorker(remove, report))
+        onDeleteEnded(outcome->deleted, 0);
 }
 
 void LargeFileScanner::cancelDelete()
@@ -376,11 +399,10 @@ void LargeFileScanner::cancelDelete()
         m_isCancelled = true;
 }
 
-void LargeFileScanner::doDelete(const RunSignals::Run &run, const QList<LargeFileInfo> &files)
+int LargeFileScanner::doDelete(const QList<LargeFileInfo> &files, QBitArray &deleted)
 {
     platform::FileRemover remover;
     remover.setListed(&m_listed);
-    QBitArray deleted(files.size());
     QSet<QString> removedPaths;
     qint64 size = 0;
     int tried = 0;
@@ -398,8 +420,11 @@ void LargeFileScanner::doDelete(const RunSignals::Run &run, const QList<LargeFil
         size += file.size;
     }
     removeResults(removedPaths);
-    run.post([this, deleted, tried] {
-        m_isDeleting = false;
-        Q_EMIT deleteFinished(deleted, tried);
-    });
+    return tried;
+}
+
+void LargeFileScanner::onDeleteEnded(const QBitArray &deleted, int tried)
+{
+    m_isDeleting = false;
+    Q_EMIT deleteFinished(deleted, tried);
 }

@@ -2,7 +2,9 @@
 
 #include "largefileinfo.h"
 #include "listedfolders.h"
+#include "readfailures.h"
 #include "runsignals.h"
+#include "worker.h"
 
 #include <QBitArray>
 #include <QList>
@@ -12,9 +14,8 @@
 #include <QStringList>
 
 #include <atomic>
+#include <functional>
 #include <memory>
-
-class QThread;
 
 namespace platform {
 class FileRemover;
@@ -29,6 +30,7 @@ struct FollowedLink;
 ///  - drives, minimum size, walker count: the GUI thread; the worker has copies;
 ///  - results, total size, followed links: all threads, under the mutex;
 ///  - listed folders: all threads; the object guards itself;
+///  - read failures: the worker while a scan runs, otherwise the GUI thread;
 ///  - running, deleting, cancelled, count of files: atomic;
 ///  - worker, run signals: the GUI thread.
 ///
@@ -41,7 +43,7 @@ class LargeFileScanner final : public QObject
     Q_DISABLE_COPY_MOVE(LargeFileScanner)
 public:
     explicit LargeFileScanner(QObject *parent = nullptr);
-    /// Cancels and joins the worker.
+    /// Stops the worker and waits for its end.
     ~LargeFileScanner() override;
 
     /// The root paths that the next scan walks, one after the other.
@@ -53,11 +55,14 @@ public:
     void setWalkerCount(int count);
 
     /// Starts a scan. Does nothing while a scan or a deletion runs. Waits for a cancelled run that
-    /// is still busy.
+    /// is still busy. If the system cannot start a thread, scanStarted() and errorOccurred() follow
+    /// at once, and nothing else.
     void startScan();
     /// Stops the scan or the deletion and waits for its end, but at most 3 seconds. scanFinished()
     /// does not follow.
     void cancel();
+    /// Cancels, and waits for the end of the worker without a time limit.
+    void stopAndWait();
 
     /// Makes an object to connect the scanner's signals to. Queued signals of the worker are
     /// dropped there when the scan is cancelled, the next run begins or the scanner is deleted. GUI
@@ -74,6 +79,11 @@ public:
     [[nodiscard]] QList<LargeFileInfo> results() const;
     /// The total size of results() in bytes.
     [[nodiscard]] qint64 totalSize() const;
+    /// What the last scan could not read. While a scan runs, it belongs to the worker.
+    [[nodiscard]] const platform::ReadFailures &incomplete() const { return m_readFailures; }
+    /// Waits for the end of the scan or deletion, but not longer than until @p deadline. Returns
+    /// whether none is busy any more. Then its end has been reported: it needs no event loop.
+    bool waitForEnd(QDeadlineTimer deadline);
     /// The number of files that the last scan has looked at.
     [[nodiscard]] int filesScanned() const { return m_filesScanned; }
 
@@ -84,7 +94,8 @@ public:
     [[nodiscard]] bool deleteFile(const QString &path);
 
     /// Deletes @p files like deleteFile(), one after the other, on the worker. deleteFinished()
-    /// follows, also after a cancel. Does nothing while a scan or another deletion runs.
+    /// follows, also after a cancel. Does nothing while a scan or another deletion runs. If the
+    /// system cannot start a thread, errorOccurred() and then deleteFinished() follow at once.
     void startDelete(const QList<LargeFileInfo> &files);
     /// Ends a deletion after the file that is being deleted. Does not wait.
     void cancelDelete();
@@ -102,6 +113,8 @@ Q_SIGNALS:
     /// @p deleted has one bit for each given file, in the same order: whether the file was deleted.
     /// The first @p tried files were tried. That is all of them unless the deletion was cancelled.
     void deleteFinished(QBitArray deleted, int tried);
+    /// A run was not started, or ended early, for the reason @p error.
+    void errorOccurred(QString error);
 
 private Q_SLOTS:
     void doScan();
@@ -109,11 +122,15 @@ private Q_SLOTS:
 private:
     class FileCollector;
 
-    void startWorker(std::unique_ptr<QThread> worker);
+    /// Runs @p work and then @p report on the worker. Returns false, with errorOccurred(), if the
+    /// system cannot start a thread.
+    bool startWorker(const std::function<void()> &work, const std::function<void()> &report);
     void scanDrive(const QString &drive);
     void sortResults();
-    void onWorkerFinished();
-    void doDelete(const RunSignals::Run &run, const QList<LargeFileInfo> &files);
+    void onScanEnded();
+    /// Deletes @p files. @p deleted gets a bit for each of them. Returns how many were tried.
+    int doDelete(const QList<LargeFileInfo> &files, QBitArray &deleted);
+    void onDeleteEnded(const QBitArray &deleted, int tried);
     /// Deletes @p file and writes the result to the log. Returns whether it was deleted.
     bool removeListedFile(platform::FileRemover &remover, const LargeFileInfo &file);
     /// The result for @p path. Without one, a record that has only the path.
@@ -124,7 +141,6 @@ private:
     void reportProgress(const QString &folder);
     [[nodiscard]] QString resolveFollowedLinks(const QString &path) const;
 
-    std::unique_ptr<QThread> m_worker;
     QStringList m_drives;
     qint64 m_minSize = 104'857'600;
     int m_walkerCount;
@@ -142,5 +158,7 @@ private:
     mutable QMutex m_mutex;
     std::atomic_int m_filesScanned = 0;
     qint64 m_totalSize = 0;
+    platform::ReadFailures m_readFailures;
     RunSignals m_runSignals{this};
+    Worker m_worker;
 };

@@ -28,6 +28,11 @@ public:
     /// an unknown placeholder counts as existing. A name without a drive is looked up where the
     /// system looks, never in the current folder. The name of a program may lack its ".exe".
     [[nodiscard]] bool exists(const QString &text);
+    /// The paths that could not be looked at. They count as existing.
+    [[nodiscard]] const platform::ReadFailures &readFailures() const
+    {
+        return m_lookup.readFailures();
+    }
 
     /// The program of a command line: the text in leading quotes, otherwise the text before the
     /// first blank.

@@ -1,14 +1,13 @@
 #include "registrybackup.h"
 
 #include "entry.h"
-#include "filesync.h"
 #include "itemhive.h"
+#include "ownfile.h"
 #include "rulefolders.h"
 #include "text.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStringConverter>
 #include <QTextStream>
 #include <QtEndian>
@@ -206,25 +205,15 @@ bool RegistryBackup::write(const QString &path, const QString &text, QString &er
     error = targetProblem(path);
     if (!error.isEmpty())
         return false;
-    // Not in text mode: the lines already end in CR LF, and text mode would double the CR.
-    QSaveFile file(path);
     QByteArray bytes;
     QTextStream stream(&bytes);
     stream.setEncoding(QStringConverter::Utf16LE);
     stream.setGenerateByteOrderMark(false);
     stream << QChar(QChar::ByteOrderMark) << text;
     stream.flush();
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly) && platform::writeToDisk(file, bytes, error);
-    // The file replaces whatever is at the path now, so the path is checked again.
-    if (isWritten)
-        error = targetProblem(path);
-    if (isWritten && error.isEmpty() && file.commit())
-        return platform::syncFolder(QFileInfo(path).absolutePath(), error);
-    if (error.isEmpty())
-        error = file.errorString();
-    file.cancelWriting();
-    return false;
+    // The file replaces whatever is at the path by then, so the path is checked again.
+    return platform::replaceFile(
+        path, bytes, [&path] { return targetProblem(path); }, error);
 }
 
 std::optional<QString> RegistryBackup::decode(const QByteArray &data)

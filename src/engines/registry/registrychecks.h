@@ -30,6 +30,13 @@ public:
     [[nodiscard]] QList<CleanItem> findSharedDlls();
     [[nodiscard]] QList<CleanItem> findMuiCache();
 
+    /// What the checks could not examine on the disk. An entry whose file cannot be looked for
+    /// counts as valid.
+    [[nodiscard]] const platform::ReadFailures &readFailures() const
+    {
+        return m_paths.readFailures();
+    }
+
     /// Whether @p key is one whose values the checks list one by one, such as Run.
     [[nodiscard]] static bool isValueList(const QString &key);
     /// Whether @p keyPath begins with such a key and a separator. The path of a value there can

@@ -5,12 +5,11 @@
 #include "pathcheck.h"
 #include "registrybackup.h"
 #include "registrychecks.h"
+#include "rulefolders.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
-#include <set>
-#include <tuple>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -22,9 +21,10 @@ struct RegistryCleaner::Place {
     Hive hive;
     QString path; ///< empty for an incomplete path of a class
 
-    [[nodiscard]] bool operator<(const Place &other) const
+    [[nodiscard]] bool operator==(const Place &other) const = default;
+    friend size_t qHash(const Place &place, size_t seed)
     {
-        return std::tie(hive, path) < std::tie(other.hive, other.path);
+        return qHashMulti(seed, static_cast<int>(place.hive), place.path);
     }
 
     [[nodiscard]] static Place of(const CleanItem &item)
@@ -101,6 +101,9 @@ void RegistryCleaner::doScan()
         if (!isStopRequested())
             runCheck(m_categories.at(i), checks);
     }
+    readFailures().add(registry.readFailures());
+    readFailures().add(checks.readFailures());
+    readFailures().add(platform::folderFailures());
     if (isStopRequested()) {
         setState(State::Cancelled);
         return;
@@ -123,24 +126,28 @@ void RegistryCleaner::doClean()
 {
     Logger::instance().info(u"Starting registry clean..."_s);
     Registry registry;
-    const std::set<Place> currentPlaces = findCurrentPlaces(registry);
+    const QSet<Place> currentPlaces = findCurrentPlaces(registry);
     const auto hasChanged = [&currentPlaces](const CleanItem &item) {
         return item.registryEntry != RegistryEntry::Unknown
             && !currentPlaces.contains(Place::of(item));
     };
+    // What cannot be read may be as it was shown, or not.
+    const QString changed = readFailures().isEmpty()
+        ? tr("It has changed since the scan")
+        : tr("It could not be read again before the clean");
     ScanResult toRemove = selection();
     for (CleanCategory &category : toRemove.categories)
         category.items.removeIf(hasChanged);
     backUp(toRemove, registry);
 
     QList<UnsavedRemoval> removals;
-    std::set<Place> removedPlaces;
+    QSet<Place> removedPlaces;
     CleanTotals totals = cleanSelection([&](const CleanItem &item) -> Removal {
         const Place place = Place::of(item);
         if (removedPlaces.contains(place)) // a class may be listed twice
             return {Removal::NotCounted, 0, {}};
         const QString entry = item.registryRoot + u'\\' + item.registryKey;
-        QString reason = tr("It has changed since the scan");
+        QString reason = changed;
         if (hasChanged(item) || !removeEntry(registry, item, reason))
             return {Removal::Failed, 0, {entry, reason}};
         removals.append({place.hive, entry});
@@ -148,15 +155,16 @@ void RegistryCleaner::doClean()
         return {};
     });
     totals.cleaned = saveChanges(registry, removals);
+    readFailures().add(registry.readFailures());
     reportClean(totals);
     if (!totals.isStopped)
         Logger::instance().info(u"Registry clean finished. Cleaned %1 items"_s.arg(totals.cleaned));
 }
 
 // An entry that has changed since the scan is not the one that was shown, so it must stay.
-std::set<RegistryCleaner::Place> RegistryCleaner::findCurrentPlaces(const Registry &registry)
+QSet<RegistryCleaner::Place> RegistryCleaner::findCurrentPlaces(const Registry &registry)
 {
-    std::set<Place> found;
+    QSet<Place> found;
     RegistryChecks checks(registry, stopFlag());
     const QList<CleanCategory> &chosen = selection().categories;
     for (const Category &category : std::as_const(m_categories)) {
@@ -169,6 +177,8 @@ std::set<RegistryCleaner::Place> RegistryCleaner::findCurrentPlaces(const Regist
         for (const CleanItem &item : items)
             found.insert(Place::of(item));
     }
+    readFailures().add(registry.readFailures());
+    readFailures().add(checks.readFailures());
     return found;
 }
 

@@ -4,9 +4,9 @@
 #include "registry.h"
 
 #include <QList>
+#include <QSet>
 
 #include <optional>
-#include <set>
 
 class RegistryChecks;
 
@@ -60,7 +60,7 @@ private:
 
     void runCheck(const Category &category, RegistryChecks &checks);
     /// The places that a scan would list now, in the categories that are to be cleaned.
-    [[nodiscard]] std::set<Place> findCurrentPlaces(const platform::Registry &registry);
+    [[nodiscard]] QSet<Place> findCurrentPlaces(const platform::Registry &registry);
     void backUp(const ScanResult &toRemove, const platform::Registry &registry);
     /// Removes the entry of @p item. If that fails, returns false and sets @p reason.
     static bool removeEntry(platform::Registry &registry, const CleanItem &item, QString &reason);

@@ -248,20 +248,26 @@ std::optional<QList<RestoredKey>> RegistryRestore::parse(const QString &text, QS
 }
 
 QList<RegistryRestore::Outcome> RegistryRestore::restore(Registry &registry,
-                                                         const QList<RestoredKey> &keys)
+                                                         const QList<RestoredKey> &keys,
+                                                         const std::atomic_bool &stopRequested)
 {
     QList<Outcome> outcomes;
     QList<platform::Hive> hives; // the hive of each outcome
-    const auto add = [&](const RestoredKey &key, const QString &entry, bool isRestored) {
-        outcomes.append({entry, isRestored, isRestored ? QString() : registry.errorString()});
+    const auto add = [&](const RestoredKey &key, const QString &entry, const auto &restoreEntry) {
+        const bool isStopped = stopRequested;
+        const bool isRestored = !isStopped && restoreEntry();
+        const QString error =
+            isStopped ? Text::tr("The restoring was cancelled") : registry.errorString();
+        outcomes.append({entry, isRestored, isRestored ? QString() : error, isStopped});
         hives.append(key.hive);
         return isRestored;
     };
     for (const RestoredKey &key : keys) {
-        const bool isKeyMade = add(key, key.name, registry.createKey(key.hive, key.path));
+        const bool isKeyMade =
+            add(key, key.name, [&] { return registry.createKey(key.hive, key.path); });
         for (const RegistryValue &value : key.values)
             add(key, key.name + u' ' + (value.name.isEmpty() ? u"@"_s : value.name),
-                isKeyMade && registry.setValue(key.hive, key.path, value));
+                [&] { return isKeyMade && registry.setValue(key.hive, key.path, value); });
     }
     if (registry.save())
         return outcomes;

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include <atomic>
+
 /// One key of a backup with its values.
 struct RestoredKey {
     /// The hive to restore into; never the merged classes.
@@ -24,6 +26,7 @@ public:
         QString entry; ///< a key's full path; for a value also a blank and the value's name
         bool isRestored = false;
         QString error; ///< for people
+        bool isCancelled = false; ///< it was not tried any more
     };
 
     /// The keys in the @p text of a backup. A text that is damaged anywhere gives nothing, because
@@ -32,7 +35,9 @@ public:
                                                                  QString &error);
 
     /// Makes the missing keys and writes the values. Existing values are overwritten. Returns the
-    /// outcome for each key and value, in order.
+    /// outcome for each key and value, in order. When @p stopRequested is set, what is not restored
+    /// by then is left out, as a failure.
     [[nodiscard]] static QList<Outcome> restore(platform::Registry &registry,
-                                                const QList<RestoredKey> &keys);
+                                                const QList<RestoredKey> &keys,
+                                                const std::atomic_bool &stopRequested);
 };

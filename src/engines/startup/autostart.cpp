@@ -1,6 +1,7 @@
 #include "autostart.h"
 
 #include "appinfo.h"
+#include "logger.h"
 #include "registrykeys.h"
 #include "registrysettings.h"
 
@@ -21,11 +22,15 @@ bool set(bool on)
 {
     using platform::Hive;
     QString error;
-    return on ? platform::registrysettings::setText(
-               Hive::CurrentUser, registrykeys::userRun, appinfo::name,
-               command(QCoreApplication::applicationFilePath()), error)
-              : platform::registrysettings::remove(Hive::CurrentUser, registrykeys::userRun,
-                                                   {appinfo::name}, error);
+    const bool isStored = on ? platform::registrysettings::setText(
+                              Hive::CurrentUser, registrykeys::userRun, appinfo::name,
+                              command(QCoreApplication::applicationFilePath()), error)
+                             : platform::registrysettings::remove(
+                                 Hive::CurrentUser, registrykeys::userRun, {appinfo::name}, error);
+    if (!isStored)
+        Logger::instance().error(u"The start with the session cannot be turned %1: %2"_s.arg(
+            on ? u"on"_s : u"off"_s, error));
+    return isStored;
 }
 
 } // namespace autostart

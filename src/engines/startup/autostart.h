@@ -9,7 +9,8 @@ namespace autostart {
 /// the path would end it.
 [[nodiscard]] QString command(const QString &programPath);
 
-/// Writes or removes the entry of the running program. False when the change could not be stored.
+/// Writes or removes the entry of the running program. False when the change could not be stored;
+/// the log has the reason.
 bool set(bool on);
 
 } // namespace autostart

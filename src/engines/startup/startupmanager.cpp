@@ -6,6 +6,7 @@
 #include "logger.h"
 #include "registrykeys.h"
 #include "registrysettings.h"
+#include "rulefolders.h"
 #include "windowspaths.h"
 
 #include <QFileInfo>
@@ -28,9 +29,19 @@ bool isFullPath(const QString &windowsPath)
     return platform::isOnDrive(windowsPath) || windowsPath.startsWith("\\\\"_L1);
 }
 
-bool fileExists(const QString &windowsPath)
+// Whether the file exists. If that cannot be determined, it is added to @p failures.
+bool fileExists(const QString &windowsPath, platform::ReadFailures &failures)
 {
-    return isFullPath(windowsPath) && QFileInfo(platform::localPath(windowsPath)).isFile();
+    if (!isFullPath(windowsPath))
+        return false;
+    QString problem;
+    const QString local = platform::locate(platform::localPath(windowsPath), {}, &problem);
+    const platform::Entry entry = local.isEmpty() ? platform::Entry() : platform::inspect(local);
+    if (problem.isEmpty())
+        problem = entry.error;
+    if (!problem.isEmpty())
+        failures.add(windowsPath, problem);
+    return entry.kind == platform::EntryKind::File;
 }
 
 // Parts of the system, which no user starts.
@@ -105,14 +116,15 @@ bool startsProgram(const QString &command, const QString &exePath)
 }
 
 // The programs directly in @p folder, sorted by name, each with @p prefix before its name.
-QStringList listPrograms(const QString &folder, const QString &prefix)
+QStringList listPrograms(const QString &folder, const QString &prefix,
+                         platform::ReadFailures &failures)
 {
     QStringList names;
     platform::WalkOptions options;
     options.nameFilters = QStringList{u"*.exe"_s};
     options.recursive = false;
-    platform::walkFiles(folder, options,
-                        [&](platform::WalkedFile &&file) { names.append(prefix + file.name); });
+    failures.add(platform::walkFiles(
+        folder, options, [&](platform::WalkedFile &&file) { names.append(prefix + file.name); }));
     names.sort(Qt::CaseInsensitive);
     return names;
 }
@@ -134,7 +146,10 @@ const QList<StartupApp> &StartupManager::apps()
 void StartupManager::loadInstalledApps()
 {
     m_apps.clear();
+    m_readFailures.clear();
+    m_entries.clear();
     m_isLoaded = true;
+    (void)platform::folderFailures(); // of earlier work on this thread
     const Registry registry;
     readStartupTable(registry);
     for (const auto &[hive, root] : registrykeys::uninstallLists()) {
@@ -143,19 +158,29 @@ void StartupManager::loadInstalledApps()
     }
     const auto startupCount = std::count_if(m_apps.cbegin(), m_apps.cend(),
                                             [](const StartupApp &app) { return app.isStartup; });
+    m_readFailures.add(registry.readFailures());
+    m_readFailures.add(platform::folderFailures());
     Logger::instance().info(u"Found %1 installed apps, %2 in startup"_s.arg(
         QString::number(m_apps.size()), QString::number(startupCount)));
+    Logger::instance().warnings(m_readFailures.lines());
 }
 
-void StartupManager::readStartupTable(const Registry &registry)
+bool StartupManager::readStartupTable(const Registry &registry)
 {
-    m_entries.clear();
+    QList<Entry> entries;
     for (const QString &name : registry.valueNames(Hive::CurrentUser, registrykeys::userRun)) {
         const QString command =
             registry.text(Hive::CurrentUser, registrykeys::userRun, name).trimmed();
         const QString path = commandPath(command);
-        m_entries.append({name, path, command});
+        entries.append({name, path, command});
     }
+    m_isStartupListRead = registry.readFailures().isEmpty();
+    m_readFailures.add(registry.readFailures());
+    if (m_isStartupListRead)
+        m_entries = entries;
+    else
+        m_error = registry.readFailures().lines().join(u'\n');
+    return m_isStartupListRead;
 }
 
 QList<StartupManager::Entry> StartupManager::entriesOf(const QString &exePath) const
@@ -176,7 +201,8 @@ QString StartupManager::commandPath(const QString &command)
         return end < 0 ? command : command.mid(1, end - 1);
     }
     const qsizetype blank = command.indexOf(u' ');
-    return blank > 0 && !fileExists(command) ? command.first(blank) : command;
+    platform::ReadFailures ignored; // the command may have arguments, so it may be no path
+    return blank > 0 && !fileExists(command, ignored) ? command.first(blank) : command;
 }
 
 void StartupManager::readUninstallKey(const Registry &registry, Hive hive, const QString &root,
@@ -193,9 +219,9 @@ void StartupManager::readUninstallKey(const Registry &registry, Hive hive, const
     app.iconPath = text(u"DisplayIcon"_s);
     app.publisher = text(u"Publisher"_s);
     const QString icon = iconFile(app.iconPath);
-    app.exePath = icon.endsWith(".exe"_L1, Qt::CaseInsensitive) && fileExists(icon)
+    app.exePath = icon.endsWith(".exe"_L1, Qt::CaseInsensitive) && fileExists(icon, m_readFailures)
         ? icon
-        : findExecutable(text(u"InstallLocation"_s), app.name);
+        : findExecutable(text(u"InstallLocation"_s), app.name, m_readFailures);
     if (app.exePath.isEmpty())
         return;
     const bool isKnown =
@@ -208,23 +234,31 @@ void StartupManager::readUninstallKey(const Registry &registry, Hive hive, const
     m_apps.append(app);
 }
 
-QString StartupManager::findExecutable(const QString &folder, const QString &name)
+QString StartupManager::findExecutable(const QString &folder, const QString &name,
+                                       platform::ReadFailures &failures)
 {
     if (!isFullPath(folder))
         return {};
-    const QString local = QFileInfo(platform::localPath(folder)).canonicalFilePath();
+    QString problem;
+    const QString local = platform::locate(platform::localPath(folder), {}, &problem);
+    if (!problem.isEmpty())
+        failures.add(folder, problem);
     if (local.isEmpty() || !QFileInfo(local).isDir())
         return {};
     // Only one level deep: an install folder may be a whole drive or a share.
-    QStringList programs = listPrograms(local, {});
+    QStringList programs = listPrograms(local, {}, failures);
     QStringList subfolders;
-    for (const platform::ListedEntry &entry : platform::FolderLister().list(local).entries) {
+    const platform::FolderListing listing = platform::FolderLister().list(local);
+    if (!listing.error.isEmpty())
+        failures.add(local, listing.error);
+    for (const platform::ListedEntry &entry : listing.entries) {
         if (entry.kind == platform::ListedKind::Folder && !entry.isHidden)
             subfolders.append(entry.name);
     }
     subfolders.sort(Qt::CaseInsensitive);
     for (const QString &subfolder : std::as_const(subfolders))
-        programs += listPrograms(platform::joinedPath(local, subfolder), subfolder + u'\\');
+        programs +=
+            listPrograms(platform::joinedPath(local, subfolder), subfolder + u'\\', failures);
     programs.removeIf([](const QString &program) {
         return isHelperProgram(program.mid(program.lastIndexOf(u'\\') + 1));
     });
@@ -246,10 +280,12 @@ QString StartupManager::findExecutable(const QString &folder, const QString &nam
 bool StartupManager::addToStartup(const QString &name, const QString &exePath)
 {
     const QString command = u'"' + exePath + u'"';
-    readStartupTable(Registry()); // other programs change the list too
-    logCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
-    const bool isDone = platform::registrysettings::setText(
-        Hive::CurrentUser, registrykeys::userRun, name, command, m_error);
+    bool isDone = readStartupTable(Registry()); // other programs change the list too
+    if (isDone) {
+        logCommands({name}, u"Startup command of %1 before it was replaced: %2"_s);
+        isDone = platform::registrysettings::setText(Hive::CurrentUser, registrykeys::userRun, name,
+                                                     command, m_error);
+    }
     if (isDone)
         Logger::instance().info(u"Added to startup: %1"_s.arg(name));
     else
@@ -260,19 +296,25 @@ bool StartupManager::addToStartup(const QString &name, const QString &exePath)
 
 bool StartupManager::removeFromStartup(const QString &name)
 {
-    readStartupTable(Registry());
-    return removeEntries({name});
+    return readStartupTable(Registry()) ? removeEntries({name}) : failToRemove(name);
 }
 
 bool StartupManager::setStartup(const StartupApp &app, bool enable)
 {
     if (enable)
         return addToStartup(app.name, app.exePath);
-    readStartupTable(Registry());
+    if (!readStartupTable(Registry()))
+        return failToRemove(app.name);
     QStringList names;
     for (const Entry &entry : entriesOf(app.exePath))
         names.append(entry.valueName);
     return removeEntries(names.isEmpty() ? QStringList{app.name} : names);
+}
+
+bool StartupManager::failToRemove(const QString &name)
+{
+    Logger::instance().error(u"Failed to remove startup: %1"_s.arg(name));
+    return false;
 }
 
 bool StartupManager::removeEntries(const QStringList &valueNames)
@@ -291,7 +333,7 @@ bool StartupManager::removeEntries(const QStringList &valueNames)
         if (isDone || (has(before, name) && !has(m_entries, name)))
             Logger::instance().info(u"Removed from startup: %1"_s.arg(name));
         else
-            Logger::instance().error(u"Failed to remove startup: %1"_s.arg(name));
+            failToRemove(name);
     }
     return isDone;
 }
@@ -306,7 +348,12 @@ void StartupManager::logCommands(const QStringList &valueNames, const QString &l
 
 void StartupManager::updateStates()
 {
-    readStartupTable(Registry());
+    const QString error = m_error; // of the change
+    if (!readStartupTable(Registry())) {
+        Logger::instance().warning(m_error);
+        m_error = error;
+        return;
+    }
     for (StartupApp &app : m_apps)
         app.isStartup = !entriesOf(app.exePath).isEmpty();
 }

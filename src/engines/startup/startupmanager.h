@@ -1,5 +1,6 @@
 #pragma once
 
+#include "readfailures.h"
 #include "registry.h"
 
 #include <QList>
@@ -33,10 +34,15 @@ public:
     /// Reads the start-up list and the programs again.
     void loadInstalledApps();
 
+    /// What the last loading could not read. Programs may be missing from the list because of it.
+    [[nodiscard]] const platform::ReadFailures &incomplete() const { return m_readFailures; }
+    /// Whether the start-up list could be read last time. Otherwise the programs' flags are older.
+    [[nodiscard]] bool isStartupListRead() const { return m_isStartupListRead; }
+
     // Each of these functions reads the start-up list again first and returns whether the change
-    // was made. After a failure the log has a line and errorString() says why. In both cases the
-    // programs' flags are updated from the registry. A command that is overwritten or removed is
-    // written to the log.
+    // was made. If the list cannot be read, nothing is changed. After a failure the log has a line
+    // and errorString() says why. In both cases the programs' flags are updated from the registry.
+    // A command that is overwritten or removed is written to the log.
 
     /// Makes @p exePath start with the session, without arguments. Writes the value @p name and
     /// overwrites an entry of that name.
@@ -53,8 +59,10 @@ public:
     /// The executable of a start-up command.
     [[nodiscard]] static QString commandPath(const QString &command);
     /// The path of the program in the install folder @p folder that most likely starts the product
-    /// @p name. Empty when there is none. Looks into the folder and its direct subfolders.
-    [[nodiscard]] static QString findExecutable(const QString &folder, const QString &name);
+    /// @p name. Empty when there is none. Looks into the folder and its direct subfolders. What
+    /// cannot be read is added to @p failures.
+    [[nodiscard]] static QString findExecutable(const QString &folder, const QString &name,
+                                                platform::ReadFailures &failures);
 
 private:
     /// One value of the user's start-up list.
@@ -64,12 +72,16 @@ private:
         QString command;
     };
 
-    void readStartupTable(const platform::Registry &registry);
+    /// Reads the start-up list. If that fails, returns false, sets the error string and leaves the
+    /// list as it was.
+    bool readStartupTable(const platform::Registry &registry);
     void readUninstallKey(const platform::Registry &registry, platform::Hive hive,
                           const QString &root, const QString &id);
     /// The entries that start @p exePath, in any spelling of the path.
     [[nodiscard]] QList<Entry> entriesOf(const QString &exePath) const;
     bool removeEntries(const QStringList &valueNames);
+    /// Writes the failure to the log. Returns false.
+    static bool failToRemove(const QString &name);
     /// Writes the command of each of these entries to the log, before the entries change. @p line
     /// has the placeholders %1 for the name and %2 for the command.
     void logCommands(const QStringList &valueNames, const QString &line) const;
@@ -79,5 +91,7 @@ private:
     QList<StartupApp> m_apps;
     bool m_isLoaded = false;
     QList<Entry> m_entries; ///< the start-up list, in the registry's order
+    platform::ReadFailures m_readFailures;
+    bool m_isStartupListRead = false;
     QString m_error;
 };

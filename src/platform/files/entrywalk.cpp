@@ -25,10 +25,13 @@ public:
     {
     }
 
-    WalkReport run(const QString &root)
+    ReadFailures run(const QString &root)
     {
-        if (inspect(root).kind != EntryKind::Folder)
-            return std::move(m_report);
+        const Entry entry = inspect(root);
+        if (!entry.error.isEmpty())
+            m_failures.add(root, entry.error);
+        if (entry.kind != EntryKind::Folder)
+            return std::move(m_failures);
         FolderListing listing = m_lister.list(root, m_stopRequested);
         noteFailure(root, listing);
         m_device = listing.device;
@@ -44,7 +47,7 @@ public:
             else
                 break;
         }
-        return std::move(m_report);
+        return std::move(m_failures);
     }
 
 private:
@@ -67,7 +70,7 @@ private:
         // A folder that was removed after its parent was read is no failure.
         if (listing.error.isEmpty() || listing.isMissing)
             return;
-        m_report.addFailure(path, listing.error);
+        m_failures.add(path, listing.error);
     }
 
     void record(const QString &path, const FolderListing &listing)
@@ -128,15 +131,15 @@ private:
     const FolderLister m_lister;
     std::vector<Folder> m_open; ///< from the root down to the current folder
     quint64 m_device = 0;
-    WalkReport m_report;
+    ReadFailures m_failures;
 };
 
 } // namespace
 
 void EntryVisitor::visitListing(const std::vector<ListedEntry> &, bool) { }
 
-WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
-                       const std::atomic_bool *stopRequested, ListedFolders *listed)
+ReadFailures walkEntries(const QString &root, EntryVisitor &visitor,
+                         const std::atomic_bool *stopRequested, ListedFolders *listed)
 {
     return EntryWalk(visitor, stopRequested, listed).run(root);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "listedfolders.h"
-#include "walkreport.h"
+#include "readfailures.h"
 
 #include <QString>
 
@@ -49,9 +49,9 @@ public:
 /// exceptions: mount points below the root are neither listed nor entered, and a junction counts as
 /// a link. Hidden folders are entered only for their size. When @p stopRequested is set the walk
 /// ends. It then makes no leaveFolder() calls for the open folders. @p listed receives each folder
-/// that is read and not hidden.
-WalkReport walkEntries(const QString &root, EntryVisitor &visitor,
-                       const std::atomic_bool *stopRequested = nullptr,
-                       ListedFolders *listed = nullptr);
+/// that is read and not hidden. Returns what could not be read; that does not end the walk.
+ReadFailures walkEntries(const QString &root, EntryVisitor &visitor,
+                         const std::atomic_bool *stopRequested = nullptr,
+                         ListedFolders *listed = nullptr);
 
 } // namespace platform

@@ -46,11 +46,11 @@ private:
 
 } // namespace
 
-WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
-                     ListedFolders *listed)
+ReadFailures walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
+                       ListedFolders *listed)
 {
     Lister lister(visit, listed);
-    return walkTree(root, options, {&lister});
+    return walkTree(root, options, {&lister}).failures;
 }
 
 } // namespace platform

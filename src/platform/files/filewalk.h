@@ -19,8 +19,8 @@ struct WalkedFile {
 using FileVisitor = std::function<void(WalkedFile &&file)>;
 
 /// Lists the files that walkTree() visits, on the calling thread. @p listed receives each folder
-/// from which a file is listed.
-WalkReport walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
-                     ListedFolders *listed = nullptr);
+/// from which a file is listed. Returns what could not be read; that does not end the walk.
+ReadFailures walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
+                       ListedFolders *listed = nullptr);
 
 } // namespace platform

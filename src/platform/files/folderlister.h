@@ -28,7 +28,9 @@ struct FolderListing {
     quint64 device = 0;
     EntryId id; ///< identifies the folder
     bool isMissing = false; ///< the path leads to no folder, or on Linux passes through a link
-    QString error; ///< why reading failed; the entries read before are kept
+    /// Why the folder, or the status of one of its entries, could not be read. The entries that
+    /// could be read are there.
+    QString error;
 };
 
 /// Reads whole folders. A walk owns one. list() may be called on any thread.

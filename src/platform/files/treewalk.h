@@ -1,7 +1,7 @@
 #pragma once
 
 #include "entry.h"
-#include "walkreport.h"
+#include "readfailures.h"
 
 #include <QAnyStringView>
 #include <QList>
@@ -11,6 +11,20 @@
 #include <atomic>
 
 namespace platform {
+
+/// A folder that was entered by another path than its own.
+struct FollowedLink {
+    QString path; ///< as in the paths of its files
+    QString target; ///< the folder's own path, without links
+};
+
+/// What walkTree() could not read, and the links that it followed. A folder or file that fails does
+/// not end the walk. A value.
+struct WalkReport {
+    ReadFailures failures;
+    /// empty on Windows, where files are listed below the link's target
+    QList<FollowedLink> followed;
+};
 
 /// How far a walk goes.
 enum class Reach {
@@ -80,7 +94,8 @@ public:
 
 /// Walks the files of a folder and, unless the options say otherwise, of its subfolders. Each of @p
 /// visitors gets a walker: the first on the calling thread, every other one on a thread of its own.
-/// Returns when all walkers are done.
+/// If the system cannot make a thread, fewer walkers do the work. Returns when all walkers are
+/// done.
 ///
 /// @p root is absolute and passes through no link, see inspect(). The caller resolves the links
 /// that it trusts. The visited files equal the QDir::Files listing of QDirIterator, except for the

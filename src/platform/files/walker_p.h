@@ -6,6 +6,7 @@
 
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -24,7 +25,7 @@ public:
     void addFailure(const QString &path, const QString &reason)
     {
         const std::lock_guard lock(m_mutex);
-        m_report.addFailure(path, reason);
+        m_report.failures.add(path, reason);
     }
 
     void addFollowed(const FollowedLink &link)
@@ -199,8 +200,12 @@ WalkReport walkTreeWith(const QString &root, const WalkOptions &options,
         Walker<System> first(walk, *visitors.constFirst());
         std::vector<std::jthread> others;
         walk.queue.beginRoot();
-        for (TreeVisitor *visitor : visitors.sliced(1))
-            others.emplace_back([&walk, visitor] { Walker<System>(walk, *visitor).run(); });
+        try {
+            for (TreeVisitor *visitor : visitors.sliced(1))
+                others.emplace_back([&walk, visitor] { Walker<System>(walk, *visitor).run(); });
+        } catch (const std::system_error &) {
+            // The system cannot make another thread. The walkers that there are do all the work.
+        }
         first.read(*rootFolder);
         walk.queue.endRoot();
         first.run();

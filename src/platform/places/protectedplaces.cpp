@@ -1,10 +1,10 @@
 #include "protectedplaces.h"
 #include "protectedplaces_p.h"
 
+#include "placenotes_p.h"
 #include "rulefolders.h"
 #include "rulefolders_p.h"
 
-#include <QDir>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -71,8 +71,16 @@ QString withTrailingSlash(const QString &path)
 template<class Places>
 void addPlaces(QList<ProtectedPlace> &list, const QString &base, const Places &places)
 {
-    for (const RelativePlace &place : places)
-        list.append({locate(base, place.path), place.extent});
+    for (const RelativePlace &place : places) {
+        if (isClosed(base)) {
+            list.append({base + u'/' + place.path, place.extent});
+            continue;
+        }
+        QString problem;
+        list.append({locate(base, place.path, &problem), place.extent});
+        if (!problem.isEmpty())
+            placenotes::add(base + u'/' + place.path, problem);
+    }
 }
 
 // The user's own profile and the other profiles beside it.
@@ -83,8 +91,7 @@ void addProfiles(QList<ProtectedPlace> &list)
     for (const QString &parent : {locate(systemDrive(), u"Users"_s), u"/home"_s}) {
         if (parent.isEmpty())
             continue;
-        const QStringList names = QDir(parent).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        for (const QString &name : names)
+        for (const QString &name : profileNames(parent))
             addPlaces(list, withTrailingSlash(parent) + name, belowProfile);
     }
 }
@@ -99,9 +106,14 @@ void addPersonalFolders(QList<ProtectedPlace> &list)
         list.append({QStandardPaths::writableLocation(location), Extent::Itself});
 }
 
+// What cannot be read for it is noted: the list may then lack places.
 QList<ProtectedPlace> protectedPlaces()
 {
+    const placenotes::Watch watch;
     QList<ProtectedPlace> list = systemPlaces();
+    // The toolkit would ask for the same files, and wait there for ever if one is a pipe.
+    if (watch.sawFailure())
+        return list;
     addPlaces(list, windowsFolder(), belowWindows);
     addPlaces(list, systemDrive(), belowDrive);
     addProfiles(list);
@@ -109,7 +121,7 @@ QList<ProtectedPlace> protectedPlaces()
     for (const QString &folder : {localDataFolder(), roamingDataFolder(), programDataFolder()})
         list.append({folder, Extent::Itself});
     for (ProtectedPlace &place : list)
-        place.path = canonicalPath(place.path);
+        place.path = reachablePath(place.path);
     list.removeIf([](const ProtectedPlace &place) { return place.path.isEmpty(); });
     return list;
 }
@@ -131,26 +143,39 @@ bool isProtectedBy(const QString &path, const ProtectedPlace &place)
         || (place.extent == Extent::Grandchildren && depth <= 2);
 }
 
-bool isProtected(const QString &path, bool includesTreeContents)
+} // namespace
+
+ProtectedPlaces::ProtectedPlaces() = default;
+ProtectedPlaces::~ProtectedPlaces() = default;
+
+bool ProtectedPlaces::isProtected(const QString &path, bool includesTreeContents)
 {
-    const QString root = canonicalPath(path);
+    QString problem;
+    const QString root = canonicalPath(path, &problem);
+    if (!problem.isEmpty())
+        placenotes::add(path, problem);
     if (root.isEmpty() || isRoot(root))
         return true;
-    const QList<ProtectedPlace> places = protectedPlaces();
-    return std::any_of(places.begin(), places.end(), [&](const ProtectedPlace &place) {
+    if (!m_places) {
+        const placenotes::Watch watch;
+        m_places = protectedPlaces();
+        m_isComplete = !watch.sawFailure();
+    }
+    // The path may be one of the places that could not be found.
+    if (!m_isComplete)
+        return true;
+    return std::any_of(m_places->cbegin(), m_places->cend(), [&](const ProtectedPlace &place) {
         return isProtectedBy(root, place)
             || (includesTreeContents && place.extent == Extent::Tree && isInside(root, place.path));
     });
 }
 
-} // namespace
-
-bool isProtectedRoot(const QString &path)
+bool ProtectedPlaces::isProtectedRoot(const QString &path)
 {
     return isProtected(path, true);
 }
 
-bool holdsProtectedPlace(const QString &path)
+bool ProtectedPlaces::holdsProtectedPlace(const QString &path)
 {
     return isProtected(path, false);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "readfailures.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -13,6 +15,8 @@ namespace platform {
 //
 // A folder without a counterpart on Linux has its Windows name there and does not exist.
 
+// A folder that cannot be determined because something could not be read is empty.
+
 [[nodiscard]] QString temporaryFolder();
 [[nodiscard]] QString localDataFolder(); ///< %LOCALAPPDATA%
 [[nodiscard]] QString roamingDataFolder(); ///< %APPDATA%, without this program's own subfolders
@@ -21,8 +25,16 @@ namespace platform {
 [[nodiscard]] QString windowsFolder(); ///< %WINDIR%
 [[nodiscard]] QString systemDrive(); ///< %SYSTEMDRIVE%, on Windows a bare drive such as "C:"
 
+/// What could not be read to find the folders above. Without it a folder may be missing there, or
+/// may be another one than the system's. Reads the system now.
+[[nodiscard]] ReadFailures folderFailures();
+
 /// The folder that contains the program's settings files.
 [[nodiscard]] QString settingsFolder();
+
+/// The registry key that contains the keys of programs with settings in the registry. Empty where
+/// settings are in files only.
+[[nodiscard]] QString settingsKey();
 
 /// Turns a rule's location into a path of this file system.
 ///
@@ -37,5 +49,7 @@ namespace platform {
 /// be read.
 [[nodiscard]] QString locate(const QString &base, const QString &relative,
                              QString *problem = nullptr);
+/// The same. A problem is added to @p failures.
+[[nodiscard]] QString locate(const QString &base, const QString &relative, ReadFailures &failures);
 
 } // namespace platform

@@ -15,12 +15,9 @@ namespace platform {
 /// problem may be null. It tells that a folder in the path may not be read.
 [[nodiscard]] QString storedPath(const QString &folder, const QStringList &names, QString *problem);
 
-/// @p path without links, "." and "..". Empty when it is not absolute or does not exist.
-[[nodiscard]] QString canonicalPath(const QString &path);
-
-/// Why the system cannot tell where @p path leads. Empty when it can, or when there is no such
-/// entry.
-[[nodiscard]] QString problemWith(const QString &path);
+/// @p path without links, "." and "..". Empty when it is not absolute or does not exist. It is also
+/// empty when the system cannot tell where it leads; then @p problem says why, for people.
+[[nodiscard]] QString canonicalPath(const QString &path, QString *problem = nullptr);
 
 /// Whether a canonicalPath() is the root of the file system, of a drive, a share or a volume.
 [[nodiscard]] bool isRoot(const QString &path);

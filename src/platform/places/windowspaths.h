@@ -1,5 +1,7 @@
 #pragma once
 
+#include "readfailures.h"
+
 #include <QString>
 
 #include <memory>
@@ -45,10 +47,13 @@ public:
 
     /// @p path must begin with a drive and a separator.
     [[nodiscard]] Presence presenceOf(const QString &path);
+    /// Why answers were Presence::Unknown.
+    [[nodiscard]] const ReadFailures &readFailures() const { return m_readFailures; }
 
 private:
     class Private;
     const std::unique_ptr<Private> d;
+    ReadFailures m_readFailures;
 };
 
 } // namespace platform

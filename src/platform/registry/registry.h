@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hive.h"
+#include "readfailures.h"
 
 #include <QByteArray>
 #include <QList>
@@ -38,8 +39,9 @@ struct RegistryValue {
 /// registry is empty.
 ///
 /// Key paths use backslashes. Keys and value names are found regardless of case. A key or value
-/// that does not exist or may not be read yields nothing. The Linux part does not follow a key that
-/// is a symbolic link.
+/// that does not exist yields nothing. So does one that cannot be read, but then readFailures() has
+/// it: an answer of "nothing" can be trusted only without a failure. The Linux part does not follow
+/// a key that is a symbolic link.
 class Registry
 {
     Q_DISABLE_COPY(Registry)
@@ -78,6 +80,9 @@ public:
     /// cannot be opened for reading. A key without values gives an empty list.
     [[nodiscard]] std::optional<QList<RegistryValue>> values(Hive hive, const QString &key,
                                                              qsizetype maximumSize) const;
+
+    /// What could not be read so far: keys, and on Linux the registry files.
+    [[nodiscard]] const ReadFailures &readFailures() const;
 
     // Changes. Each function returns whether the change was made; if not, errorString() says why.
     //

@@ -1,15 +1,13 @@
 #include "itemdetaildialog.h"
 
-#include "ask.h"
 #include "detailitemwidget.h"
-#include "filemanager.h"
+#include "filelocation.h"
 #include "parts.h"
 #include "scanresult.h"
 #include "svgicon.h"
 #include "text.h"
 #include "theme.h"
 
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -177,12 +175,7 @@ void ItemDetailDialog::onScrollChanged(int value)
 
 void ItemDetailDialog::onOpenLocation(const QString &path)
 {
-    const bool exists = QFileInfo::exists(path);
-    if (exists && platform::revealFile(path))
-        return;
-    ask::notice(this, tr("Notice"),
-                exists ? tr("The file manager could not be started.")
-                       : tr("This file no longer exists."));
+    filelocation::show(this, path);
 }
 
 bool ItemDetailDialog::isDragArea(QPoint position) const

@@ -1,6 +1,7 @@
 #include "registrybackupdialog.h"
 
 #include "ask.h"
+#include "ownfile.h"
 #include "parts.h"
 #include "registrybackup.h"
 #include "text.h"
@@ -173,7 +174,8 @@ bool RegistryBackupDialog::prepareTarget(const QString &path)
 QString RegistryBackupDialog::targetProblem(const QString &path)
 {
     const QFileInfo file(path);
-    if (!QDir().mkpath(file.absolutePath()))
+    QString error;
+    if (!platform::makePrivateFolder(file.absolutePath(), error))
         return tr("The folder cannot be made.");
     const QString problem = RegistryBackup::targetProblem(path);
     if (!problem.isEmpty())

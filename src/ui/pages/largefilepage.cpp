@@ -3,7 +3,7 @@
 #include "ask.h"
 #include "filecard.h"
 #include "filecardlist.h"
-#include "filemanager.h"
+#include "filelocation.h"
 #include "largefileviews.h"
 #include "progressdialog.h"
 #include "scanprogressdialog.h"
@@ -23,6 +23,7 @@
 #include <QVBoxLayout>
 
 #include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -62,7 +63,8 @@ LargeFilePage::LargeFilePage(const QList<DriveInfo> &drives, QWidget *parent)
             &LargeFilePage::onDeleteSelected);
     connect(m_results->list(), &FileCardList::cardCreated, this, &LargeFilePage::connectCard);
     listenToScanner();
-    connect(qApp, &QCoreApplication::aboutToQuit, &m_scanner, &LargeFileScanner::cancel);
+    // Without a time limit: nothing may run any more when the program destroys its static objects.
+    connect(qApp, &QCoreApplication::aboutToQuit, &m_scanner, &LargeFileScanner::stopAndWait);
     m_deletionDialogTimer.setSingleShot(true);
     m_deletionDialogTimer.setInterval(deletionDialogDelay);
     connect(&m_deletionDialogTimer, &QTimer::timeout, this, &LargeFilePage::showDeletionDialog);
@@ -80,6 +82,7 @@ void LargeFilePage::listenToScanner()
     listen(&LargeFileScanner::scanFinished, &LargeFilePage::onScanFinished);
     listen(&LargeFileScanner::deleteProgress, &LargeFilePage::onDeleteProgress);
     listen(&LargeFileScanner::deleteFinished, &LargeFilePage::onDeleteFinished);
+    listen(&LargeFileScanner::errorOccurred, &LargeFilePage::onScannerError);
 }
 
 bool LargeFilePage::eventFilter(QObject *watched, QEvent *event)
@@ -228,10 +231,8 @@ void LargeFilePage::showFileMenu(FileCard *card, QPoint position)
     const int row = m_results->list()->rowOf(card);
     QAction *open = menu->addAction(tr("📂 Open file location"));
     open->setProperty("filePath", file.path);
-    connect(open, &QAction::triggered, this, [path = file.path] {
-        if (!path.isEmpty() && !platform::revealFile(path))
-            qWarning("[LargeFilePage] The file manager could not be started");
-    });
+    connect(open, &QAction::triggered, this,
+            [this, path = file.path] { filelocation::show(this, path); });
     menu->addSeparator();
     QAction *remove = menu->addAction(tr("🗑️ Delete this file"));
     remove->setProperty("filePath", file.path);
@@ -321,7 +322,25 @@ void LargeFilePage::onDeleteFinished(const QBitArray &deleted, int tried)
         m_focus.replaceControl(rows);
     m_focus.restore(rows ? rows : m_results->backButton());
     const auto count = static_cast<int>(deletedRows.size());
-    showOutcome(m_deletion, count, tried - count);
+    if (m_deletionError.isEmpty())
+        showOutcome(m_deletion, count, tried - count);
+    else
+        showError(std::exchange(m_deletionError, {}));
+}
+
+void LargeFilePage::onScannerError(const QString &error)
+{
+    if (m_scanner.isDeleting()) {
+        m_deletionError = error; // the end of the deletion follows
+        return;
+    }
+    closeScanDialog();
+    showError(error);
+}
+
+void LargeFilePage::showError(const QString &error)
+{
+    ask::notice(this, tr("Operation Failed"), error, QMessageBox::Warning);
 }
 
 void LargeFilePage::showOutcome(Deletion kind, int deleted, int failed)

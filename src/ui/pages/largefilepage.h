@@ -69,6 +69,8 @@ private:
     void onDeleteProgress(int done, int total, qint64 size);
     void onDeleteFinished(const QBitArray &deleted, int tried);
     void showOutcome(Deletion kind, int deleted, int failed);
+    void onScannerError(const QString &error);
+    void showError(const QString &error);
     void updateSummary();
 
     LargeFileScanner m_scanner;
@@ -81,6 +83,7 @@ private:
     QPointer<ScanProgressDialog> m_scanDialog;
     Deletion m_deletion = Deletion::TickedFiles;
     QList<int> m_rowsToDelete; ///< the rows of the running deletion
+    QString m_deletionError; ///< why the running deletion has failed
     FocusKeeper m_focus; ///< holds the focus while the results are locked
     QTimer m_deletionDialogTimer; ///< delays the progress dialog of a deletion
     QPointer<ProgressDialog> m_deletionDialog;

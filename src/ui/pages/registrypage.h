@@ -14,8 +14,11 @@ public:
     explicit RegistryPage(QWidget *parent = nullptr);
 
     void startClean() override;
+    void onCleanFinished(qint64 totalCleaned, int itemsCleaned) override;
     void retranslateUi() override;
 
 private:
+    void warnOfMissingBackup(const QString &path, const QString &reason, int itemsCleaned);
+
     RegistryCleaner *m_cleaner; ///< not owned
 };

@@ -1,17 +1,21 @@
 #include "largefilemodel.h"
 
-#include <QThreadPool>
-
+#include <exception>
+#include <thread>
 #include <utility>
 
 namespace {
 
 // Freeing a million records takes noticeable time. It runs on another thread, unless the records
-// are still shared.
+// are still shared. If the system makes no thread, they are freed here.
 void discard(QList<LargeFileInfo> files)
 {
-    if (!files.isEmpty())
-        QThreadPool::globalInstance()->start([old = std::move(files)]() mutable { old.clear(); });
+    if (files.isEmpty())
+        return;
+    try {
+        std::thread([old = std::move(files)]() mutable { old.clear(); }).detach();
+    } catch (const std::exception &) {
+    }
 }
 
 } // namespace

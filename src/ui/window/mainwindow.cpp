@@ -200,6 +200,8 @@ void MainWindow::buildTray()
     m_trayIcon->setContextMenu(m_trayMenu);
     connect(m_trayIcon, &QSystemTrayIcon::activated, this, &MainWindow::onTrayIconActivated);
     m_trayIcon->show();
+    // The desktop would show the icon of an ended program until the mouse moves over it.
+    connect(qApp, &QCoreApplication::aboutToQuit, m_trayIcon, &QSystemTrayIcon::hide);
 }
 
 void MainWindow::connectTitleBar()

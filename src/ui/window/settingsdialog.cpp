@@ -2,15 +2,20 @@
 
 #include "aboutdialog.h"
 #include "application.h"
+#include "ask.h"
 #include "autostart.h"
+#include "logger.h"
 #include "options.h"
 #include "parts.h"
+#include "text.h"
 #include "theme.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QVBoxLayout>
@@ -108,7 +113,13 @@ void SettingsDialog::onSaveClicked()
     options::set(settings, options::minimizeToTray, m_minimizeToTray->isChecked());
     options::set(settings, options::confirmClean, m_confirmClean->isChecked());
     options::set(settings, options::backupRegistry, m_backupRegistry->isChecked());
-    settings.sync();
+    if (!options::save(settings)) {
+        Logger::instance().error("The settings cannot be saved: "_L1 + settings.fileName());
+        ask::notice(this, tr("Settings"),
+                    tr("The settings could not be saved:\n%1")
+                        .arg(singleLine(QDir::toNativeSeparators(settings.fileName()))),
+                    QMessageBox::Warning);
+    }
     // Only a change of the option is written. A user may have removed the entry by other means, and
     // a save must not restore it.
     if (m_autoStart->isChecked() != autoStartBefore)

@@ -1,16 +1,21 @@
 #include "unix/dosattributes.h"
 
+#include "placenotes_p.h"
+#include "unix/openfolder.h"
 #include "unix/wineprefix.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <sys/xattr.h>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -20,49 +25,73 @@ constexpr unsigned long hidden = 2;
 constexpr unsigned long system = 4;
 constexpr std::size_t longestPath = 64 + 256; ///< the path of the open folder and the name
 
+// Whether the errno says that there is no such attribute, or none that Wine wrote.
+bool isNoAttribute(int error)
+{
+    return error == ENODATA || error == ENOTSUP || error == ERANGE;
+}
+
+// What the errno of an attribute that cannot be read means for the entry.
+int errorFor(int error, int folder, const char *name)
+{
+    FileStatus status{};
+    if (::fstatat(folder, name, &status, 0) != 0)
+        return error;
+    // Wine runs with the same rights, so its programs see no attribute either.
+    if (error == EACCES && ::faccessat(folder, name, R_OK, AT_EACCESS) != 0 && errno == EACCES)
+        return 0;
+    // The entry is there: the system reports this for each entry if there is no /proc.
+    return meansMissing(error) ? ENODEV : error;
+}
+
 } // namespace
 
 DosAttributes::DosAttributes()
 {
+    const placenotes::Watch watch;
     const QString prefix = wineprefix::folder();
-    if (prefix.isEmpty())
-        return;
-    m_roots.append(prefix + u'/');
-    // The temporary folder can be outside the prefix.
-    if (const QString temporary = wineprefix::temporaryFolder(); !temporary.isEmpty())
-        m_roots.append(QFileInfo(temporary).canonicalFilePath() + u'/');
-    // The drive that is the whole system is skipped: the attribute of each file would be read.
-    for (const QString &drive : wineprefix::drives()) {
-        if (drive != u'/')
-            m_roots.append(drive + u'/');
+    if (!prefix.isEmpty()) {
+        m_roots.append(prefix);
+        // The temporary folder can be outside the prefix.
+        const QString temporary = wineprefix::temporaryFolder();
+        QString error;
+        m_roots.append(reachablePath(temporary, error));
+        if (!error.isEmpty())
+            placenotes::add(temporary, error);
+        m_roots.append(wineprefix::drives());
+        // The drive that is the whole system is skipped: the attribute of each file would be read.
+        m_roots.removeAll(u"/"_s);
+        m_roots.removeAll(QString());
     }
+    m_isCertain = !watch.sawFailure();
 }
 
 bool DosAttributes::canApplyIn(const QString &folder) const
 {
-    return std::any_of(m_roots.begin(), m_roots.end(), [&folder](const QString &root) {
-        return folder.startsWith(root)
-            || (folder.size() + 1 == root.size() && root.startsWith(folder));
-    });
+    return !m_isCertain
+        || std::any_of(m_roots.begin(), m_roots.end(), [&folder](const QString &root) {
+               return folder == root || folder.startsWith(root + u'/');
+           });
 }
 
 // The value is a text such as "0x6". Other programs may have written something else there.
-bool DosAttributes::isHidden(int folder, const char *name)
+DosAttributes::Answer DosAttributes::isHidden(int folder, const char *name)
 {
     char path[longestPath];
     const int length = std::snprintf(path, sizeof path, "/proc/self/fd/%d/%s", folder, name);
     if (length < 0 || static_cast<std::size_t>(length) >= sizeof path)
-        return false;
+        return {false, ENAMETOOLONG};
     char value[64] = {};
-    if (::getxattr(path, "user.DOSATTRIB", value, sizeof value - 1) < 0 || value[0] != '0'
-        || value[1] != 'x')
-        return false;
+    if (::getxattr(path, "user.DOSATTRIB", value, sizeof value - 1) < 0)
+        return {false, isNoAttribute(errno) ? 0 : errorFor(errno, folder, name)};
+    if (value[0] != '0' || value[1] != 'x')
+        return {};
     const char *digits = value + 2;
     if (!std::isxdigit(static_cast<unsigned char>(*digits)))
-        return false;
+        return {};
     char *end = nullptr;
     const unsigned long attributes = std::strtoul(digits, &end, 16);
-    return *end == '\0' && (attributes & (hidden | system)) != 0;
+    return {*end == '\0' && (attributes & (hidden | system)) != 0, 0};
 }
 
 } // namespace platform

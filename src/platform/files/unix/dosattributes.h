@@ -7,7 +7,8 @@
 namespace platform {
 
 /// Tells where files can have DOS attributes: below the prefix, below its drives and in its
-/// temporary folder. The drive that is the whole system is left out. One object a run; any thread.
+/// temporary folder. The drive that is the whole system is left out. While it cannot be determined
+/// where the prefix and its drives are, that is everywhere. One object a run; any thread.
 class DosAttributes final
 {
 public:
@@ -15,12 +16,17 @@ public:
 
     /// Whether entries of the folder at a link-free path can have DOS attributes.
     [[nodiscard]] bool canApplyIn(const QString &folder) const;
+    struct Answer {
+        bool isHidden = false;
+        int error = 0; ///< the errno when it cannot be determined
+    };
     /// Whether Windows programs see the entry @p name of an open folder as hidden or as a system
     /// entry. For a link its target decides, as it does there.
-    [[nodiscard]] static bool isHidden(int folder, const char *name);
+    [[nodiscard]] static Answer isHidden(int folder, const char *name);
 
 private:
-    QStringList m_roots; ///< with a slash at the end
+    QStringList m_roots; ///< without links
+    bool m_isCertain = false; ///< nothing failed when the roots were looked up
 };
 
 } // namespace platform

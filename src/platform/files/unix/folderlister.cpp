@@ -27,20 +27,35 @@ std::optional<struct statx> readStatus(int folder, const char *name, int flags)
     return status;
 }
 
-std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry, bool canBeHidden)
+// Nothing for an entry that is not listed. If its status cannot be read, @p error becomes the
+// errno.
+std::optional<ListedEntry> inspectEntry(int folder, const dirent64 &entry, bool canBeHidden,
+                                        int &error)
 {
     const QUtf8StringView name(entry.d_name);
     if (!name.isValidUtf8())
         return {};
+    const auto fail = [&error]() -> std::optional<ListedEntry> {
+        if (!meansMissing(errno))
+            error = errno;
+        return {};
+    };
     const std::optional<struct statx> own = readStatus(folder, entry.d_name, AT_SYMLINK_NOFOLLOW);
-    if (!own || (own->stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
+    if (!own)
+        return fail();
+    if ((own->stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
         return {};
     const bool isLink = S_ISLNK(own->stx_mode);
     const std::optional<struct statx> target = isLink ? readStatus(folder, entry.d_name, 0) : own;
     if (!target)
-        return {};
-    const bool isHidden =
-        entry.d_name[0] == '.' || (canBeHidden && DosAttributes::isHidden(folder, entry.d_name));
+        return fail();
+    const DosAttributes::Answer answer =
+        canBeHidden ? DosAttributes::isHidden(folder, entry.d_name) : DosAttributes::Answer();
+    if (answer.error != 0) {
+        errno = answer.error;
+        return fail();
+    }
+    const bool isHidden = entry.d_name[0] == '.' || answer.isHidden;
     if (S_ISDIR(target->stx_mode))
         return ListedEntry{name.toString(), isLink ? ListedKind::FolderLink : ListedKind::Folder,
                            isHidden, 0};
@@ -70,7 +85,7 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
 {
     FolderListing listing;
     const auto fail = [&listing](int error) {
-        listing.isMissing = error == ENOENT || error == ENOTDIR || error == ELOOP;
+        listing.isMissing = meansMissing(error);
         listing.error = reasonOf(error);
     };
     const UniqueFd folder = openFolder(QFile::encodeName(path));
@@ -84,10 +99,14 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
     const bool canBeHidden = d->attributes.canApplyIn(path);
     FolderReader reader(stopRequested);
     reader.begin(folder.get());
+    int entryError = 0;
     while (const dirent64 *entry = reader.next()) {
-        if (std::optional<ListedEntry> found = inspectEntry(folder.get(), *entry, canBeHidden))
+        if (std::optional<ListedEntry> found =
+                inspectEntry(folder.get(), *entry, canBeHidden, entryError))
             listing.entries.push_back(std::move(*found));
     }
+    if (entryError != 0)
+        listing.error = reasonOf(entryError);
     if (reader.error() != 0)
         fail(reader.error());
     return listing;

@@ -1,8 +1,13 @@
 #include "unix/openfolder.h"
 
+#include "unix/folderreader.h"
+
 #include <QFile>
 
 #include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <memory>
 #include <string>
 #include <system_error>
 
@@ -45,6 +50,45 @@ UniqueFd openComponent(int base, const QByteArray &name, Access access)
         errno = found == 0 && S_ISLNK(status.st_mode) ? ELOOP : ENOTDIR;
     }
     return fd;
+}
+
+} // namespace
+
+bool isRefused(const QByteArray &path, int mode)
+{
+    return ::faccessat(AT_FDCWD, path.constData(), mode, AT_EACCESS) != 0 && errno == EACCES;
+}
+
+namespace {
+
+// The target of a link in a folder with a link-free path. Empty on failure, with errno.
+QByteArray linkTarget(const QByteArray &folder, const QByteArray &name)
+{
+    const QByteArray target = readLink(folder + '/' + name);
+    return target.isEmpty() || target.startsWith('/') ? target : folder + '/' + target;
+}
+
+// reachablePath() with an errno on failure. Follows at most @p links links by itself.
+QByteArray reach(const QByteArray &path, int links)
+{
+    const std::unique_ptr<char, decltype(&std::free)> target(::realpath(path.constData(), nullptr),
+                                                             &std::free);
+    if (target)
+        return target.get();
+    if (errno != EACCES || links == 0)
+        return {};
+    const SplitPath parts = splitPath(QFile::decodeName(path));
+    if (parts.name.isEmpty()) {
+        errno = EACCES;
+        return {};
+    }
+    const QByteArray folder = reach(parts.folder, links);
+    if (folder.isEmpty())
+        return {};
+    if (isRefused(folder, X_OK))
+        return folder + '/' + parts.name;
+    const QByteArray next = linkTarget(folder, parts.name);
+    return next.isEmpty() ? QByteArray() : reach(next, links - 1);
 }
 
 // For kernels and sandboxes without openat2.
@@ -117,10 +161,86 @@ UniqueFd openFolder(const QByteArray &path, Access access)
         return {};
     }
     const UniqueFd root(::open("/", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    if (!root.isValid())
+        return {};
     qsizetype begin = 0;
     while (begin < path.size() && path.at(begin) == '/')
         ++begin;
     return openFolderBelow(root.get(), path.mid(begin), Mounts::Cross, access);
+}
+
+QByteArray readLink(const QByteArray &path)
+{
+    QByteArray target(PATH_MAX, Qt::Uninitialized);
+    const ssize_t length = ::readlink(path.constData(), target.data(), PATH_MAX);
+    if (length == PATH_MAX)
+        errno = ENAMETOOLONG; // it may be cut off
+    target.truncate(length == PATH_MAX ? 0 : qMax<ssize_t>(length, 0));
+    return target;
+}
+
+std::optional<QStringList> namesInFolder(const QString &path, QString &error)
+{
+    const UniqueFd folder(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isValid()) {
+        error = reasonOf(errno);
+        return {};
+    }
+    QStringList names;
+    FolderReader reader(nullptr);
+    reader.begin(folder.get());
+    while (const dirent64 *entry = reader.next()) {
+        if (const QUtf8StringView name(entry->d_name); name.isValidUtf8())
+            names.append(name.toString());
+    }
+    if (reader.error() != 0) {
+        error = reasonOf(reader.error());
+        return {};
+    }
+    names.sort();
+    return names;
+}
+
+QString pathWithoutLinks(const QString &path, QString &error)
+{
+    if (!path.startsWith(u'/'))
+        return {};
+    const std::unique_ptr<char, decltype(&std::free)> target(
+        ::realpath(QFile::encodeName(path).constData(), nullptr), &std::free);
+    if (target)
+        return QFile::decodeName(target.get());
+    if (!meansMissing(errno))
+        error = reasonOf(errno);
+    return {};
+}
+
+QString reachablePath(const QString &path, QString &error)
+{
+    constexpr int longestChain = 40; // of links, as in the kernel
+    if (!path.startsWith(u'/'))
+        return {};
+    const QByteArray target = reach(QFile::encodeName(path), longestChain);
+    if (target.isEmpty() && !meansMissing(errno))
+        error = reasonOf(errno);
+    return QFile::decodeName(target);
+}
+
+std::optional<FileStatus> examineFile(const QString &path, QString &error)
+{
+    const QByteArray encoded = QFile::encodeName(path);
+    FileStatus status{};
+    if (::stat(encoded.constData(), &status) == 0)
+        return status;
+    const int reason = errno;
+    if (!meansMissing(reason) || ::lstat(encoded.constData(), &status) == 0)
+        error = reasonOf(reason);
+    return {};
+}
+
+bool meansMissing(int error)
+{
+    return error == ENOENT || error == ENOTDIR || error == ELOOP;
 }
 
 QString reasonOf(int error)

@@ -4,7 +4,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
+#include <optional>
 #include <utility>
 
 #include <sys/stat.h>
@@ -14,6 +16,11 @@ namespace platform {
 
 /// The system's status of an entry. An alias, because the function stat() hides the type stat.
 using FileStatus = struct stat;
+
+/// The status of the file at @p path, where a link leads to. Nothing when there is none, with an
+/// empty @p error, and when it cannot be examined; then @p error says why, for people. A link that
+/// leads nowhere cannot be examined: what it stands for may be on a disk that is not there now.
+[[nodiscard]] std::optional<FileStatus> examineFile(const QString &path, QString &error);
 
 [[nodiscard]] inline EntryId idOf(const FileStatus &status)
 {
@@ -49,6 +56,8 @@ public:
 
     [[nodiscard]] int get() const { return m_fd; }
     [[nodiscard]] bool isValid() const { return m_fd >= 0; }
+    /// Gives the descriptor to the caller.
+    int release() { return std::exchange(m_fd, -1); }
     void reset()
     {
         if (m_fd >= 0)
@@ -77,6 +86,27 @@ enum class Access { Read, PassThrough };
 
 /// The same for an absolute path. Mount points are crossed.
 [[nodiscard]] UniqueFd openFolder(const QByteArray &path, Access access = Access::Read);
+
+/// What the link at @p path contains. Empty on failure, with errno.
+[[nodiscard]] QByteArray readLink(const QByteArray &path);
+
+/// The names of all entries of the folder at @p path, sorted. Links in the path are followed. Names
+/// that cannot be decoded are left out. On failure returns nothing, and @p error says why.
+[[nodiscard]] std::optional<QStringList> namesInFolder(const QString &path, QString &error);
+
+/// The absolute @p path without links, "." and "..". Empty when it is not absolute or there is no
+/// such entry. It is also empty when the system cannot tell where it leads; then @p error says why.
+[[nodiscard]] QString pathWithoutLinks(const QString &path, QString &error);
+
+/// The same. Behind a folder that this user may not enter, the names are kept as they are spelled.
+[[nodiscard]] QString reachablePath(const QString &path, QString &error);
+
+/// Whether this user lacks the right @p mode, as for access(), at a path.
+[[nodiscard]] bool isRefused(const QByteArray &path, int mode);
+
+/// Whether an errno means that there is nothing at a path, or nothing that counts: no such entry,
+/// no folder on the way, or a link there.
+[[nodiscard]] bool meansMissing(int error);
 
 /// The system's text for an errno, for people.
 [[nodiscard]] QString reasonOf(int error);

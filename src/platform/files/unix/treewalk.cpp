@@ -3,12 +3,11 @@
 #include "unix/dosattributes.h"
 #include "unix/folderreader.h"
 #include "unix/openfolder.h"
+#include "unix/visitedfolders.h"
 
 #include <QFile>
-#include <QSet>
 
 #include <cerrno>
-#include <climits>
 #include <deque>
 #include <memory>
 #include <mutex>
@@ -91,33 +90,6 @@ private:
     std::deque<std::weak_ptr<Level>> m_levels;
 };
 
-/// The folders that have been read. The walk owns it, and every walker's thread uses it.
-class VisitedFolders final
-{
-    Q_DISABLE_COPY_MOVE(VisitedFolders)
-public:
-    VisitedFolders() = default;
-
-    /// Returns false if @p id was inserted before.
-    [[nodiscard]] bool insert(const EntryId &id)
-    {
-        const std::lock_guard lock(m_mutex);
-        const qsizetype before = m_ids.size();
-        m_ids.insert(id);
-        return m_ids.size() > before;
-    }
-
-    [[nodiscard]] bool contains(const EntryId &id)
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_ids.contains(id);
-    }
-
-private:
-    std::mutex m_mutex;
-    QSet<EntryId> m_ids;
-};
-
 /// What all walkers of one walk share on Linux. The members are safe to use from every walker's
 /// thread; the device is set before the walkers start.
 struct Shared {
@@ -158,17 +130,25 @@ public:
 
     static QUtf8StringView nameOf(const dirent64 &entry) { return {entry.d_name}; }
 
-    static WalkedKind kindOf(const dirent64 &entry, const FolderReader &reader)
+    WalkedKind kindOf(const dirent64 &entry, const FolderReader &reader) const
     {
         // A leading dot hides an entry.
         if (entry.d_name[0] == '.' || !nameOf(entry).isValidUtf8())
             return WalkedKind::Nothing;
-        return kindOf(reader.typeOf(entry));
+        const unsigned char type = reader.typeOf(entry);
+        if (type == DT_UNKNOWN)
+            addFailure(entry, errno);
+        return kindOf(type);
     }
 
     bool isShown(const dirent64 &entry) const
     {
-        return !m_canHoldHidden || !DosAttributes::isHidden(m_fd->get(), entry.d_name);
+        if (!m_canHoldHidden)
+            return true;
+        const DosAttributes::Answer answer = DosAttributes::isHidden(m_fd->get(), entry.d_name);
+        if (answer.error != 0)
+            addFailure(entry, answer.error);
+        return answer.error == 0 && !answer.isHidden;
     }
 
     Folder subfolderAt(const dirent64 &entry)
@@ -188,8 +168,10 @@ public:
         if (!isLink && wanted == TreeVisitor::Wanted::Names)
             return file;
         struct statx status = {};
-        if (!readStatus(entry, AT_SYMLINK_NOFOLLOW, status))
+        if (!readStatus(entry, AT_SYMLINK_NOFOLLOW, status)) {
+            addFailure(entry, errno);
             return {};
+        }
         // A single file can be a mount point, too.
         const bool isMounted = (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
         if (!isLink && (!S_ISREG(status.stx_mode) || (isMounted && !m_shared.isEverywhere())))
@@ -210,8 +192,10 @@ public:
     Target targetOf(const dirent64 &link) const
     {
         struct statx status = {};
-        if (!readStatus(link, 0, status))
+        if (!readStatus(link, 0, status)) {
+            addFailure(link, errno);
             return {};
+        }
         const EntryId id{makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino};
         const WalkedKind kind = kindOf(IFTODT(status.stx_mode));
         if (kind == WalkedKind::Folder && m_shared.visited.contains(id))
@@ -237,6 +221,15 @@ private:
         default:
             return WalkedKind::Nothing;
         }
+    }
+
+    // An entry that was removed after it was listed is no failure, nor is a link that leads
+    // nowhere.
+    void addFailure(const dirent64 &entry, int error) const
+    {
+        if (!meansMissing(error))
+            m_shared.report.addFailure(joinedPath(m_path, nameOf(entry).toString()),
+                                       reasonOf(error));
     }
 
     bool readStatus(const dirent64 &entry, int flags, struct statx &status) const
@@ -285,13 +278,8 @@ bool isKernelFileSystem(int fd)
 /// The link-free path of an open folder; empty when the system does not tell it.
 QString realPath(int fd)
 {
-    QByteArray buffer(PATH_MAX, Qt::Uninitialized);
-    const QByteArray entry = "/proc/self/fd/" + QByteArray::number(fd);
-    const ssize_t length = ::readlink(entry.constData(), buffer.data(), PATH_MAX);
-    if (length <= 0 || length == PATH_MAX)
-        return {};
-    buffer.truncate(length);
-    return QUtf8StringView(buffer).isValidUtf8() ? QFile::decodeName(buffer) : QString();
+    const QByteArray path = readLink("/proc/self/fd/" + QByteArray::number(fd));
+    return QUtf8StringView(path).isValidUtf8() ? QFile::decodeName(path) : QString();
 }
 
 /// The system's part of a walk, see Walker. Lives in the Walk; all walkers' threads use it. The
@@ -373,7 +361,7 @@ private:
     // is no failure.
     void addFailureUnlessChanged(const QString &path, int error)
     {
-        if (error != ENOENT && error != ELOOP && error != EXDEV && error != ENOTDIR)
+        if (!meansMissing(error) && error != EXDEV)
             addFailure(path, error);
     }
 

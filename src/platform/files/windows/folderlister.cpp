@@ -10,7 +10,10 @@ namespace platform {
 
 namespace {
 
-std::optional<ListedEntry> inspectEntry(const QString &folder, const WIN32_FIND_DATAW &entry)
+// Nothing for an entry that is not listed. If it cannot be examined, @p error becomes the system's
+// error.
+std::optional<ListedEntry> inspectEntry(const QString &folder, const WIN32_FIND_DATAW &entry,
+                                        DWORD &error)
 {
     ListedEntry listed;
     listed.name = QString::fromWCharArray(entry.cFileName);
@@ -26,12 +29,16 @@ std::optional<ListedEntry> inspectEntry(const QString &folder, const WIN32_FIND_
         listed.kind = ListedKind::File;
         listed.size = sizeOf(entry);
         return listed;
-    case EntryNature::FileLink:
-        if (!leadsToFile(extendedPath(folder + u'/' + listed.name)))
+    case EntryNature::FileLink: {
+        const std::optional<bool> isFile = leadsToFile(extendedPath(folder + u'/' + listed.name));
+        if (!isFile)
+            error = ::GetLastError();
+        if (!isFile.value_or(false))
             return {};
         listed.kind = ListedKind::FileLink;
         listed.size = sizeOf(entry);
         return listed;
+    }
     case EntryNature::Special:
         break;
     }
@@ -65,10 +72,13 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
     listing.id = idOfFolder(absolute);
     FolderReader reader(stopRequested);
     reader.begin(extended);
+    DWORD entryError = ERROR_SUCCESS;
     while (const WIN32_FIND_DATAW *entry = reader.next()) {
-        if (std::optional<ListedEntry> found = inspectEntry(folder, *entry))
+        if (std::optional<ListedEntry> found = inspectEntry(folder, *entry, entryError))
             listing.entries.push_back(std::move(*found));
     }
+    if (entryError != ERROR_SUCCESS)
+        listing.error = reasonOf(entryError);
     if (reader.error() != ERROR_SUCCESS) {
         listing.isMissing = isMissing(reader.error());
         listing.error = reasonOf(reader.error());

@@ -193,13 +193,17 @@ EntryId idOfFolder(const QString &path)
     return idOf(openEntry(extended, FILE_READ_ATTRIBUTES, Links::Open));
 }
 
-bool leadsToFile(const QString &extended)
+std::optional<bool> leadsToFile(const QString &extended)
 {
     const UniqueHandle target = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);
+    if (!target.isValid())
+        return isMissing(::GetLastError()) ? std::optional(false) : std::nullopt;
+    if (::GetFileType(target.get()) != FILE_TYPE_DISK)
+        return false;
     FILE_STANDARD_INFO info{};
-    return target.isValid() && ::GetFileType(target.get()) == FILE_TYPE_DISK
-        && ::GetFileInformationByHandleEx(target.get(), FileStandardInfo, &info, sizeof info)
-        && !info.Directory;
+    if (!::GetFileInformationByHandleEx(target.get(), FileStandardInfo, &info, sizeof info))
+        return {};
+    return !info.Directory;
 }
 
 QString finalPath(const UniqueHandle &entry, PathForm form)

@@ -36,6 +36,8 @@ public:
 
     [[nodiscard]] void *get() const { return m_handle; }
     [[nodiscard]] bool isValid() const { return m_handle != nullptr; }
+    /// Gives the handle to the caller.
+    [[nodiscard]] void *release() { return std::exchange(m_handle, nullptr); }
     void reset();
 
 private:
@@ -88,8 +90,9 @@ enum class Links { Follow, Open };
 /// failure; then the thread's last error tells why.
 [[nodiscard]] EntryId idOfFolder(const QString &path);
 
-/// Whether a link at an extended path leads to a file.
-[[nodiscard]] bool leadsToFile(const QString &extended);
+/// Whether a link at an extended path leads to a file. Nothing when that cannot be determined; then
+/// the thread's last error tells why.
+[[nodiscard]] std::optional<bool> leadsToFile(const QString &extended);
 
 /// Whether a path begins with a drive letter or with the name of a device.
 enum class PathForm { Drive, Device };

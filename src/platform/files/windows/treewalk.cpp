@@ -119,8 +119,9 @@ private:
 class OpenFolder
 {
 public:
-    explicit OpenFolder(Folder folder)
+    OpenFolder(Folder folder, SharedReport &report)
         : m_folder(std::move(folder))
+        , m_report(report)
     {
     }
 
@@ -167,8 +168,13 @@ public:
     std::optional<VisitedFile> fileAt(const WIN32_FIND_DATAW &entry, bool isLink,
                                       TreeVisitor::Wanted) const
     {
-        if (isLink && !leadsToFile(extendedPath(pathAt(entry))))
-            return {};
+        if (isLink) {
+            const std::optional<bool> isFile = leadsToFile(extendedPath(pathAt(entry)));
+            if (!isFile)
+                m_report.addFailure(pathAt(entry), reasonOf(::GetLastError()));
+            if (!isFile.value_or(false))
+                return {};
+        }
         return VisitedFile{
             nameOf(entry), sizeOf(entry), millisecondsSince1970(entry.ftLastWriteTime), isLink, 0,
             nullptr};
@@ -193,6 +199,7 @@ private:
     }
 
     Folder m_folder;
+    SharedReport &m_report;
 };
 
 /// The system's part of a walk, see Walker. Lives in the Walk; all walkers' threads use it. If a
@@ -228,7 +235,7 @@ public:
         const bool isLink = inspect(top).kind == EntryKind::Link;
         if (m_options.reach != Reach::Everywhere) {
             if (!isLink)
-                return OpenFolder({top, nullptr});
+                return OpenFolder({top, nullptr}, m_report);
             addFailure(root, linkInPathError);
             return {};
         }
@@ -247,7 +254,7 @@ public:
             if (m_bases.contains(joinedPath(folder.base->target, relative)))
                 return {};
         }
-        return OpenFolder(folder);
+        return OpenFolder(folder, m_report);
     }
 
     std::optional<OpenFolder> open(const Link &link)
@@ -256,6 +263,8 @@ public:
         if (!target.isValid())
             return {};
         const std::optional<EntryAttributes> attributes = attributesOf(target);
+        if (!attributes)
+            addFailure(link.path, ::GetLastError());
         if (!attributes || attributes->nature != EntryNature::Folder)
             return {};
         const FolderIdentity identity = identityOf(target, link.path);
@@ -281,7 +290,8 @@ private:
     {
         if (!m_bases.insert(identity))
             return {};
-        return OpenFolder({path, std::make_shared<const Base>(Base{path, identity.path})});
+        return OpenFolder({path, std::make_shared<const Base>(Base{path, identity.path})},
+                          m_report);
     }
 
     const WalkOptions &m_options;

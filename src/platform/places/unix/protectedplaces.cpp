@@ -1,13 +1,25 @@
 #include "protectedplaces_p.h"
 
+#include "placenotes_p.h"
+#include "readfile.h"
+#include "unix/openfolder.h"
 #include "unix/wineprefix.h"
 
 #include <QDir>
+#include <QFile>
 #include <QStandardPaths>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace platform {
+
+namespace {
+
+constexpr qint64 maximumSize = 1 << 20; // bytes
+
+} // namespace
 
 QList<ProtectedPlace> systemPlaces()
 {
@@ -51,7 +63,40 @@ QList<ProtectedPlace> systemPlaces()
     list.append({wineprefix::folder(), Extent::Itself});
     for (const QString &folder : wineprefix::personalFolders())
         list.append({folder, Extent::Itself});
+    // The desktop's names of the user's folders come from this file.
+    const QString names = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+        + "/user-dirs.dirs"_L1;
+    QString error;
+    if (!reachablePath(names).isEmpty() && !readFile(names, maximumSize, error))
+        placenotes::add(names, error);
     return list;
+}
+
+QStringList profileNames(const QString &parent)
+{
+    const QString folder = reachablePath(parent);
+    if (folder.isEmpty())
+        return {};
+    QString error;
+    const std::optional<QStringList> names = namesInFolder(folder, error);
+    // Some systems let nobody list the homes.
+    if (!names && !isClosed(folder))
+        placenotes::add(folder, error);
+    return names.value_or(QStringList());
+}
+
+bool isClosed(const QString &folder)
+{
+    return isRefused(QFile::encodeName(folder), R_OK);
+}
+
+QString reachablePath(const QString &path)
+{
+    QString error;
+    const QString target = reachablePath(path, error);
+    if (!error.isEmpty())
+        placenotes::add(path, error);
+    return target;
 }
 
 } // namespace platform

@@ -1,17 +1,13 @@
 #include "rulefolders.h"
 #include "rulefolders_p.h"
 
+#include "placenotes_p.h"
+#include "unix/openfolder.h"
 #include "unix/wineprefix.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
-
-#include <cerrno>
-
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -19,18 +15,21 @@ namespace platform {
 
 namespace {
 
-// The environment variable counts first, then the prefix's folder, then the desktop's folder.
-QString firstSet(const char *variable, const QString &inPrefix, const QString &desktopFolder)
+// The environment variable counts first, then the folder @p relative in the prefix's folder, then
+// the desktop's folder.
+QString firstSet(const char *variable, QString (*inPrefix)(), const QString &relative,
+                 const QString &desktopFolder)
 {
     const QString fromEnvironment = qEnvironmentVariable(variable);
     if (!fromEnvironment.isEmpty())
         return QDir::fromNativeSeparators(fromEnvironment).replace(u'\\', u'/');
-    return inPrefix.isEmpty() ? desktopFolder : inPrefix;
-}
-
-QString prefixFolder(const QString &base, const QString &relative)
-{
-    return base.isEmpty() ? QString() : wineprefix::matchCase(base, relative);
+    const placenotes::Watch watch;
+    wineprefix::checkFolders();
+    const QString base = inPrefix();
+    if (!base.isEmpty())
+        return relative.isEmpty() ? base : wineprefix::matchCase(base, relative);
+    // If the prefix has such a folder, the desktop's one is another.
+    return watch.sawFailure() ? QString() : desktopFolder;
 }
 
 bool startsWithDrive(const QString &path)
@@ -43,40 +42,45 @@ bool startsWithDrive(const QString &path)
 
 QString temporaryFolder()
 {
-    return firstSet("TMPDIR", wineprefix::temporaryFolder(), QDir::tempPath());
+    return firstSet("TMPDIR", wineprefix::temporaryFolder, {}, QDir::tempPath());
 }
 
 QString localDataFolder()
 {
-    return firstSet("LOCALAPPDATA", prefixFolder(wineprefix::userFolder(), u"AppData/Local"_s),
+    return firstSet("LOCALAPPDATA", wineprefix::userFolder, u"AppData/Local"_s,
                     QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
 QString roamingDataFolder()
 {
-    return firstSet("APPDATA", prefixFolder(wineprefix::userFolder(), u"AppData/Roaming"_s),
+    return firstSet("APPDATA", wineprefix::userFolder, u"AppData/Roaming"_s,
                     QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
 QString homeFolder()
 {
-    return firstSet("USERPROFILE", wineprefix::userFolder(), QDir::homePath());
+    return firstSet("USERPROFILE", wineprefix::userFolder, {}, QDir::homePath());
 }
 
 QString programDataFolder()
 {
-    return firstSet("PROGRAMDATA", prefixFolder(wineprefix::systemDrive(), u"ProgramData"_s), {});
+    return firstSet("PROGRAMDATA", wineprefix::systemDrive, u"ProgramData"_s, {});
 }
 
 QString windowsFolder()
 {
-    return firstSet("WINDIR", prefixFolder(wineprefix::systemDrive(), u"windows"_s),
-                    u"C:/Windows"_s);
+    return firstSet("WINDIR", wineprefix::systemDrive, u"windows"_s, u"C:/Windows"_s);
 }
 
 QString systemDrive()
 {
-    return firstSet("SYSTEMDRIVE", wineprefix::systemDrive(), u"C:"_s);
+    return firstSet("SYSTEMDRIVE", wineprefix::systemDrive, {}, u"C:"_s);
+}
+
+ReadFailures folderFailures()
+{
+    wineprefix::checkFolders();
+    return placenotes::take();
 }
 
 QString localFolder(const QString &path)
@@ -96,24 +100,23 @@ QString storedPath(const QString &folder, const QStringList &names, QString *pro
     return (folder == u'/' ? folder : folder + u'/') + names.join(u'/');
 }
 
-QString problemWith(const QString &path)
+QString canonicalPath(const QString &path, QString *problem)
 {
-    struct stat data {
-    };
-    if (!QDir::isAbsolutePath(path) || ::stat(QFile::encodeName(path).constData(), &data) == 0
-        || errno == ENOENT || errno == ENOTDIR)
-        return {};
-    return qt_error_string(errno);
-}
-
-QString canonicalPath(const QString &path)
-{
-    return QDir::isAbsolutePath(path) ? QFileInfo(path).canonicalFilePath() : QString();
+    QString error;
+    const QString target = pathWithoutLinks(path, error);
+    if (problem && !error.isEmpty())
+        *problem = error;
+    return target;
 }
 
 QString settingsFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+}
+
+QString settingsKey()
+{
+    return {};
 }
 
 bool isRoot(const QString &path)

@@ -1,5 +1,6 @@
 #include "windowspaths.h"
 
+#include "unix/openfolder.h"
 #include "unix/wineprefix.h"
 
 #include <QDir>
@@ -9,9 +10,7 @@
 
 #include <cerrno>
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -45,7 +44,7 @@ std::optional<QString> windowsVariable(const QString &name)
 namespace {
 
 // The system's answer for exactly this path; case counts.
-Presence presenceAt(const QString &path)
+Presence presenceAt(const QString &path, ReadFailures &failures)
 {
     struct stat data {
     };
@@ -58,6 +57,7 @@ Presence presenceAt(const QString &path)
     case ENAMETOOLONG:
         return Presence::Missing;
     default:
+        failures.add(path, reasonOf(errno));
         return Presence::Unknown;
     }
 }
@@ -71,37 +71,46 @@ public:
     /// The names in a folder by their case-folded form. Nothing when the folder cannot be listed.
     using Names = std::optional<QHash<QString, QString>>;
 
-    const Names &namesIn(const QString &folder)
+    const Names &namesIn(const QString &folder, ReadFailures &failures)
     {
         auto listed = m_folders.find(folder);
         if (listed == m_folders.end())
-            listed = m_folders.insert(folder, list(folder));
+            listed = m_folders.insert(folder, list(folder, failures));
         return *listed;
     }
-    QString driveAt(QChar letter)
+    /// A drive's folder; empty without the drive. @p problem says why it cannot be determined.
+    struct Drive {
+        QString folder;
+        QString problem;
+    };
+    const Drive &driveAt(QChar letter)
     {
-        auto drive = m_drives.find(letter.toLower());
-        if (drive == m_drives.end())
-            drive = m_drives.insert(letter.toLower(), wineprefix::drive(letter));
-        return *drive;
+        auto found = m_drives.find(letter.toLower());
+        if (found == m_drives.end()) {
+            Drive drive;
+            drive.folder = wineprefix::drive(letter, &drive.problem);
+            found = m_drives.insert(letter.toLower(), drive);
+        }
+        return *found;
     }
 
 private:
-    static Names list(const QString &folder)
+    static Names list(const QString &folder, ReadFailures &failures)
     {
-        if (::faccessat(AT_FDCWD, QFile::encodeName(folder).constData(), R_OK | X_OK, AT_EACCESS)
-            != 0)
+        QString error;
+        const std::optional<QStringList> entries = namesInFolder(folder, error);
+        if (!entries) {
+            failures.add(folder, error);
             return {};
+        }
         QHash<QString, QString> names;
-        const QStringList entries = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden
-                                                           | QDir::System | QDir::NoDotAndDotDot);
-        for (const QString &entry : entries)
+        for (const QString &entry : *entries)
             names.insert(entry.toCaseFolded(), entry);
         return names;
     }
 
     QHash<QString, Names> m_folders;
-    QHash<QChar, QString> m_drives;
+    QHash<QChar, Drive> m_drives;
 };
 
 PathLookup::PathLookup()
@@ -115,25 +124,32 @@ Presence PathLookup::presenceOf(const QString &path)
 {
     QString relative = path.mid(2);
     relative.replace(u'\\', u'/');
-    QString current = d->driveAt(path.at(0));
-    if (current.isEmpty())
+    const Private::Drive &drive = d->driveAt(path.at(0));
+    if (!drive.problem.isEmpty()) {
+        m_readFailures.add(path.left(2), drive.problem);
+        return Presence::Unknown;
+    }
+    if (drive.folder.isEmpty())
         return Presence::Missing;
-    const Presence exact = presenceAt(current + relative);
+    QString current = drive.folder;
+    const Presence exact = presenceAt(current + relative, m_readFailures);
     if (exact != Presence::Missing)
         return exact;
     const QStringList names = QDir::cleanPath(relative).split(u'/', Qt::SkipEmptyParts);
     for (const QString &name : names) {
         const QString next = current + u'/' + name;
-        const Presence presence = presenceAt(next);
+        const Presence presence = presenceAt(next, m_readFailures);
         if (presence == Presence::Unknown)
             return presence;
         if (presence == Presence::Present) {
             current = next;
             continue;
         }
-        if (!QFileInfo(current).isDir())
-            return Presence::Missing;
-        const Private::Names &listed = d->namesIn(current);
+        // With the separator, a file is not found.
+        if (const Presence folder = presenceAt(current + u'/', m_readFailures);
+            folder != Presence::Present)
+            return folder;
+        const Private::Names &listed = d->namesIn(current, m_readFailures);
         if (!listed)
             return Presence::Unknown;
         const auto found = listed->constFind(name.toCaseFolded());
@@ -142,7 +158,7 @@ Presence PathLookup::presenceOf(const QString &path)
         current += u'/' + *found;
     }
     // A path that ends in a separator can only name a folder. A link can be broken.
-    return presenceAt(relative.endsWith(u'/') ? current + u'/' : current);
+    return presenceAt(relative.endsWith(u'/') ? current + u'/' : current, m_readFailures);
 }
 
 } // namespace platform

@@ -1,6 +1,8 @@
 #include "unix/wineprefix.h"
 
+#include "placenotes_p.h"
 #include "registry_p.h"
+#include "unix/openfolder.h"
 #include "unix/registryfile.h"
 
 #include <QDir>
@@ -15,7 +17,6 @@
 #include <tuple>
 #include <utility>
 
-#include <fcntl.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -26,9 +27,35 @@ namespace platform::wineprefix {
 
 namespace {
 
-QString pathIfFolder(const QString &path)
+// Whether there is a folder. If that cannot be determined, it is noted.
+bool isFolder(const QString &path)
 {
-    return QFileInfo(path).isDir() ? path : QString();
+    struct stat status {
+    };
+    if (::stat(QFile::encodeName(path).constData(), &status) == 0)
+        return S_ISDIR(status.st_mode);
+    if (!meansMissing(errno))
+        placenotes::add(path, reasonOf(errno));
+    return false;
+}
+
+// The path without links. If it cannot be determined, the caller learns of it or it is noted.
+QString resolved(const QString &path, QString *problem = nullptr)
+{
+    QString error;
+    const QString target = pathWithoutLinks(path, error);
+    if (!error.isEmpty()) {
+        if (problem)
+            *problem = error;
+        else
+            placenotes::add(path, error);
+    }
+    return target;
+}
+
+QString driveLink(const QString &prefix, QChar letter)
+{
+    return prefix + "/dosdevices/"_L1 + letter.toLower() + u':';
 }
 
 QString userName()
@@ -94,46 +121,69 @@ public:
     QString text(const QString &key, const QString &name)
     {
         const QMutexLocker locker(&m_mutex);
-        const QByteArray path = QFile::encodeName(folder() + m_hive);
-        struct stat status {
-        };
-        // Opening a pipe would wait for a writer.
-        if (::stat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
-            return {};
-        const Stamp stamp{path,           status.st_dev,         status.st_ino,
-                          status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
-        if (m_stamp != stamp) {
-            m_texts = read(QFile::decodeName(path));
-            m_stamp = stamp;
-        }
-        return m_texts.value({key, name});
+        update();
+        return m_isPathKnown ? m_texts.value({key, name}) : QString();
     }
+
+    /// Why the file cannot be read; empty when it can, and when there is none.
+    QString error()
+    {
+        const QMutexLocker locker(&m_mutex);
+        update();
+        return m_error;
+    }
+
+    QString path() const { return folder() + m_hive; }
 
 private:
     using Stamp = std::tuple<QByteArray, dev_t, ino_t, off_t, time_t, long>;
 
-    [[nodiscard]] QHash<KeyAndName, QString> read(const QString &path) const
+    void update()
     {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        QHash<KeyAndName, QString> texts;
-        const std::optional<RegistryFile> registry = RegistryFile::parse(file.readAll());
+        const placenotes::Watch watch;
+        const QString file = path();
+        if (watch.sawFailure()) {
+            // It is another path than that of the file. What is known of the file stays known.
+            m_isPathKnown = false;
+            return;
+        }
+        m_isPathKnown = true;
+        const QByteArray encoded = QFile::encodeName(file);
+        struct stat status {
+        };
+        const bool exists = ::stat(encoded.constData(), &status) == 0;
+        const Stamp stamp{encoded,        status.st_dev,         status.st_ino,
+                          status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+        if (exists && m_stamp == stamp) {
+            if (!m_error.isEmpty())
+                placenotes::add(file, m_error);
+            return;
+        }
+        m_texts.clear();
+        bool isDamaged = false;
+        const std::optional<RegistryFile> registry = RegistryFile::read(file, m_error, &isDamaged);
+        // A failure of the system may be over soon, a damaged file stays so until it changes.
+        m_stamp = m_error.isEmpty() || isDamaged ? std::optional(stamp) : std::nullopt;
         for (const auto &[key, name] : m_entries) {
             const RegistryFile::Key found = registry ? registry->find(key) : RegistryFile::none;
-            const auto value =
-                found == RegistryFile::none ? std::nullopt : registry->value(found, name);
-            if (value)
-                texts.insert({key, name}, registryText(*value));
+            if (found == RegistryFile::none)
+                continue;
+            if (registry->hasUnreadableValues(found))
+                m_error = RegistryTexts::tr("It is damaged");
+            if (const std::optional<RegistryValue> value = registry->value(found, name))
+                m_texts.insert({key, name}, registryText(*value));
         }
-        return texts;
+        if (!m_error.isEmpty())
+            placenotes::add(file, m_error);
     }
 
     const QString m_hive;
     const QList<KeyAndName> m_entries;
     QMutex m_mutex;
     std::optional<Stamp> m_stamp;
+    bool m_isPathKnown = false;
     QHash<KeyAndName, QString> m_texts;
+    QString m_error;
 };
 
 HiveTexts &userTexts()
@@ -144,13 +194,24 @@ HiveTexts &userTexts()
     return texts;
 }
 
+HiveTexts &machineTexts()
+{
+    static HiveTexts texts("/system.reg"_L1,
+                           combine(QStringList{machineEnvironmentKey}, environmentNames));
+    return texts;
+}
+
 // A variable that the prefix's registry defines: the user's value, else the machine's.
 QString environmentValue(const QString &name)
 {
-    static HiveTexts machineTexts("/system.reg"_L1,
-                                  combine(QStringList{machineEnvironmentKey}, environmentNames));
     const QString text = userTexts().text(environmentKey, name);
-    return text.isEmpty() ? machineTexts.text(machineEnvironmentKey, name) : text;
+    return text.isEmpty() ? machineTexts().text(machineEnvironmentKey, name) : text;
+}
+
+bool isRegistryReadable()
+{
+    return folder().isEmpty()
+        || (userTexts().error().isEmpty() && machineTexts().error().isEmpty());
 }
 
 // The Windows name of a folder below the C: drive; empty for other folders.
@@ -219,20 +280,30 @@ std::optional<QString> expanded(const QString &text)
 
 } // namespace
 
-QString folder()
+QString requestedFolder()
 {
-    QString path = qEnvironmentVariable("WINEPREFIX");
-    if (path.isEmpty())
-        path = QDir::homePath() + "/.wine"_L1;
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    return canonical.isEmpty() || pathIfFolder(canonical + "/drive_c"_L1).isEmpty() ? QString()
-                                                                                    : canonical;
+    const QString path = qEnvironmentVariable("WINEPREFIX");
+    return path.isEmpty() ? QDir::homePath() + "/.wine"_L1 : path;
+}
+
+QString folder(QString *problem)
+{
+    const QString prefix = resolved(requestedFolder(), problem);
+    // With the separator, a file is not found.
+    return prefix.isEmpty() || resolved(prefix + "/drive_c/"_L1, problem).isEmpty() ? QString()
+                                                                                    : prefix;
+}
+
+void checkFolders()
+{
+    (void)isRegistryReadable();
+    (void)userFolder();
 }
 
 QString systemDrive()
 {
     const QString prefix = folder();
-    return prefix.isEmpty() ? QString() : QFileInfo(prefix + "/drive_c"_L1).canonicalFilePath();
+    return prefix.isEmpty() ? QString() : resolved(prefix + "/drive_c"_L1);
 }
 
 QString userFolder()
@@ -241,14 +312,18 @@ QString userFolder()
     if (drive.isEmpty())
         return {};
     const QString users = matchCase(drive, u"users"_s);
-    const QString own = pathIfFolder(matchCase(users, userName()));
-    if (!own.isEmpty() && own != users)
+    if (const QString own = matchCase(users, userName()); own != users && isFolder(own))
         return own;
     // Another user made the prefix. The profile is clear if there is only one beside the public
     // one.
-    QStringList profiles = QDir(users).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    profiles.removeIf(
-        [](const QString &name) { return name.compare("Public"_L1, Qt::CaseInsensitive) == 0; });
+    QString error;
+    QStringList profiles = namesInFolder(users, error).value_or(QStringList());
+    if (!error.isEmpty() && isFolder(users))
+        placenotes::add(users, error);
+    profiles.removeIf([&users](const QString &name) {
+        return name.compare("Public"_L1, Qt::CaseInsensitive) == 0 || name.startsWith(u'.')
+            || !isFolder(users + u'/' + name);
+    });
     return profiles.size() == 1 ? users + u'/' + profiles.constFirst() : QString();
 }
 
@@ -257,6 +332,8 @@ std::optional<QString> variable(const QString &name)
     if (folder().isEmpty())
         return {};
     if (name == "TEMP"_L1 || name == "TMP"_L1) {
+        if (!isRegistryReadable())
+            return {}; // it may name another folder than the default one
         const QString inRegistry = environmentValue(name);
         return expanded(inRegistry.isEmpty() ? u"%LOCALAPPDATA%\\Temp"_s : inRegistry);
     }
@@ -272,6 +349,8 @@ QString temporaryFolder()
         if (const QString local = path ? localPath(*path) : QString(); !local.isEmpty())
             return local;
     }
+    if (!isRegistryReadable())
+        return {};
     const std::optional<QString> defaultFolder = expanded(u"%LOCALAPPDATA%\\Temp"_s);
     return defaultFolder ? localPath(*defaultFolder) : QString();
 }
@@ -296,20 +375,27 @@ QStringList personalFolders()
     return folders;
 }
 
-QString drive(QChar letter)
+QString drive(QChar letter, QString *problem)
 {
-    const QString prefix = folder();
+    const QString prefix = folder(problem);
     if (prefix.isEmpty())
         return {};
-    return QFileInfo(prefix + "/dosdevices/"_L1 + letter.toLower() + u':').canonicalFilePath();
+    return resolved(driveLink(prefix, letter), problem);
 }
 
 QStringList drives()
 {
+    const QString prefix = folder();
+    if (prefix.isEmpty())
+        return {};
     QStringList folders;
     for (char letter = 'a'; letter <= 'z'; ++letter) {
-        if (const QString target = drive(QLatin1Char(letter)); !target.isEmpty())
+        const QString link = driveLink(prefix, QLatin1Char(letter));
+        QString error;
+        if (const QString target = reachablePath(link, error); !target.isEmpty())
             folders.append(target);
+        if (!error.isEmpty())
+            placenotes::add(link, error);
     }
     return folders;
 }
@@ -323,19 +409,19 @@ QString matchCase(const QString &base, const QString &relative, QString *problem
         const QFileInfo info(exact);
         QString found = name;
         if (!info.exists() && !info.isSymLink()) {
-            const QStringList entries = QDir(path).entryList(QDir::AllEntries | QDir::Hidden
-                                                             | QDir::System | QDir::NoDotAndDotDot);
+            QString error;
+            const QStringList entries = namesInFolder(path, error).value_or(QStringList());
             for (const QString &entry : entries) {
                 if (entry.compare(name, Qt::CaseInsensitive) == 0) {
                     found = entry;
                     break;
                 }
             }
-            if (problem && problem->isEmpty() && QFileInfo(path).isDir()
-                && ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), R_OK | X_OK,
-                               AT_EACCESS)
-                    != 0)
-                *problem = qt_error_string(errno);
+            if (!error.isEmpty() && isFolder(path)) {
+                placenotes::add(path, error);
+                if (problem)
+                    *problem = error;
+            }
         }
         path += u'/' + found;
     }

@@ -7,10 +7,19 @@
 
 /// The Wine prefix, which provides the C: drive and the registry on this system. It is WINEPREFIX,
 /// else ~/.wine.
+///
+/// What these functions cannot read is noted, see placenotes. They then tell less than they could.
 namespace platform::wineprefix {
 
-/// The prefix folder without links. Empty when there is no prefix with a C: drive.
-[[nodiscard]] QString folder();
+/// The folder that the environment names for the prefix, whether there is one or not.
+[[nodiscard]] QString requestedFolder();
+
+/// The prefix folder without links. Empty when there is no prefix with a C: drive, and when that
+/// cannot be determined; then @p problem says why, for people.
+[[nodiscard]] QString folder(QString *problem = nullptr);
+
+/// Looks at what every folder is found from: the prefix, its users, its registry.
+void checkFolders();
 
 /// The folder of the C: drive; empty without a prefix.
 [[nodiscard]] QString systemDrive();
@@ -20,7 +29,7 @@ namespace platform::wineprefix {
 [[nodiscard]] QString userFolder();
 
 /// The temporary folder of the prefix's programs, from its registry. Empty without a prefix, or
-/// when it cannot be determined.
+/// when it cannot be determined, for instance because the registry cannot be read.
 [[nodiscard]] QString temporaryFolder();
 
 /// The folders of documents, pictures and other personal files, from the prefix's registry. Folders
@@ -31,10 +40,12 @@ namespace platform::wineprefix {
 /// prefix, or when the prefix does not tell it.
 [[nodiscard]] std::optional<QString> variable(const QString &name);
 
-/// The target of the drive @p letter, without links. Empty when the prefix has no such drive.
-[[nodiscard]] QString drive(QChar letter);
+/// The target of the drive @p letter, without links. Empty when the prefix has no such drive, and
+/// when its link cannot be read; then @p problem says why, for people.
+[[nodiscard]] QString drive(QChar letter, QString *problem = nullptr);
 
-/// The targets of the prefix's drives, without links. Drives that lead nowhere are left out.
+/// The targets of the prefix's drives, each a reachablePath(). Drives that lead nowhere are left
+/// out.
 [[nodiscard]] QStringList drives();
 
 /// The place of a path that begins with a drive, such as "C:\Temp". Names are found regardless of

@@ -1,6 +1,7 @@
 #include "rulefolders.h"
 #include "rulefolders_p.h"
 
+#include "placenotes_p.h"
 #include "windows/openentry.h"
 
 #include <QCoreApplication>
@@ -86,18 +87,20 @@ QString systemDrive()
     return fromEnvironment("SYSTEMDRIVE", u"C:"_s);
 }
 
+// The environment names the folders. What is noted concerns the protected places.
+ReadFailures folderFailures()
+{
+    return placenotes::take();
+}
+
 QString settingsFolder()
 {
     return roamingDataFolder();
 }
 
-QString problemWith(const QString &path)
+QString settingsKey()
 {
-    const QString extended = extendedPath(path);
-    if (extended.isEmpty() || openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow).isValid()
-        || isMissing(::GetLastError()))
-        return {};
-    return reasonOf(::GetLastError());
+    return u"HKEY_CURRENT_USER\\Software"_s;
 }
 
 // A drive without a slash means its root here. For the system it would be the drive's current
@@ -126,19 +129,24 @@ QString storedPath(const QString &folder, const QStringList &names, QString *)
     return path;
 }
 
-QString canonicalPath(const QString &path)
+QString canonicalPath(const QString &path, QString *problem)
 {
     const QString extended = extendedPath(path);
     if (extended.isEmpty())
         return {};
     const UniqueHandle entry = openEntry(extended, FILE_READ_ATTRIBUTES, Links::Follow);
-    if (!entry.isValid())
+    if (!entry.isValid()) {
+        if (problem && !isMissing(::GetLastError()))
+            *problem = reasonOf(::GetLastError());
         return {};
+    }
     const QString canonical = finalPath(entry, PathForm::Drive);
     // The system may know a volume by a name that cannot begin a path.
-    if (canonical.isEmpty() || !openEntry(canonical, FILE_READ_ATTRIBUTES, Links::Follow).isValid())
-        return {};
-    return plainPath(canonical);
+    if (!canonical.isEmpty() && openEntry(canonical, FILE_READ_ATTRIBUTES, Links::Follow).isValid())
+        return plainPath(canonical);
+    if (problem)
+        *problem = reasonOf(::GetLastError());
+    return {};
 }
 
 bool isRoot(const QString &path)

@@ -34,7 +34,8 @@ Presence PathLookup::presenceOf(const QString &path)
     if (::GetFileAttributesW(reinterpret_cast<const wchar_t *>(extended.utf16()))
         != INVALID_FILE_ATTRIBUTES)
         return Presence::Present;
-    switch (::GetLastError()) {
+    const DWORD error = ::GetLastError();
+    switch (error) {
     case ERROR_FILE_NOT_FOUND:
     case ERROR_PATH_NOT_FOUND:
     case ERROR_INVALID_NAME:
@@ -42,6 +43,7 @@ Presence PathLookup::presenceOf(const QString &path)
     case ERROR_INVALID_DRIVE:
         return Presence::Missing;
     default:
+        m_readFailures.add(path, reasonOf(error));
         return Presence::Unknown;
     }
 }

@@ -1,17 +1,19 @@
 #include "registry_p.h"
 
 #include "filesync.h"
+#include "unix/openfolder.h"
 #include "unix/registryfile.h"
 #include "unix/registrytext.h"
 #include "unix/wineprefix.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QSaveFile>
 #include <QSet>
 
 #include <algorithm>
+#include <cerrno>
+#include <utility>
 
 #include <sys/stat.h>
 
@@ -35,13 +37,11 @@ struct Stamp {
     }
 };
 
-Stamp stampOf(const QString &path)
+// If the file cannot be examined, @p error says why.
+Stamp stampOf(const QString &path, QString &error)
 {
-    struct stat data {
-    };
-    if (::stat(QFile::encodeName(path).constData(), &data) != 0)
-        return {};
-    return {true, data.st_ino, data.st_size, data.st_mtim};
+    const std::optional<FileStatus> status = examineFile(path, error);
+    return status ? Stamp{true, status->st_ino, status->st_size, status->st_mtim} : Stamp{};
 }
 
 /// One registry file of the prefix as it was read. The Registry owns it.
@@ -54,41 +54,49 @@ struct HiveFile {
 
 HiveFile readHive(const QString &path)
 {
-    HiveFile hive;
-    hive.path = path;
-    hive.stamp = stampOf(path);
-    QFile file(path);
-    if (!file.exists())
-        return hive;
-    if (!file.open(QIODevice::ReadOnly)) {
-        hive.error = RegistryTexts::tr("%1 cannot be read: %2").arg(path, file.errorString());
-        return hive;
-    }
-    const QByteArray text = file.readAll();
-    // A file that was read in part would be written back as a whole.
-    if (file.error() != QFileDevice::NoError || text.size() != hive.stamp.size) {
-        hive.error = RegistryTexts::tr("%1 cannot be read: %2").arg(path, file.errorString());
-        return hive;
-    }
-    hive.content = RegistryFile::parse(text);
-    if (!hive.content)
-        hive.error = RegistryTexts::tr("%1 is not a registry file").arg(path);
+    HiveFile hive{path, {}, {}, {}};
+    hive.stamp = stampOf(path, hive.error);
+    if (hive.error.isEmpty())
+        hive.content = RegistryFile::read(path, hive.error);
     return hive;
 }
 
 // Wine's server works in a folder with the prefix's device and file number in its name.
-bool isPrefixInUse(const QString &prefix)
+// Nothing if that cannot be determined; @p error then says why.
+std::optional<bool> isPrefixInUse(const QString &prefix, QString &error)
 {
     struct stat data {
     };
-    if (::stat(QFile::encodeName(prefix).constData(), &data) != 0)
-        return false;
+    if (::stat(QFile::encodeName(prefix).constData(), &data) != 0) {
+        error = reasonOf(errno);
+        return {};
+    }
+    const std::optional<QStringList> processes = namesInFolder(u"/proc"_s, error);
+    if (!processes)
+        return {};
+    // The folder is empty when the list is not there.
+    if (!processes->contains(QString::number(QCoreApplication::applicationPid()))) {
+        error = reasonOf(ENODEV);
+        return {};
+    }
     const QString name =
         u"/server-%1-%2"_s.arg(QString::number(data.st_dev, 16), QString::number(data.st_ino, 16));
-    const QStringList processes = QDir(u"/proc"_s).entryList({u"[1-9]*"_s}, QDir::Dirs);
-    return std::any_of(processes.begin(), processes.end(), [&name](const QString &process) {
-        return QFile::symLinkTarget("/proc/"_L1 + process + "/cwd"_L1).endsWith(name);
-    });
+    for (const QString &process : *processes) {
+        if (!process.at(0).isDigit())
+            continue;
+        const QByteArray target = readLink("/proc/" + process.toLatin1() + "/cwd");
+        if (QFile::decodeName(target).endsWith(name))
+            return true;
+        // A process that has ended, or is of another user, or works in a much longer folder. Wine's
+        // server for this prefix is the user's.
+        const bool isForeign =
+            errno == ENOENT || errno == ESRCH || errno == EACCES || errno == ENAMETOOLONG;
+        if (target.isEmpty() && !isForeign) {
+            error = reasonOf(errno);
+            return {};
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -101,9 +109,12 @@ public:
     struct Place {
         RegistryFile *file = nullptr;
         RegistryFile::Key key = RegistryFile::none;
+        QString path = {}; ///< of the file
     };
 
     [[nodiscard]] QList<Place> places(Hive hive, const QString &key);
+    /// The same, to read values.
+    [[nodiscard]] QList<Place> placesOfValues(Hive hive, const QString &key);
     [[nodiscard]] HiveFile &file(Hive hive);
     /// The place for a change of an existing key. Without a file or key it is empty and the error
     /// is set.
@@ -112,6 +123,12 @@ public:
     {
         error = message;
         return false;
+    }
+    bool refuseUnread(const HiveFile &hive)
+    {
+        return refuse(hive.error.isEmpty()
+                          ? RegistryTexts::tr("There is no registry")
+                          : RegistryTexts::tr("%1 cannot be read: %2").arg(hive.path, hive.error));
     }
     bool isAllowed(Hive hive, const QString &key)
     {
@@ -123,6 +140,7 @@ public:
 
     QString error;
     QList<Hive> saved;
+    ReadFailures readFailures;
 
 private:
     std::optional<HiveFile> m_machine;
@@ -134,9 +152,15 @@ HiveFile &Registry::Private::file(Hive hive)
     const bool isUser = hive == Hive::CurrentUser;
     std::optional<HiveFile> &file = isUser ? m_user : m_machine;
     if (!file) {
-        const QString prefix = wineprefix::folder();
-        file = prefix.isEmpty() ? HiveFile()
-                                : readHive(prefix + (isUser ? "/user.reg"_L1 : "/system.reg"_L1));
+        QString problem;
+        const QString prefix = wineprefix::folder(&problem);
+        const QString path = prefix + (isUser ? "/user.reg"_L1 : "/system.reg"_L1);
+        if (!problem.isEmpty())
+            file = HiveFile{wineprefix::requestedFolder(), {}, {}, problem};
+        else
+            file = prefix.isEmpty() ? HiveFile() : readHive(path);
+        if (!file->error.isEmpty())
+            readFailures.add(file->path, file->error);
     }
     return *file;
 }
@@ -149,7 +173,7 @@ QList<Registry::Private::Place> Registry::Private::places(Hive hive, const QStri
         const RegistryFile::Key place =
             content.content ? content.content->find(path) : RegistryFile::none;
         if (place != RegistryFile::none)
-            found.append({&*content.content, place});
+            found.append({&*content.content, place, content.path});
     };
     if (hive == Hive::ClassesRoot) {
         add(Hive::CurrentUser, classPath(key));
@@ -160,13 +184,27 @@ QList<Registry::Private::Place> Registry::Private::places(Hive hive, const QStri
     return found;
 }
 
+QList<Registry::Private::Place> Registry::Private::placesOfValues(Hive hive, const QString &key)
+{
+    const QList<Place> found = places(hive, key);
+    for (const Place &place : found) {
+        if (place.file->hasUnreadableValues(place.key))
+            readFailures.add(place.path, RegistryTexts::tr("It is damaged"));
+    }
+    return found;
+}
+
 Registry::Private::Place Registry::Private::placeToChange(Hive hive, const QString &key)
 {
     if (!isAllowed(hive, key))
         return {};
     const QList<Place> found = places(hive, key);
     if (found.isEmpty()) {
-        error = RegistryTexts::tr("There is no such key");
+        const HiveFile &content = file(hive);
+        if (content.error.isEmpty())
+            error = RegistryTexts::tr("There is no such key");
+        else
+            refuseUnread(content);
         return {};
     }
     if (found.constFirst().file->isLink(found.constFirst().key)) {
@@ -212,7 +250,7 @@ QStringList Registry::subkeys(Hive hive, const QString &key) const
 
 QStringList Registry::valueNames(Hive hive, const QString &key) const
 {
-    const QList<Private::Place> places = d->places(hive, key);
+    const QList<Private::Place> places = d->placesOfValues(hive, key);
     if (places.size() == 1)
         return places.constFirst().file->valueNames(places.constFirst().key);
     QStringList names;
@@ -231,7 +269,7 @@ QStringList Registry::valueNames(Hive hive, const QString &key) const
 std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
                                              const QString &name) const
 {
-    for (const Private::Place &place : d->places(hive, key)) {
+    for (const Private::Place &place : d->placesOfValues(hive, key)) {
         if (std::optional<RegistryValue> found = place.file->value(place.key, name))
             return found;
     }
@@ -265,7 +303,7 @@ bool Registry::deleteKey(Hive hive, const QString &key)
     const Private::Place place = d->placeToChange(hive, key);
     if (!place.file)
         return false;
-    if (!place.file->subkeys(place.key).isEmpty())
+    if (place.file->hasSubkeys(place.key))
         return d->refuse(RegistryTexts::tr("There are keys below it"));
     place.file->removeTree(place.key);
     return true;
@@ -288,13 +326,9 @@ bool Registry::createKey(Hive hive, const QString &key)
         return true;
     HiveFile &file = d->file(hive);
     if (!file.content)
-        return d->refuse(file.error.isEmpty() ? RegistryTexts::tr("There is no registry")
-                                              : file.error);
-    for (qsizetype end = key.indexOf(u'\\'); end >= 0; end = key.indexOf(u'\\', end + 1)) {
-        const RegistryFile::Key above = file.content->find(key.first(end));
-        if (above != RegistryFile::none && file.content->isLink(above))
-            return d->refuse(RegistryTexts::tr("The key is a link to another one"));
-    }
+        return d->refuseUnread(file);
+    if (file.content->leadsThroughLink(key))
+        return d->refuse(RegistryTexts::tr("The key is a link to another one"));
     file.content->create(key);
     return true;
 }
@@ -326,7 +360,9 @@ bool Registry::save()
     }
     // The kept contents no longer equal the files, so they are dropped.
     const auto finish = [this, &saved](const QString &error) {
+        ReadFailures failures = std::exchange(d->readFailures, {});
         *d = Private();
+        d->readFailures = std::move(failures);
         d->saved = saved;
         d->error = error;
         return error.isEmpty();
@@ -345,13 +381,21 @@ bool Registry::save()
                 RegistryTexts::tr("%1 cannot be written: %2").arg(change.file->path, error));
     }
     const QString prefix = wineprefix::folder();
-    if (isPrefixInUse(prefix))
+    QString problem;
+    const std::optional<bool> isInUse = isPrefixInUse(prefix, problem);
+    if (!isInUse)
+        return finish(RegistryTexts::tr("%1 cannot be read: %2").arg(prefix, problem));
+    if (*isInUse)
         return finish(
             RegistryTexts::tr(
                 "Windows programs are running in the Wine prefix %1; end them and try again")
                 .arg(prefix));
     for (const Change &change : changes) {
-        if (!(stampOf(change.file->path) == change.file->stamp))
+        const Stamp stamp = stampOf(change.file->path, problem);
+        if (!problem.isEmpty())
+            return finish(
+                RegistryTexts::tr("%1 cannot be read: %2").arg(change.file->path, problem));
+        if (!(stamp == change.file->stamp))
             return finish(RegistryTexts::tr("%1 was changed by another program; scan again")
                               .arg(change.file->path));
     }
@@ -361,9 +405,9 @@ bool Registry::save()
                               .arg(change.file->path, change.saver->errorString()));
         saved.append(change.hive);
     }
-    QString error;
-    if (!syncFolder(prefix, error))
-        return finish(RegistryTexts::tr("%1 cannot be written: %2").arg(prefix, error));
+    // The files are in their places. If this fails, a power cut may bring the old ones back whole.
+    QString ignored;
+    (void)syncFolder(prefix, ignored);
     return finish({});
 }
 
@@ -377,6 +421,11 @@ QString Registry::errorString() const
     return d->error;
 }
 
+const ReadFailures &Registry::readFailures() const
+{
+    return d->readFailures;
+}
+
 bool isRegistryFile(const QString &path)
 {
     struct stat status {
@@ -384,7 +433,11 @@ bool isRegistryFile(const QString &path)
     const bool exists = ::stat(QFile::encodeName(path).constData(), &status) == 0;
     if (exists && S_ISREG(status.st_mode) && beginsAsRegistryFile(path))
         return true;
-    const QString prefix = wineprefix::folder();
+    QString problem;
+    const QString prefix = wineprefix::folder(&problem);
+    // It may be one.
+    if (!problem.isEmpty())
+        return true;
     if (prefix.isEmpty())
         return false;
     for (const QLatin1StringView name : {"/system.reg"_L1, "/user.reg"_L1, "/userdef.reg"_L1}) {

@@ -1,10 +1,16 @@
 #include "unix/registryfile.h"
 
+#include "readfile.h"
+#include "registry_p.h"
+#include "unix/openfolder.h"
 #include "unix/registrytext.h"
 
 #include <QDateTime>
+#include <QFile>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +19,8 @@ namespace platform {
 using namespace registrytext;
 
 namespace {
+
+constexpr qint64 maximumSize = 1 << 30; // bytes; the largest known ones have some ten million
 
 // The start of the next section at or after @p from, which is the start of a line.
 qsizetype nextSection(const QByteArray &text, qsizetype from)
@@ -49,6 +57,35 @@ qsizetype valueStart(QByteArrayView line, QString &name)
     return length + 2;
 }
 
+/// What the beginnings and ends of the lines in a section's body tell. Whether a value can be
+/// decoded shows when it is asked for.
+struct BodyOutline {
+    /// Each line begins like a value, the continuation of one, a remark or an empty line, and no
+    /// value lacks its continuation: that would swallow the line that is written behind it.
+    bool isPlausible = true;
+    bool isLink = false; ///< the key is a symbolic link
+};
+
+BodyOutline outlineOf(const QByteArray &body)
+{
+    BodyOutline outline;
+    bool isContinued = false; // the line is one of a value that began above
+    for (qsizetype at = 0; at < body.size();) {
+        const qsizetype end = lineEnd(body, at);
+        const QByteArrayView line = QByteArrayView(body).sliced(at, end - at).trimmed();
+        const char first = body.at(at);
+        const bool isIndented = (first == ' ' || first == '\t') && !line.isEmpty();
+        if (!std::strchr("\"@ \t#;\r\n", first) || (isContinued && !isIndented))
+            outline.isPlausible = false;
+        outline.isLink = outline.isLink || (first == '#' && line == "#link");
+        const bool isHex = (first == '"' || first == '@') && line.contains("=hex");
+        isContinued = (isHex || (isContinued && isIndented)) && line.endsWith('\\');
+        at = end;
+    }
+    outline.isPlausible = outline.isPlausible && !isContinued;
+    return outline;
+}
+
 QByteArray sectionHead(const QString &path)
 {
     return '[' + encodeName(path, "[]") + "] "
@@ -65,6 +102,28 @@ std::optional<RegistryFile> RegistryFile::parse(const QByteArray &text)
     file.m_text = text;
     file.indexSections();
     return file;
+}
+
+std::optional<RegistryFile> RegistryFile::read(const QString &path, QString &error, bool *isDamaged)
+{
+    error.clear();
+    const std::optional<FileStatus> status = examineFile(path, error);
+    if (!status)
+        return std::nullopt;
+    // A file that was read in part would be written back as a whole, so readFile() gives all or
+    // nothing.
+    const std::optional<QByteArray> text =
+        S_ISREG(status->st_mode) ? readFile(path, maximumSize, error) : QByteArray();
+    if (!text)
+        return std::nullopt;
+    std::optional<RegistryFile> content = parse(*text);
+    if (!content)
+        error = RegistryTexts::tr("It is not a registry file");
+    else if (!text->endsWith('\n') || text->contains('\0') || content->isDamaged())
+        error = RegistryTexts::tr("It is damaged");
+    if (isDamaged)
+        *isDamaged = !error.isEmpty();
+    return error.isEmpty() ? std::move(content) : std::nullopt;
 }
 
 void RegistryFile::indexSections()
@@ -85,19 +144,17 @@ void RegistryFile::addSection(const QByteArray &head, const QByteArray &body)
     Section section{none, head, body};
     qsizetype length = 0;
     const std::optional<QString> path = decodeName(QByteArrayView(head).sliced(1), ']', length);
+    const BodyOutline outline = outlineOf(body);
+    m_isDamaged = m_isDamaged || !path || !outline.isPlausible;
     if (path) {
         Key key = root;
         const QStringList names = path->split(u'\\', Qt::SkipEmptyParts);
         for (const QString &name : names) {
             const Key child = childOf(key, name);
-            key = child == none ? addChild(key, name, false) : child;
+            key = child == none ? addChild(key, name) : child;
         }
         node(key).sections.push_back(static_cast<qsizetype>(m_sections.size()));
-        // The lines that describe the key itself come first.
-        for (qsizetype at = 0; at < body.size() && body.at(at) == '#'; at = lineEnd(body, at)) {
-            if (slice(body, at, lineEnd(body, at)).trimmed() == "#link")
-                node(key).isLink = true;
-        }
+        node(key).isLink = node(key).isLink || outline.isLink;
         section.key = key;
     }
     m_sections.push_back(section);
@@ -108,23 +165,15 @@ RegistryFile::Key RegistryFile::childOf(Key parent, const QString &name) const
     return m_children.value({parent, folded(name)}, none);
 }
 
-// A file lists the keys in the registry's order. A key that is created here is inserted in sorted
-// order.
-RegistryFile::Key RegistryFile::addChild(Key parent, const QString &name, bool isSorted)
+RegistryFile::Key RegistryFile::addChild(Key parent, const QString &name)
 {
     const auto key = static_cast<Key>(m_nodes.size());
-    const QString foldedName = folded(name);
     m_nodes.emplace_back();
     node(key).name = name;
     node(key).parent = parent;
-    std::vector<Key> &children = node(parent).children;
-    auto position = children.end();
-    if (isSorted) {
-        position = std::find_if(children.begin(), children.end(),
-                                [&](Key child) { return folded(node(child).name) > foldedName; });
-    }
-    children.insert(position, key);
-    m_children.insert({parent, foldedName}, key);
+    node(parent).children.push_back(key);
+    ++node(parent).childCount;
+    m_children.insert({parent, folded(name)}, key);
     return key;
 }
 
@@ -145,18 +194,20 @@ RegistryFile::Key RegistryFile::find(const QString &path) const
 QStringList RegistryFile::subkeys(Key key) const
 {
     QStringList names;
-    names.reserve(static_cast<qsizetype>(node(key).children.size()));
-    for (const Key child : node(key).children)
-        names.append(node(child).name);
+    names.reserve(node(key).childCount);
+    for (const Key child : node(key).children) {
+        if (!node(child).isRemoved)
+            names.append(node(child).name);
+    }
     return names;
 }
 
-QList<RegistryFile::Line> &RegistryFile::lines(Key key) const
+RegistryFile::Lines &RegistryFile::lines(Key key) const
 {
     const Node &owner = node(key);
     if (owner.lines)
         return *owner.lines;
-    owner.lines.emplace();
+    Lines &result = owner.lines.emplace(Lines());
     for (const qsizetype index : owner.sections) {
         const QByteArray &body = m_sections[static_cast<size_t>(index)].body;
         for (qsizetype at = 0; at < body.size();) {
@@ -170,31 +221,39 @@ QList<RegistryFile::Line> &RegistryFile::lines(Key key) const
                     end = lineEnd(body, end);
                 line.isValue = decodeData(slice(body, at + line.dataStart, end)).has_value();
             }
+            const bool isMeant = body.at(at) == '"' || body.at(at) == '@';
+            result.hasUnreadableValues = result.hasUnreadableValues || (isMeant && !line.isValue);
             line.raw = slice(body, at, end);
-            owner.lines->append(line);
+            addLine(result, std::move(line));
             at = end;
         }
     }
-    indexValues(key);
-    return *owner.lines;
+    result.newBegin = static_cast<qsizetype>(result.all.size());
+    return result;
 }
 
-void RegistryFile::indexValues(Key key) const
+void RegistryFile::addLine(Lines &lines, Line &&line)
 {
-    const Node &owner = node(key);
-    owner.values.clear();
-    for (qsizetype i = 0; i < owner.lines->size(); ++i) {
-        if (owner.lines->at(i).isValue)
-            owner.values.insert(folded(owner.lines->at(i).name), i);
+    if (line.isValue) {
+        const auto index = static_cast<qsizetype>(lines.all.size());
+        const QString name = folded(line.name);
+        line.previous = lines.values.value(name, none);
+        lines.values.insert(name, index);
     }
+    lines.all.push_back(std::move(line));
+}
+
+bool RegistryFile::hasUnreadableValues(Key key) const
+{
+    return lines(key).hasUnreadableValues;
 }
 
 QStringList RegistryFile::valueNames(Key key) const
 {
     QStringList names;
     QSet<QString> seen;
-    for (const Line &line : std::as_const(lines(key))) {
-        if (!line.isValue)
+    for (const Line &line : std::as_const(lines(key).all)) {
+        if (!line.isValue || line.raw.isNull())
             continue;
         const QString name = folded(line.name);
         if (!seen.contains(name))
@@ -207,24 +266,23 @@ QStringList RegistryFile::valueNames(Key key) const
 // If a name occurs twice, the last line counts.
 std::optional<RegistryValue> RegistryFile::value(Key key, const QString &name) const
 {
-    const QList<Line> &all = lines(key);
-    const qsizetype found = node(key).values.value(folded(name), -1);
-    if (found < 0)
+    const Lines &all = lines(key);
+    const qsizetype found = all.values.value(folded(name), none);
+    if (found == none)
         return std::nullopt;
+    const Line &line = all.all[static_cast<size_t>(found)];
     std::optional<RegistryValue> value =
-        decodeData(QByteArrayView(all.at(found).raw).sliced(all.at(found).dataStart));
+        decodeData(QByteArrayView(line.raw).sliced(line.dataStart));
     if (value)
-        value->name = all.at(found).name;
+        value->name = line.name;
     return value;
 }
 
 void RegistryFile::removeTree(Key key)
 {
     const Key parent = node(key).parent;
-    std::vector<Key> &siblings = node(parent).children;
-    siblings.erase(std::find(siblings.begin(), siblings.end(), key));
     // The parent existed only because of this key.
-    if (siblings.empty() && node(parent).sections.empty() && parent != root)
+    if (--node(parent).childCount == 0 && node(parent).sections.empty() && parent != root)
         node(parent).needsSection = true;
     markRemoved(key);
     m_isChanged = true;
@@ -244,19 +302,34 @@ void RegistryFile::markRemoved(Key top)
 
 bool RegistryFile::removeValue(Key key, const QString &name)
 {
-    if (!value(key, name))
+    Lines &all = lines(key);
+    const QString foldedName = folded(name);
+    qsizetype index = all.values.value(foldedName, none);
+    if (index == none)
         return false;
-    removeLines(key, folded(name));
+    all.values.remove(foldedName);
+    while (index != none) {
+        Line &line = all.all[static_cast<size_t>(index)];
+        line.raw.clear();
+        index = line.previous;
+    }
+    node(key).isChanged = true;
+    m_isChanged = true;
     return true;
 }
 
-void RegistryFile::removeLines(Key key, const QString &name)
+bool RegistryFile::leadsThroughLink(const QString &path) const
 {
-    lines(key).removeIf(
-        [&](const Line &line) { return line.isValue && folded(line.name) == name; });
-    indexValues(key);
-    node(key).isChanged = true;
-    m_isChanged = true;
+    Key key = root;
+    const QStringList names = path.split(u'\\');
+    for (const QString &name : names) {
+        key = childOf(key, name);
+        if (key == none)
+            return false;
+        if (isLink(key))
+            return true;
+    }
+    return false;
 }
 
 RegistryFile::Key RegistryFile::create(const QString &path)
@@ -266,7 +339,7 @@ RegistryFile::Key RegistryFile::create(const QString &path)
     for (const QString &name : names) {
         Key child = childOf(key, name);
         if (child == none) {
-            child = addChild(key, name, true);
+            child = addChild(key, name);
             node(child).needsSection = true;
             m_isChanged = true;
         }
@@ -277,29 +350,29 @@ RegistryFile::Key RegistryFile::create(const QString &path)
 
 void RegistryFile::setValue(Key key, const RegistryValue &value)
 {
-    QList<Line> &all = lines(key);
+    Lines &all = lines(key);
     const QString foldedName = folded(value.name);
-    RegistryValue written = value;
-    // The new value goes behind the lines that describe the key itself. At the end of the section
-    // it could follow a broken line, which would take it for its continuation.
-    const auto isNoComment = [](const Line &line) { return !line.raw.startsWith('#'); };
-    auto position = std::find_if(all.cbegin(), all.cend(), isNoComment) - all.cbegin();
-    if (node(key).values.contains(foldedName)) {
-        const auto isSame = [&](const Line &line) {
-            return line.isValue && folded(line.name) == foldedName;
-        };
-        const auto old = std::find_if(all.cbegin(), all.cend(), isSame);
-        position = old - all.cbegin();
-        written.name = old->name;
-        removeLines(key, foldedName);
+    // The first line of the name is replaced, the others are removed.
+    qsizetype first = none;
+    for (qsizetype index = all.values.value(foldedName, none); index != none;
+         index = all.all[static_cast<size_t>(index)].previous) {
+        all.all[static_cast<size_t>(index)].raw.clear();
+        first = index;
     }
+    RegistryValue written = value;
+    if (first != none)
+        written.name = all.all[static_cast<size_t>(first)].name;
     Line line;
     line.isValue = true;
     line.name = written.name;
     line.raw = encodeValue(written);
     line.dataStart = valueStart(line.raw, line.name) + 1;
-    all.insert(position, line);
-    indexValues(key);
+    if (first != none) {
+        all.all[static_cast<size_t>(first)] = std::move(line);
+        all.values.insert(foldedName, first);
+    } else {
+        addLine(all, std::move(line));
+    }
     node(key).isChanged = true;
     m_isChanged = true;
 }
@@ -314,11 +387,22 @@ QString RegistryFile::path(Key key) const
 
 void RegistryFile::writeLines(Key key, QByteArray &text) const
 {
-    for (const Line &line : std::as_const(lines(key))) {
-        text += line.raw;
-        if (!text.endsWith('\n'))
-            text += '\n';
-    }
+    const Lines &all = lines(key);
+    const auto write = [&text](auto begin, auto end) {
+        for (auto line = begin; line != end; ++line) {
+            text += line->raw;
+            if (!text.endsWith('\n'))
+                text += '\n';
+        }
+    };
+    // The new values go behind the lines that describe the key itself. At the end of the section
+    // they could follow a broken line, which would take them for its continuation.
+    const auto newBegin = all.all.cbegin() + all.newBegin;
+    const auto described = std::find_if(all.all.cbegin(), newBegin,
+                                        [](const Line &line) { return !line.raw.startsWith('#'); });
+    write(all.all.cbegin(), described);
+    write(newBegin, all.all.cend());
+    write(described, newBegin);
 }
 
 QByteArray RegistryFile::text() const

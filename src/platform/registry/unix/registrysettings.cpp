@@ -38,6 +38,9 @@ bool remove(Hive hive, const QString &key, const QStringList &names, QString &er
         if (registry.value(hive, key, name) && !registry.deleteValue(hive, key, name))
             return fail(error, registry.errorString());
     }
+    // A value that could not be read may still be there.
+    if (!registry.readFailures().isEmpty())
+        return fail(error, registry.readFailures().lines().join(u'\n'));
     return registry.save() || fail(error, registry.errorString());
 }
 

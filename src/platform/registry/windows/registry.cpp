@@ -32,6 +32,7 @@ const wchar_t *wide(const QString &text)
 
 constexpr qsizetype longestValueName = 16384; ///< characters, its NUL included
 constexpr qsizetype longestKeyName = 256;
+constexpr int maxAttempts = 3; ///< to read a value that grows meanwhile
 
 /// Opens a key and closes it in the destructor. It is false when the key cannot be opened with the
 /// requested access; status then tells why. Lives on the stack of one call.
@@ -77,10 +78,19 @@ LSTATUS enumerate(HKEY key, DWORD index, std::vector<wchar_t> &name, std::vector
     return status;
 }
 
-// Whether the enumeration is over. A value that cannot be read is skipped.
-bool endsEnumeration(LSTATUS status)
+// Whether the status means that there is no such key or value.
+bool meansMissing(LSTATUS status)
 {
-    return status != ERROR_MORE_DATA && status != ERROR_ACCESS_DENIED;
+    switch (status) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_KEY_DELETED:
+    case ERROR_INVALID_NAME: // a name that no key can have
+    case ERROR_BAD_PATHNAME:
+        return true;
+    default:
+        return false;
+    }
 }
 
 // A call follows a link unless it says otherwise.
@@ -132,7 +142,26 @@ public:
         return !isLink(hive, key) || check(ERROR_ACCESS_DENIED);
     }
 
+    // Whether a reading of the key was successful. A missing key or value is no failure.
+    bool checkRead(LSTATUS status, Hive hive, const QString &key)
+    {
+        if (status != ERROR_SUCCESS && !meansMissing(status))
+            readFailures.add(hiveName(hive) + u'\\' + key,
+                             qt_error_string(static_cast<int>(status)));
+        return status == ERROR_SUCCESS;
+    }
+    // Whether an enumeration is over. A value that is too long for the buffer is skipped.
+    bool endsEnumeration(LSTATUS status, Hive hive, const QString &key)
+    {
+        if (status == ERROR_MORE_DATA)
+            return false;
+        if (status != ERROR_NO_MORE_ITEMS)
+            checkRead(status, hive, key);
+        return true;
+    }
+
     QString error;
+    ReadFailures readFailures;
 };
 
 Registry::Registry()
@@ -149,7 +178,7 @@ bool Registry::hasKey(Hive hive, const QString &key) const
     if (hive == Hive::ClassesRoot)
         return hasKey(Hive::CurrentUser, classPath(key))
             || hasKey(Hive::LocalMachine, classPath(key));
-    return bool(OpenKey(hive, key, KEY_READ));
+    return d->checkRead(OpenKey(hive, key, KEY_READ).status, hive, key);
 }
 
 QStringList Registry::subkeys(Hive hive, const QString &key) const
@@ -159,14 +188,14 @@ QStringList Registry::subkeys(Hive hive, const QString &key) const
                       subkeys(Hive::CurrentUser, classPath(key)));
     QStringList names;
     const OpenKey openKey(hive, key, KEY_READ);
-    if (!openKey)
+    if (!d->checkRead(openKey.status, hive, key))
         return names;
     std::array<wchar_t, longestKeyName> name{};
     for (DWORD index = 0;; ++index) {
         auto length = static_cast<DWORD>(name.size());
-        if (::RegEnumKeyExW(openKey.handle, index, name.data(), &length, nullptr, nullptr, nullptr,
-                            nullptr)
-            != ERROR_SUCCESS)
+        const LSTATUS status = ::RegEnumKeyExW(openKey.handle, index, name.data(), &length, nullptr,
+                                               nullptr, nullptr, nullptr);
+        if (status == ERROR_NO_MORE_ITEMS || !d->checkRead(status, hive, key))
             return names;
         names.append(QString::fromWCharArray(name.data(), static_cast<qsizetype>(length)));
     }
@@ -179,7 +208,7 @@ QStringList Registry::valueNames(Hive hive, const QString &key) const
                       valueNames(Hive::LocalMachine, classPath(key)));
     QStringList names;
     const OpenKey openKey(hive, key, KEY_READ);
-    if (!openKey)
+    if (!d->checkRead(openKey.status, hive, key))
         return names;
     std::vector<wchar_t> name(longestValueName);
     for (DWORD index = 0;; ++index) {
@@ -187,7 +216,7 @@ QStringList Registry::valueNames(Hive hive, const QString &key) const
         const LSTATUS status = enumerate(openKey.handle, index, name, nullptr, value);
         if (status == ERROR_SUCCESS)
             names.append(value.name);
-        else if (endsEnumeration(status))
+        else if (d->endsEnumeration(status, hive, key))
             return names;
     }
 }
@@ -200,18 +229,23 @@ std::optional<RegistryValue> Registry::value(Hive hive, const QString &key,
         return own ? own : value(Hive::LocalMachine, classPath(key), name);
     }
     const OpenKey openKey(hive, key, KEY_READ);
-    if (!openKey || name.contains(QChar(u'\0')))
+    if (!d->checkRead(openKey.status, hive, key) || name.contains(QChar(u'\0')))
         return std::nullopt;
     RegistryValue value{name, RegistryNone, {}};
     DWORD type = 0;
     DWORD size = 0;
     LSTATUS status = ::RegQueryValueExW(openKey.handle, wide(name), nullptr, &type, nullptr, &size);
-    if (status != ERROR_SUCCESS)
-        return std::nullopt;
-    value.data.fill('\0', static_cast<qsizetype>(size));
-    status = ::RegQueryValueExW(openKey.handle, wide(name), nullptr, &type,
-                                reinterpret_cast<BYTE *>(value.data.data()), &size);
-    if (status != ERROR_SUCCESS) // the value may have grown since its size was read
+    // The value may grow after its size was read.
+    for (int attempt = 0; attempt < maxAttempts; ++attempt) {
+        if (status != ERROR_SUCCESS && status != ERROR_MORE_DATA)
+            break;
+        value.data.fill('\0', static_cast<qsizetype>(size));
+        status = ::RegQueryValueExW(openKey.handle, wide(name), nullptr, &type,
+                                    reinterpret_cast<BYTE *>(value.data.data()), &size);
+        if (status == ERROR_SUCCESS)
+            break;
+    }
+    if (!d->checkRead(status, hive, key))
         return std::nullopt;
     value.data.truncate(static_cast<qsizetype>(size));
     value.type = type;
@@ -224,7 +258,7 @@ std::optional<QList<RegistryValue>> Registry::values(Hive hive, const QString &k
     if (hive == Hive::ClassesRoot) // no caller needs the values of both hives at once
         return std::nullopt;
     const OpenKey openKey(hive, key, KEY_READ);
-    if (!openKey)
+    if (!d->checkRead(openKey.status, hive, key))
         return std::nullopt;
     QList<RegistryValue> all;
     std::vector<wchar_t> name(longestValueName);
@@ -234,7 +268,7 @@ std::optional<QList<RegistryValue>> Registry::values(Hive hive, const QString &k
         const LSTATUS status = enumerate(openKey.handle, index, name, &data, value);
         if (status == ERROR_SUCCESS)
             all.append(value);
-        else if (endsEnumeration(status))
+        else if (d->endsEnumeration(status, hive, key))
             return all;
     }
 }
@@ -298,6 +332,11 @@ bool Registry::isSaved(Hive) const
 QString Registry::errorString() const
 {
     return d->error;
+}
+
+const ReadFailures &Registry::readFailures() const
+{
+    return d->readFailures;
 }
 
 // The system locks its files. Wine's server does not, and would overwrite a file that was put

@@ -74,6 +74,9 @@ bool remove(Hive hive, const QString &key, const QStringList &names, QString &er
         if (registry.value(hive, key, name))
             return fail(error, RegistryTexts::tr("The registry did not let go of the value"));
     }
+    // A value that could not be read may still be there.
+    if (!registry.readFailures().isEmpty())
+        return fail(error, registry.readFailures().lines().join(u'\n'));
     return true;
 }
 

@@ -1,7 +1,13 @@
 #include "processes.h"
 
-#include <QDir>
+#include "unix/openfolder.h"
+
+#include <QCoreApplication>
 #include <QFile>
+
+#include <cerrno>
+
+#include <fcntl.h>
 
 using namespace Qt::StringLiterals;
 
@@ -10,12 +16,21 @@ namespace platform {
 namespace {
 
 // The first word of the command line. For a Windows program under Wine it is its Windows path. The
-// kernel's own short name is not used, because it ends after 15 characters.
-QString programName(const QString &process)
+// kernel's own short name is not used, because it ends after 15 characters. Empty for a process
+// that has ended meanwhile or that the kernel hides; no value if it could not be read.
+std::optional<QString> programName(const QString &process)
 {
-    QFile commandLine(u"/proc/%1/cmdline"_s.arg(process));
-    if (!commandLine.open(QIODevice::ReadOnly))
+    const QByteArray path = "/proc/" + process.toLatin1() + "/cmdline";
+    UniqueFd fd(::open(path.constData(), O_RDONLY | O_CLOEXEC));
+    if (!fd.isValid()) {
+        const bool isGone = errno == ENOENT || errno == ESRCH;
+        return isGone || errno == EACCES || errno == EPERM ? std::optional(QString())
+                                                           : std::nullopt;
+    }
+    QFile commandLine;
+    if (!commandLine.open(fd.get(), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return {};
+    fd.release();
     const QByteArray all = commandLine.readAll();
     const QByteArray program = all.left(all.indexOf('\0'));
     const qsizetype folderEnd = qMax(program.lastIndexOf('/'), program.lastIndexOf('\\'));
@@ -24,16 +39,22 @@ QString programName(const QString &process)
 
 } // namespace
 
-QSet<QString> runningPrograms()
+std::optional<QSet<QString>> runningPrograms()
 {
+    QString error;
+    const std::optional<QStringList> entries = namesInFolder(u"/proc"_s, error);
+    // The folder is empty when the list is not there.
+    if (!entries || !entries->contains(QString::number(QCoreApplication::applicationPid())))
+        return {};
     QSet<QString> names;
-    const QStringList entries = QDir(u"/proc"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &entry : entries) {
+    for (const QString &entry : *entries) {
         if (!entry.at(0).isDigit())
             continue;
-        const QString name = programName(entry);
-        if (!name.isEmpty())
-            names.insert(name);
+        const std::optional<QString> name = programName(entry);
+        if (!name)
+            return {};
+        if (!name->isEmpty())
+            names.insert(*name);
     }
     return names;
 }

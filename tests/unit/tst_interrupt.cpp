@@ -1,0 +1,248 @@
+#include "appinfo.h"
+#include "companion.h"
+#include "registryfixture.h"
+#include "testhome.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int patience = 30'000; // milliseconds
+constexpr int fileCount = 1500;
+
+} // namespace
+
+/// The companion answers a request to end: it cancels, tells what was done and ends with the status
+/// of the signal.
+class TestInterrupt : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TestInterrupt(const TestHome &home)
+        : m_home(home)
+    {
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_temp = companion::fillTemporaryFolder(m_home);
+        for (int i = 0; i < fileCount; ++i)
+            companion::writeFile(m_temp, u"file%1"_s.arg(i), 10);
+    }
+
+    void aSignalCancelsAClean_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("status");
+        QTest::newRow("SIGINT") << SIGINT << 130;
+        QTest::newRow("SIGTERM") << SIGTERM << 143;
+        QTest::newRow("SIGHUP") << SIGHUP << 129;
+    }
+
+    void aSignalCancelsAClean()
+    {
+        QFETCH(int, signal);
+        QFETCH(int, status);
+        const qsizetype before = fileNames().size();
+        // Each removal takes a millisecond, so the clean takes seconds.
+        QProcess process;
+        start(process, {u"clean"_s, u"junk"_s, u"--yes"_s, u"--json"_s}, u"unlinkat:0::0:"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(fileNames().size() < before, patience);
+        send(process, signal);
+        QVERIFY(process.waitForFinished(patience));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), status);
+        const QJsonObject json = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+        QCOMPARE(json["cancelled"_L1], QJsonValue(true));
+        QCOMPARE(json["failedCount"_L1].toInt(-1), 0);
+        const qsizetype gone = before - fileNames().size();
+        QVERIFY(gone > 0);
+        QVERIFY(gone < before);
+        QCOMPARE(json["cleanedCount"_L1].toInt(), gone);
+    }
+
+    void theTextSaysThatTheRunWasCancelled()
+    {
+        const qsizetype before = fileNames().size();
+        QProcess process;
+        start(process, {u"clean"_s, u"junk"_s, u"--yes"_s}, u"unlinkat:0::0:"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(fileNames().size() < before, patience);
+        send(process, SIGINT);
+        QVERIFY(process.waitForFinished(patience));
+        const QByteArray output = process.readAllStandardOutput();
+        QVERIFY2(output.contains("Cancelled before the end."), output.constData());
+        QVERIFY(output.contains("Cleaned "));
+    }
+
+    void aSignalDuringTheScanCleansNothing_data()
+    {
+        QTest::addColumn<QStringList>("command");
+        QTest::newRow("scan") << QStringList{u"scan"_s, u"junk"_s};
+        QTest::newRow("clean") << QStringList{u"clean"_s, u"junk"_s, u"--yes"_s};
+        QTest::newRow("large files") << QStringList{u"large-files"_s, m_home.path()};
+    }
+
+    void aSignalDuringTheScanCleansNothing()
+    {
+        QFETCH(QStringList, command);
+        const QStringList before = fileNames();
+        QProcess process;
+        start(process, command + QStringList{u"--json"_s}, u"statx:0:file:0:"_s);
+        QTest::qWait(300); // the scan takes more than a second
+        QCOMPARE(process.state(), QProcess::Running);
+        QElapsedTimer sinceSignal;
+        sinceSignal.start();
+        send(process, SIGTERM);
+        QVERIFY(process.waitForFinished(patience));
+        QCOMPARE(process.exitCode(), 143);
+        const QJsonObject json = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+        QCOMPARE(json["cancelled"_L1], QJsonValue(true));
+        QCOMPARE(fileNames(), before);
+        QVERIFY(sinceSignal.elapsed() < 2000);
+    }
+
+    // The first signal waits for the removal in hand, which here never ends by itself.
+    void aSecondSignalEndsAtOnce()
+    {
+        const QStringList before = fileNames();
+        QProcess process;
+        start(process, {u"scan"_s, u"junk"_s}, u"statx:-1:file:0:"_s);
+        QTest::qWait(300);
+        QCOMPARE(process.state(), QProcess::Running);
+        send(process, SIGINT);
+        QTest::qWait(300);
+        QCOMPARE(process.state(), QProcess::Running);
+        send(process, SIGINT);
+        QVERIFY(process.waitForFinished(2000));
+        QCOMPARE(process.exitCode(), 130);
+        QCOMPARE(fileNames(), before);
+    }
+
+    // Shells and the kernel send it right behind another one when a terminal is closed.
+    void aHangUpIsNoSecondSignal_data()
+    {
+        QTest::addColumn<QList<int>>("signalNumbers");
+        QTest::addColumn<int>("status");
+        QTest::newRow("twice") << QList<int>{SIGHUP, SIGHUP} << 129;
+        QTest::newRow("after SIGTERM") << QList<int>{SIGTERM, SIGHUP} << 143;
+        QTest::newRow("before SIGTERM") << QList<int>{SIGHUP, SIGTERM} << 129;
+    }
+
+    void aHangUpIsNoSecondSignal()
+    {
+        QFETCH(QList<int>, signalNumbers);
+        QFETCH(int, status);
+        const qsizetype before = fileNames().size();
+        QProcess process;
+        start(process, {u"clean"_s, u"junk"_s, u"--yes"_s, u"--json"_s}, u"unlinkat:0::0:"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(fileNames().size() < before, patience);
+        for (const int number : signalNumbers) {
+            send(process, number);
+            QTest::qWait(5);
+        }
+        QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished(patience));
+        QCOMPARE(process.exitCode(), status);
+        const QJsonObject json = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+        QCOMPARE(json["cleanedCount"_L1].toInt(), before - fileNames().size());
+    }
+
+    // Nothing is half done then, so nothing has to be ended in good order.
+    void outsideARunASignalEndsAtOnce_data()
+    {
+        QTest::addColumn<QStringList>("command");
+        QTest::newRow("list") << QStringList{u"startup"_s, u"list"_s};
+        QTest::newRow("switch") << QStringList{u"startup"_s, u"disable"_s, u"Player"_s};
+    }
+
+    void outsideARunASignalEndsAtOnce()
+    {
+        QFETCH(QStringList, command);
+        QProcess process;
+        start(process, command, u"realpath:-1::0:"_s);
+        QTest::qWait(300);
+        QCOMPARE(process.state(), QProcess::Running);
+        send(process, SIGINT);
+        QVERIFY(process.waitForFinished(2000));
+        QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    }
+
+    // A change that has begun is carried out as a whole.
+    void aSignalDuringASwitchLeavesNothingBehind()
+    {
+        RegistryFixture fixture(m_home);
+        companion::addProgram(fixture, m_home, u"Sweepwise Player"_s);
+        fixture.write();
+        const QString prefix = QFileInfo(fixture.file(u"HKEY_CURRENT_USER"_s)).path();
+        const QStringList before = QDir(prefix).entryList();
+        QProcess process;
+        start(process, {u"startup"_s, u"enable"_s, u"Sweepwise Player"_s}, u"fsync:-2::0:1"_s);
+        QTest::qWait(200);
+        QCOMPARE(process.state(), QProcess::Running);
+        send(process, SIGTERM);
+        QVERIFY(process.waitForFinished(patience));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+        QCOMPARE(QDir(prefix).entryList(), before);
+    }
+
+    // A script's background job is not meant by a Ctrl+C for the script.
+    void anIgnoredInterruptStaysIgnored()
+    {
+        QProcess process;
+        process.setChildProcessModifier([] { ::signal(SIGINT, SIG_IGN); });
+        start(process, {u"scan"_s, u"junk"_s}, u"statx:0:file:0:"_s);
+        QTest::qWait(200);
+        send(process, SIGINT);
+        QVERIFY(process.waitForFinished(patience));
+        QCOMPARE(process.exitCode(), 0);
+    }
+
+    // A program that is started with nohup goes on when its terminal closes.
+    void anIgnoredHangUpStaysIgnored()
+    {
+        QProcess process;
+        process.setChildProcessModifier([] { ::signal(SIGHUP, SIG_IGN); });
+        start(process, {u"scan"_s, u"junk"_s}, u"statx:0:file:0:"_s);
+        QTest::qWait(200);
+        send(process, SIGHUP);
+        QVERIFY(process.waitForFinished(patience));
+        QCOMPARE(process.exitCode(), 0);
+    }
+
+private:
+    static void start(QProcess &process, const QStringList &command, const QString &fault)
+    {
+        process.setEnvironment(
+            companion::environment({"LD_PRELOAD="_L1 + QString::fromLocal8Bit(FAILING_CALLS),
+                                    "FAILING_CALL="_L1 + fault}));
+        process.start(QString::fromLocal8Bit(CLI_PROGRAM), command);
+        if (!process.waitForStarted())
+            qFatal("the companion did not start");
+    }
+
+    static void send(const QProcess &process, int signal)
+    {
+        ::kill(static_cast<pid_t>(process.processId()), signal);
+    }
+
+    QStringList fileNames() const { return QDir(m_temp).entryList(QDir::Files); }
+
+    const TestHome &m_home;
+    QString m_temp;
+};
+
+SWEEPWISE_TEST_MAIN(TestInterrupt, QCoreApplication)
+#include "tst_interrupt.moc"

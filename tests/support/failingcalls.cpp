@@ -3,8 +3,9 @@
 //
 // FAILING_CALL has the form "name:errno:part of the path:skip:count". With the errno 0 the call is
 // delayed by a millisecond instead and then made. With -1 it never returns, with -2 it is delayed
-// by a second. The first "skip" matching calls are made as usual, the next "count" fail, the others
-// are made as usual. An empty count means all.
+// by a quarter of a second. The first "skip" matching calls are made as usual, the next "count"
+// fail, the others are made as usual. An empty count means all. The first call that fails makes the
+// empty file that FAILING_CALL_FILE names, so that the test need not guess how far the program is.
 
 #include <atomic>
 #include <cerrno>
@@ -60,6 +61,13 @@ Fault &fault()
     return *single;
 }
 
+void reportFirst()
+{
+    const char *path = std::getenv("FAILING_CALL_FILE");
+    if (path)
+        (void)::mknod(path, S_IFREG | S_IRUSR | S_IWUSR, 0);
+}
+
 bool fails(const char *name, const char *path)
 {
     Fault &wanted = fault();
@@ -68,13 +76,15 @@ bool fails(const char *name, const char *path)
     const long number = wanted.matched++;
     if (number < wanted.skip || (wanted.count >= 0 && number >= wanted.skip + wanted.count))
         return false;
+    if (number == wanted.skip)
+        reportFirst();
     if (wanted.error == 0) {
         ::usleep(1000);
         return false;
     }
     if (wanted.error == -2) {
-        const timespec second{1, 0};
-        ::nanosleep(&second, nullptr);
+        const timespec quarter{0, 250'000'000};
+        ::nanosleep(&quarter, nullptr);
         return false;
     }
     while (wanted.error < 0)

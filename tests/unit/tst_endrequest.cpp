@@ -29,13 +29,13 @@ int runVictim(int argc, char *argv[], Answer answer)
         if (answer == Answer::Quits)
             QCoreApplication::quit();
         else
-            QTest::qSleep(1'000);
+            QTest::qSleep(30'000);
     });
     QTimer::singleShot(0, &application, [] {
         std::puts("listening");
         std::fflush(stdout);
     });
-    QTimer::singleShot(10'000, &application, [] { QCoreApplication::exit(3); });
+    QTimer::singleShot(60'000, &application, [] { QCoreApplication::exit(3); });
     return QCoreApplication::exec();
 }
 
@@ -85,7 +85,7 @@ private Q_SLOTS:
         send(victim, first);
         QVERIFY(waitForLine(victim, "requested\n"));
         send(victim, second);
-        QVERIFY(victim.waitForFinished(900)); // it would be busy for longer
+        QVERIFY(victim.waitForFinished(20'000)); // it would be busy for longer
         QCOMPARE(victim.exitStatus(), QProcess::CrashExit);
         QCOMPARE(victim.exitCode(), second);
     }

@@ -1,7 +1,6 @@
 #include "unix/registryfile.h"
 #include "unix/registrytext.h"
 
-#include <QElapsedTimer>
 #include <QMap>
 #include <QRandomGenerator>
 #include <QTest>

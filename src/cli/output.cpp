@@ -100,7 +100,9 @@ ExitStatus printRun(const Invocation &invocation, const RunEnd &end, const JsonR
 {
     const platform::ReadFailures &incomplete = end.incomplete;
     // The work is over: from here on a request may end the process, which may wait for a reader.
-    platform::interrupt::releaseRequests();
+    // After a first one only a second one may, and that no SIGHUP is.
+    if (!platform::interrupt::isRequested())
+        platform::interrupt::releaseRequests();
     const QStringList lines = incomplete.lines();
     for (const QString &line : lines)
         writeError("sweepwise-cli: "_L1 + singleLine(line) + u'\n');

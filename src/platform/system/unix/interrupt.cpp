@@ -46,6 +46,9 @@ void catchRequests()
             continue;
         action = {};
         action.sa_handler = onSignal;
+        // The first of two is noted first, also if both have come before the handler runs.
+        for (const EndSignal &other : endSignals)
+            ::sigaddset(&action.sa_mask, other.number);
         action.sa_flags = SA_RESTART;
         signal.isCaught = ::sigaction(signal.number, &action, nullptr) == 0;
     }

@@ -1,7 +1,11 @@
 #include "options.h"
 
+#include "logger.h"
+#include "settingsfile.h"
+
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +38,11 @@ void set(QSettings &settings, const Option &option, bool on)
 
 bool save(const QSettings &settings)
 {
+    QStringList problems;
+    const bool hasRoom = settingsfile::makeRoom(settings, problems);
+    Logger::instance().warnings(problems);
+    if (!hasRoom)
+        return false;
     // Both objects share what is not saved yet. But each keeps its first failure for ever, so an
     // old object does not tell how this attempt has ended.
     QSettings sameFile(settings.fileName(), settings.format());

@@ -57,6 +57,18 @@ bool setAsideIfDamaged(const QString &path, QStringList &problems)
     return false;
 }
 
+/// Makes room at @p path and for its lock, and makes a missing file. Returns whether it can be
+/// opened.
+bool prepare(const QString &path, QStringList &problems)
+{
+    const bool isFileSound = setAsideIfDamaged(path, problems);
+    // The toolkit reads the lock of another program, too.
+    const bool isLockSound = setAsideIfDamaged(path + ".lock"_L1, problems);
+    if (isFileSound)
+        platform::makePrivateFile(path);
+    return isFileSound && isLockSound;
+}
+
 /// A path that can be opened: that of @p fileName in the organisation's folder if possible.
 QString preparedPath(const QString &fileName, QStringList &problems)
 {
@@ -65,12 +77,11 @@ QString preparedPath(const QString &fileName, QStringList &problems)
     QString error;
     if (!platform::makePrivateFolder(folder, error))
         problems.append("The folder of the settings cannot be made: "_L1 + folder + u' ' + error);
-    // The toolkit reads the lock of another program, too.
-    const bool canBeOpened = setAsideIfDamaged(path, problems);
-    // The next start takes the same one.
-    if (!setAsideIfDamaged(path + ".lock"_L1, problems) || !canBeOpened)
+    if (!prepare(path, problems)) {
+        // The next start takes the same one.
         path = otherPath(path, u".new"_s, isSound);
-    platform::makePrivateFile(path);
+        platform::makePrivateFile(path);
+    }
     for (const QString &problem : std::as_const(problems))
         qWarning().noquote() << problem;
     return path;
@@ -94,6 +105,11 @@ std::unique_ptr<QSettings> openLanguage()
         ? preparedPath(appinfo::name + ".conf"_L1, problems)
         : key + u'\\' + appinfo::organisation + u'\\' + appinfo::name;
     return std::make_unique<QSettings>(place, QSettings::NativeFormat);
+}
+
+bool makeRoom(const QSettings &settings, QStringList &problems)
+{
+    return settings.format() != QSettings::IniFormat || prepare(settings.fileName(), problems);
 }
 
 } // namespace settingsfile

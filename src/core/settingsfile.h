@@ -26,4 +26,8 @@ namespace settingsfile {
 /// in the registry.
 [[nodiscard]] std::unique_ptr<QSettings> openLanguage();
 
+/// Sets aside what has taken the place of the options' file since it was opened. To be called right
+/// before they are written. Returns whether they can be.
+[[nodiscard]] bool makeRoom(const QSettings &settings, QStringList &problems);
+
 } // namespace settingsfile

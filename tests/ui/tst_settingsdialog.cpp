@@ -335,12 +335,18 @@ private Q_SLOTS:
         dialog.show();
         const QString path = settings()->fileName();
         QFile::remove(path);
-        QVERIFY(QDir().mkpath(path)); // a folder in the place of the settings
+        // A folder in the place of the settings, and no name to set it aside.
+        QStringList taken{path, path + ".damaged"_L1};
+        for (int number = 2; number <= 100; ++number)
+            taken.append(path + ".damaged"_L1 + QString::number(number));
+        for (const QString &name : std::as_const(taken))
+            QVERIFY(QDir().mkpath(name));
         const MessageBoxes boxes(QMessageBox::Ok);
         const LogCapture log;
         box(dialog, u"confirmClean"_s)->click();
         click(dialog, u"saveBtn"_s);
-        QVERIFY(QDir().rmdir(path));
+        for (const QString &name : std::as_const(taken))
+            QVERIFY(QDir().rmdir(name));
         QCOMPARE(boxes.seen(),
                  QStringList{u"Settings|The settings could not be saved:\n"_s
                              + QDir::toNativeSeparators(path)});

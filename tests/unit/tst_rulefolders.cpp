@@ -8,8 +8,11 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +45,25 @@ private Q_SLOTS:
         QCOMPARE(platform::programDataFolder(), QString());
         QCOMPARE(platform::windowsFolder(), u"C:/Windows"_s);
         QCOMPARE(platform::systemDrive(), u"C:"_s);
+    }
+
+    void aPipeInThePlaceOfTheUsersFoldersIsNotOpened()
+    {
+        const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+            + "/user-dirs.dirs"_L1;
+        const QByteArray name = QFile::encodeName(path);
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+        QVERIFY(QDir().mkpath(QDir::homePath() + "/Tisch"_L1));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("XDG_DESKTOP_DIR=\"$HOME/Tisch\"\n");
+        file.close();
+        QCOMPARE(platform::desktopFolder(), QDir::homePath() + "/Tisch"_L1);
+        QVERIFY(file.remove());
+        QCOMPARE(::mkfifo(name.constData(), 0600), 0);
+        // The toolkit would wait for somebody to write into the pipe.
+        QCOMPARE(platform::desktopFolder(), QDir::homePath());
+        QVERIFY(QFile::remove(path));
     }
 
     void aPrefixSuppliesItsOwnFolders()

@@ -29,6 +29,9 @@ namespace platform {
 /// may be another one than the system's. Reads the system now.
 [[nodiscard]] ReadFailures folderFailures();
 
+/// The folder of the user's desktop. The home while the system's settings cannot be read.
+[[nodiscard]] QString desktopFolder();
+
 /// The folder that contains the program's settings files.
 [[nodiscard]] QString settingsFolder();
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "readfailures.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -21,6 +23,10 @@ namespace platform {
 
 /// Whether a canonicalPath() is the root of the file system, of a drive, a share or a volume.
 [[nodiscard]] bool isRoot(const QString &path);
+
+/// Why the file that names the user's folders cannot be read, in @p failures. The toolkit would ask
+/// for the same file, and wait there for ever if it is a pipe. A missing file is no failure.
+void checkUserFolders(ReadFailures &failures);
 
 /// Whether the file system ignores case in names.
 [[nodiscard]] Qt::CaseSensitivity pathCase();

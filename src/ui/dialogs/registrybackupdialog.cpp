@@ -4,6 +4,7 @@
 #include "ownfile.h"
 #include "parts.h"
 #include "registrybackup.h"
+#include "rulefolders.h"
 #include "text.h"
 #include "theme.h"
 
@@ -18,7 +19,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QTemporaryFile>
 #include <QVBoxLayout>
 
@@ -28,7 +28,7 @@ namespace {
 
 QString defaultPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)
+    return platform::desktopFolder()
         + u"/registry_backup_%1.reg"_s.arg(QDate::currentDate().toString(u"yyyyMMdd"_s));
 }
 

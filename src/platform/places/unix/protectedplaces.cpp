@@ -1,7 +1,7 @@
 #include "protectedplaces_p.h"
 
 #include "placenotes_p.h"
-#include "readfile.h"
+#include "rulefolders_p.h"
 #include "unix/openfolder.h"
 #include "unix/wineprefix.h"
 
@@ -14,12 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace platform {
-
-namespace {
-
-constexpr qint64 maximumSize = 1 << 20; // bytes
-
-} // namespace
 
 QList<ProtectedPlace> systemPlaces()
 {
@@ -63,12 +57,10 @@ QList<ProtectedPlace> systemPlaces()
     list.append({wineprefix::folder(), Extent::Itself});
     for (const QString &folder : wineprefix::personalFolders())
         list.append({folder, Extent::Itself});
-    // The desktop's names of the user's folders come from this file.
-    const QString names = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-        + "/user-dirs.dirs"_L1;
-    QString error;
-    if (!reachablePath(names).isEmpty() && !readFile(names, maximumSize, error))
-        placenotes::add(names, error);
+    ReadFailures failures;
+    checkUserFolders(failures);
+    for (const ReadFailure &failure : failures.kept())
+        placenotes::add(failure.where, failure.reason);
     return list;
 }
 

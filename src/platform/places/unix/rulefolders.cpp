@@ -2,6 +2,7 @@
 #include "rulefolders_p.h"
 
 #include "placenotes_p.h"
+#include "readfile.h"
 #include "unix/openfolder.h"
 #include "unix/wineprefix.h"
 
@@ -107,6 +108,25 @@ QString canonicalPath(const QString &path, QString *problem)
     if (problem && !error.isEmpty())
         *problem = error;
     return target;
+}
+
+void checkUserFolders(ReadFailures &failures)
+{
+    constexpr qint64 maximumSize = 1 << 20; // bytes
+    const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+        + "/user-dirs.dirs"_L1;
+    QString error;
+    const bool exists = !reachablePath(path, error).isEmpty();
+    if (!error.isEmpty() || (exists && !readFile(path, maximumSize, error)))
+        failures.add(path, error);
+}
+
+QString desktopFolder()
+{
+    ReadFailures failures;
+    checkUserFolders(failures);
+    return failures.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)
+                              : QDir::homePath();
 }
 
 QString settingsFolder()

@@ -93,6 +93,14 @@ ReadFailures folderFailures()
     return placenotes::take();
 }
 
+// There is no such file.
+void checkUserFolders(ReadFailures &) { }
+
+QString desktopFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+}
+
 QString settingsFolder()
 {
     return roamingDataFolder();

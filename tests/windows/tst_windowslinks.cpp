@@ -5,6 +5,7 @@
 #include "fakelinks.h"
 #include "fileremove.h"
 #include "folderlister.h"
+#include "ownfile.h"
 #include "protectedplaces.h"
 #include "rulefolders.h"
 #include "testtree.h"
@@ -184,6 +185,20 @@ private Q_SLOTS:
         QCOMPARE(platform::ProtectedPlaces().isProtectedRoot(tree.folder(u"clutter"_s)),
                  isProtected);
         QCOMPARE(!platform::folderFailures().isEmpty(), isProtected);
+    }
+
+    void aFileOfOursIsNotWrittenThroughALink()
+    {
+        const TestTree tree;
+        QFile file(tree.file(u"file"_s, "old"));
+        fakelinks::tag(u"file"_s, IO_REPARSE_TAG_SYMLINK);
+        QString error;
+        QVERIFY(!platform::replaceFile(
+            file.fileName(), "new", [] { return QString(); }, error));
+        QVERIFY(!error.isEmpty());
+        fakelinks::clear();
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), "old");
     }
 
     void nothingBehindAJunctionIsListed()

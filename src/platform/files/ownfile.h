@@ -36,7 +36,7 @@ void makePrivateFile(const QString &path);
 /// when data and name are on the disk. Asks @p findProblem right before the replacement; a text is
 /// a reason against it. After a failure @p error says why, for people. What was at the path is then
 /// unchanged, unless only the new name could not be made safe against a power cut. A link at the
-/// path is replaced, not followed.
+/// path is replaced, not followed; on Windows it is refused.
 [[nodiscard]] bool replaceFile(const QString &path, const QByteArray &bytes,
                                const std::function<QString()> &findProblem, QString &error);
 

@@ -1,5 +1,6 @@
 #include "ownfile.h"
 
+#include "entry.h"
 #include "filesync.h"
 #include "windows/openentry.h"
 
@@ -63,6 +64,11 @@ void makePrivateFile(const QString &) { }
 bool replaceFile(const QString &path, const QByteArray &bytes,
                  const std::function<QString()> &findProblem, QString &error)
 {
+    // QSaveFile would replace the target of a link.
+    if (inspect(path).kind == EntryKind::Link) {
+        error = qt_error_string(ERROR_ACCESS_DENIED);
+        return false;
+    }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
         error = file.errorString();

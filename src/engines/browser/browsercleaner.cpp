@@ -121,6 +121,7 @@ void BrowserCleaner::doScan()
             scanBrowser(browser, places);
         }
         if (isStopRequested()) {
+            readFailures().add(platform::folderFailures());
             setState(State::Cancelled);
             return;
         }

@@ -126,6 +126,7 @@ void JunkCleaner::doScan()
     const int ruleCount = static_cast<int>(m_rules.size());
     for (int i = 1; i <= ruleCount; ++i) {
         if (isStopRequested()) {
+            readFailures().add(platform::folderFailures());
             setState(State::Cancelled);
             return;
         }

@@ -143,6 +143,39 @@ private Q_SLOTS:
         QCOMPARE(report.count(), 0);
     }
 
+    // Several walkers share the folders.
+    void theOrderIsThatOfOneWalker()
+    {
+        const TestTree tree;
+        QRandomGenerator random(7);
+        for (int i = 0; i < 3000; ++i) {
+            QString path;
+            for (int level = random.bounded(6); level > 0; --level)
+                path += u"d%1/"_s.arg(random.bounded(4));
+            tree.file(path + u"f%1"_s.arg(i));
+        }
+        const auto list = [](QStringList &found, const QString &folder, const auto &self) -> void {
+            for (const QString &name : QDir(folder).entryList(QDir::Files, QDir::Unsorted))
+                found.append(folder + u'/' + name);
+            const QStringList names =
+                QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+            for (const QString &name : names)
+                self(found, folder + u'/' + name, self);
+        };
+        QStringList expected;
+        list(expected, tree.path(), list);
+        for (int round = 0; round < 20; ++round) {
+            QStringList found;
+            platform::ListedFolders listed;
+            QVERIFY(platform::walkFiles(
+                        tree.path(), {},
+                        [&found](platform::WalkedFile &&file) { found.append(file.path); }, &listed)
+                        .isEmpty());
+            QCOMPARE(found, expected);
+            QVERIFY(listed.idOf(platform::folderOf(found.constLast())).isKnown());
+        }
+    }
+
     void stopsBeforeTheNextEntry()
     {
         const TestTree tree;

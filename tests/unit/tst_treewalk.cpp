@@ -30,10 +30,10 @@ class Record final : public platform::TreeVisitor
 public:
     Record() = default;
 
-    [[nodiscard]] Wanted enterFolder(const QString &path) override
+    [[nodiscard]] Wanted enterFolder(const platform::WalkedFolder &entered) override
     {
-        folder = path;
-        folders.append(path);
+        folder = entered.path();
+        folders.append(folder);
         return wanted;
     }
 

@@ -11,7 +11,6 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMutexLocker>
-#include <QThread>
 
 #include <algorithm>
 #include <array>
@@ -26,8 +25,6 @@ namespace {
 
 constexpr int filesPerProgress = 100;
 constexpr int cancelTimeout = 3000; // milliseconds
-// More walkers would only wait for each other and for the disk.
-constexpr int maxWalkers = 2;
 // With several walkers, each adds this many files at a time to the common count.
 constexpr int filesPerBatch = 25;
 constexpr qint64 deleteProgressInterval = 50; // milliseconds
@@ -58,11 +55,11 @@ public:
     {
     }
 
-    [[nodiscard]] Wanted enterFolder(const QString &path) override
+    [[nodiscard]] Wanted enterFolder(const platform::WalkedFolder &folder) override
     {
         flushCount();
-        m_folder = path;
-        m_isExcluded = isExcluded(path);
+        m_folder = folder.path();
+        m_isExcluded = isExcluded(m_folder);
         return m_isExcluded ? Wanted::Names : Wanted::SizesAndTimes;
     }
 
@@ -113,7 +110,7 @@ private:
 
 LargeFileScanner::LargeFileScanner(QObject *parent)
     : QObject(parent)
-    , m_walkerCount(std::clamp(QThread::idealThreadCount(), 1, maxWalkers))
+    , m_walkerCount(platform::usefulWalkers())
 {
     qRegisterMetaType<LargeFileInfo>();
 }

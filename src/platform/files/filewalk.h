@@ -18,8 +18,9 @@ struct WalkedFile {
 
 using FileVisitor = std::function<void(WalkedFile &&file)>;
 
-/// Lists the files that walkTree() visits, on the calling thread. @p listed receives each folder
-/// from which a file is listed. Returns what could not be read; that does not end the walk.
+/// Lists the files that walkTree() visits, with several walkers, but in the order of a single one.
+/// Calls @p visit on any thread, though never twice at once. @p listed receives each folder from
+/// which a file is listed. Returns what could not be read; that does not end the walk.
 ReadFailures walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
                        ListedFolders *listed = nullptr);
 

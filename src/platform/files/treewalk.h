@@ -7,6 +7,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QThread>
 
 #include <atomic>
 
@@ -44,6 +45,12 @@ struct WalkOptions {
     bool recursive = true; ///< also walk the folders below
     const std::atomic_bool *stopRequested = nullptr; ///< may be null; checked before each entry
     Reach reach = Reach::OwnDevice;
+    std::atomic<qint64> *foldersRead = nullptr; ///< may be null; counts the folders on the way
+};
+
+/// What a visitor remembers of a folder that is read later, see TreeVisitor::addSubfolder(). The
+/// visitor owns it.
+struct FolderPlace {
 };
 
 /// The folder that a walker reads at the moment. The walker owns it and uses it on its own thread.
@@ -52,16 +59,21 @@ class WalkedFolder final
 public:
     WalkedFolder() = default;
     /// Without an @p id, the first call of id() looks it up.
-    explicit WalkedFolder(const QString &path, const EntryId &id = {})
+    WalkedFolder(const QString &path, const EntryId &id, FolderPlace *place)
         : m_path(path)
         , m_id(id)
+        , m_place(place)
     {
     }
+    [[nodiscard]] const QString &path() const { return m_path; }
     [[nodiscard]] EntryId id() const;
+    /// Null for the root and for folders behind links.
+    [[nodiscard]] FolderPlace *place() const { return m_place; }
 
 private:
     QString m_path;
     mutable EntryId m_id;
+    FolderPlace *m_place = nullptr;
 };
 
 /// A file as a visitor sees it. No string is built for it, because most visitors skip most files.
@@ -88,9 +100,25 @@ public:
         Names, ///< sizes and times may stay 0, which saves a system call per file
     };
     /// The files of the next calls of visitFile() lie in this folder.
-    [[nodiscard]] virtual Wanted enterFolder(const QString &path) = 0;
+    [[nodiscard]] virtual Wanted enterFolder(const WalkedFolder &folder) = 0;
     virtual void visitFile(const VisitedFile &file) = 0;
+    /// The folder has been read, as far as it can be and until the walk is stopped.
+    virtual void leaveFolder() { }
+
+    /// A subfolder of the folder was found. A visitor will enter it later, not necessarily this
+    /// one, and gets the returned place with it.
+    [[nodiscard]] virtual FolderPlace *addSubfolder() { return nullptr; }
+    /// The folder at @p place cannot be read, or is not to be.
+    virtual void skipFolder(FolderPlace *place) { Q_UNUSED(place) }
 };
+
+/// The number of walkers that help on this machine. More would only wait for each other and for the
+/// disk.
+[[nodiscard]] inline int usefulWalkers()
+{
+    constexpr int most = 2;
+    return qBound(1, QThread::idealThreadCount(), most);
+}
 
 /// Walks the files of a folder and, unless the options say otherwise, of its subfolders. Each of @p
 /// visitors gets a walker: the first on the calling thread, every other one on a thread of its own.

@@ -62,8 +62,14 @@ struct Walk {
     {
     }
 
+    /// A subfolder that waits in the queue.
+    struct Waiting {
+        typename System::Folder folder;
+        FolderPlace *place = nullptr;
+    };
+
     const WalkOptions &options;
-    WalkQueue<typename System::Folder, typename System::Link> queue;
+    WalkQueue<Waiting, typename System::Link> queue;
     SharedReport report;
     System system;
     const bool hasOneWalker;
@@ -97,6 +103,7 @@ class Walker final
     Q_DISABLE_COPY_MOVE(Walker)
 public:
     using OpenFolder = typename System::OpenFolder;
+    using Waiting = typename Walk<System>::Waiting;
 
     Walker(Walk<System> &walk, TreeVisitor &visitor)
         : m_walk(walk)
@@ -109,16 +116,15 @@ public:
     /// Reads the folders in the queue until all walkers are done.
     void run()
     {
-        m_walk.queue.process([this](const auto &waiting) {
-            if (std::optional<OpenFolder> folder = m_walk.system.open(waiting))
-                read(*folder);
-        });
+        m_walk.queue.process([this](const auto &waiting) { open(waiting); });
     }
 
-    void read(OpenFolder &folder)
+    void read(OpenFolder &folder, FolderPlace *place = nullptr)
     {
-        m_folder = WalkedFolder(folder.path(), folder.id());
-        m_wanted = m_visitor.enterFolder(folder.path());
+        m_folder = WalkedFolder(folder.path(), folder.id(), place);
+        m_wanted = m_visitor.enterFolder(m_folder);
+        if (m_walk.options.foldersRead)
+            ++*m_walk.options.foldersRead;
         m_reader.begin(folder.source());
         while (const auto *entry = m_reader.next()) {
             readEntry(folder, *entry);
@@ -129,9 +135,24 @@ public:
         if (const QString reason = folder.failureText(m_reader.error()); !reason.isEmpty())
             m_walk.report.addFailure(folder.path(), reason);
         m_walk.queue.add(m_subfolders);
+        m_visitor.leaveFolder();
     }
 
 private:
+    void open(const Waiting &waiting)
+    {
+        if (std::optional<OpenFolder> folder = m_walk.system.open(waiting.folder))
+            read(*folder, waiting.place);
+        else
+            m_visitor.skipFolder(waiting.place);
+    }
+
+    void open(const typename System::Link &link)
+    {
+        if (std::optional<OpenFolder> folder = m_walk.system.open(link))
+            read(*folder);
+    }
+
     [[nodiscard]] bool isEverywhere() const { return m_walk.options.reach == Reach::Everywhere; }
 
     template<class Entry>
@@ -146,7 +167,7 @@ private:
             return;
         case WalkedKind::Folder:
             if (m_walk.options.recursive && folder.isShown(entry))
-                m_subfolders.push_back(folder.subfolderAt(entry));
+                m_subfolders.push_back({folder.subfolderAt(entry), m_visitor.addSubfolder()});
             return;
         case WalkedKind::Link:
             readLink(folder, entry);
@@ -187,7 +208,7 @@ private:
     /// for the files of m_folder
     TreeVisitor::Wanted m_wanted = TreeVisitor::Wanted::SizesAndTimes;
     /// the subfolders of m_folder that are not in the queue yet
-    std::vector<typename System::Folder> m_subfolders;
+    std::vector<Waiting> m_subfolders;
 };
 
 /// walkTree() for one system.

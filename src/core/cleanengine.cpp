@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -52,14 +53,16 @@ void CleanEngine::startClean()
     stopAndWait();
     m_runSignals.open();
     m_stopRequested = false;
-    m_selection = m_result.checkedOnly();
+    const auto checked = std::make_shared<std::optional<CheckedRecords>>(m_result);
     m_failures.clear();
     m_cleanedSize = 0;
     m_cleanedCount = 0;
     m_readFailures.clear();
     setState(State::Cleaning);
 
-    startWorker([this] {
+    startWorker([this, checked] {
+        m_selection = (*checked)->records();
+        checked->reset();
         doClean();
         m_selection.categories.clear();
         Logger::instance().warnings(m_readFailures.lines());

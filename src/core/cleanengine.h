@@ -26,8 +26,7 @@ struct CleanFailure {
 /// worker. Which thread uses which member:
 ///  - state, stop flag: both threads, atomic;
 ///  - result: the worker while a scan runs, otherwise the GUI thread;
-///  - selection: the GUI thread sets it before a clean's worker starts; the worker reads and drops
-///    it;
+///  - selection: the worker of a clean alone, which makes it from the marks at the start;
 ///  - failures, cleaned size and count: the worker while a clean runs, otherwise the GUI thread;
 ///  - read failures: the worker while a run is busy, otherwise the GUI thread;
 ///  - worker, run signals: the GUI thread.
@@ -70,6 +69,9 @@ public:
     /// What the last run could not read. A scan that is done may have missed something there. Same
     /// rule.
     [[nodiscard]] const platform::ReadFailures &incomplete() const { return m_readFailures; }
+    /// Grows while a scan works, also within one step of scanProgress(). Tells that work goes on
+    /// and means nothing else. 0 for engines with short steps. Any thread.
+    [[nodiscard]] virtual qint64 foldersRead() const { return 0; }
     /// Makes an object to connect the engine's signals to. Queued signals of a run are dropped
     /// there when the next run begins or the engine is deleted. GUI thread.
     [[nodiscard]] std::unique_ptr<QObject> makeRunReceiver() const

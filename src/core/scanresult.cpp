@@ -29,6 +29,20 @@ QString sharedName(const QString &name, const QString &path)
     return QString(std::move(end));
 }
 
+// Does not read the mark, which another thread may change.
+CleanItem checkedCopy(const CleanItem &item)
+{
+    CleanItem copy(item.name, item.path, item.size);
+    copy.riskLevel = item.riskLevel;
+    copy.isDirectory = item.isDirectory;
+    copy.isUserClass = item.isUserClass;
+    copy.registryEntry = item.registryEntry;
+    copy.description = item.description;
+    copy.registryRoot = item.registryRoot;
+    copy.registryKey = item.registryKey;
+    return copy;
+}
+
 } // namespace
 
 CleanItem::CleanItem(const QString &itemName, const QString &itemPath, qint64 itemSize)
@@ -38,17 +52,21 @@ CleanItem::CleanItem(const QString &itemName, const QString &itemPath, qint64 it
 {
 }
 
-int CleanCategory::checkedCount() const
+Selection &Selection::operator+=(const Selection &other)
 {
-    return static_cast<int>(std::count_if(items.begin(), items.end(),
-                                          [](const CleanItem &item) { return item.checked; }));
+    count += other.count;
+    size += other.size;
+    return *this;
 }
 
-qint64 CleanCategory::checkedSize() const
+Selection CleanCategory::checkedItems() const
 {
-    return std::accumulate(
-        items.begin(), items.end(), qint64(0),
-        [](qint64 sum, const CleanItem &item) { return item.checked ? sum + item.size : sum; });
+    Selection sum;
+    for (const CleanItem &item : items) {
+        if (item.checked)
+            sum += {1, item.size};
+    }
+    return sum;
 }
 
 qint64 CleanCategory::totalSize() const
@@ -57,11 +75,10 @@ qint64 CleanCategory::totalSize() const
                            [](qint64 sum, const CleanItem &item) { return sum + item.size; });
 }
 
-Qt::CheckState CleanCategory::checkState() const
+Qt::CheckState CleanCategory::checkState(int count) const
 {
     if (!checked)
         return Qt::Unchecked;
-    const qsizetype count = checkedCount();
     if (count == items.size())
         return Qt::Checked;
     return count == 0 ? Qt::Unchecked : Qt::PartiallyChecked;
@@ -90,42 +107,48 @@ qint64 ScanResult::totalSize() const
     return size;
 }
 
-int ScanResult::checkedCount() const
+Selection ScanResult::selection() const
 {
-    int count = 0;
+    Selection sum;
     for (const CleanCategory &category : categories) {
         if (category.checked)
-            count += category.checkedCount();
+            sum += category.checkedItems();
     }
-    return count;
+    return sum;
 }
 
-qint64 ScanResult::checkedSize() const
+CheckedRecords::CheckedRecords(const ScanResult &result)
 {
-    qint64 size = 0;
-    for (const CleanCategory &category : categories) {
-        if (category.checked)
-            size += category.checkedSize();
-    }
-    return size;
-}
-
-ScanResult ScanResult::checkedOnly() const
-{
-    ScanResult selection;
-    selection.scanTime = scanTime;
-    for (const CleanCategory &category : categories) {
+    m_result.scanTime = result.scanTime;
+    for (const CleanCategory &category : result.categories) {
         if (!category.checked)
             continue;
+        m_result.categories.append(category);
+        QBitArray marks(category.items.size());
+        for (qsizetype i = 0; i < marks.size(); ++i)
+            marks.setBit(i, category.items.at(i).checked);
+        m_marks.append(marks);
+    }
+}
+
+ScanResult CheckedRecords::records() const
+{
+    ScanResult records;
+    records.scanTime = m_result.scanTime;
+    for (qsizetype index = 0; index < m_marks.size(); ++index) {
+        const CleanCategory &category = m_result.categories.at(index);
+        const QBitArray &marks = m_marks.at(index);
         CleanCategory chosen = category;
         chosen.expanded = false;
         chosen.items = {};
-        chosen.items.reserve(category.items.size());
-        std::copy_if(category.items.begin(), category.items.end(), std::back_inserter(chosen.items),
-                     [](const CleanItem &item) { return item.checked; });
-        selection.categories.append(chosen);
+        chosen.items.reserve(marks.count(true));
+        for (qsizetype i = 0; i < marks.size(); ++i) {
+            if (marks.testBit(i))
+                chosen.items.append(checkedCopy(category.items.at(i)));
+        }
+        records.categories.append(chosen);
     }
-    return selection;
+    return records;
 }
 
 QString formatSize(qint64 bytes)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBitArray>
 #include <QDateTime>
 #include <QList>
 #include <QMetaType>
@@ -36,6 +37,14 @@ struct CleanItem {
 // A long list grows in its place.
 Q_DECLARE_TYPEINFO(CleanItem, Q_RELOCATABLE_TYPE);
 
+/// How much is checked.
+struct Selection {
+    int count = 0; ///< items
+    qint64 size = 0; ///< bytes
+
+    Selection &operator+=(const Selection &other);
+};
+
 /// One group of items: a junk rule, a kind of browser data, a registry check.
 struct CleanCategory {
     CleanCategory(const QString &categoryId, const QString &categoryName,
@@ -46,12 +55,16 @@ struct CleanCategory {
     {
     }
 
-    [[nodiscard]] int checkedCount() const;
-    [[nodiscard]] qint64 checkedSize() const; ///< bytes
+    /// The number and the size of the checked items, in one pass.
+    [[nodiscard]] Selection checkedItems() const;
+    [[nodiscard]] int checkedCount() const { return checkedItems().count; }
+    [[nodiscard]] qint64 checkedSize() const { return checkedItems().size; } ///< bytes
     [[nodiscard]] qint64 totalSize() const; ///< bytes, whether checked or not
     /// The state for a check box of the category: whether a clean would remove all, some or none of
     /// its items. A category without items has the state of its own mark.
-    [[nodiscard]] Qt::CheckState checkState() const;
+    [[nodiscard]] Qt::CheckState checkState() const { return checkState(checkedCount()); }
+    /// The same when @p count items are checked.
+    [[nodiscard]] Qt::CheckState checkState(int count) const;
     /// Sets every item and then the category itself.
     void setChecked(bool on);
 
@@ -75,18 +88,32 @@ struct CleanCategory {
 struct ScanResult {
     [[nodiscard]] int totalCount() const;
     [[nodiscard]] qint64 totalSize() const; ///< bytes
-    [[nodiscard]] int checkedCount() const;
-    [[nodiscard]] qint64 checkedSize() const; ///< bytes
-
-    /// A copy that holds only what is checked, in the same order. It shares no record with this
-    /// one.
-    [[nodiscard]] ScanResult checkedOnly() const;
+    /// The number and the size of what is checked, in one pass.
+    [[nodiscard]] Selection selection() const;
+    [[nodiscard]] int checkedCount() const { return selection().count; }
+    [[nodiscard]] qint64 checkedSize() const { return selection().size; } ///< bytes
 
     QList<CleanCategory> categories;
     QDateTime scanTime = QDateTime::currentDateTime(); ///< local; overwritten when a scan ends
 };
 
 Q_DECLARE_METATYPE(ScanResult)
+
+/// Remembers what is checked in a result. The result's check marks may change then: only records()
+/// takes long among a million items, and it may be called on another thread.
+class CheckedRecords final
+{
+public:
+    explicit CheckedRecords(const ScanResult &result);
+
+    /// A copy of the result that holds only what was checked, in the same order. It shares no
+    /// record with the result.
+    [[nodiscard]] ScanResult records() const;
+
+private:
+    ScanResult m_result; ///< its items are those of the result, so no mark of theirs is read
+    QList<QBitArray> m_marks; ///< of the items of each category in m_result
+};
 
 /// @p bytes for display, in binary units: "0 B", "1.5 KB", "1.0 MB", "3.00 GB". Negative counts
 /// show as "0 B"; there is no unit above GB.

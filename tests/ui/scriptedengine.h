@@ -26,6 +26,9 @@ public:
     std::atomic_int scans = 0;
     std::atomic_int cleans = 0;
 
+    std::atomic<qint64> folders = 0; ///< that a scan has read
+
+    [[nodiscard]] qint64 foldersRead() const override { return folders; }
     void fail(const QString &error) { Q_EMIT errorOccurred(error); }
 
 protected:

@@ -71,6 +71,19 @@ bool isEmptyStateShown(const BasePage &page)
     return page.findChild<QWidget *>(u"emptyState"_s)->isVisible();
 }
 
+/// Counts how often it shows the progress of a clean.
+class ProgressPage final : public BasePage
+{
+public:
+    void onCleanProgress(int current, int total, qint64 cleanedSize) override
+    {
+        ++calls;
+        BasePage::onCleanProgress(current, total, cleanedSize);
+    }
+
+    int calls = 0;
+};
+
 } // namespace
 
 class TestBasePage : public QObject
@@ -120,6 +133,56 @@ private Q_SLOTS:
         QVERIFY(hasText(page, u"Cleanable Space"_s));
         QVERIFY(page.engine());
         QVERIFY(page.showsSizes());
+    }
+
+    // The percentage counts rules, and one rule may take long.
+    void aSignMovesWhileTheScanReadsFolders()
+    {
+        ScriptedEngine engine;
+        engine.hold = true;
+        BasePage page;
+        page.setEngine(&engine);
+        show(page);
+        click(page, u"scanBtn"_s);
+        ProgressDialog *shown = dialog(page);
+        QTRY_COMPARE_WITH_TIMEOUT(shown->findChild<QProgressBar *>()->value(), 25, patience);
+        const QImage still = shown->grab().toImage();
+        QTest::qWait(200);
+        QCOMPARE(shown->grab().toImage(), still); // nothing is read
+        ++engine.folders;
+        QTRY_VERIFY_WITH_TIMEOUT(shown->grab().toImage() != still, patience);
+        const QImage first = shown->grab().toImage();
+        ++engine.folders;
+        QTRY_VERIFY_WITH_TIMEOUT(shown->grab().toImage() != first, patience);
+        shown->showResult(false, u"broken"_s);
+        const QImage end = shown->grab().toImage();
+        shown->showActivity();
+        QCOMPARE(shown->grab().toImage(), end);
+        engine.hold = false;
+    }
+
+    // A queued call for each item would fill the event loop.
+    void theProgressOfACleanIsShownFromTimeToTime()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 20'000)};
+        ProgressPage page;
+        page.setEngine(&engine);
+        show(page);
+        const SignalSpy scanned(&page, &BasePage::scanFinished);
+        click(page, u"scanBtn"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(scanned.size(), 1, patience);
+        connect(
+            &engine, &CleanEngine::cleanProgress, &engine,
+            [&engine](int current) { engine.hold = current == 15'000; }, Qt::DirectConnection);
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        click(page, u"cleanBtn"_s);
+        const ProgressDialog *shown = dialog(page);
+        QTRY_COMPARE_WITH_TIMEOUT(shown->findChild<QProgressBar *>()->value(), 75, patience);
+        engine.hold = false;
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
+        QVERIFY(shown->isFinished());
+        QVERIFY2(page.calls < 5'000, qPrintable(QString::number(page.calls)));
     }
 
     void aScanShowsTheDialogThenTheCategories()

@@ -670,7 +670,8 @@ private Q_SLOTS:
         cleaner.loadRules(shipped);
         scan(cleaner);
         QSet<QString> browsers;
-        for (const CleanCategory &category : cleaner.result().checkedOnly().categories) {
+        for (const CleanCategory &category :
+             CheckedRecords(cleaner.result()).records().categories) {
             const auto browser = std::find_if(
                 cleaner.browsers().cbegin(), cleaner.browsers().cend(),
                 [&](const Browser &candidate) { return candidate.id == category.browserId; });
@@ -998,7 +999,7 @@ private Q_SLOTS:
         BrowserCleaner cleaner(foldersOf(tree));
         cleaner.loadRules(shipped);
         scan(cleaner);
-        const ScanResult selected = cleaner.result().checkedOnly();
+        const ScanResult selected = CheckedRecords(cleaner.result()).records();
         QStringList removed;
         qint64 bytes = 0;
         QSet<QString> seen;

@@ -70,6 +70,25 @@ private Q_SLOTS:
         QCOMPARE(sizeof(CleanItem), 5 * sizeof(QString) + 2 * sizeof(qint64));
     }
 
+    void aSelectionHasNumberAndSize()
+    {
+        ScanResult result;
+        result.categories = {category(u"a"_s, {1, 20, 300}), category(u"b"_s, {4000})};
+        result.categories[0].items[1].checked = false;
+        QCOMPARE(result.categories.at(0).checkedItems().count, 2);
+        QCOMPARE(result.categories.at(0).checkedItems().size, 301);
+        QCOMPARE(result.selection().count, 3);
+        QCOMPARE(result.selection().size, 4301);
+        result.categories[1].checked = false;
+        QCOMPARE(result.selection().count, 2);
+        QCOMPARE(result.selection().size, 301);
+        QCOMPARE(result.categories.at(1).checkedItems().count, 1); // whatever the category's mark
+        QCOMPARE(result.categories.at(0).checkState(2), Qt::PartiallyChecked);
+        QCOMPARE(result.categories.at(0).checkState(3), Qt::Checked);
+        QCOMPARE(result.categories.at(0).checkState(0), Qt::Unchecked);
+        QCOMPARE(result.categories.at(1).checkState(1), Qt::Unchecked);
+    }
+
     void anEmptyResultYieldsZeroForAllAggregates()
     {
         const ScanResult result;
@@ -133,7 +152,7 @@ private Q_SLOTS:
         result.categories = {category(u"a"_s, {1, 2}), category(u"b"_s, {4})};
         result.categories[0].items[0].checked = false;
         result.categories[1].checked = false;
-        const ScanResult chosen = result.checkedOnly();
+        const ScanResult chosen = CheckedRecords(result).records();
         QCOMPARE(chosen.categories.size(), 1);
         QCOMPARE(chosen.categories.at(0).id, u"a"_s);
         QCOMPARE(chosen.categories.at(0).items.size(), 1);
@@ -146,7 +165,7 @@ private Q_SLOTS:
         ScanResult result;
         result.categories = {category(u"a"_s, {1, 2})};
         CleanItem *bound = &result.categories[0].items[0];
-        const ScanResult chosen = result.checkedOnly();
+        const ScanResult chosen = CheckedRecords(result).records();
         bound->checked = false;
         QVERIFY(chosen.categories.at(0).items.at(0).checked);
         // The copy has not detached the original either: the bound record is still the result's

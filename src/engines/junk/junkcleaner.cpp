@@ -200,7 +200,8 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
 void JunkCleaner::scanDirectory(const QString &directory, const QStringList &patterns,
                                 QList<CleanItem> &items, bool recursive)
 {
-    const platform::WalkOptions options{patterns, recursive, &stopFlag()};
+    platform::WalkOptions options{patterns, recursive, &stopFlag()};
+    options.foldersRead = &m_foldersRead;
     readFailures().add(platform::walkFiles(
         directory, options,
         [&items](platform::WalkedFile &&file) {

@@ -6,6 +6,8 @@
 
 #include <QList>
 
+#include <atomic>
+
 namespace platform {
 class FileRemover;
 class ProtectedPlaces;
@@ -29,6 +31,7 @@ public:
     /// parsed or is not an object, an error is logged and the rules stay as they were.
     void loadRules(const QString &path) override;
     [[nodiscard]] const QList<JunkRule> &rules() const { return m_rules; }
+    [[nodiscard]] qint64 foldersRead() const override { return m_foldersRead; }
 
     /// @p text with every known placeholder replaced and with native separators.
     [[nodiscard]] static QString expandPath(const QString &text);
@@ -49,4 +52,5 @@ private:
 
     QList<JunkRule> m_rules;
     platform::ListedFolders m_listed; ///< of the last scan
+    std::atomic<qint64> m_foldersRead = 0;
 };

@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -92,6 +93,19 @@ void ProgressDialog::setDetail(const QString &text)
         m_detail->fontMetrics().elidedText(singleLine(text), Qt::ElideMiddle, width() - 64));
 }
 
+void ProgressDialog::showActivity()
+{
+    if (m_isFinished)
+        return;
+    ++m_activity;
+    update(activityRect());
+}
+
+QRect ProgressDialog::activityRect() const
+{
+    return m_icon->geometry().adjusted(-7, -7, 7, 7);
+}
+
 void ProgressDialog::setCleanedSize(qint64 bytes)
 {
     // Each cleaned item causes a call, and most calls do not change the visible text.
@@ -131,4 +145,14 @@ void ProgressDialog::reject()
 void ProgressDialog::paintEvent(QPaintEvent *)
 {
     paintBackground(theme::windowRadius);
+    if (m_activity < 0 || m_isFinished)
+        return;
+    // A short arc that goes round the icon.
+    constexpr int degree = 16; // the unit of drawArc()
+    constexpr int stepAngle = 30 * degree;
+    constexpr int arcLength = 60 * degree;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme::color(theme::accent), 3, Qt::SolidLine, Qt::RoundCap));
+    painter.drawArc(activityRect().adjusted(2, 2, -2, -2), -m_activity * stepAngle, -arcLength);
 }

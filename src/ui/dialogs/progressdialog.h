@@ -25,6 +25,8 @@ public:
     /// Shows @p text on a single line without control characters, shortened in the middle to the
     /// width of the dialog.
     void setDetail(const QString &text);
+    /// Moves the sign that tells that work goes on while the percentage stands still.
+    void showActivity();
     /// Shows how many bytes were removed so far.
     void setCleanedSize(qint64 bytes);
     /// Turns the dialog into the result view, which stays open until the user closes it.
@@ -43,9 +45,12 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    [[nodiscard]] QRect activityRect() const;
+
     Mode m_mode;
     bool m_isFinished = false;
     QString m_cleanedSize;
+    int m_activity = -1; ///< steps of the sign; negative: none yet
     QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_subtitle;

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSettings>
+#include <QThread>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -31,6 +32,8 @@ BasePage::BasePage(QWidget *parent)
     BasePage::setupContent();
     BasePage::setupFooter();
     BasePage::retranslateUi();
+    m_progressTimer.setInterval(50);
+    connect(&m_progressTimer, &QTimer::timeout, this, &BasePage::showProgress);
 }
 
 BasePage::~BasePage() = default;
@@ -52,7 +55,18 @@ void BasePage::setEngine(CleanEngine *engine)
     listen(&CleanEngine::stateChanged, &BasePage::onStateChanged);
     listen(&CleanEngine::scanProgress, &BasePage::onScanProgress);
     listen(&CleanEngine::scanFinished, &BasePage::onScanFinished);
-    listen(&CleanEngine::cleanProgress, &BasePage::onCleanProgress);
+    m_cleanProgress = std::make_shared<CleanProgress>();
+    // A clean of a million items makes as many calls. Queued ones would fill the event loop.
+    connect(
+        m_engine, &CleanEngine::cleanProgress, m_runReceiver.get(),
+        [this, guiThread = thread(), latest = m_cleanProgress](int current, int total,
+                                                               qint64 cleanedSize) {
+            if (QThread::currentThread() == guiThread)
+                onCleanProgress(current, total, cleanedSize);
+            else
+                latest->set({current, total, cleanedSize});
+        },
+        Qt::DirectConnection);
     listen(&CleanEngine::cleanFinished, &BasePage::onCleanFinished);
     listen(&CleanEngine::errorOccurred, &BasePage::onEngineError);
 }
@@ -220,6 +234,14 @@ void BasePage::startClean()
     runClean();
 }
 
+Selection BasePage::shownSelection() const
+{
+    Selection sum;
+    for (const ResultWidget *widget : m_resultWidgets)
+        sum += widget->selection();
+    return sum;
+}
+
 int BasePage::chosenCount() const
 {
     return isResultShown() ? std::as_const(*m_engine).result().checkedCount() : 0;
@@ -243,8 +265,10 @@ bool BasePage::canClean() const
 
 void BasePage::onStateChanged(CleanEngine::State state)
 {
-    if (state == CleanEngine::State::Cleaning)
+    if (state == CleanEngine::State::Cleaning) {
         m_isCleanPending = true;
+        (void)m_cleanProgress->take(); // of an earlier clean
+    }
     if (state != CleanEngine::State::Scanning)
         return;
     if (!m_isCleanPending) {
@@ -266,7 +290,22 @@ ProgressDialog *BasePage::openProgressDialog(ProgressDialog::Mode mode)
     m_progressDialog = new ProgressDialog(mode, this);
     connect(m_progressDialog, &ProgressDialog::cancelRequested, this, &BasePage::cancelOperation);
     m_progressDialog->showWith(this);
+    m_progressTimer.start();
     return m_progressDialog;
+}
+
+void BasePage::showProgress()
+{
+    ProgressDialog *dialog = m_progressDialog;
+    if (!dialog || dialog->isFinished()) {
+        m_progressTimer.stop();
+        return;
+    }
+    if (const auto latest = m_cleanProgress->take())
+        onCleanProgress(latest->current, latest->total, latest->cleanedSize);
+    const qint64 foldersRead = m_engine->foldersRead();
+    if (std::exchange(m_foldersRead, foldersRead) != foldersRead)
+        dialog->showActivity();
 }
 
 void BasePage::closeProgressDialog()
@@ -384,10 +423,9 @@ void BasePage::updateSelection()
 {
     if (!m_engine)
         return;
-    const ScanResult &result = std::as_const(*m_engine).result();
-    const int count = result.checkedCount();
+    const auto [count, bytes] = shownSelection();
     if (m_showSizes) {
-        const QString size = formatSize(result.checkedSize());
+        const QString size = formatSize(bytes);
         m_statisticValue->setText(size);
         m_selection->setText(tr("Selected: %1 items, %2").arg(QString::number(count), size));
     } else {

@@ -127,6 +127,16 @@ QList<QWidget *> BrowserGroupWidget::focusChain() const
     return chain;
 }
 
+Selection BrowserGroupWidget::selection() const
+{
+    Selection sum;
+    for (const BrowserSubItem *subItem : m_subItems) {
+        if (subItem->category().checked)
+            sum += subItem->category().checkedItems();
+    }
+    return sum;
+}
+
 // The user cannot choose the partly checked state. A click checks all items except the guarded
 // ones. When only guarded items are unchecked, a click unchecks everything.
 void BrowserGroupWidget::onHeaderChanged(int state)

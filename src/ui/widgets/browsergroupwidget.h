@@ -10,7 +10,6 @@ class QCheckBox;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
-struct CleanCategory;
 
 /// The results of one browser: a header with a tri-state check box and, when expanded, a row for
 /// each kind of data. The list of BrowserPage owns it. GUI thread.
@@ -29,6 +28,7 @@ public:
     [[nodiscard]] qsizetype subItemCount() const { return m_subItems.size(); }
 
     [[nodiscard]] QList<QWidget *> focusChain() const override;
+    [[nodiscard]] Selection selection() const override;
     void setShowSizes(bool show) override;
 
     /// The icon for the browser @p name in any case. An unknown browser gets a generic icon.

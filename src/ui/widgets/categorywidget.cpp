@@ -19,6 +19,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -128,7 +130,7 @@ void CategoryWidget::buildHeader()
 void CategoryWidget::setShowSizes(bool show)
 {
     m_showSizes = show;
-    refreshHeader();
+    showSelection();
     for (CleanItemWidget *widget : std::as_const(m_itemWidgets))
         widget->setShowSizes(show);
 }
@@ -197,7 +199,8 @@ void CategoryWidget::onItemCheckChanged()
 {
     for (CleanItemWidget *widget : std::as_const(m_itemWidgets))
         widget->storeChecked();
-    m_category->checked = m_category->checkedCount() != 0;
+    m_category->checked = std::any_of(m_category->items.cbegin(), m_category->items.cend(),
+                                      [](const CleanItem &item) { return item.checked; });
     refreshHeader();
     Q_EMIT selectionChanged();
 }
@@ -207,12 +210,18 @@ void CategoryWidget::refreshHeader()
     m_count->setText(tr("%1 items").arg(m_category->items.size()));
     m_count->setAccessibleName(tr("%1: %2 items, view details")
                                    .arg(m_name->text(), QString::number(m_category->items.size())));
+    m_selection = m_category->checkedItems();
+    showSelection();
+}
+
+void CategoryWidget::showSelection()
+{
     if (m_showSizes)
-        m_size->setText(formatSize(m_category->checkedSize()));
+        m_size->setText(formatSize(m_selection.size));
     m_size->setVisible(m_showSizes);
     // The user cannot choose the partly checked state: a click checks all items.
     const QSignalBlocker blocker(m_checkBox);
-    const Qt::CheckState state = m_category->checkState();
+    const Qt::CheckState state = m_category->checkState(m_selection.count);
     m_checkBox->setTristate(state == Qt::PartiallyChecked);
     m_checkBox->setCheckState(state);
 }

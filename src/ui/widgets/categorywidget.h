@@ -11,7 +11,6 @@ class QCheckBox;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
-struct CleanCategory;
 
 /// One category of a scan result: a header with a tri-state check box and, when expanded, its items
 /// in pages of ten. The list of the page owns it. GUI thread.
@@ -31,6 +30,7 @@ public:
     void setChecked(bool checked);
 
     [[nodiscard]] QList<QWidget *> focusChain() const override;
+    [[nodiscard]] Selection selection() const override { return m_selection; }
 
 public Q_SLOTS:
     /// Opens the dialog that lists all items of the category.
@@ -48,9 +48,11 @@ private:
     void showRemaining();
     void onItemCheckChanged();
     void refreshHeader();
+    void showSelection();
     void orderFocus() const;
 
     CleanCategory *m_category;
+    Selection m_selection; ///< as in the header; there may be a million items to look at
     qsizetype m_loadedCount = 0;
     bool m_showSizes = true;
     QWidget *m_header;

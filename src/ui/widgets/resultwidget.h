@@ -1,5 +1,7 @@
 #pragma once
 
+#include "scanresult.h"
+
 #include <QList>
 #include <QWidget>
 
@@ -17,6 +19,8 @@ public:
 
     /// The controls that take the keyboard focus, in their visible order.
     [[nodiscard]] virtual QList<QWidget *> focusChain() const = 0;
+    /// What is checked of its records.
+    [[nodiscard]] virtual Selection selection() const = 0;
     /// Sets whether sizes are shown beside the item counts.
     virtual void setShowSizes(bool show) = 0;
     [[nodiscard]] bool isExpanded() const { return m_isExpanded; }

@@ -61,13 +61,3 @@ def measure(build, rounds, found):
                     seconds[name].append(elapsed)
                     memory[name].append(peak)
     return {name: statistics.median(values) for name, values in seconds.items()}, {name: max(values) for name, values in memory.items()}
-
-
-def report(build, rounds=ROUNDS, found=FOUND):
-    seconds, memory = measure(build, rounds, found)
-    iterator, find, bare = seconds["QDirIterator"], seconds["find -type f -size +100M -printf"], seconds["bare loop, one thread"]
-    print("Files above 100 MiB among 500,000, ten levels deep, warm")
-    print(f"  {'':<36} {'bare = 1':>9} {'find = 1':>9} {'QDirIterator = 1':>17} {'peak MiB':>9}")
-    for name, value in sorted(seconds.items(), key=lambda entry: -entry[1]):
-        print(f"  {name:<36} {value / bare:9.2f} {value / find:9.2f} {value / iterator:17.2f} {memory[name]:9.1f}")
-    print()

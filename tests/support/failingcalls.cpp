@@ -6,6 +6,8 @@
 // by a quarter of a second. The first "skip" matching calls are made as usual, the next "count"
 // fail, the others are made as usual. An empty count means all. The first call that fails makes the
 // empty file that FAILING_CALL_FILE names, so that the test need not guess how far the program is.
+//
+// With OLD_SYSTEM the calls of new systems do not exist.
 
 #include <atomic>
 #include <cerrno>
@@ -153,6 +155,28 @@ ssize_t getxattr(const char *path, const char *name, void *value, size_t size)
     return fails("getxattr", path)
         ? -1
         : real<decltype(::getxattr)>("getxattr")(path, name, value, size);
+}
+
+// The calls for which the C library has no function. The numbers are those of all processors.
+long syscall(long number, ...)
+{
+    constexpr long getxattrat = 464;
+    long arguments[6];
+    std::va_list list;
+    va_start(list, number);
+    for (long &argument : arguments)
+        argument = va_arg(list, long);
+    va_end(list);
+    if (number == getxattrat) {
+        if (std::getenv("OLD_SYSTEM")) {
+            errno = ENOSYS;
+            return -1;
+        }
+        if (fails("getxattr", reinterpret_cast<const char *>(arguments[1])))
+            return -1;
+    }
+    return real<long(long, ...)>("syscall")(number, arguments[0], arguments[1], arguments[2],
+                                            arguments[3], arguments[4], arguments[5]);
 }
 
 int fsync(int file)

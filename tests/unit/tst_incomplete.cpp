@@ -463,11 +463,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("holdsDocuments");
         QTest::addColumn<QString>("call");
+        QTest::addColumn<bool>("isOldSystem");
         for (const bool holdsDocuments : {false, true}) {
+            const char *kind = holdsDocuments ? "documents" : "hidden";
             for (const char *call :
                  {"realpath", "statx", "stat", "open", "fstatat", "getdents64", "getxattr"})
-                QTest::addRow("%s %s", holdsDocuments ? "documents" : "hidden", call)
-                    << holdsDocuments << QString::fromLatin1(call);
+                QTest::addRow("%s %s", kind, call)
+                    << holdsDocuments << QString::fromLatin1(call) << false;
+            QTest::addRow("%s getxattr, old system", kind)
+                << holdsDocuments << u"getxattr"_s << true;
         }
     }
 
@@ -475,6 +479,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, holdsDocuments);
         QFETCH(QString, call);
+        QFETCH(bool, isOldSystem);
         const QString hidden = m_temp + "/hidden.tmp"_L1;
         companion::writeFile(m_temp, u"hidden.tmp"_s, 5);
         QCOMPARE(::setxattr(QFile::encodeName(hidden).constData(), "user.DOSATTRIB", "0x2", 3, 0),
@@ -497,7 +502,10 @@ private Q_SLOTS:
         const int dense = call == "realpath"_L1 ? 100 : 20;
         for (int number = 0; number < 500; number += 1 + number / dense) {
             for (const QString &count : {u"1"_s, QString()}) {
-                const Run result = run(command, failing(call, EIO, {}, number, count));
+                const Run result =
+                    run(command,
+                        failing(call, EIO, {}, number, count)
+                            + (isOldSystem ? QStringList{u"OLD_SYSTEM=1"_s} : QStringList()));
                 const QStringList listed = pathsOf(result);
                 const bool isWider =
                     std::any_of(listed.begin(), listed.end(),

@@ -737,6 +737,29 @@ private Q_SLOTS:
                  (QStringList{u"brave"_s, u"cache"_s, u"Cache - more"_s}));
     }
 
+    // A thread is done with the others while the first profile is still read.
+    void whatIsFoundStaysInTheOrderOfTheProfiles()
+    {
+        const TestTree tree;
+        const QString data = u"Local/Google/Chrome/User Data/"_s;
+        for (int i = 0; i < 3000; ++i)
+            tree.file(data + u"Default/GPUCache/%1"_s.arg(i));
+        QStringList expected;
+        for (int i = 1; i < 6; ++i)
+            expected.append(tree.file(data + u"Profile %1/GPUCache/x"_s.arg(i)));
+        BrowserCleaner cleaner(foldersOf(tree));
+        load(cleaner, R"({"rules": [{"id": "gpu", "subPath": "GPUCache"}]})");
+        scan(cleaner);
+        QCOMPARE(cleaner.result().categories.size(), 1);
+        QStringList found;
+        for (const CleanItem &item : cleaner.result().categories.constFirst().items)
+            found.append(item.path);
+        QCOMPARE(found.size(), 3005);
+        for (const QString &path : found.first(3000))
+            QVERIFY(path.startsWith(tree.path(data + "Default"_L1)));
+        QCOMPARE(found.sliced(3000), expected);
+    }
+
     void foldersThatAreNoProfilesAreNotScanned()
     {
         const TestTree tree;

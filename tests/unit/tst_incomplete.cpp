@@ -549,9 +549,11 @@ private Q_SLOTS:
     {
         QFETCH(QString, call);
         const QString user = m_home.path() + "/prefix/drive_c/users/jane/AppData"_L1;
-        const QString chrome = user + "/Local/Google/Chrome/User Data/Default/Cache"_L1;
+        // Two profiles of one browser are scanned side by side.
+        const QString chrome = user + "/Local/Google/Chrome/User Data/"_L1;
         const QString own = user + "/Roaming/Mozilla/Firefox/Other/cache2"_L1;
-        for (const QString &folder : {chrome, own}) {
+        for (const QString &folder :
+             {chrome + "Default/Cache"_L1, chrome + "Profile 1/Cache"_L1, own}) {
             QVERIFY(QDir().mkpath(folder));
             companion::writeFile(folder, u"f_000001"_s, 10);
         }
@@ -562,9 +564,9 @@ private Q_SLOTS:
         const QStringList command{u"scan"_s, u"browser"_s, u"--items"_s, u"--json"_s};
         const QStringList userName{u"USER=jane"_s};
         const QStringList usual = pathsOf(run(command, userName));
-        QCOMPARE(usual.size(), 2);
+        QCOMPARE(usual.size(), 3);
         int failures = 0;
-        for (int number = 0; number < 300; number += 1 + number / 40) {
+        for (int number = 0; number < 400; number += 1 + number / 40) {
             const Run result =
                 run(command, userName + failing(call, EIO, m_home.path(), number, u"1"_s));
             const QStringList listed = pathsOf(result);
@@ -658,6 +660,23 @@ private Q_SLOTS:
         QCOMPARE(result.exitCode, 0);
         QCOMPARE(jsonOf(result)["filesScanned"_L1].toInt(), 2);
         QCOMPARE(jsonOf(result)["totalCount"_L1].toInt(), 2);
+        const QString chrome =
+            m_home.path() + "/prefix/drive_c/users/jane/AppData/Local/Google/Chrome/User Data/"_L1;
+        for (const QString &profile : {u"Default"_s, u"Profile 1"_s, u"Profile 2"_s}) {
+            const QString cache = chrome + profile + "/Cache"_L1;
+            QVERIFY(QDir().mkpath(cache));
+            companion::writeFile(cache, u"f_000001"_s, 10);
+        }
+        for (const QString &target : {u"junk"_s, u"browser"_s}) {
+            const QStringList command{u"scan"_s, target, u"--items"_s, u"--json"_s};
+            const QStringList userName{u"USER=jane"_s};
+            const QStringList usual = pathsOf(run(command, userName));
+            QVERIFY(usual.size() >= 2);
+            QVERIFY(!hasFailed());
+            QCOMPARE(pathsOf(run(command, userName + failing(u"pthread_create"_s, EAGAIN, {}, 1))),
+                     usual);
+            QVERIFY(hasFailed());
+        }
     }
 
 private:

@@ -5,12 +5,24 @@
 #include "fileremove.h"
 #include "logger.h"
 #include "processes.h"
+#include "protectedplaces.h"
 #include "rulefile.h"
 #include "rulefolders.h"
+#include "sidebyside.h"
 
 #include <algorithm>
+#include <atomic>
+#include <utility>
 
 using namespace Qt::StringLiterals;
+
+/// A profile, or Firefox's folder that belongs to no profile, and what a scan finds there.
+struct BrowserCleaner::FolderScan {
+    QString folder;
+    bool isShared = false; ///< it belongs to no profile
+    ItemsByRule found;
+    platform::ReadFailures failures;
+};
 
 BrowserCleaner::BrowserCleaner(QObject *parent)
     : CleanEngine(parent)
@@ -112,7 +124,7 @@ void BrowserCleaner::doScan()
     Logger::instance().info(u"Starting browser scan..."_s);
     m_listed.clear();
     readFailures().add(m_detectFailures);
-    platform::ProtectedPlaces places;
+    PlacesOfThreads places(static_cast<std::size_t>(platform::usefulWalkers()));
     const int count = static_cast<int>(m_scanned.size());
     for (int i = 1; i <= count; ++i) {
         const Browser &browser = m_scanned.at(i - 1);
@@ -132,30 +144,70 @@ void BrowserCleaner::doScan()
         QString::number(result().totalCount()), formatSize(result().totalSize())));
 }
 
-void BrowserCleaner::scanBrowser(const Browser &browser, platform::ProtectedPlaces &places)
+// The profiles are scanned side by side. What is found stays in their order.
+void BrowserCleaner::scanBrowser(const Browser &browser, PlacesOfThreads &places)
 {
-    ItemsByRule found(static_cast<std::size_t>(m_rules.size()));
-    if (browser.type == Browser::Firefox) {
-        const FirefoxScan scan(m_rules, places, m_listed, readFailures(), stopFlag());
-        if (const QString root = browsers::firefoxRoot(m_folders, readFailures()); !root.isEmpty())
-            scan.scanShared(root, found);
-        const QStringList profiles = browsers::firefoxProfiles(m_folders, places, readFailures());
-        for (const QString &profile : profiles)
-            scan.scanProfile(profile, found);
-    } else {
-        const ChromiumScan scan(m_rules, places, m_listed, readFailures(), stopFlag());
-        const QStringList profiles = browsers::chromiumProfiles(browser.dataRoot, readFailures());
-        for (const QString &profile : profiles)
-            scan.scanProfile(profile, found);
-    }
+    std::vector<FolderScan> scans = foldersOf(browser, places.front());
+    std::atomic<std::size_t> next = 0;
+    const std::size_t threads = std::min(places.size(), scans.size());
+    platform::runSideBySide(static_cast<int>(threads), [&](int thread) {
+        for (std::size_t scan = next++; scan < scans.size(); scan = next++)
+            scanFolder(browser, scans[scan], places[static_cast<std::size_t>(thread)]);
+    });
+    for (const FolderScan &scan : scans)
+        readFailures().add(scan.failures);
     for (qsizetype i = 0; i < m_rules.size(); ++i) {
-        QList<CleanItem> &items = found[static_cast<std::size_t>(i)];
-        if (items.isEmpty())
-            continue;
         CleanCategory category = categoryOf(browser, m_rules.at(i));
-        category.items = std::move(items);
-        result().categories.append(std::move(category));
+        for (FolderScan &scan : scans) {
+            // Each list is freed at once, because there may be a million items.
+            QList<CleanItem> items =
+                std::exchange(scan.found[static_cast<std::size_t>(i)], QList<CleanItem>());
+            if (category.items.isEmpty())
+                category.items = std::move(items);
+            else
+                category.items.append(std::move(items));
+        }
+        if (!category.items.isEmpty())
+            result().categories.append(std::move(category));
     }
+}
+
+std::vector<BrowserCleaner::FolderScan> BrowserCleaner::foldersOf(const Browser &browser,
+                                                                  platform::ProtectedPlaces &places)
+{
+    std::vector<FolderScan> scans;
+    const auto add = [this, &scans](const QString &folder, bool isShared) {
+        scans.push_back(
+            {folder, isShared, ItemsByRule(static_cast<std::size_t>(m_rules.size())), {}});
+    };
+    QStringList profiles;
+    if (browser.type == Browser::Firefox) {
+        if (const QString root = browsers::firefoxRoot(m_folders, readFailures()); !root.isEmpty())
+            add(root, true);
+        profiles = browsers::firefoxProfiles(m_folders, places, readFailures());
+    } else {
+        profiles = browsers::chromiumProfiles(browser.dataRoot, readFailures());
+    }
+    for (const QString &profile : std::as_const(profiles))
+        add(profile, false);
+    return scans;
+}
+
+// Runs on the worker and on threads beside it.
+void BrowserCleaner::scanFolder(const Browser &browser, FolderScan &scan,
+                                platform::ProtectedPlaces &places)
+{
+    if (browser.type == Browser::Firefox) {
+        const FirefoxScan firefox(m_rules, places, m_listed, scan.failures, stopFlag());
+        if (scan.isShared)
+            firefox.scanShared(scan.folder, scan.found);
+        else
+            firefox.scanProfile(scan.folder, scan.found);
+    } else {
+        ChromiumScan(m_rules, places, m_listed, scan.failures, stopFlag())
+            .scanProfile(scan.folder, scan.found);
+    }
+    scan.failures.add(platform::folderFailures()); // those of this thread
 }
 
 void BrowserCleaner::doClean()

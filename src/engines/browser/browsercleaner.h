@@ -8,6 +8,8 @@
 #include <QList>
 #include <QMap>
 
+#include <vector>
+
 class CleanLedger;
 
 namespace platform {
@@ -24,7 +26,8 @@ class ProtectedPlaces;
 ///
 /// The browsers and their selection belong to the GUI thread. The GUI thread also writes the rules,
 /// and in startScan() a copy of the selected browsers, while no worker runs. The worker only reads
-/// these two. The listed folders belong to the worker. For everything else see CleanEngine.
+/// these two. The listed folders belong to the worker and to the threads with which it scans the
+/// profiles of a browser side by side. For everything else see CleanEngine.
 class BrowserCleaner final : public CleanEngine
 {
     Q_OBJECT
@@ -65,7 +68,14 @@ protected:
     void doClean() override;
 
 private:
-    void scanBrowser(const Browser &browser, platform::ProtectedPlaces &places);
+    struct FolderScan;
+    /// One for each thread of a scan.
+    using PlacesOfThreads = std::vector<platform::ProtectedPlaces>;
+
+    void scanBrowser(const Browser &browser, PlacesOfThreads &places);
+    [[nodiscard]] std::vector<FolderScan> foldersOf(const Browser &browser,
+                                                    platform::ProtectedPlaces &places);
+    void scanFolder(const Browser &browser, FolderScan &scan, platform::ProtectedPlaces &places);
     void warnIfRunning(const CleanCategory &category) const;
     /// Removes one item and records it in @p ledger. A failure is also written to the log.
     Removal removeItem(platform::FileRemover &remover, const CleanItem &item, CleanLedger &ledger);

@@ -20,7 +20,7 @@ using ItemsByRule = std::vector<QList<CleanItem>>;
 /// Finds what the rules match in the profiles of a Chromium browser. Reads each profile's tree once
 /// for all rules.
 ///
-/// BrowserCleaner makes one for each browser, on its worker.
+/// BrowserCleaner makes one for each profile and uses it on one thread.
 class ChromiumScan final
 {
     Q_DISABLE_COPY_MOVE(ChromiumScan)
@@ -54,7 +54,7 @@ private:
 /// Finds what the rules match in Firefox's data. This class has the mapping from rule ids to
 /// Firefox's folders. Reads each folder once for all rules.
 ///
-/// BrowserCleaner makes one on its worker.
+/// BrowserCleaner makes one for each folder and uses it on one thread.
 class FirefoxScan final
 {
     Q_DISABLE_COPY_MOVE(FirefoxScan)

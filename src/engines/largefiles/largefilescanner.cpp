@@ -4,6 +4,7 @@
 #include "fileremove.h"
 #include "logger.h"
 #include "scanresult.h"
+#include "sidebyside.h"
 #include "treewalk.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
 #include "filewalk.h"
 
 #include "entry.h"
+#include "sidebyside.h"
 
 #include <atomic>
 #include <iterator>

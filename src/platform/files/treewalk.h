@@ -7,7 +7,6 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
-#include <QThread>
 
 #include <atomic>
 
@@ -111,14 +110,6 @@ public:
     /// The folder at @p place cannot be read, or is not to be.
     virtual void skipFolder(FolderPlace *place) { Q_UNUSED(place) }
 };
-
-/// The number of walkers that help on this machine. More would only wait for each other and for the
-/// disk.
-[[nodiscard]] inline int usefulWalkers()
-{
-    constexpr int most = 2;
-    return qBound(1, QThread::idealThreadCount(), most);
-}
 
 /// Walks the files of a folder and, unless the options say otherwise, of its subfolders. Each of @p
 /// visitors gets a walker: the first on the calling thread, every other one on a thread of its own.

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "namefilter.h"
+#include "sidebyside.h"
 #include "treewalk.h"
 #include "walkqueue_p.h"
 
 #include <mutex>
 #include <optional>
-#include <system_error>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -218,18 +217,15 @@ WalkReport walkTreeWith(const QString &root, const WalkOptions &options,
 {
     Walk<System> walk(options, visitors.size());
     if (std::optional<typename System::OpenFolder> rootFolder = walk.system.openRoot(root)) {
-        Walker<System> first(walk, *visitors.constFirst());
-        std::vector<std::jthread> others;
         walk.queue.beginRoot();
-        try {
-            for (TreeVisitor *visitor : visitors.sliced(1))
-                others.emplace_back([&walk, visitor] { Walker<System>(walk, *visitor).run(); });
-        } catch (const std::system_error &) {
-            // The system cannot make another thread. The walkers that there are do all the work.
-        }
-        first.read(*rootFolder);
-        walk.queue.endRoot();
-        first.run();
+        runSideBySide(static_cast<int>(visitors.size()), [&](int number) {
+            Walker<System> walker(walk, *visitors.at(number));
+            if (number == 0) {
+                walker.read(*rootFolder);
+                walk.queue.endRoot();
+            }
+            walker.run();
+        });
     }
     return walk.report.take();
 }

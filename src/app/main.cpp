@@ -1,13 +1,11 @@
 #include "appinfo.h"
 #include "application.h"
+#include "applicationfont.h"
 #include "hardening.h"
 #include "language.h"
 
 #include <QApplication>
-#include <QFont>
 #include <QTranslator>
-
-using namespace Qt::StringLiterals;
 
 int main(int argc, char *argv[])
 {
@@ -22,9 +20,7 @@ int main(int argc, char *argv[])
     static QTranslator translator;
     language::install(translator);
 
-    QFont font(u"Segoe UI"_s, 10);
-    font.setStyleStrategy(QFont::PreferAntialias);
-    QApplication::setFont(font);
+    theme::installApplicationFont();
 
     Application::instance()->initialize();
     Application::instance()->showMainWindow();

@@ -8,6 +8,7 @@
 
 #include "access.h"
 #include "appinfo.h"
+#include "applicationfont.h"
 #include "language.h"
 #include "testhome.h"
 #include "textfit.h"
@@ -133,9 +134,7 @@ int main(int argc, char *argv[])
     language::install(translator);
     if (translator.isEmpty())
         qFatal("there is no catalogue for '%s'", qPrintable(parser.value(languageOption)));
-    QFont font(u"Segoe UI"_s, 10);
-    font.setStyleStrategy(QFont::PreferAntialias);
-    QApplication::setFont(font);
+    theme::installApplicationFont();
 
     if (parser.isSet(checkOption))
         return check(home);

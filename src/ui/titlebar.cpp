@@ -85,10 +85,23 @@ void TitleBar::buildMenu()
 
     QMenu *languageMenu = m_menu->addMenu(tr("Language"));
     languageMenu->setStyleSheet(theme::menu());
+    // Even a closed menu is measured with the window, and the names need the fonts of many scripts.
+    connect(languageMenu, &QMenu::aboutToShow, this, [this, languageMenu] {
+        if (!m_languages)
+            addLanguages(languageMenu);
+    });
+
+    m_menu->addSeparator();
+    m_menu->addAction(tr("Help"), this, &TitleBar::helpClicked);
+    m_menu->addAction(tr("Support"), this, &TitleBar::supportClicked);
+}
+
+void TitleBar::addLanguages(QMenu *menu)
+{
     m_languages = new QActionGroup(this);
     m_languages->setExclusive(true);
     for (const languages::Language &language : languages::all) {
-        QAction *action = languageMenu->addAction(language.menuText.toString());
+        QAction *action = menu->addAction(language.menuText.toString());
         action->setCheckable(true);
         action->setData(QString(language.code));
         m_languages->addAction(action);
@@ -96,10 +109,6 @@ void TitleBar::buildMenu()
     checkLanguage();
     connect(m_languages, &QActionGroup::triggered, this,
             [this](QAction *action) { changeLanguage(action->data().toString()); });
-
-    m_menu->addSeparator();
-    m_menu->addAction(tr("Help"), this, &TitleBar::helpClicked);
-    m_menu->addAction(tr("Support"), this, &TitleBar::supportClicked);
 }
 
 void TitleBar::checkLanguage()

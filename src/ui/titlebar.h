@@ -45,6 +45,7 @@ protected:
 private:
     WinButton *addButton(WinButton::Type type, const QString &name);
     void buildMenu();
+    void addLanguages(QMenu *menu);
     /// Checks the action of the current language.
     void checkLanguage();
     /// Stores @p code, tells everybody and restarts the program. If the code cannot be stored, a
@@ -57,5 +58,5 @@ private:
     WinButton *m_menuButton = nullptr;
     WinButton *m_maximizeButton = nullptr;
     QMenu *m_menu = nullptr;
-    QActionGroup *m_languages = nullptr;
+    QActionGroup *m_languages = nullptr; ///< null until their menu is opened
 };

@@ -39,9 +39,17 @@ QString storedLanguage()
     return QSettings(appinfo::organisation, appinfo::name).value("language"_L1).toString();
 }
 
+/// The actions of the language menu, as when it is opened.
+QList<QAction *> languages(const TitleBar &bar)
+{
+    auto *menu = bar.menu()->findChild<QMenu *>();
+    Q_EMIT menu->aboutToShow();
+    return menu->actions();
+}
+
 QAction *language(const TitleBar &bar, const QString &code)
 {
-    for (QAction *action : bar.menu()->findChild<QMenu *>()->actions()) {
+    for (QAction *action : languages(bar)) {
         if (action->data().toString() == code)
             return action;
     }
@@ -168,7 +176,7 @@ private Q_SLOTS:
         const RecordingTitleBar bar;
         QStringList codes;
         QStringList texts;
-        for (const QAction *action : bar.menu()->findChild<QMenu *>()->actions()) {
+        for (const QAction *action : languages(bar)) {
             QVERIFY(action->isCheckable());
             codes.append(action->data().toString());
             texts.append(action->text());
@@ -179,6 +187,22 @@ private Q_SLOTS:
         QCOMPARE(texts.at(0), u"🇺🇸  English"_s);
         QCOMPARE(texts.at(3), u"🇯🇵  日本語"_s);
         QCOMPARE(texts.at(8), u"🇮🇹  Italiano"_s);
+    }
+
+    // Their names need the fonts of many scripts, which takes time and memory at the start.
+    void theLanguagesAreAddedOnceWhenTheirMenuOpens()
+    {
+        const RecordingTitleBar bar;
+        auto *menu = bar.menu()->findChild<QMenu *>();
+        QVERIFY(menu->isEmpty());
+        bar.menu()->popup({});
+        for (int i = 0; i < 2; ++i) {
+            menu->popup({});
+            QCOMPARE(menu->actions().size(), 9);
+            QVERIFY(menu->height() > 9 * menu->fontMetrics().height());
+            menu->close();
+        }
+        bar.menu()->close();
     }
 
     void theStoredLanguageIsChecked()

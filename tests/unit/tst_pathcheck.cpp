@@ -53,6 +53,9 @@ private Q_SLOTS:
         QTest::newRow("file taken for a folder") << file + "\\x"_L1 << false;
         QTest::newRow("missing") << missing << false;
         QTest::newRow("missing in a folder that is there") << folder + "\\none.exe"_L1 << false;
+        QTest::newRow("longer than a path of Windows can be")
+            << folder + u"\\."_s.repeated(16'400) + file.mid(folder.size()) << false;
+        QTest::newRow("long") << folder + u"\\."_s.repeated(1000) + file.mid(folder.size()) << true;
         QTest::newRow("file in quotes") << u'"' + file + u'"' << true;
         QTest::newRow("missing in quotes") << u'"' + missing + u'"' << false;
         QTest::newRow("quotes alone") << u"\"\""_s << false;

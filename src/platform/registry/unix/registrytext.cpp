@@ -114,17 +114,18 @@ std::optional<QString> decodeName(QByteArrayView text, char end, qsizetype &leng
     QString name;
     qsizetype at = 0;
     while (at < text.size() && text[at] != end) {
-        const char c = text[at];
-        if (c != '\\') {
-            name.append(QLatin1Char(c));
-            ++at;
-        } else if (at + 1 == text.size()) {
-            return std::nullopt;
-        } else {
+        if (text[at] == '\\') {
+            if (at + 1 == text.size())
+                return std::nullopt;
             QChar character;
             at += 1 + readEscape(text.sliced(at + 1), character);
             name.append(character);
+            continue;
         }
+        const qsizetype begin = at;
+        while (at < text.size() && text[at] != end && text[at] != '\\')
+            ++at;
+        name.append(QLatin1StringView(text.sliced(begin, at - begin)));
     }
     if (at == text.size())
         return std::nullopt;
@@ -234,8 +235,13 @@ QString folded(const QString &name)
     constexpr char16_t microSign = u'\u00b5';
     QString result = name;
     for (QChar &character : result) {
+        if (character.unicode() < 0x80) {
+            if (character >= u'a' && character <= u'z')
+                character = QChar(character.unicode() - (u'a' - u'A'));
+            continue;
+        }
         const QChar upper = character.toUpper();
-        if (character.unicode() < 0x80 || (upper.unicode() >= 0x80 && character != microSign))
+        if (upper.unicode() >= 0x80 && character != microSign)
             character = upper;
     }
     return result;

@@ -176,6 +176,54 @@ private Q_SLOTS:
         }
     }
 
+#ifdef Q_OS_UNIX
+    // Folders behind links have no place among the others.
+    void foldersBehindLinksComeLast()
+    {
+        const TestTree tree;
+        const QString file = tree.file(u"root/folder/file"_s);
+        for (const QString &name : {u"a"_s, u"b"_s}) {
+            tree.file("elsewhere/"_L1 + name + "/file"_L1);
+            tree.link(tree.path("elsewhere/"_L1 + name), "root/"_L1 + name);
+        }
+        platform::WalkOptions options;
+        options.reach = platform::Reach::Everywhere;
+        for (int round = 0; round < 20; ++round) {
+            QStringList found;
+            platform::walkFiles(
+                tree.path(u"root"_s), options,
+                [&found](platform::WalkedFile &&walked) { found.append(walked.path); });
+            QCOMPARE(found.size(), 3);
+            QCOMPARE(found.takeFirst(), file);
+            found.sort();
+            QCOMPARE(found,
+                     (QStringList{tree.path(u"root/a/file"_s), tree.path(u"root/b/file"_s)}));
+        }
+    }
+
+    // Two walkers meet them in any order. The list is the same in each run.
+    void theFirstFailuresByNameAreKept()
+    {
+        const TestTree tree;
+        QStringList closed;
+        for (int i = 0; i < 60; ++i) {
+            const QString folder = tree.folder(u"%1/closed"_s.arg(59 - i, 2, 10, QChar(u'0')));
+            QCOMPARE(::chmod(QFile::encodeName(platform::folderOf(folder)).constData(), 0755), 0);
+            QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0), 0);
+            closed.prepend(folder);
+        }
+        QCOMPARE(::chmod(QFile::encodeName(tree.path()).constData(), 0755), 0);
+        const OrdinaryUser user;
+        for (int round = 0; round < 20; ++round) {
+            const platform::ReadFailures failures =
+                platform::walkFiles(tree.path(), {}, [](platform::WalkedFile &&) {});
+            QCOMPARE(failures.count(), 60);
+            QCOMPARE(failures.groups().size(), 1);
+            QCOMPARE(failures.groups().constFirst().places, closed.first(20));
+        }
+    }
+#endif
+
     void stopsBeforeTheNextEntry()
     {
         const TestTree tree;

@@ -47,11 +47,14 @@ public:
     {
     }
 
-    /// @p place is null for the root.
+    /// @p place is null for the root, which comes first, and for folders behind links, which come
+    /// after everything else.
     [[nodiscard]] Place *enter(FolderPlace *place, const QString &path)
     {
         const std::lock_guard lock(m_mutex);
-        Place *entered = place ? static_cast<Place *>(place) : m_root;
+        Place *entered = place ? static_cast<Place *>(place) : std::exchange(m_root, nullptr);
+        if (!entered)
+            entered = insertBefore(m_places.end());
         entered->path = path;
         Place *end = insertBefore(std::next(entered->self));
         end->isDone = true;
@@ -125,7 +128,7 @@ private:
     const std::atomic_bool *const m_stopRequested; ///< may be null
     std::mutex m_mutex; ///< guards the members below
     Places m_places;
-    Place *const m_root;
+    Place *m_root; ///< null when it has been entered
 };
 
 /// Turns each file that one walker finds into a WalkedFile.

@@ -28,20 +28,23 @@ void ReadFailures::add(const QString &where, const QString &reason)
         group.places.append(where);
 }
 
+void ReadFailures::add(const Group &more)
+{
+    Group &own = groupOf(more.reason);
+    // A run may meet the same places again. Then they count once.
+    const bool isSame = own.places == more.places;
+    if (isSame)
+        own.count = qMax(own.count, more.count);
+    for (const QString &place : more.places)
+        add(place, more.reason);
+    if (!isSame)
+        groupOf(more.reason).count += more.count - more.places.size();
+}
+
 void ReadFailures::add(const ReadFailures &other)
 {
-    for (const Group &more : other.m_groups) {
-        Group &own = groupOf(more.reason);
-        // A run may meet the same places again. Then they count once.
-        const bool isSame = own.places == more.places;
-        const qint64 unnamed = more.count - more.places.size();
-        if (isSame)
-            own.count = qMax(own.count, more.count);
-        for (const QString &place : more.places)
-            add(place, more.reason);
-        if (!isSame)
-            groupOf(more.reason).count += unnamed;
-    }
+    for (const Group &more : other.m_groups)
+        add(more);
 }
 
 qint64 ReadFailures::count() const

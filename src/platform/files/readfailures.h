@@ -29,6 +29,7 @@ public:
 
     void add(const QString &where, const QString &reason);
     void add(const ReadFailure &failure) { add(failure.where, failure.reason); }
+    void add(const Group &more);
     void add(const ReadFailures &other);
     void clear() { m_groups.clear(); }
 

@@ -5,8 +5,11 @@
 #include "treewalk.h"
 #include "walkqueue_p.h"
 
+#include <iterator>
+#include <map>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -24,7 +27,13 @@ public:
     void addFailure(const QString &path, const QString &reason)
     {
         const std::lock_guard lock(m_mutex);
-        m_report.failures.add(path, reason);
+        Failed &failed = m_failed[reason];
+        if (!failed.places.insert(path).second)
+            return;
+        ++failed.count;
+        constexpr auto most = static_cast<std::size_t>(ReadFailures::maximumPlaces);
+        if (failed.places.size() > most)
+            failed.places.erase(std::prev(failed.places.end()));
     }
 
     void addFollowed(const FollowedLink &link)
@@ -34,11 +43,25 @@ public:
     }
 
     /// The report. To be called when all walkers are done.
-    [[nodiscard]] WalkReport take() { return std::move(m_report); }
+    [[nodiscard]] WalkReport take()
+    {
+        for (const auto &[reason, failed] : m_failed)
+            m_report.failures.add(ReadFailures::Group{
+                reason, {failed.places.begin(), failed.places.end()}, failed.count});
+        return std::move(m_report);
+    }
 
 private:
+    /// What failed for one reason. The kept places are the first by name: several walkers meet them
+    /// in another order each time.
+    struct Failed {
+        std::set<QString> places;
+        qint64 count = 0;
+    };
+
     std::mutex m_mutex;
     WalkReport m_report;
+    std::map<QString, Failed> m_failed; ///< by reason
 };
 
 /// How a walk treats an entry of a folder.
@@ -67,8 +90,10 @@ struct Walk {
         FolderPlace *place = nullptr;
     };
 
+    using Queue = WalkQueue<Waiting, typename System::Link>;
+
     const WalkOptions &options;
-    WalkQueue<Waiting, typename System::Link> queue;
+    Queue queue;
     SharedReport report;
     System system;
     const bool hasOneWalker;
@@ -103,6 +128,7 @@ class Walker final
 public:
     using OpenFolder = typename System::OpenFolder;
     using Waiting = typename Walk<System>::Waiting;
+    using Position = typename Walk<System>::Queue::Position;
 
     Walker(Walk<System> &walk, TreeVisitor &visitor)
         : m_walk(walk)
@@ -115,10 +141,11 @@ public:
     /// Reads the folders in the queue until all walkers are done.
     void run()
     {
-        m_walk.queue.process([this](const auto &waiting) { open(waiting); });
+        m_walk.queue.process(
+            [this](const auto &waiting, Position position) { open(waiting, position); });
     }
 
-    void read(OpenFolder &folder, FolderPlace *place = nullptr)
+    void read(OpenFolder &folder, Position position, FolderPlace *place = nullptr)
     {
         m_folder = WalkedFolder(folder.path(), folder.id(), place);
         m_wanted = m_visitor.enterFolder(m_folder);
@@ -129,27 +156,27 @@ public:
             readEntry(folder, *entry);
             // Another walker may be waiting for these subfolders.
             if (!m_walk.hasOneWalker && folder.shouldShareSubfolders(m_reader, m_subfolders.size()))
-                m_walk.queue.add(m_subfolders);
+                m_walk.queue.add(position, m_subfolders);
         }
         if (const QString reason = folder.failureText(m_reader.error()); !reason.isEmpty())
             m_walk.report.addFailure(folder.path(), reason);
-        m_walk.queue.add(m_subfolders);
+        m_walk.queue.add(position, m_subfolders);
         m_visitor.leaveFolder();
     }
 
 private:
-    void open(const Waiting &waiting)
+    void open(const Waiting &waiting, Position position)
     {
         if (std::optional<OpenFolder> folder = m_walk.system.open(waiting.folder))
-            read(*folder, waiting.place);
+            read(*folder, position, waiting.place);
         else
             m_visitor.skipFolder(waiting.place);
     }
 
-    void open(const typename System::Link &link)
+    void open(const typename System::Link &link, Position position)
     {
         if (std::optional<OpenFolder> folder = m_walk.system.open(link))
-            read(*folder);
+            read(*folder, position);
     }
 
     [[nodiscard]] bool isEverywhere() const { return m_walk.options.reach == Reach::Everywhere; }
@@ -217,12 +244,12 @@ WalkReport walkTreeWith(const QString &root, const WalkOptions &options,
 {
     Walk<System> walk(options, visitors.size());
     if (std::optional<typename System::OpenFolder> rootFolder = walk.system.openRoot(root)) {
-        walk.queue.beginRoot();
+        const auto position = walk.queue.beginRoot();
         runSideBySide(static_cast<int>(visitors.size()), [&](int number) {
             Walker<System> walker(walk, *visitors.at(number));
             if (number == 0) {
-                walker.read(*rootFolder);
-                walk.queue.endRoot();
+                walker.read(*rootFolder, position);
+                walk.queue.endRoot(position);
             }
             walker.run();
         });

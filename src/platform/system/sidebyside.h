@@ -18,9 +18,10 @@ namespace platform {
 
 /// Calls @p work with 0 on this thread, and with each number from 1 to @p count - 1 on a thread of
 /// its own. Returns when all calls have returned. If the system cannot make a thread, the calls
-/// with the last numbers are left out: whoever is called must be able to do all the work.
+/// with the last numbers are left out: whoever is called must be able to do all the work. @p work
+/// throws nothing: on the other threads that would end the program in any case.
 template<class Work>
-void runSideBySide(int count, const Work &work)
+void runSideBySide(int count, const Work &work) noexcept
 {
     std::vector<std::jthread> others;
     try {

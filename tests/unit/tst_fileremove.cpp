@@ -204,6 +204,8 @@ private Q_SLOTS:
                 != Status::Removed);
         QVERIFY(tree.has(u"folder"_s));
         QCOMPARE(remover.removeFile(file, FileRemover::ListedFile{}).status, Status::Removed);
+        QCOMPARE(remover.removeFile(tree.path(u"folder"_s), {}).status, Status::Failed);
+        QVERIFY(tree.has(u"folder"_s));
     }
 
     void oddPathsAreRefused_data()

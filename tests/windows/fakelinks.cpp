@@ -4,6 +4,7 @@
 #include <QHash>
 
 #include <atomic>
+#include <utility>
 
 #include <windows.h>
 
@@ -21,6 +22,9 @@ struct State {
     QString refused; // in lower case; empty for none
     quint32 refusal = 0;
     quint32 breakOff = 0;
+    bool isCaseIgnored = false;
+    int removalsUntilAction = 0;
+    std::function<void()> action;
 };
 
 State &state()
@@ -128,6 +132,11 @@ BOOL WINAPI informationOf(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID 
         ::SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
+    constexpr int caseInfo = 23; // FileCaseSensitiveInfo, which the compiler's headers misnumber
+    if (state().isCaseIgnored && kind == caseInfo) {
+        static_cast<FILE_CASE_SENSITIVE_INFO *>(info)->Flags = 0;
+        return TRUE;
+    }
     const BOOL isKnown = systemFunction(handle, kind, info, size);
     if (!isKnown || kind != FileAttributeTagInfo)
         return isKnown;
@@ -142,6 +151,25 @@ BOOL WINAPI informationOf(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID 
         tagInfo->ReparseTag = tag;
     }
     return isKnown;
+}
+
+BOOL WINAPI setInformation(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID info, DWORD size)
+{
+    static const auto systemFunction =
+        original<decltype(&setInformation)>("SetFileInformationByHandle");
+    const BOOL isSet = systemFunction(handle, kind, info, size);
+    if (isSet)
+        --state().removalsUntilAction;
+    return isSet;
+}
+
+BOOL WINAPI closeHandle(HANDLE handle)
+{
+    static const auto systemFunction = original<decltype(&closeHandle)>("CloseHandle");
+    const BOOL isClosed = systemFunction(handle);
+    if (state().action && state().removalsUntilAction <= 0)
+        std::exchange(state().action, nullptr)();
+    return isClosed;
 }
 
 BOOL WINAPI deleteFile(LPCWSTR path)
@@ -169,6 +197,11 @@ decltype(&createFile) const importedCreateFile = createFile;
 extern decltype(&informationOf)
     const importedInformationOf asm("__imp_GetFileInformationByHandleEx");
 decltype(&informationOf) const importedInformationOf = informationOf;
+extern decltype(&setInformation)
+    const importedSetInformation asm("__imp_SetFileInformationByHandle");
+decltype(&setInformation) const importedSetInformation = setInformation;
+extern decltype(&closeHandle) const importedCloseHandle asm("__imp_CloseHandle");
+decltype(&closeHandle) const importedCloseHandle = closeHandle;
 extern decltype(&deleteFile) const importedDeleteFile asm("__imp_DeleteFileW");
 decltype(&deleteFile) const importedDeleteFile = deleteFile;
 extern decltype(&removeDirectory) const importedRemoveDirectory asm("__imp_RemoveDirectoryW");
@@ -209,8 +242,21 @@ void fakelinks::breakListings(quint32 error)
     state().breakOff = error;
 }
 
+void fakelinks::ignoreCase()
+{
+    state().isCaseIgnored = true;
+}
+
+void fakelinks::callAfterRemovals(int count, const std::function<void()> &action)
+{
+    state().removalsUntilAction = count;
+    state().action = action;
+}
+
 void fakelinks::clear()
 {
+    state().isCaseIgnored = false;
+    state().action = nullptr;
     state().refused.clear();
     state().breakOff = 0;
     state().areTagsRefused = false;

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 /// Fakes links that Wine cannot make. It replaces the system's file functions in the whole test
 /// program. Real links stay visible.
 ///
@@ -27,6 +29,12 @@ void refuse(const QString &name, quint32 error);
 
 /// Lets every listing break off behind its first entry, with the error @p error.
 void breakListings(quint32 error);
+
+/// Lets each folder tell that case does not count in it, as on Windows. Wine does not tell.
+void ignoreCase();
+
+/// Calls @p action once, when the removed file number @p count is closed.
+void callAfterRemovals(int count, const std::function<void()> &action);
 
 /// Removes all fakes.
 void clear();

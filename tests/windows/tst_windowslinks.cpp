@@ -283,8 +283,10 @@ private Q_SLOTS:
         QCOMPARE(outside.snapshot(), before);
     }
 
+    void nothingIsRemovedThroughAJunction_data() { addKindsOfFolders(); }
     void nothingIsRemovedThroughAJunction()
     {
+        fakeKindOfFolders();
         const TestTree outside;
         outside.file(u"precious"_s);
         outside.file(u"sub/precious"_s);
@@ -336,6 +338,80 @@ private Q_SLOTS:
         // Otherwise the exchange was too slow and the test shows nothing.
         QVERIFY2(removed > fileCount / 20 && refused > fileCount / 20,
                  qPrintable(u"removed %1, refused %2"_s.arg(removed).arg(refused)));
+    }
+
+    // A folder stays open between two of its files. Meanwhile another program moves it.
+    void filesOfAMovedFolderStay_data() { addKindsOfFolders(); }
+    void filesOfAMovedFolderStay()
+    {
+        fakeKindOfFolders();
+        const TestTree tree;
+        const QStringList paths = makeFiles(tree);
+        bool isMoved = false;
+        fakelinks::callAfterRemovals(50, [&] { isMoved = exchange(tree); });
+        FileRemover remover;
+        int removed = 0;
+        for (const QString &path : paths) {
+            const Status status = remover.remove(path).status;
+            removed += status == Status::Removed ? 1 : 0;
+            QVERIFY(status == Status::Removed || status == Status::Replaced);
+        }
+        QVERIFY(isMoved);
+        QVERIFY2(removed >= 50 && removed <= 50 + 32, qPrintable(QString::number(removed)));
+        QCOMPARE(walk(tree.path(u"kept"_s)).size(), manyFiles - removed);
+        QCOMPARE(walk(tree.path(u"top"_s)).size(), manyFiles);
+    }
+
+    void aFolderThatIsMovedDuringItsRemovalKeepsItsFiles_data() { addKindsOfFolders(); }
+    void aFolderThatIsMovedDuringItsRemovalKeepsItsFiles()
+    {
+        fakeKindOfFolders();
+        const TestTree tree;
+        makeFiles(tree);
+        bool isMoved = false;
+        fakelinks::callAfterRemovals(50, [&] { isMoved = exchange(tree); });
+        const Status status = remove(tree.path(u"top/folder"_s)).status;
+        if (!isMoved)
+            QSKIP("the system lets nobody move a folder that is being listed");
+        QCOMPARE(status, Status::Replaced);
+        const auto kept = walk(tree.path(u"kept"_s)).size();
+        QVERIFY2(kept >= manyFiles - 50 - 32 && kept <= manyFiles - 50,
+                 qPrintable(QString::number(kept)));
+        QCOMPARE(walk(tree.path(u"top"_s)).size(), manyFiles);
+    }
+
+    void filesOfTheSameNameInTwoFoldersAreTwo_data() { addKindsOfFolders(); }
+    void filesOfTheSameNameInTwoFoldersAreTwo()
+    {
+        fakeKindOfFolders();
+        const TestTree tree;
+        FileRemover remover;
+        const QString top = tree.file(u"file"_s);
+        const QString first = tree.file(u"a/file"_s);
+        QCOMPARE(remover.remove(tree.file(u"a/x"_s)).status, Status::Removed);
+        QCOMPARE(remover.remove(tree.file(u"b/file"_s)).status, Status::Removed);
+        QCOMPARE(walk(tree.path()), (QStringList{u"a/file"_s, u"file"_s}));
+        QCOMPARE(remover.remove(top).status, Status::Removed);
+        QCOMPARE(remover.remove(first).status, Status::Removed);
+    }
+
+    void otherNamesOfAFileAreRefused()
+    {
+        fakelinks::ignoreCase();
+        const TestTree tree;
+        const QString file = tree.file(u"a long name.text"_s);
+        wchar_t shortPath[MAX_PATH] = {};
+        QVERIFY(::GetShortPathNameW(
+            reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(file).utf16()), shortPath,
+            MAX_PATH));
+        const QString shortName = QString::fromWCharArray(shortPath).section(u'\\', -1);
+        if (shortName.contains(u'~')) // a volume can be without short names
+            QVERIFY(remove(tree.path(shortName)).status != Status::Removed);
+        QVERIFY(remove(file + ":stream"_L1).status != Status::Removed);
+        QVERIFY(remove(file + "::$DATA"_L1).status != Status::Removed);
+        QVERIFY(remove(file + u'.').status != Status::Removed);
+        QVERIFY(remove(file + u' ').status != Status::Removed);
+        QCOMPARE(content(file), QByteArray("content"));
     }
 
     void aRealFolderLinkIsNotEnteredAndItsTargetStays()
@@ -394,6 +470,40 @@ private Q_SLOTS:
         removeFolderLink(tree.path(u"real/planted"_s));
         removeFolderLink(tree.path(u"base"_s));
     }
+
+private:
+    static void addKindsOfFolders()
+    {
+        QTest::addColumn<bool>("isCaseIgnored");
+        QTest::newRow("case counts") << false;
+        QTest::newRow("case is ignored") << true;
+    }
+
+    static void fakeKindOfFolders()
+    {
+        QFETCH(bool, isCaseIgnored);
+        if (isCaseIgnored)
+            fakelinks::ignoreCase();
+    }
+
+    static QStringList makeFiles(const TestTree &tree)
+    {
+        QStringList paths;
+        for (int i = 0; i < manyFiles; ++i)
+            paths.append(tree.file(u"top/folder/f%1"_s.arg(i)));
+        return paths;
+    }
+
+    /// Moves the folder and puts another one with the same names in its place.
+    static bool exchange(const TestTree &tree)
+    {
+        if (!QDir().rename(tree.path(u"top"_s), tree.path(u"kept"_s)))
+            return false;
+        makeFiles(tree);
+        return true;
+    }
+
+    static constexpr int manyFiles = 200;
 };
 
 QTEST_GUILESS_MAIN(TestWindowsLinks)

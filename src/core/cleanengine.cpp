@@ -54,6 +54,7 @@ void CleanEngine::startClean()
     m_runSignals.open();
     m_stopRequested = false;
     const auto checked = std::make_shared<std::optional<CheckedRecords>>(m_result);
+    setProgress({});
     m_failures.clear();
     m_cleanedSize = 0;
     m_cleanedCount = 0;
@@ -61,7 +62,7 @@ void CleanEngine::startClean()
     setState(State::Cleaning);
 
     startWorker([this, checked] {
-        m_selection = (*checked)->records();
+        m_selection = (*checked)->records(stopFlag());
         checked->reset();
         doClean();
         m_selection.categories.clear();
@@ -96,6 +97,18 @@ void CleanEngine::setState(State state)
         Q_EMIT stateChanged(state);
 }
 
+CleanProgress CleanEngine::latestProgress() const
+{
+    const std::lock_guard lock(m_progressMutex);
+    return m_progress;
+}
+
+void CleanEngine::setProgress(const CleanProgress &progress)
+{
+    const std::lock_guard lock(m_progressMutex);
+    m_progress = progress;
+}
+
 void CleanEngine::endClean(State end)
 {
     State expected = State::Cleaning;
@@ -107,6 +120,7 @@ CleanEngine::CleanTotals CleanEngine::cleanSelection(const RemoveItem &remove,
                                                      const EnterCategory &enter)
 {
     CleanTotals totals;
+    totals.isStopped = isStopRequested(); // also if nothing was selected yet
     const int count = m_selection.checkedCount();
     int index = 0;
     for (const CleanCategory &category : std::as_const(m_selection.categories)) {
@@ -116,7 +130,8 @@ CleanEngine::CleanTotals CleanEngine::cleanSelection(const RemoveItem &remove,
             totals.isStopped = isStopRequested();
             if (totals.isStopped)
                 return totals;
-            Q_EMIT cleanProgress(++index, count, totals.freed);
+            setProgress({++index, count, totals.freed});
+            Q_EMIT cleanProgress(index, count, totals.freed);
             const Removal removal = remove(item);
             switch (removal.result) {
             case Removal::Cleaned:

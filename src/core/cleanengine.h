@@ -12,11 +12,21 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
 
 /// One thing that a clean could not remove.
 struct CleanFailure {
     QString path;
     QString reason; ///< for people; may contain unchanged text from outside
+};
+
+/// How far a clean is: the arguments of CleanEngine::cleanProgress(). All 0 before the first item.
+struct CleanProgress {
+    int current = 0;
+    int total = 0;
+    qint64 cleanedSize = 0; ///< bytes
+
+    friend bool operator==(const CleanProgress &, const CleanProgress &) = default;
 };
 
 /// The base of the engines that scan and clean: the last result, one worker thread per run, the
@@ -25,6 +35,7 @@ struct CleanFailure {
 /// Lives on the GUI thread. doScan() and doClean() run on the worker. There is never more than one
 /// worker. Which thread uses which member:
 ///  - state, stop flag: both threads, atomic;
+///  - clean progress: both threads, with its lock;
 ///  - result: the worker while a scan runs, otherwise the GUI thread;
 ///  - selection: the worker of a clean alone, which makes it from the marks at the start;
 ///  - failures, cleaned size and count: the worker while a clean runs, otherwise the GUI thread;
@@ -71,7 +82,10 @@ public:
     [[nodiscard]] const platform::ReadFailures &incomplete() const { return m_readFailures; }
     /// Grows while a scan works, also within one step of scanProgress(). Tells that work goes on
     /// and means nothing else. 0 for engines with short steps. Any thread.
-    [[nodiscard]] virtual qint64 foldersRead() const { return 0; }
+    [[nodiscard]] virtual qint64 activity() const { return 0; }
+    /// What the last clean has reached. A clean of a million items emits as many signals, which
+    /// would fill the event loop, so a page asks from time to time. Any thread.
+    [[nodiscard]] CleanProgress latestProgress() const;
     /// Makes an object to connect the engine's signals to. Queued signals of a run are dropped
     /// there when the next run begins or the engine is deleted. GUI thread.
     [[nodiscard]] std::unique_ptr<QObject> makeRunReceiver() const
@@ -155,10 +169,13 @@ private:
     /// Runs @p work and then @p report on the worker. Without a thread the run ends as failed.
     void startWorker(const std::function<void()> &work, const std::function<void()> &report = {});
     void completeScan(const RunSignals::Run &run);
+    void setProgress(const CleanProgress &progress);
 
     std::atomic<State> m_state = State::Idle;
     ScanResult m_result;
     std::atomic_bool m_stopRequested = false;
+    mutable std::mutex m_progressMutex; ///< guards m_progress
+    CleanProgress m_progress;
     ScanResult m_selection;
     QList<CleanFailure> m_failures;
     qint64 m_cleanedSize = 0;

@@ -131,8 +131,9 @@ CheckedRecords::CheckedRecords(const ScanResult &result)
     }
 }
 
-ScanResult CheckedRecords::records() const
+ScanResult CheckedRecords::records(const std::atomic_bool &stopRequested) const
 {
+    constexpr qsizetype itemsPerCheck = 1024;
     ScanResult records;
     records.scanTime = m_result.scanTime;
     for (qsizetype index = 0; index < m_marks.size(); ++index) {
@@ -143,6 +144,8 @@ ScanResult CheckedRecords::records() const
         chosen.items = {};
         chosen.items.reserve(marks.count(true));
         for (qsizetype i = 0; i < marks.size(); ++i) {
+            if (i % itemsPerCheck == 0 && stopRequested)
+                return {};
             if (marks.testBit(i))
                 chosen.items.append(checkedCopy(category.items.at(i)));
         }

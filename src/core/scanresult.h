@@ -7,6 +7,8 @@
 #include <QString>
 #include <Qt>
 
+#include <atomic>
+
 /// Levels of CleanItem::riskLevel and CleanCategory::riskLevel.
 enum RiskLevel { LowRisk = 0, MediumRisk = 1, HighRisk = 2 };
 
@@ -100,15 +102,16 @@ struct ScanResult {
 Q_DECLARE_METATYPE(ScanResult)
 
 /// Remembers what is checked in a result. The result's check marks may change then: only records()
-/// takes long among a million items, and it may be called on another thread.
+/// takes long among a million items, and it may be called on another thread. Until it returns,
+/// nothing may add to the result's lists or take from them: that would copy all their items first.
 class CheckedRecords final
 {
 public:
     explicit CheckedRecords(const ScanResult &result);
 
     /// A copy of the result that holds only what was checked, in the same order. It shares no
-    /// record with the result.
-    [[nodiscard]] ScanResult records() const;
+    /// record with the result. Empty when @p stopRequested is set meanwhile.
+    [[nodiscard]] ScanResult records(const std::atomic_bool &stopRequested) const;
 
 private:
     ScanResult m_result; ///< its items are those of the result, so no mark of theirs is read

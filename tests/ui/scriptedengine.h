@@ -26,9 +26,14 @@ public:
     std::atomic_int scans = 0;
     std::atomic_int cleans = 0;
 
-    std::atomic<qint64> folders = 0; ///< that a scan has read
+    std::atomic<qint64> steps = 0; ///< of a scan that works within one step of its progress
+    mutable std::atomic_int questions = 0; ///< for the steps
 
-    [[nodiscard]] qint64 foldersRead() const override { return folders; }
+    [[nodiscard]] qint64 activity() const override
+    {
+        ++questions;
+        return steps;
+    }
     void fail(const QString &error) { Q_EMIT errorOccurred(error); }
 
 protected:

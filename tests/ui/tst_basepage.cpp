@@ -22,6 +22,7 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using State = CleanEngine::State;
@@ -136,10 +137,11 @@ private Q_SLOTS:
     }
 
     // The percentage counts rules, and one rule may take long.
-    void aSignMovesWhileTheScanReadsFolders()
+    void aSignMovesWhileTheScanWorks()
     {
         ScriptedEngine engine;
         engine.hold = true;
+        engine.steps = 7; // of an earlier scan
         BasePage page;
         page.setEngine(&engine);
         show(page);
@@ -147,18 +149,101 @@ private Q_SLOTS:
         ProgressDialog *shown = dialog(page);
         QTRY_COMPARE_WITH_TIMEOUT(shown->findChild<QProgressBar *>()->value(), 25, patience);
         const QImage still = shown->grab().toImage();
-        QTest::qWait(200);
-        QCOMPARE(shown->grab().toImage(), still); // nothing is read
-        ++engine.folders;
+        waitForPolls(engine);
+        QCOMPARE(shown->grab().toImage(), still); // nothing is done
+        ++engine.steps;
         QTRY_VERIFY_WITH_TIMEOUT(shown->grab().toImage() != still, patience);
         const QImage first = shown->grab().toImage();
-        ++engine.folders;
+        ++engine.steps;
         QTRY_VERIFY_WITH_TIMEOUT(shown->grab().toImage() != first, patience);
-        shown->showResult(false, u"broken"_s);
-        const QImage end = shown->grab().toImage();
-        shown->showActivity();
-        QCOMPARE(shown->grab().toImage(), end);
+        for (int step = 0; step < 11; ++step)
+            shown->showActivity();
+        QCOMPARE(shown->grab().toImage(), first); // it has gone round once
         engine.hold = false;
+    }
+
+    void theSignIsGoneWhenTheRunHasFailed()
+    {
+        ProgressDialog usual(ProgressDialog::Scanning);
+        ProgressDialog active(ProgressDialog::Scanning);
+        active.showActivity();
+        QVERIFY(active.grab().toImage() != usual.grab().toImage());
+        for (ProgressDialog *one : {&usual, &active})
+            one->showResult(false, u"broken"_s);
+        QCOMPARE(active.grab().toImage(), usual.grab().toImage());
+        active.showActivity();
+        QCOMPARE(active.grab().toImage(), usual.grab().toImage());
+    }
+
+    // The scan before has read folders. A clean tells its progress for each item.
+    void theDialogOfACleanHasNoSign()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 2)};
+        BasePage page;
+        showAndScan(page, engine);
+        engine.hold = true;
+        click(page, u"cleanBtn"_s);
+        ProgressDialog *shown = dialog(page);
+        QTRY_COMPARE_WITH_TIMEOUT(engine.cleans.load(), 1, patience);
+        QTest::qWait(50); // the dialog is laid out
+        const QImage still = shown->grab().toImage();
+        ++engine.steps;
+        QTest::qWait(200); // several times as long as the page waits
+        QCOMPARE(shown->grab().toImage(), still);
+        engine.hold = false;
+    }
+
+    void theDialogOfAScanShowsNothingOfTheCleanBefore_data()
+    {
+        QTest::addColumn<bool>("isCancelled");
+        QTest::newRow("done") << false;
+        QTest::newRow("cancelled") << true;
+    }
+    void theDialogOfAScanShowsNothingOfTheCleanBefore()
+    {
+        QFETCH(bool, isCancelled);
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 20'000)};
+        BasePage page;
+        showAndScan(page, engine);
+        std::atomic_bool isThere = false;
+        connect(
+            &engine, &CleanEngine::cleanProgress, &engine,
+            [&](int current) {
+                engine.hold = isCancelled && current == 15'000;
+                isThere = isThere || current == 15'000;
+            },
+            Qt::DirectConnection);
+        const SignalSpy cleaned(&page, &BasePage::cleanFinished);
+        click(page, u"cleanBtn"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(isThere, patience);
+        if (isCancelled) {
+            page.cancelOperation();
+        } else {
+            QTRY_COMPARE_WITH_TIMEOUT(cleaned.size(), 1, patience);
+            dialog(page)->accept();
+        }
+        engine.hold = true;
+        click(page, u"scanBtn"_s);
+        const ProgressDialog *shown = dialog(page);
+        QTRY_COMPARE_WITH_TIMEOUT(shown->findChild<QProgressBar *>()->value(), 25, patience);
+        waitForPolls(engine);
+        QCOMPARE(shown->findChild<QProgressBar *>()->value(), 25);
+        QVERIFY(hasText(*shown, u"Some Files"_s));
+        engine.hold = false;
+    }
+
+    void withoutADialogThePageIsNotWoken()
+    {
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 2)};
+        BasePage page;
+        showAndScan(page, engine);
+        const auto timers = page.findChildren<QTimer *>();
+        QVERIFY(!timers.isEmpty());
+        for (const QTimer *timer : timers)
+            QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), patience);
     }
 
     // A queued call for each item would fill the event loop.
@@ -821,6 +906,13 @@ private:
         page.resize(700, 560);
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
+    }
+
+    /// Waits until the page has looked at the work of a scan several times.
+    static void waitForPolls(const ScriptedEngine &engine)
+    {
+        const int before = engine.questions;
+        QTRY_VERIFY_WITH_TIMEOUT(engine.questions >= before + 3, patience);
     }
 
     static void showAndScan(BasePage &page, ScriptedEngine &engine)

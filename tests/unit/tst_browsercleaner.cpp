@@ -671,7 +671,7 @@ private Q_SLOTS:
         scan(cleaner);
         QSet<QString> browsers;
         for (const CleanCategory &category :
-             CheckedRecords(cleaner.result()).records().categories) {
+             CheckedRecords(cleaner.result()).records(false).categories) {
             const auto browser = std::find_if(
                 cleaner.browsers().cbegin(), cleaner.browsers().cend(),
                 [&](const Browser &candidate) { return candidate.id == category.browserId; });
@@ -1022,7 +1022,7 @@ private Q_SLOTS:
         BrowserCleaner cleaner(foldersOf(tree));
         cleaner.loadRules(shipped);
         scan(cleaner);
-        const ScanResult selected = CheckedRecords(cleaner.result()).records();
+        const ScanResult selected = CheckedRecords(cleaner.result()).records(false);
         QStringList removed;
         qint64 bytes = 0;
         QSet<QString> seen;

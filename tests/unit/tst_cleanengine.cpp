@@ -189,10 +189,13 @@ private Q_SLOTS:
         // In the worker, in the order in which things happen.
         connect(
             &engine, &CleanEngine::cleanProgress, &engine,
-            [&calls](int current, int total, qint64 freed) {
+            [&calls, &engine](int current, int total, qint64 freed) {
                 calls.append(u"%1/%2 %3"_s.arg(current).arg(total).arg(freed));
+                if (engine.latestProgress() != CleanProgress{current, total, freed})
+                    calls.append(u"another progress"_s);
             },
             Qt::DirectConnection);
+        QCOMPARE(engine.latestProgress().total, 0);
         SignalSpy finished(&engine, &CleanEngine::cleanFinished);
         engine.startClean();
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
@@ -207,6 +210,41 @@ private Q_SLOTS:
         QCOMPARE(engine.failures().size(), 1);
         QCOMPARE(engine.failures().constFirst().path, u"/x/2"_s);
         QCOMPARE(engine.failures().constFirst().reason, u"busy"_s);
+    }
+
+    void theProgressOfACleanIsKeptUntilTheNext()
+    {
+        ScriptedEngine engine;
+        engine.add(category(u"a"_s, 3));
+        engine.onClean = [&] {
+            engine.reportClean(engine.cleanSelection([](const CleanItem &) {
+                return ScriptedEngine::Removal{ScriptedEngine::Removal::Cleaned, 7, {}};
+            }));
+        };
+        engine.startClean();
+        QVERIFY(engine.waitForEnd(QDeadlineTimer(patience)));
+        QVERIFY(engine.latestProgress() == (CleanProgress{3, 3, 14}));
+        engine.onClean = [&engine] { engine.waitForStop(); };
+        engine.startClean();
+        QVERIFY(engine.latestProgress() == CleanProgress());
+    }
+
+    void aCleanThatIsStoppedBeforeItsFirstItemIsCancelled()
+    {
+        ScriptedEngine engine;
+        engine.add(category(u"a"_s, 200'000)); // their copy takes longer than the stop
+        bool isSelected = false;
+        engine.onClean = [&] {
+            isSelected = !engine.selection().categories.isEmpty();
+            engine.reportClean(engine.cleanSelection([](const CleanItem &) {
+                return ScriptedEngine::Removal{ScriptedEngine::Removal::Cleaned, 7, {}};
+            }));
+        };
+        engine.startClean();
+        engine.stopAndWait();
+        QCOMPARE(engine.state(), State::Cancelled);
+        QCOMPARE(engine.cleanedCount(), 0);
+        QVERIFY(!isSelected);
     }
 
     void aStopEndsACleanBeforeTheNextItem()

@@ -135,6 +135,20 @@ private Q_SLOTS:
         QCOMPARE(folders.size(), 10);
     }
 
+    // Whoever waits sees that work goes on, also in one large folder.
+    void aWalkTellsOfItsActivity()
+    {
+        const TestTree tree;
+        for (int i = 0; i < 10'000; ++i)
+            tree.file(u"large/f%1"_s.arg(i), {});
+        tree.folder(u"large/empty"_s);
+        std::atomic<qint64> activity = 0;
+        platform::WalkOptions options;
+        options.activity = &activity;
+        platform::walkFiles(tree.path(), options, [](platform::WalkedFile &&) {});
+        QCOMPARE(activity.load(), 3 + 10'000 / 4096); // folders and runs of entries
+    }
+
     void aMissingRootIsNoFailure()
     {
         const TestTree tree;

@@ -321,6 +321,7 @@ private Q_SLOTS:
         const LogCapture log;
         scan(cleaner);
         QCOMPARE(progress.size(), 0);
+        QCOMPARE(cleaner.activity(), 0);
         QVERIFY(cleaner.result().categories.isEmpty());
         QVERIFY(log.contains(u"[INFO] Starting junk scan..."_s));
         QVERIFY(log.contains(u"[INFO] Junk scan finished. Found 0 items, 0 B"_s));
@@ -338,6 +339,7 @@ private Q_SLOTS:
         scan(cleaner);
         QCOMPARE(progress.size(), 1);
         QCOMPARE(progress.constFirst(), (QList<QVariant>{1, 1, u"Rule"_s}));
+        QCOMPARE(cleaner.activity(), 3); // folders
         QCOMPARE(cleaner.result().categories.size(), 1);
         const CleanCategory &category = cleaner.result().categories.constFirst();
         QCOMPARE(category.id, u"r"_s);

@@ -152,7 +152,7 @@ private Q_SLOTS:
         result.categories = {category(u"a"_s, {1, 2}), category(u"b"_s, {4})};
         result.categories[0].items[0].checked = false;
         result.categories[1].checked = false;
-        const ScanResult chosen = CheckedRecords(result).records();
+        const ScanResult chosen = CheckedRecords(result).records(false);
         QCOMPARE(chosen.categories.size(), 1);
         QCOMPARE(chosen.categories.at(0).id, u"a"_s);
         QCOMPARE(chosen.categories.at(0).items.size(), 1);
@@ -165,7 +165,7 @@ private Q_SLOTS:
         ScanResult result;
         result.categories = {category(u"a"_s, {1, 2})};
         CleanItem *bound = &result.categories[0].items[0];
-        const ScanResult chosen = CheckedRecords(result).records();
+        const ScanResult chosen = CheckedRecords(result).records(false);
         bound->checked = false;
         QVERIFY(chosen.categories.at(0).items.at(0).checked);
         // The copy has not detached the original either: the bound record is still the result's

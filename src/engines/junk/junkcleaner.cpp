@@ -201,7 +201,7 @@ void JunkCleaner::scanDirectory(const QString &directory, const QStringList &pat
                                 QList<CleanItem> &items, bool recursive)
 {
     platform::WalkOptions options{patterns, recursive, &stopFlag()};
-    options.foldersRead = &m_foldersRead;
+    options.activity = &m_activity;
     readFailures().add(platform::walkFiles(
         directory, options,
         [&items](platform::WalkedFile &&file) {

@@ -31,7 +31,7 @@ public:
     /// parsed or is not an object, an error is logged and the rules stay as they were.
     void loadRules(const QString &path) override;
     [[nodiscard]] const QList<JunkRule> &rules() const { return m_rules; }
-    [[nodiscard]] qint64 foldersRead() const override { return m_foldersRead; }
+    [[nodiscard]] qint64 activity() const override { return m_activity; }
 
     /// @p text with every known placeholder replaced and with native separators.
     [[nodiscard]] static QString expandPath(const QString &text);
@@ -52,5 +52,5 @@ private:
 
     QList<JunkRule> m_rules;
     platform::ListedFolders m_listed; ///< of the last scan
-    std::atomic<qint64> m_foldersRead = 0;
+    std::atomic<qint64> m_activity = 0;
 };

@@ -44,7 +44,8 @@ struct WalkOptions {
     bool recursive = true; ///< also walk the folders below
     const std::atomic_bool *stopRequested = nullptr; ///< may be null; checked before each entry
     Reach reach = Reach::OwnDevice;
-    std::atomic<qint64> *foldersRead = nullptr; ///< may be null; counts the folders on the way
+    /// May be null. Grows with each folder, and while a large one is read.
+    std::atomic<qint64> *activity = nullptr;
 };
 
 /// What a visitor remembers of a folder that is read later, see TreeVisitor::addSubfolder(). The

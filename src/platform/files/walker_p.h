@@ -149,10 +149,11 @@ public:
     {
         m_folder = WalkedFolder(folder.path(), folder.id(), place);
         m_wanted = m_visitor.enterFolder(m_folder);
-        if (m_walk.options.foldersRead)
-            ++*m_walk.options.foldersRead;
+        noteActivity();
         m_reader.begin(folder.source());
-        while (const auto *entry = m_reader.next()) {
+        for (int count = 1; const auto *entry = m_reader.next(); ++count) {
+            if (count % entriesPerNote == 0)
+                noteActivity();
             readEntry(folder, *entry);
             // Another walker may be waiting for these subfolders.
             if (!m_walk.hasOneWalker && folder.shouldShareSubfolders(m_reader, m_subfolders.size()))
@@ -165,6 +166,14 @@ public:
     }
 
 private:
+    static constexpr int entriesPerNote = 4096;
+
+    void noteActivity()
+    {
+        if (m_walk.options.activity)
+            ++*m_walk.options.activity;
+    }
+
     void open(const Waiting &waiting, Position position)
     {
         if (std::optional<OpenFolder> folder = m_walk.system.open(waiting.folder))

@@ -14,6 +14,12 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int stepsPerTurn = 12; // of the sign that tells that work goes on
+
+} // namespace
+
 ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
     : FramelessDialog(parent)
     , m_mode(mode)
@@ -97,7 +103,7 @@ void ProgressDialog::showActivity()
 {
     if (m_isFinished)
         return;
-    ++m_activity;
+    m_activity = (m_activity + 1) % stepsPerTurn;
     update(activityRect());
 }
 
@@ -149,7 +155,7 @@ void ProgressDialog::paintEvent(QPaintEvent *)
         return;
     // A short arc that goes round the icon.
     constexpr int degree = 16; // the unit of drawArc()
-    constexpr int stepAngle = 30 * degree;
+    constexpr int stepAngle = 360 / stepsPerTurn * degree;
     constexpr int arcLength = 60 * degree;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

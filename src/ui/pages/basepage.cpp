@@ -14,7 +14,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSettings>
-#include <QThread>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -55,18 +54,6 @@ void BasePage::setEngine(CleanEngine *engine)
     listen(&CleanEngine::stateChanged, &BasePage::onStateChanged);
     listen(&CleanEngine::scanProgress, &BasePage::onScanProgress);
     listen(&CleanEngine::scanFinished, &BasePage::onScanFinished);
-    m_cleanProgress = std::make_shared<CleanProgress>();
-    // A clean of a million items makes as many calls. Queued ones would fill the event loop.
-    connect(
-        m_engine, &CleanEngine::cleanProgress, m_runReceiver.get(),
-        [this, guiThread = thread(), latest = m_cleanProgress](int current, int total,
-                                                               qint64 cleanedSize) {
-            if (QThread::currentThread() == guiThread)
-                onCleanProgress(current, total, cleanedSize);
-            else
-                latest->set({current, total, cleanedSize});
-        },
-        Qt::DirectConnection);
     listen(&CleanEngine::cleanFinished, &BasePage::onCleanFinished);
     listen(&CleanEngine::errorOccurred, &BasePage::onEngineError);
 }
@@ -265,10 +252,8 @@ bool BasePage::canClean() const
 
 void BasePage::onStateChanged(CleanEngine::State state)
 {
-    if (state == CleanEngine::State::Cleaning) {
+    if (state == CleanEngine::State::Cleaning)
         m_isCleanPending = true;
-        (void)m_cleanProgress->take(); // of an earlier clean
-    }
     if (state != CleanEngine::State::Scanning)
         return;
     if (!m_isCleanPending) {
@@ -290,6 +275,8 @@ ProgressDialog *BasePage::openProgressDialog(ProgressDialog::Mode mode)
     m_progressDialog = new ProgressDialog(mode, this);
     connect(m_progressDialog, &ProgressDialog::cancelRequested, this, &BasePage::cancelOperation);
     m_progressDialog->showWith(this);
+    m_shownProgress = {};
+    m_shownActivity = m_engine->activity();
     m_progressTimer.start();
     return m_progressDialog;
 }
@@ -301,10 +288,14 @@ void BasePage::showProgress()
         m_progressTimer.stop();
         return;
     }
-    if (const auto latest = m_cleanProgress->take())
-        onCleanProgress(latest->current, latest->total, latest->cleanedSize);
-    const qint64 foldersRead = m_engine->foldersRead();
-    if (std::exchange(m_foldersRead, foldersRead) != foldersRead)
+    if (dialog->mode() == ProgressDialog::Cleaning) {
+        const CleanProgress latest = m_engine->latestProgress();
+        if (std::exchange(m_shownProgress, latest) != latest)
+            onCleanProgress(latest.current, latest.total, latest.cleanedSize);
+        return;
+    }
+    const qint64 activity = m_engine->activity();
+    if (std::exchange(m_shownActivity, activity) != activity)
         dialog->showActivity();
 }
 

@@ -11,47 +11,12 @@
 #include <QWidget>
 
 #include <memory>
-#include <mutex>
-#include <optional>
-#include <utility>
 
 class ResultWidget;
 class QLabel;
 class QPushButton;
 class QScrollArea;
 class QVBoxLayout;
-
-/// What the worker of a clean has reached. The worker sets it, and the page takes it from time to
-/// time. Any thread.
-class CleanProgress final
-{
-    Q_DISABLE_COPY_MOVE(CleanProgress)
-public:
-    /// The arguments of CleanEngine::cleanProgress().
-    struct Values {
-        int current = 0;
-        int total = 0;
-        qint64 cleanedSize = 0;
-    };
-
-    CleanProgress() = default;
-
-    void set(const Values &values)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_latest = values;
-    }
-    /// What was set since the last call, if anything.
-    [[nodiscard]] std::optional<Values> take()
-    {
-        const std::lock_guard lock(m_mutex);
-        return std::exchange(m_latest, {});
-    }
-
-private:
-    std::mutex m_mutex;
-    std::optional<Values> m_latest;
-};
 
 /// The common page of the rule-driven engines: scan, review by category, confirm, clean. MainWindow
 /// owns it. GUI thread.
@@ -167,7 +132,7 @@ private:
     QWidget *m_topBar = nullptr; ///< above the list; null when the subclass has none
     QWidget *m_lastBarControl = nullptr; ///< the last focusable control of the bar
     QPointer<ProgressDialog> m_progressDialog;
-    QTimer m_progressTimer; ///< runs while the dialog is open
-    std::shared_ptr<CleanProgress> m_cleanProgress = std::make_shared<CleanProgress>();
-    qint64 m_foldersRead = 0; ///< when it was shown last
+    QTimer m_progressTimer{this}; ///< runs while the dialog is open
+    CleanProgress m_shownProgress; ///< of the clean
+    qint64 m_shownActivity = 0; ///< of the scan
 };

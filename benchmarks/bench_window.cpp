@@ -140,10 +140,10 @@ private:
 void measureJunk(MainWindow &window, Gaps &gaps)
 {
     auto *page = window.findChild<JunkPage *>();
+    auto *scan = page->findChild<QPushButton *>(u"scanBtn"_s);
     auto *clean = page->findChild<QPushButton *>(u"cleanBtn"_s);
     gaps.measure("junk: open the page", [&] { window.onDashboardNavigate(1); });
-    gaps.measure("junk: scan and show", page, &BasePage::scanFinished,
-                 [&] { page->findChild<QPushButton *>(u"scanBtn"_s)->click(); });
+    gaps.measure("junk: scan and show", page, &BasePage::scanFinished, [scan] { scan->click(); });
     auto *category = page->findChild<CategoryWidget *>();
     if (!category)
         qFatal("nothing was found");
@@ -161,6 +161,11 @@ void measureJunk(MainWindow &window, Gaps &gaps)
                  [&] { category->findChild<QPushButton *>(u"itemCount"_s)->click(); });
     gaps.measure("junk: close the details",
                  [&] { window.findChild<ItemDetailDialog *>()->close(); });
+    gaps.measure("junk: clean, cancel and scan at once", page, &BasePage::scanFinished, [&] {
+        clean->click();
+        page->cancelOperation();
+        scan->click();
+    });
     gaps.measure("junk: clean", page, &BasePage::cleanFinished, [clean] { clean->click(); });
 }
 

@@ -3,7 +3,10 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,6 +30,13 @@ QPixmap svgPixmap(const QString &path, QSize size, qreal ratio, std::optional<QC
 {
     if (path.isEmpty() || !QFile::exists(path))
         return {};
+    // A list has the same icon in each row.
+    const QString key = u"svg %1 %2x%3 %4 %5"_s.arg(
+        path, QString::number(size.width()), QString::number(size.height()), QString::number(ratio),
+        tint ? tint->name(QColor::HexArgb) : QString());
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
     QSvgRenderer renderer(path);
     if (!renderer.isValid())
         return {};
@@ -39,5 +49,7 @@ QPixmap svgPixmap(const QString &path, QSize size, qreal ratio, std::optional<QC
     if (tint)
         recolour(image, *tint);
     image.setDevicePixelRatio(ratio);
-    return QPixmap::fromImage(std::move(image));
+    pixmap = QPixmap::fromImage(std::move(image));
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
 }

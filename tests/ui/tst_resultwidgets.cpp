@@ -278,6 +278,25 @@ private Q_SLOTS:
         QVERIFY(widget.findChild<QLabel *>(u"categorySize"_s)->isVisible());
     }
 
+    // Pictures are kept, and no two that differ are mixed up.
+    void anIconHasItsSizeResolutionAndColour()
+    {
+        const QString path = u":/icons/trash.svg"_s;
+        const QImage usual = svgPixmap(path, {24, 24}, 1).toImage();
+        QCOMPARE(svgPixmap(path, {24, 24}, 1).toImage(), usual);
+        QCOMPARE(usual.size(), QSize(24, 24));
+        QCOMPARE(svgPixmap(path, {24, 20}, 1).size(), QSize(24, 20));
+        QCOMPARE(svgPixmap(path, {20, 24}, 1).size(), QSize(20, 24));
+        const QPixmap fine = svgPixmap(path, {24, 24}, 2);
+        QCOMPARE(fine.size(), QSize(48, 48));
+        QCOMPARE(fine.devicePixelRatio(), 2.0);
+        const QImage red = svgPixmap(path, {24, 24}, 1, Qt::red).toImage();
+        const QImage blue = svgPixmap(path, {24, 24}, 1, Qt::blue).toImage();
+        QVERIFY(red != usual && blue != usual && red != blue);
+        QVERIFY(svgPixmap(u":/icons/chevron-left.svg"_s, {24, 24}, 1).toImage() != usual);
+        QVERIFY(svgPixmap(u":/icons/none.svg"_s, {24, 24}, 1).isNull());
+    }
+
     void iconsFollowTheId_data()
     {
         QTest::addColumn<QString>("id");

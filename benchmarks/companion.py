@@ -15,7 +15,6 @@ import time
 ROUNDS = 3
 FILES_PER_FOLDER = 200
 VERSION_KEY = r"Software\\Microsoft\\Windows\\CurrentVersion"
-MUI_CACHE = r"Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"
 
 
 def run(command, environment, statuses=(0,)):
@@ -102,7 +101,13 @@ class Bench:
         values = "".join(f"\"Program {number}\"=\"C:\\\\missing\\\\program {number}.exe\"\n" for number in range(100_000 // self.divisor))
         make_prefix(folder / "prefix", f"\n[{VERSION_KEY}\\\\Run] 1500000000\n{values}")
         environment = self.environment(folder, prefix=folder / "prefix")
-        registry, kept = folder / "prefix" / "user.reg", folder / "kept.reg"
+        _, clean, restore = self.registry_run(folder, environment)
+        return [("registry clean, 100,000 values of one key, beyond two scans", clean, "s", 1),
+                ("  restoring them", restore, "s", 1)]
+
+    def registry_run(self, folder, environment, file="user.reg"):
+        """Seconds of a scan, of a clean beyond two scans, and of restoring what the clean has backed up."""
+        registry, kept = folder / "prefix" / file, folder / "kept.reg"
         before = registry.read_bytes()
         times = {"scan": [], "clean": [], "restore": []}
         for _ in range(self.rounds + 1):
@@ -110,21 +115,33 @@ class Bench:
             kept.unlink(missing_ok=True)
             times["scan"].append(run([self.cli, "scan", "registry"], environment)[0])
             times["clean"].append(run([self.cli, "clean", "registry", "--backup", kept, "--yes"], environment)[0])
+            if registry.read_bytes() == before:
+                sys.exit("bench: nothing was cleaned")
             times["restore"].append(run([self.cli, "restore", kept], environment)[0])
         scan, clean, restore = (statistics.median(values[1:]) for values in times.values())
         # A clean scans, looks again right before it removes anything, writes the backup, and removes.
-        return [("registry clean, 100,000 values of one key, beyond two scans", clean - 2 * scan, "s", 1),
-                ("restoring them", restore, "s", 1)]
+        return scan, clean - 2 * scan, restore
 
     def long_text(self, folder):
-        make_prefix(folder / "prefix", f"\n[{MUI_CACHE}] 1500000000\n\"C:\\\\{'x' * (30_000_000 // self.divisor)}.exe\"=\"Program\"\n")
+        make_prefix(folder / "prefix", f"\n[{VERSION_KEY}\\\\Run] 1500000000\n\"Gone\"=\"C:\\\\{'x' * (30_000_000 // self.divisor)}.exe\"\n")
         environment = self.environment(folder, prefix=folder / "prefix")
-        (seconds,), _ = median([self.cli, "scan", "registry"], environment=environment, rounds=1)
-        return [("registry scan, a text of 30,000,000 characters", seconds, "s", 1)]
+        scan, clean, restore = self.registry_run(folder, environment)
+        return [("registry scan, a text of 30,000,000 characters", scan, "s", 1),
+                ("  cleaning it, beyond two scans", clean, "s", 1),
+                ("  restoring it", restore, "s", 1)]
+
+    def deep_key(self, folder):
+        uninstall = f"{VERSION_KEY}\\\\Uninstall\\\\Gone"
+        deepest = "\\\\".join([uninstall, *["a"] * (16_000 // self.divisor)])
+        make_prefix(folder / "prefix", machine=f"\n[{uninstall}] 1500000000\n\"DisplayName\"=\"Gone\"\n\"InstallLocation\"=\"C:\\\\gone\"\n"
+                                               f"\"UninstallString\"=\"C:\\\\gone\\\\uninstall.exe\"\n\n[{deepest}] 1500000000\n\"Value\"=\"1\"\n")
+        environment = self.environment(folder, prefix=folder / "prefix")
+        scan, clean, _ = self.registry_run(folder, environment, "system.reg")
+        return [("registry scan, a key of 16,000 levels", scan, "s", 1), ("  cleaning it, beyond two scans", clean, "s", 1)]
 
     def junk(self, folder):
         count = 500_000 // self.divisor
-        temp = folder / "a temporary folder with a path of about one hundred characters, as they are"
+        temp = folder / "temporary files of a user"  # paths of about 110 characters
         for half in ("first half", "second half"):
             make_files(temp / half, count // 2)
         environment = self.environment(folder, temp=temp)
@@ -165,7 +182,8 @@ class Bench:
 
     def rows(self):
         rows = []
-        for measurement in (self.many_keys, self.missing_files, self.many_values, self.long_text, self.junk, self.clean, self.browser):
+        for measurement in (self.many_keys, self.missing_files, self.many_values, self.long_text, self.deep_key, self.junk, self.clean,
+                            self.browser):
             with tempfile.TemporaryDirectory() as folder:
                 rows += measurement(pathlib.Path(folder))
         return rows

@@ -4,6 +4,10 @@
 
 #include <chrono>
 
+#ifdef Q_OS_LINUX
+#include <time.h>
+#endif
+
 namespace platform {
 
 /// Checks that an open folder is still at its path. An open folder stays usable when somebody moves
@@ -32,7 +36,21 @@ public:
     }
 
 private:
+#ifdef Q_OS_LINUX
+    // It is asked once an entry, and this one costs a quarter of the other.
+    struct Clock {
+        using time_point = std::chrono::steady_clock::time_point;
+        static time_point now()
+        {
+            timespec time{};
+            ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+            return time_point(std::chrono::seconds(time.tv_sec)
+                              + std::chrono::nanoseconds(time.tv_nsec));
+        }
+    };
+#else
     using Clock = std::chrono::steady_clock;
+#endif
 
     static constexpr int entriesPerCheck = 32;
     static constexpr std::chrono::milliseconds recheckInterval{5};

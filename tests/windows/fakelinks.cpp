@@ -22,7 +22,7 @@ struct State {
     QString refused; // in lower case; empty for none
     quint32 refusal = 0;
     quint32 breakOff = 0;
-    bool isCaseIgnored = false;
+    bool areNumbersHidden = false;
     int removalsUntilAction = 0;
     std::function<void()> action;
 };
@@ -132,11 +132,6 @@ BOOL WINAPI informationOf(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID 
         ::SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    constexpr int caseInfo = 23; // FileCaseSensitiveInfo, which the compiler's headers misnumber
-    if (state().isCaseIgnored && kind == caseInfo) {
-        static_cast<FILE_CASE_SENSITIVE_INFO *>(info)->Flags = 0;
-        return TRUE;
-    }
     const BOOL isKnown = systemFunction(handle, kind, info, size);
     if (!isKnown || kind != FileAttributeTagInfo)
         return isKnown;
@@ -161,6 +156,16 @@ BOOL WINAPI setInformation(HANDLE handle, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID
     if (isSet)
         --state().removalsUntilAction;
     return isSet;
+}
+
+BOOL WINAPI fileInformation(HANDLE handle, LPBY_HANDLE_FILE_INFORMATION info)
+{
+    static const auto systemFunction =
+        original<decltype(&fileInformation)>("GetFileInformationByHandle");
+    const BOOL isKnown = systemFunction(handle, info);
+    if (state().areNumbersHidden)
+        info->nFileIndexHigh = info->nFileIndexLow = 0;
+    return isKnown;
 }
 
 BOOL WINAPI closeHandle(HANDLE handle)
@@ -200,6 +205,9 @@ decltype(&informationOf) const importedInformationOf = informationOf;
 extern decltype(&setInformation)
     const importedSetInformation asm("__imp_SetFileInformationByHandle");
 decltype(&setInformation) const importedSetInformation = setInformation;
+extern decltype(&fileInformation)
+    const importedFileInformation asm("__imp_GetFileInformationByHandle");
+decltype(&fileInformation) const importedFileInformation = fileInformation;
 extern decltype(&closeHandle) const importedCloseHandle asm("__imp_CloseHandle");
 decltype(&closeHandle) const importedCloseHandle = closeHandle;
 extern decltype(&deleteFile) const importedDeleteFile asm("__imp_DeleteFileW");
@@ -242,9 +250,9 @@ void fakelinks::breakListings(quint32 error)
     state().breakOff = error;
 }
 
-void fakelinks::ignoreCase()
+void fakelinks::hideNumbers()
 {
-    state().isCaseIgnored = true;
+    state().areNumbersHidden = true;
 }
 
 void fakelinks::callAfterRemovals(int count, const std::function<void()> &action)
@@ -255,7 +263,7 @@ void fakelinks::callAfterRemovals(int count, const std::function<void()> &action
 
 void fakelinks::clear()
 {
-    state().isCaseIgnored = false;
+    state().areNumbersHidden = false;
     state().action = nullptr;
     state().refused.clear();
     state().breakOff = 0;

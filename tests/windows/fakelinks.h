@@ -30,8 +30,8 @@ void refuse(const QString &name, quint32 error);
 /// Lets every listing break off behind its first entry, with the error @p error.
 void breakListings(quint32 error);
 
-/// Lets each folder tell that case does not count in it, as on Windows. Wine does not tell.
-void ignoreCase();
+/// Lets no folder have a file number, as on some servers.
+void hideNumbers();
 
 /// Calls @p action once, when the removed file number @p count is closed.
 void callAfterRemovals(int count, const std::function<void()> &action);

@@ -1,7 +1,6 @@
 #include "fileremove.h"
 
 #include "expectedfolders_p.h"
-#include "placeguard_p.h"
 #include "unix/folderreader.h"
 #include "unix/openfolder.h"
 
@@ -15,6 +14,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <time.h>
 
 using namespace Qt::StringLiterals;
 
@@ -46,11 +46,45 @@ bool isListedFile(int folder, const char *name, const FileRemover::ListedFile &l
         && (listed.number == 0 || listed.number == status.st_ino);
 }
 
-EntryId idOfFolder(const QByteArray &path)
+/// Checks that an open folder is still at its path. An open folder stays usable when somebody moves
+/// it, and its entries would be removed at the new place. The check is repeated after a number of
+/// entries and after a short time. A FileRemover owns one for the folder of its entries, a
+/// FolderRemoval one for its levels.
+class PlaceGuard
 {
-    const UniqueFd folder = openFolder(path, Access::PassThrough);
-    return folder.isValid() ? idOf(folder.get()) : EntryId();
-}
+public:
+    /// To be called before each removal from the open @p folder. @p path returns the path of that
+    /// folder.
+    template<class Path>
+    [[nodiscard]] bool isInPlace(int folder, const Path &path)
+    {
+        if (--m_entriesUntilCheck >= 0 && now() - m_lastCheck < recheckInterval)
+            return true;
+        restartInterval();
+        const UniqueFd there = openFolder(path(), Access::PassThrough);
+        return there.isValid() && idOf(folder) == idOf(there.get());
+    }
+    /// Tells that the folder was opened by its path just now.
+    void restartInterval()
+    {
+        m_entriesUntilCheck = entriesPerCheck - 1;
+        m_lastCheck = now();
+    }
+
+private:
+    static constexpr int entriesPerCheck = 32;
+    static constexpr qint64 recheckInterval = 5'000'000; // nanoseconds
+
+    static qint64 now()
+    {
+        timespec time{};
+        ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+        return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    }
+
+    int m_entriesUntilCheck = 0;
+    qint64 m_lastCheck = 0;
+};
 
 /// Empties and removes one folder, level by level without recursion. Lives on the stack of
 /// FileRemover::remove(). Only the deepest levels are held open. A higher level is opened again
@@ -119,7 +153,7 @@ private:
     // removed.
     bool isInPlace(const Level &level)
     {
-        if (m_wasMoved || m_guard.isInPlace(level.id, [&] { return idOfFolder(pathOf(level)); }))
+        if (m_wasMoved || m_guard.isInPlace(level.fd.get(), [&] { return pathOf(level); }))
             return !m_wasMoved;
         m_wasMoved = true;
         return false;
@@ -292,7 +326,7 @@ public:
     // still at its path. On failure returns the outcome for the entry.
     std::optional<Outcome> openParent(const QByteArray &path)
     {
-        if (isOpen(path) && guard.isInPlace(id, [&] { return idOfFolder(path); }))
+        if (isOpen(path) && guard.isInPlace(fd.get(), [&] { return path; }))
             return {};
         fd.reset();
         const QString name = QFile::decodeName(path);
@@ -304,8 +338,7 @@ public:
         if (!found.isValid())
             return Outcome{
                 folders.idOf(name).isKnown() ? Status::Replaced : Status::NotFound, false, {}};
-        id = idOf(found.get());
-        if (!folders.accept(name, id))
+        if (!folders.accept(name, idOf(found.get())))
             return Outcome{Status::Replaced, false, {}};
         fd = std::move(found);
         folder = path;
@@ -320,7 +353,6 @@ public:
     ExpectedFolders folders;
     QByteArray folder;
     UniqueFd fd;
-    EntryId id;
     PlaceGuard guard;
 };
 

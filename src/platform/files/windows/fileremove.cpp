@@ -1,7 +1,6 @@
 #include "fileremove.h"
 
 #include "expectedfolders_p.h"
-#include "placeguard_p.h"
 #include "windows/folderreader.h"
 #include "windows/openentry.h"
 
@@ -36,19 +35,6 @@ struct OpenedEntry {
     [[nodiscard]] bool isFolder() const { return nature == EntryNature::Folder; }
 };
 
-/// An open folder whose files are opened by their names.
-struct SourceFolder {
-    UniqueHandle handle;
-    bool mayTellCase = true; ///< it may have several names that differ only in case
-
-    SourceFolder() = default;
-    explicit SourceFolder(UniqueHandle folder)
-        : handle(std::move(folder))
-        , mayTellCase(platform::mayTellCase(handle))
-    {
-    }
-};
-
 /// Removes single entries by their handle. The entry that was checked is the one that is removed,
 /// even if a folder above is exchanged meanwhile. A FileRemover owns one and uses it on its thread.
 class EntryRemover
@@ -58,7 +44,10 @@ public:
     [[nodiscard]] OpenedEntry open(const QString &extended, DWORD moreAccess = 0)
     {
         OpenedEntry entry;
-        enterVolume(extended);
+        if (const QString root = extended.left(rootLength(extended)); root != m_root) {
+            m_root = root;
+            m_hasImmediateDeletion = true; // until this volume refuses it
+        }
         UniqueHandle handle =
             openEntry(extended, DELETE | FILE_READ_ATTRIBUTES | moreAccess, Links::Open);
         if (!handle.isValid()) {
@@ -86,22 +75,6 @@ public:
         entry.nature = found->nature;
         entry.handle = std::move(handle);
         return entry;
-    }
-
-    /// Removes the file or link at @p extended, whose folder is open and was checked. Three system
-    /// calls, or four where case counts. Whatever happens to the path meanwhile, nothing in another
-    /// folder is removed. Returns false if the entry has to be opened by its path, which also tells
-    /// what is wrong.
-    [[nodiscard]] bool removeFrom(const SourceFolder &folder, const QString &extended)
-    {
-        enterVolume(extended);
-        const QStringView name = QStringView(extended).mid(extended.lastIndexOf(u'\\') + 1);
-        const UniqueHandle file = openFileIn(folder.handle, name, DELETE);
-        if (!file.isValid())
-            return false;
-        if (folder.mayTellCase && m_check.placeOf(file, extended) != PlaceCheck::Place::AsAsked)
-            return false;
-        return markForDeletion(file);
     }
 
     /// Removes a file, a link or an empty folder. Closes the handle in any case.
@@ -133,15 +106,6 @@ public:
     [[nodiscard]] DWORD error() const { return m_error; }
 
 private:
-    void enterVolume(const QString &extended)
-    {
-        const QStringView root = QStringView(extended).left(rootLength(extended));
-        if (root == m_root)
-            return;
-        m_root = root.toString();
-        m_hasImmediateDeletion = true; // until this volume refuses it
-    }
-
     bool markForDeletion(const UniqueHandle &handle)
     {
         if (m_hasImmediateDeletion) {
@@ -269,20 +233,13 @@ private:
             m_hasReplacedFolder = true;
             return;
         }
-        // Nobody could list the folder while it is open for removal.
         entry.handle.reset();
-        const SourceFolder folder(openEntry(path, FILE_READ_ATTRIBUTES, Links::Open));
-        if (idOf(folder.handle) != id) {
-            m_hasReplacedFolder = true;
-            return;
-        }
         Level level{path, id, {}};
-        m_guard.restartInterval();
-        removeEntries(level, folder);
+        removeEntries(level);
         m_levels.push_back(std::move(level));
     }
 
-    void removeEntries(Level &level, const SourceFolder &folder)
+    void removeEntries(Level &level)
     {
         FolderReader reader(m_stopRequested);
         if (!reader.begin(level.path)) {
@@ -293,28 +250,19 @@ private:
             const QString name = QString::fromWCharArray(entry->cFileName);
             if (natureOf(*entry) == EntryNature::Folder)
                 level.subfolders.push_back(name);
-            else if (isInPlace(level) && !m_remover.removeFrom(folder, level.path + u'\\' + name))
-                removeEntryIfInPlace(level, name);
+            else if (isInPlace(level))
+                removeEntry(level.path + u'\\' + name);
         }
         if (reader.error() != ERROR_SUCCESS)
             keepFirstError(reader.error());
     }
 
-    // To be called before each removal in the level. Once another folder is at the path of the
-    // level nothing else is removed.
+    // To be called before each removal in the level, because entries are opened by their path. Once
+    // another folder is at the path of the level nothing else is removed.
     bool isInPlace(const Level &level)
     {
-        m_wasMoved = m_wasMoved
-            || !m_guard.isInPlace(level.id, [&] { return idOfFolder(plainPath(level.path)); });
+        m_wasMoved = m_wasMoved || idOfFolder(plainPath(level.path)) != level.id;
         return !m_wasMoved;
-    }
-
-    // The entry is opened by its path, so the folder there is looked at right before.
-    void removeEntryIfInPlace(const Level &level, const QString &name)
-    {
-        m_wasMoved = idOfFolder(plainPath(level.path)) != level.id;
-        if (!m_wasMoved)
-            removeEntry(level.path + u'\\' + name);
     }
 
     // Removes a file, a link or an emptied folder. Returns whether it was removed.
@@ -342,7 +290,6 @@ private:
     const QString m_topPath;
     const std::atomic_bool *const m_stopRequested;
     std::vector<Level> m_levels;
-    PlaceGuard m_guard;
     bool m_wasMoved = false;
     bool m_hasReplacedFolder = false; ///< the folder or one inside was replaced; the new one stays
     DWORD m_error = ERROR_SUCCESS;
@@ -372,8 +319,6 @@ public:
         const QString extended = extendedPath(path);
         if (extended.isEmpty() || extended.size() == rootLength(extended))
             return failure(ERROR_INVALID_NAME);
-        if (!listed && openFolderOf(extended) && m_entries.removeFrom(m_folder.source, extended))
-            return {Status::Removed, false, {}};
         if (const std::optional<Outcome> outcome = checkFolderOf(extended))
             return *outcome;
 
@@ -387,7 +332,6 @@ public:
             if (folders == Folders::Leave)
                 return failure(ERROR_ACCESS_DENIED, true);
             entry.handle.reset();
-            m_folder = {}; // an open folder cannot be removed at once
             if (m_expected.isRemoved(plainPath(extended)))
                 return {Status::NotFound, false, {}};
             return FolderRemoval(m_expected, m_entries, extended, stopRequested).run();
@@ -405,41 +349,6 @@ private:
         const auto nature = listed.isLink ? EntryNature::FileLink : EntryNature::File;
         return entry.nature == nature
             && (listed.number == 0 || listed.number == idOf(entry.handle).number);
-    }
-
-    /// The folder of the last entry, kept open for the next one.
-    struct OpenFolder {
-        QString path; ///< in the extended form
-        SourceFolder source;
-        EntryId id;
-        PlaceGuard guard;
-    };
-
-    // Opens the folder of the entry, if it is the expected one and no link leads to it. The folder
-    // that is open already is used again if it is still at its path.
-    bool openFolderOf(const QString &extended)
-    {
-        const qsizetype end =
-            qMax(extended.lastIndexOf(u'\\'), rootLength(extended)); // a root keeps its backslash
-        const QString path = extended.left(end);
-        const QString plain = folderOf(plainPath(extended));
-        if (m_folder.source.handle.isValid() && m_folder.path == path
-            && m_folder.guard.isInPlace(m_folder.id, [&plain] { return idOfFolder(plain); }))
-            return true;
-        m_folder = {};
-        if (m_expected.isRemoved(plain))
-            return false;
-        UniqueHandle handle = openEntry(path, FILE_READ_ATTRIBUTES, Links::Open);
-        if (!handle.isValid() || m_check.placeOf(handle, path) != PlaceCheck::Place::AsAsked)
-            return false;
-        const std::optional<EntryAttributes> found = attributesOf(handle);
-        const EntryId id = idOf(handle);
-        if (!found || found->nature != EntryNature::Folder || !id.isKnown()
-            || !m_expected.accept(plain, id))
-            return false;
-        m_folder = {path, SourceFolder(std::move(handle)), id, {}};
-        m_folder.guard.restartInterval();
-        return true;
     }
 
     // Checks the folder of the entry. If it is not the expected one, returns the outcome for the
@@ -460,8 +369,6 @@ private:
 
     ExpectedFolders m_expected;
     EntryRemover m_entries;
-    OpenFolder m_folder;
-    PlaceCheck m_check; ///< for m_folder
 };
 
 FileRemover::FileRemover()

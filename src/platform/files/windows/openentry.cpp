@@ -3,11 +3,7 @@
 #include <QDir>
 #include <QVarLengthArray>
 
-#include <array>
-
 #include <windows.h>
-// This header needs the one above.
-#include <winternl.h>
 
 using namespace Qt::StringLiterals;
 
@@ -179,45 +175,6 @@ UniqueHandle openEntry(const QString &extended, quint32 access, Links links)
                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                        nullptr, OPEN_EXISTING, flags, nullptr);
     return handle == INVALID_HANDLE_VALUE ? UniqueHandle() : UniqueHandle(handle);
-}
-
-bool mayTellCase(const UniqueHandle &folder)
-{
-    // The value of FileCaseSensitiveInfo. The compiler's headers give that name another value.
-    constexpr auto caseInfo = static_cast<FILE_INFO_BY_HANDLE_CLASS>(23);
-    FILE_CASE_SENSITIVE_INFO info{};
-    return !folder.isValid()
-        || !::GetFileInformationByHandleEx(folder.get(), caseInfo, &info, sizeof info)
-        || info.Flags != 0;
-}
-
-UniqueHandle openFileIn(const UniqueHandle &folder, QStringView name, quint32 access)
-{
-    static const auto create = reinterpret_cast<decltype(&::NtCreateFile)>(reinterpret_cast<void *>(
-        ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "NtCreateFile")));
-    constexpr qsizetype longestName = 255;
-    if (!create || name.isEmpty() || name.size() > longestName || name.contains(u'~')
-        || name.contains(u':') || name.contains(u'\\')
-        || withoutTrailingDotsAndBlanks(name) != name)
-        return {};
-    std::array<wchar_t, longestName> characters;
-    static_cast<void>(name.toWCharArray(characters.data()));
-    const auto length = static_cast<USHORT>(name.size() * qsizetype(sizeof(wchar_t)));
-    UNICODE_STRING text{length, length, characters.data()};
-    // Without the attribute that lets the system ignore case. Windows ignores it in most folders.
-    OBJECT_ATTRIBUTES attributes{};
-    attributes.Length = sizeof attributes;
-    attributes.RootDirectory = folder.get();
-    attributes.ObjectName = &text;
-    IO_STATUS_BLOCK status{};
-    HANDLE handle = nullptr;
-    const NTSTATUS result =
-        create(&handle, access | SYNCHRONIZE, &attributes, &status, nullptr, 0,
-               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, FILE_OPEN,
-               FILE_NON_DIRECTORY_FILE | FILE_OPEN_REPARSE_POINT | FILE_OPEN_FOR_BACKUP_INTENT
-                   | FILE_SYNCHRONOUS_IO_NONALERT,
-               nullptr, 0);
-    return NT_SUCCESS(result) ? UniqueHandle(handle) : UniqueHandle();
 }
 
 EntryId idOf(const UniqueHandle &entry)

@@ -84,17 +84,6 @@ enum class Links { Follow, Open };
 /// invalid and the thread's last error tells why.
 [[nodiscard]] UniqueHandle openEntry(const QString &extended, quint32 access, Links links);
 
-/// Whether an open folder may have several names that differ only in case. Also true if that cannot
-/// be told: before Windows 10 1803, on some servers, and below Wine, where each folder is such a
-/// one.
-[[nodiscard]] bool mayTellCase(const UniqueHandle &folder);
-
-/// Opens the entry @p name of an open folder, if it is a file or a link to one, and lets all other
-/// programs use it. A link is opened itself. The result is invalid on failure, and for names that
-/// the system may take for those of other entries: short names, names of streams, and names that
-/// end in a dot or a blank. The opened entry may have a name that differs in case.
-[[nodiscard]] UniqueHandle openFileIn(const UniqueHandle &folder, QStringView name, quint32 access);
-
 /// The id of an open entry. Unknown on failure, and on file systems without file numbers.
 [[nodiscard]] EntryId idOf(const UniqueHandle &entry);
 /// The id of the folder at a path with forward slashes. A link there is not followed. Unknown on

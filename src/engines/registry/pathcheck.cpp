@@ -150,6 +150,9 @@ bool PathCheck::exists(const QString &text)
 
 bool PathCheck::existsOnDrive(const QString &path)
 {
+    constexpr qsizetype longestPath = 32'767; // characters; Windows opens no longer one
+    if (path.size() > longestPath)
+        return false;
     const auto mayExist = [this](const QString &file) {
         return m_lookup.presenceOf(file) != platform::Presence::Missing;
     };

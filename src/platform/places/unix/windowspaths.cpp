@@ -122,9 +122,6 @@ PathLookup::~PathLookup() = default;
 
 Presence PathLookup::presenceOf(const QString &path)
 {
-    constexpr qsizetype longestPath = 32'767; // characters, of Windows; PATH_MAX is shorter
-    if (path.size() > longestPath)
-        return Presence::Missing;
     QString relative = path.mid(2);
     relative.replace(u'\\', u'/');
     const Private::Drive &drive = d->driveAt(path.at(0));

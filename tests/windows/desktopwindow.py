@@ -37,8 +37,9 @@ def display():
 
 
 def has_window(environment):
-    tree = subprocess.run(["xwininfo", "-root", "-tree"], env=environment, check=True, stdout=subprocess.PIPE, text=True).stdout
-    return TITLE in tree
+    # A window that is destroyed while the tree is read makes the query fail. The next one finds what is left.
+    query = subprocess.run(["xwininfo", "-root", "-tree"], env=environment, check=False, stdout=subprocess.PIPE, text=True)
+    return query.returncode == 0 and TITLE in query.stdout
 
 
 def is_running(process, _environment):

@@ -5,6 +5,12 @@
 
 #ifdef Q_OS_WIN
 #include <windows.h>
+#else
+#include "testtree.h"
+#include "unix/blockdevices.h"
+
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -33,6 +39,21 @@ extern "C" {
 extern decltype(&fakeDriveType) const importedDriveType asm("__imp_GetDriveTypeW");
 decltype(&fakeDriveType) const importedDriveType = fakeDriveType;
 }
+#endif
+
+#ifdef Q_OS_UNIX
+namespace {
+
+/// The numbers of the device that holds @p path, as in the name of the kernel's link.
+QString numbersOf(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(qPrintable(path), &status) != 0)
+        qFatal("cannot examine %s", qPrintable(path));
+    return u"%1:%2"_s.arg(major(status.st_dev)).arg(minor(status.st_dev));
+}
+
+} // namespace
 #endif
 
 class TestDrives : public QObject
@@ -64,14 +85,47 @@ private Q_SLOTS:
         QCOMPARE(platform::driveKind(root), kind);
     }
 #else
-    void volumesWithoutABlockDeviceAreFixed()
+    void eachKindOfDeviceIsReported_data()
     {
-        QCOMPARE(platform::driveKind(u"/proc"_s), DriveKind::Fixed);
+        QTest::addColumn<QString>("device");
+        QTest::addColumn<bool>("isPartition");
+        QTest::addColumn<QByteArray>("removable");
+        QTest::addColumn<DriveKind>("kind");
+        QTest::newRow("disk") << u"sda"_s << false << "0\n"_ba << DriveKind::Fixed;
+        QTest::newRow("stick") << u"sdb"_s << false << "1\n"_ba << DriveKind::Removable;
+        QTest::newRow("partition of a disk") << u"sda"_s << true << "0\n"_ba << DriveKind::Fixed;
+        QTest::newRow("partition of a stick")
+            << u"sdb"_s << true << "1\n"_ba << DriveKind::Removable;
+        QTest::newRow("optical") << u"sr0"_s << false << "1\n"_ba << DriveKind::Optical;
+        QTest::newRow("unknown") << u"sdc"_s << false << QByteArray() << DriveKind::Fixed;
     }
 
-    void theDiskOfTheSystemIsFixed()
+    // No test machine has a drive of each kind, so the kernel's folder about them is a made one.
+    void eachKindOfDeviceIsReported()
     {
-        QCOMPARE(platform::driveKind(u"/"_s), DriveKind::Fixed);
+        QFETCH(QString, device);
+        QFETCH(bool, isPartition);
+        QFETCH(QByteArray, removable);
+        QFETCH(DriveKind, kind);
+        const TestTree tree;
+        QString folder = tree.folder("devices/"_L1 + device);
+        if (!removable.isEmpty())
+            tree.file(u"devices/%1/removable"_s.arg(device), removable);
+        if (isPartition) {
+            folder += "/partition"_L1;
+            tree.file(u"devices/%1/partition/partition"_s.arg(device), "1\n");
+        }
+        tree.link(folder, "block/"_L1 + numbersOf(tree.path()));
+        QCOMPARE(platform::driveKind(tree.path(), tree.path(u"block"_s)), kind);
+    }
+
+    void aVolumeOfAnotherDeviceIsFixed()
+    {
+        const TestTree tree;
+        tree.file(u"devices/sdb/removable"_s, "1\n");
+        tree.link(tree.path(u"devices/sdb"_s), "block/"_L1 + numbersOf(tree.path()));
+        QCOMPARE(platform::driveKind(tree.path(), tree.path(u"block"_s)), DriveKind::Removable);
+        QCOMPARE(platform::driveKind(u"/proc"_s, tree.path(u"block"_s)), DriveKind::Fixed);
     }
 #endif
 };

@@ -1,4 +1,4 @@
-#include "drives.h"
+#include "unix/blockdevices.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,15 +12,16 @@ namespace platform {
 
 namespace {
 
-// The system's folder about the block device of the volume. For a partition it is the folder above,
+// The kernel's folder about the block device of the volume. For a partition it is the folder above,
 // that of the whole disk. Only that folder tells whether the disk is removable.
-QString deviceFolder(const QString &root)
+QString deviceFolder(const QString &root, const QString &blockDevices)
 {
     struct stat status = {};
     if (::stat(QFile::encodeName(root).constData(), &status) != 0)
         return {};
-    const QString link = u"/sys/dev/block/%1:%2"_s.arg(QString::number(major(status.st_dev)),
-                                                       QString::number(minor(status.st_dev)));
+    const QString link = blockDevices
+        + u"/%1:%2"_s.arg(QString::number(major(status.st_dev)),
+                          QString::number(minor(status.st_dev)));
     const QString folder = QFileInfo(link).canonicalFilePath();
     return QFile::exists(folder + "/partition"_L1) ? QFileInfo(folder).path() : folder;
 }
@@ -29,7 +30,12 @@ QString deviceFolder(const QString &root)
 
 DriveKind driveKind(const QString &root)
 {
-    const QString folder = deviceFolder(root);
+    return driveKind(root, u"/sys/dev/block"_s);
+}
+
+DriveKind driveKind(const QString &root, const QString &blockDevices)
+{
+    const QString folder = deviceFolder(root, blockDevices);
     if (folder.isEmpty())
         return DriveKind::Fixed;
     if (QFileInfo(folder).fileName().startsWith("sr"_L1))

@@ -4,6 +4,7 @@
 #include "signalspy.h"
 #include "threadfault.h"
 
+#include <QMetaType>
 #include <QSemaphore>
 #include <QTest>
 #include <QThread>
@@ -75,6 +76,16 @@ class TestCleanEngine : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    // Stands first: whatever connects a signal registers its types as well.
+    void anEngineRegistersTheTypesOfItsSignals()
+    {
+        QVERIFY(!QMetaType::fromName("ScanResult").isValid());
+        QVERIFY(!QMetaType::fromName("CleanEngine::State").isValid());
+        const ScriptedEngine engine;
+        QVERIFY(QMetaType::fromName("ScanResult").isValid());
+        QVERIFY(QMetaType::fromName("CleanEngine::State").isValid());
+    }
+
     void startsIdleWithoutAResult()
     {
         const ScriptedEngine engine;

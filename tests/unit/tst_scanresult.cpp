@@ -173,11 +173,6 @@ private Q_SLOTS:
         QCOMPARE(&result.categories[0].items[0], bound);
     }
 
-    void isRegisteredForQueuedSignals()
-    {
-        QCOMPARE(QByteArray(QMetaType::fromType<ScanResult>().name()), QByteArray("ScanResult"));
-    }
-
     void formatsSizes_data()
     {
         QTest::addColumn<qint64>("bytes");

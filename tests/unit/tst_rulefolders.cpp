@@ -12,6 +12,9 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <array>
+
+#include <fcntl.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -114,6 +117,38 @@ private Q_SLOTS:
                        + value + "\n");
         registry.close();
         QCOMPARE(platform::temporaryFolder(), expected.replace("DRIVE"_L1, drive));
+    }
+
+    // Each location of a rule asks for its folder. Reading a large registry takes long.
+    void thePrefixsRegistryIsReadAgainOnlyWhenItHasChanged()
+    {
+        const QString drive = makePrefix();
+        m_home.folder(u"prefix/drive_c/one"_s);
+        m_home.folder(u"prefix/drive_c/two"_s);
+        QFile registry(m_home.path() + "/prefix/user.reg"_L1);
+        const auto write = [&registry](const QByteArray &folder, const timespec &time) {
+            const bool isWritten = registry.open(QIODevice::WriteOnly)
+                && registry.write("WINE REGISTRY Version 2\n\n[Environment] 1\n\"TMP\"=\"C:\\\\"
+                                  + folder + "\"\n")
+                    > 0;
+            registry.close();
+            const std::array times{time, time};
+            return isWritten
+                && ::utimensat(AT_FDCWD, QFile::encodeName(registry.fileName()).constData(),
+                               times.data(), 0)
+                == 0;
+        };
+        QVERIFY(write("one", {1'700'000'000, 5}));
+        QCOMPARE(platform::temporaryFolder(), drive + "/one"_L1);
+        // Nobody can see this change without reading the file.
+        QVERIFY(write("two", {1'700'000'000, 5}));
+        QCOMPARE(platform::temporaryFolder(), drive + "/one"_L1);
+        QVERIFY(write("two", {1'700'000'000, 6}));
+        QCOMPARE(platform::temporaryFolder(), drive + "/two"_L1);
+        QVERIFY(write("one", {1'700'000'001, 6}));
+        QCOMPARE(platform::temporaryFolder(), drive + "/one"_L1);
+        QVERIFY(write("windows", {1'700'000'001, 6}));
+        QCOMPARE(platform::temporaryFolder(), drive + "/windows"_L1);
     }
 
     void theEnvironmentComesFirst()

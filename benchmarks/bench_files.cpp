@@ -37,6 +37,8 @@ public:
     Tree()
         : m_path(m_folder.path())
     {
+        if (!m_folder.isValid())
+            qFatal("cannot make a temporary folder: %s", qPrintable(m_folder.errorString()));
         QString path = m_path;
         for (int i = 0; i < files; ++i) {
             if (i % filesPerFolder == 0) {

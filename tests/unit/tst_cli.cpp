@@ -410,6 +410,43 @@ private Q_SLOTS:
     }
 
 #ifdef Q_OS_UNIX
+    void aRestoreTellsOfEachEntry()
+    {
+        const QString path = m_home.folder(u"backups"_s) + "/two hives.reg"_L1;
+        QString error;
+        QVERIFY(RegistryBackup::write(path,
+                                      u"Windows Registry Editor Version 5.00\r\n\r\n"
+                                      "[HKEY_CURRENT_USER\\Software\\Sweepwise cli]\r\n"
+                                      "@=\"b\"\r\n\"c\"=\"d\"\r\n\r\n"
+                                      "[HKEY_LOCAL_MACHINE\\Software\\Sweepwise cli]\r\n"
+                                      "\"a\"=\"b\"\r\n\r\n"_s,
+                                      error));
+        RegistryFixture fixture(m_home);
+        const QString user = u"HKEY_CURRENT_USER\\SOFTWARE\\Sweepwise cli"_s;
+        fixture.addText(user + " other"_L1, u"a"_s, u"b"_s);
+        fixture.write();
+        // Nothing can be written in the place of a registry file where there is a folder.
+        const QString machine = fixture.file(u"HKEY_LOCAL_MACHINE"_s);
+        QVERIFY(!QFile::exists(machine) || QFile::remove(machine));
+        QVERIFY(QDir().mkpath(machine));
+        const Run restored = run({u"restore"_s, path});
+        QVERIFY(QDir().rmdir(machine));
+        QCOMPARE(restored.exitCode, 1);
+        QVERIFY(fixture.hasValue(user, {}) && fixture.hasValue(user, u"c"_s));
+        const QString reason = machine + " cannot be read: It is not a registry file"_L1;
+        QCOMPARE(QString::fromUtf8(restored.output).split(u'\n'),
+                 (QStringList{
+                     u"Restored: HKEY_CURRENT_USER\\Software\\Sweepwise cli"_s,
+                     u"Restored: HKEY_CURRENT_USER\\Software\\Sweepwise cli @"_s,
+                     u"Restored: HKEY_CURRENT_USER\\Software\\Sweepwise cli c"_s,
+                     u"Not restored: HKEY_LOCAL_MACHINE\\Software\\Sweepwise cli - "_s + reason,
+                     u"Not restored: HKEY_LOCAL_MACHINE\\Software\\Sweepwise cli a - "_s + reason,
+                     u"Restored 3 keys and values; 2 failed."_s,
+                     u"Incomplete. Places that could not be read: 1"_s,
+                     QString(),
+                 }));
+    }
+
     void browsersAreScannedAndCleanedByName()
     {
         const TestTree tree;

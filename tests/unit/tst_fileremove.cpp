@@ -489,6 +489,93 @@ private Q_SLOTS:
                  qPrintable(QString::number(remaining)));
     }
 
+    void aSubfolderThatBecomesSomethingElseDuringTheRemovalKeepsItsFiles_data()
+    {
+        QTest::addColumn<QString>("replacement");
+        QTest::newRow("a link to a folder") << u"link"_s;
+        QTest::newRow("a file") << u"file"_s;
+        QTest::newRow("nothing") << QString();
+    }
+    void aSubfolderThatBecomesSomethingElseDuringTheRemovalKeepsItsFiles()
+    {
+        QFETCH(QString, replacement);
+        const TestTree tree;
+        tree.file(u"listed/f"_s);
+        tree.file(u"listed/sub/precious"_s);
+        removalsBeforeAction = 1; // the first tries to remove a file
+        actionBetweenRemovals = [&] {
+            QDir().rename(tree.path(u"listed/sub"_s), tree.path(u"kept"_s));
+            if (replacement == "link"_L1)
+                tree.link(m_fence->path(u"folder"_s), u"listed/sub"_s);
+            else if (replacement == "file"_L1)
+                tree.file(u"listed/sub"_s);
+        };
+        const FileRemover::Outcome outcome = FileRemover().remove(tree.path(u"listed"_s));
+        QVERIFY2(outcome.status == Status::Removed, qPrintable(outcome.error));
+        QVERIFY(!tree.has(u"listed"_s));
+        QVERIFY(tree.has(u"kept/precious"_s));
+    }
+
+    void aFileThatComesDuringTheRemovalOfItsFolderStays()
+    {
+        const TestTree tree;
+        tree.file(u"listed/f"_s);
+        removalsBeforeAction = 2; // only the folder is left
+        actionBetweenRemovals = [&] { tree.file(u"listed/new"_s); };
+        const FileRemover::Outcome outcome = FileRemover().remove(tree.path(u"listed"_s));
+        QCOMPARE(outcome.status, Status::Failed);
+        QCOMPARE(outcome.error, qt_error_string(ENOTEMPTY));
+        QVERIFY(outcome.wasFolder);
+        QVERIFY(tree.has(u"listed/new"_s));
+    }
+
+    // The remover holds few of the levels open. It opens the others again on its way back.
+    void aHighFolderMovedDuringTheRemovalOfADeepTreeKeepsItsFiles_data()
+    {
+        QTest::addColumn<bool>("isReplaced");
+        QTest::newRow("nothing takes its place") << false;
+        QTest::newRow("another folder takes its place") << true;
+    }
+    void aHighFolderMovedDuringTheRemovalOfADeepTreeKeepsItsFiles()
+    {
+        QFETCH(bool, isReplaced);
+        const TestTree tree;
+        constexpr int levels = 150;
+        const QString moved = u"listed"_s + u"/n"_s.repeated(10);
+        QString path = u"listed"_s;
+        for (int i = 0; i < levels; ++i) {
+            tree.file(path + "/f"_L1);
+            // Entered last: the folders are emptied in the reverse order of the listing.
+            tree.file(path + "/other/precious"_L1);
+            path += "/n"_L1;
+        }
+        tree.folder(path);
+        const auto preciousFiles = [&tree](const QString &folder) {
+            int count = 0;
+            QDirIterator it(tree.path(folder), {u"precious"_s}, QDir::Files,
+                            QDirIterator::Subdirectories);
+            for (; it.hasNext(); it.next())
+                ++count;
+            return count;
+        };
+        int before = 0;
+        // One file a level on the way down, three entries on the way back, as long as the levels
+        // are open.
+        removalsBeforeAction = levels + 3 * 63;
+        actionBetweenRemovals = [&] {
+            QDir().rename(tree.path(moved), tree.path(u"kept"_s));
+            for (int i = 0; i < levels && isReplaced; ++i)
+                tree.file(moved + u"/n"_s.repeated(i) + "/other/precious"_L1);
+            before = preciousFiles(u"kept"_s);
+        };
+        const FileRemover::Outcome outcome = FileRemover().remove(tree.path(u"listed"_s));
+        QCOMPARE(outcome.status, Status::Replaced);
+        // The place is compared every few entries.
+        QVERIFY2(preciousFiles(u"kept"_s) > before - 32,
+                 qPrintable(QString::number(preciousFiles(u"kept"_s))));
+        QCOMPARE(preciousFiles(moved), isReplaced ? levels : 0);
+    }
+
     void aFileInAFolderWithoutReadPermissionIsRemoved()
     {
         const TestTree tree;

@@ -449,19 +449,6 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
 
-    void theBackgroundIsWhiteAndHasAShadow()
-    {
-        AboutDialog dialog;
-        QImage picture(dialog.size(), QImage::Format_ARGB32_Premultiplied);
-        picture.fill(Qt::transparent);
-        dialog.render(&picture, {}, {}, QWidget::DrawChildren);
-        QCOMPARE(picture.pixelColor(200, 4), QColor(Qt::white));
-        QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
-        QCOMPARE(picture.pixelColor(394, 200),
-                 QColor(0, 0, 0, 30)); // right of the background, in the shadow
-        QCOMPARE(picture.pixelColor(398, 200).alpha(), 0);
-    }
-
 private:
     static QSettings *settings() { return Application::instance()->settings(); }
 

@@ -327,42 +327,6 @@ private Q_SLOTS:
         QCOMPARE(shown, expected.toImage());
     }
 
-    void everyNamedCategoryHasItsIcon()
-    {
-        const QString names =
-            u"temp_files prefetch thumbnails log_files windows_update error_reports "
-            "delivery_optimization installer_cache recent_files font_cache cache code_cache "
-            "gpu_cache service_worker cookies history downloads session form_data media_cache "
-            "invalid_software invalid_file_assoc invalid_com invalid_fonts invalid_startup "
-            "invalid_shared_dll mui_cache default"_s;
-        for (const QString &name : names.split(u' '))
-            QVERIFY2(!svgPixmap(u":/icons/categories/%1.svg"_s.arg(name), {22, 22}, 1).isNull(),
-                     qPrintable(name));
-    }
-
-    void theItemsRiskIsShown_data()
-    {
-        QTest::addColumn<int>("level");
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<QString>("colour");
-        QTest::newRow("low") << 0 << u"Low"_s << u"#10B981"_s;
-        QTest::newRow("medium") << 1 << u"Medium"_s << u"#F59E0B"_s;
-        QTest::newRow("high") << 2 << u"High"_s << u"#EF4444"_s;
-    }
-
-    void theItemsRiskIsShown()
-    {
-        QFETCH(int, level);
-        QFETCH(QString, word);
-        QFETCH(QString, colour);
-        CleanCategory category = scriptedCategory(u"x"_s, 1);
-        category.items[0].riskLevel = level;
-        const CleanItemWidget row(&category, 0);
-        const auto *risk = row.findChild<QLabel *>(u"itemRisk"_s);
-        QCOMPARE(risk->text(), word);
-        QVERIFY(risk->styleSheet().startsWith(u"color: %1; background-color: "_s.arg(colour)));
-    }
-
     void theDescriptionOfAnItemIsShownInItsRow()
     {
         CleanCategory category = scriptedCategory(u"x"_s, 2);

@@ -216,12 +216,32 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->hasValue(runKey, name));
     }
 
+    void aFailedToggleLeavesTheBoxAndWarnsOnce_data()
+    {
+        QTest::addColumn<bool>("isStartup");
+        QTest::addColumn<QString>("warning");
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("counted");
+        QTest::newRow("turned on")
+            << false << u"Operation Failed|Failed to add startup item"_s
+            << u"Failed to add startup: Sweepwise A"_s << u" 0 startup items"_s;
+        QTest::newRow("turned off")
+            << true << u"Operation Failed|Failed to remove startup item"_s
+            << u"Failed to remove startup: Sweepwise A"_s << u" 1 startup items"_s;
+    }
+
     void aFailedToggleLeavesTheBoxAndWarnsOnce()
     {
+        QFETCH(bool, isStartup);
+        QFETCH(QString, warning);
+        QFETCH(QString, line);
+        QFETCH(QString, counted);
 #ifdef Q_OS_WIN
         QSKIP("every entry can be written here");
 #else
-        addProduct(u"Sweepwise A"_s);
+        const QString path = addProduct(u"Sweepwise A"_s);
+        if (isStartup)
+            m_fixture->addText(runKey, u"Sweepwise A"_s, u'"' + path + u'"');
         m_fixture->write();
         StartupPage page;
         showAndLoad(page);
@@ -237,11 +257,12 @@ private Q_SLOTS:
         const LogCapture log;
         const MessageBoxes boxes(QMessageBox::Ok);
         shown->checkBox()->click();
-        QCOMPARE(boxes.seen(), QStringList{u"Operation Failed|Failed to add startup item"_s});
-        QVERIFY(!shown->checkBox()->isChecked());
-        QVERIFY(!shown->findChild<QLabel *>(u"statusLabel"_s)->isVisible());
-        QCOMPARE(log.count(u"Failed to add startup: Sweepwise A"_s), 1);
-        QVERIFY(counts(page).endsWith(" 0 startup items"_L1));
+        QCOMPARE(boxes.seen(), QStringList{warning});
+        QCOMPARE(boxes.icons(), QList<QMessageBox::Icon>{QMessageBox::Warning});
+        QCOMPARE(shown->checkBox()->isChecked(), isStartup);
+        QCOMPARE(shown->findChild<QLabel *>(u"statusLabel"_s)->isVisible(), isStartup);
+        QCOMPARE(log.count(line), 1);
+        QVERIFY(counts(page).endsWith(counted));
         server.kill();
         QVERIFY(server.waitForFinished());
 #endif

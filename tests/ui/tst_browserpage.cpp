@@ -155,6 +155,8 @@ private Q_SLOTS:
             list.append(
                 u"%1 %2"_s.arg(checkBox->text(), checkBox->property("browserType").toString()));
             QVERIFY(checkBox->isChecked());
+            QVERIFY(checkBox->styleSheet().endsWith(
+                u" font-size: 13px; spacing: 8px; }QCheckBox::indicator { width: 16px; height: 16px; }"_s));
         }
         QCOMPARE(list, (QStringList{u"Opera 3"_s, u"Brave 4"_s}));
     }

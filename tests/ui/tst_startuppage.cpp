@@ -216,6 +216,8 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->hasValue(runKey, name));
     }
 
+#ifdef Q_OS_UNIX
+    // On Windows every entry can be written.
     void aFailedToggleLeavesTheBoxAndWarnsOnce_data()
     {
         QTest::addColumn<bool>("isStartup");
@@ -236,9 +238,6 @@ private Q_SLOTS:
         QFETCH(QString, warning);
         QFETCH(QString, line);
         QFETCH(QString, counted);
-#ifdef Q_OS_WIN
-        QSKIP("every entry can be written here");
-#else
         const QString path = addProduct(u"Sweepwise A"_s);
         if (isStartup)
             m_fixture->addText(runKey, u"Sweepwise A"_s, u'"' + path + u'"');
@@ -265,8 +264,8 @@ private Q_SLOTS:
         QVERIFY(counts(page).endsWith(counted));
         server.kill();
         QVERIFY(server.waitForFinished());
-#endif
     }
+#endif
 
     void searchingByNameAndPath()
     {

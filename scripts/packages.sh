@@ -4,6 +4,7 @@
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-private-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev
   qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools qt6-translations-l10n python3)
 font_packages=(fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji)
+benchmark_packages=(libbenchmark-dev)
 browser_packages=(chromium chromium-driver firefox-esr)
 windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 librsvg2-bin nsis python3 xz-utils xvfb x11-utils)
 

@@ -129,8 +129,8 @@ public:
 /// rules about links and devices.
 ///
 /// All files of one folder go to one visitor, one after the other. A single walker visits them
-/// before the files of the subfolders. Several walkers take the folders in any order. Within a
-/// folder the order is the file system's.
+/// before the files of the subfolders. Several walkers begin the folders in the order of a
+/// single one and end them in any order. Within a folder the order is the file system's.
 WalkReport walkTree(const QString &root, const WalkOptions &options,
                     const QList<TreeVisitor *> &visitors);
 

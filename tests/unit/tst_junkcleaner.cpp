@@ -112,50 +112,133 @@ private Q_SLOTS:
         QVERIFY(log.contains(u"[INFO] Loaded 25 junk rules"_s));
         QVERIFY(log.contains(u"[JunkCleaner] ========== Loading Rules =========="_s));
         QVERIFY(log.contains(u"[JunkCleaner] ✓ Loaded 25 rules successfully"_s));
-        QStringList ids;
-        for (const JunkRule &rule : cleaner.rules()) {
-            ids.append(rule.id);
-            QVERIFY2(!rule.name.isEmpty() && !rule.description.isEmpty(), qPrintable(rule.id));
-            QVERIFY2(!rule.paths.isEmpty() && !rule.patterns.isEmpty(), qPrintable(rule.id));
-        }
-        QCOMPARE(ids,
-                 QString::fromLatin1("temp_files prefetch thumbnails log_files windows_update_log "
-                                     "iis_logs memory_dumps windows_update "
-                                     "error_reports delivery_optimization defender_cache "
-                                     "dotnet_cache sfc_logs installer_cache recent_files "
-                                     "font_cache windows_old web_cache office_cache tencent_logs "
-                                     "nvidia_cache amd_cache directx_cache "
-                                     "windows_search diagnostic_logs")
-                     .split(u' '));
+        for (const JunkRule &rule : cleaner.rules())
+            QVERIFY2(!rule.description.isEmpty(), qPrintable(rule.id));
+        QCOMPARE(cleaner.rules().at(0).description, u"Files in Windows Temp folders"_s);
+        QCOMPARE(cleaner.rules().at(1).description, u"Windows Prefetch cache files"_s);
     }
 
-    void onlyThreeShippedRulesStartUnticked()
+    void aShippedRuleSaysWhatItRemoves_data()
     {
+        QTest::addColumn<int>("place"); // in the file
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("paths");
+        QTest::addColumn<QString>("patterns");
+        QTest::addColumn<bool>("recursive");
+        QTest::addColumn<bool>("ticked");
+        QTest::addColumn<int>("risk");
+        int place = 0;
+        const auto row = [&place](const char *id, const char *name, const char *paths,
+                                  const char *patterns, bool recursive, bool ticked, int risk) {
+            QTest::newRow(id) << place++ << QString::fromLatin1(name) << QString::fromLatin1(paths)
+                              << QString::fromLatin1(patterns) << recursive << ticked << risk;
+        };
+        row("temp_files", "System Temporary Files", "%TEMP%; %WINDIR%\\Temp", "*", true, true, 0);
+        row("prefetch", "Prefetch Files", "%WINDIR%\\Prefetch", "*.pf", false, true, 0);
+        row("thumbnails", "Thumbnail Cache", "%LOCALAPPDATA%\\Microsoft\\Windows\\Explorer",
+            "thumbcache_*.db, iconcache_*.db", false, true, 0);
+        row("log_files", "Log Files",
+            "%WINDIR%\\Logs; %WINDIR%\\Logs\\CBS; %WINDIR%\\Logs\\DISM; "
+            "%WINDIR%\\Logs\\MeasuredBoot; %WINDIR%\\Logs\\SFC; %WINDIR%\\Logs\\WindowsUpdate; "
+            "%WINDIR%\\Panther; %WINDIR%\\INF; %WINDIR%\\SoftwareDistribution\\DataStore\\Logs",
+            "*.log, *.etl, *.old, setupact.log, setuperr.log", true, true, 0);
+        row("windows_update_log", "Windows Update Logs", "%WINDIR%; %WINDIR%\\SoftwareDistribution",
+            "WindowsUpdate.log, ReportingEvents.log", false, true, 0);
+        row("iis_logs", "IIS Log Files",
+            "%SYSTEMDRIVE%\\inetpub\\logs; %WINDIR%\\System32\\LogFiles\\HTTPERR", "*.log", true,
+            true, 0);
+        row("memory_dumps", "Memory Dumps",
+            "%WINDIR%; %WINDIR%\\Minidump; %WINDIR%\\LiveKernelReports; "
+            "%LOCALAPPDATA%\\CrashDumps; %SYSTEMDRIVE%",
+            "*.dmp, *.mdmp, MEMORY.DMP, *.hdmp", false, true, 0);
+        row("windows_update", "Windows Update Cache", "%WINDIR%\\SoftwareDistribution\\Download",
+            "*", true, true, 1);
+        row("error_reports", "Error Reports",
+            "%LOCALAPPDATA%\\Microsoft\\Windows\\WER; %PROGRAMDATA%\\Microsoft\\Windows\\WER; "
+            "%LOCALAPPDATA%\\CrashReports",
+            "*", true, true, 0);
+        row("delivery_optimization", "Delivery Optimization Files",
+            "%WINDIR%\\ServiceProfiles\\NetworkService\\AppData\\Local\\Microsoft\\"
+            "Windows\\DeliveryOptimization\\Cache",
+            "*", true, true, 1);
+        row("defender_cache", "Windows Defender Scan History",
+            "%PROGRAMDATA%\\Microsoft\\Windows Defender\\Scans; %PROGRAMDATA%\\Microsoft\\Windows "
+            "Defender\\Support; %PROGRAMDATA%\\Microsoft\\Windows Defender\\Definition "
+            "Updates\\Backup; %PROGRAMDATA%\\Microsoft\\Windows Defender\\LocalCopy",
+            "*", true, true, 0);
+        row("dotnet_cache", ".NET Framework Cache Logs",
+            "%WINDIR%\\Microsoft.NET\\Framework\\v4.0.30319\\Temporary ASP.NET Files; "
+            "%WINDIR%\\Microsoft.NET\\Framework64\\v4.0.30319\\Temporary ASP.NET Files; "
+            "%LOCALAPPDATA%\\Microsoft\\CLR_v4.0; %LOCALAPPDATA%\\Microsoft\\CLR_v4.0_32; "
+            "%LOCALAPPDATA%\\Microsoft\\CLR_v4.0\\UsageLogs; "
+            "%LOCALAPPDATA%\\Microsoft\\CLR_v4.0_32\\UsageLogs",
+            "*", true, true, 0);
+        row("sfc_logs", "System Integrity Check Logs", "%WINDIR%\\Logs\\CBS; %WINDIR%\\Logs\\SFC",
+            "*.log, *.cab", true, true, 0);
+        row("installer_cache", "Installer Cache", "%WINDIR%\\Installer\\$PatchCache$", "*", true,
+            false, 2);
+        row("recent_files", "Recent Documents", "%APPDATA%\\Microsoft\\Windows\\Recent", "*.lnk",
+            false, false, 0);
+        row("font_cache", "Font Cache",
+            "%LOCALAPPDATA%\\Microsoft\\FontCache; "
+            "%WINDIR%\\ServiceProfiles\\LocalService\\AppData\\Local\\FontCache",
+            "*.dat, ~FontCache-*", true, true, 0);
+        row("windows_old", "Old Windows Installation",
+            "%SYSTEMDRIVE%\\Windows.old; %SYSTEMDRIVE%\\$Windows.~BT; %SYSTEMDRIVE%\\$Windows.~WS",
+            "*", true, false, 2);
+        row("web_cache", "Web Cache",
+            "%LOCALAPPDATA%\\Microsoft\\Windows\\WebCache; "
+            "%LOCALAPPDATA%\\Microsoft\\Windows\\INetCache; "
+            "%LOCALAPPDATA%\\Microsoft\\Windows\\INetCookies",
+            "*", true, true, 0);
+        row("office_cache", "Office Cache",
+            "%LOCALAPPDATA%\\Microsoft\\Office\\16.0\\OfficeFileCache; "
+            "%LOCALAPPDATA%\\Microsoft\\Office\\UnsavedFiles; "
+            "%LOCALAPPDATA%\\Microsoft\\Outlook\\RoamCache",
+            "*", true, true, 0);
+        row("tencent_logs", "Tencent Product Logs",
+            "%LOCALAPPDATA%\\Tencent\\Logs; %APPDATA%\\Tencent\\Logs; "
+            "%APPDATA%\\Tencent\\QQBrowser\\Log; %LOCALAPPDATA%\\Tencent\\QQBrowser\\User "
+            "Data\\Log",
+            "*.log, *.txt", true, true, 0);
+        row("nvidia_cache", "NVIDIA Cache",
+            "%LOCALAPPDATA%\\NVIDIA\\DXCache; %LOCALAPPDATA%\\NVIDIA\\GLCache; "
+            "%PROGRAMDATA%\\NVIDIA Corporation\\NV_Cache",
+            "*", true, true, 0);
+        row("amd_cache", "AMD Cache",
+            "%LOCALAPPDATA%\\AMD\\DxCache; %LOCALAPPDATA%\\AMD\\GLCache; "
+            "%LOCALAPPDATA%\\AMD\\DxcCache",
+            "*", true, true, 0);
+        row("directx_cache", "DirectX Shader Cache", "%LOCALAPPDATA%\\D3DSCache", "*", true, true,
+            0);
+        row("windows_search", "Windows Search Data",
+            "%PROGRAMDATA%\\Microsoft\\Search\\Data\\Applications\\Windows\\GatherLogs", "*", true,
+            true, 1);
+        row("diagnostic_logs", "Diagnostic Data",
+            "%LOCALAPPDATA%\\Diagnostics; %LOCALAPPDATA%\\Microsoft\\Windows\\DiagTrack", "*", true,
+            true, 0);
+    }
+
+    void aShippedRuleSaysWhatItRemoves()
+    {
+        QFETCH(int, place);
+        QFETCH(QString, name);
+        QFETCH(QString, paths);
+        QFETCH(QString, patterns);
+        QFETCH(bool, recursive);
+        QFETCH(bool, ticked);
+        QFETCH(int, risk);
         JunkCleaner cleaner;
         cleaner.loadRules(u":/rules/junk_rules.json"_s);
-        QStringList unticked;
-        QStringList highRisk;
-        QStringList mediumRisk;
-        QStringList flat;
-        for (const JunkRule &rule : cleaner.rules()) {
-            if (!rule.defaultChecked)
-                unticked.append(rule.id);
-            if (rule.riskLevel == 2)
-                highRisk.append(rule.id);
-            if (rule.riskLevel == 1)
-                mediumRisk.append(rule.id);
-            if (!rule.recursive)
-                flat.append(rule.id);
-        }
-        QCOMPARE(unticked,
-                 (QStringList{u"installer_cache"_s, u"recent_files"_s, u"windows_old"_s}));
-        QCOMPARE(highRisk, (QStringList{u"installer_cache"_s, u"windows_old"_s}));
-        QCOMPARE(
-            mediumRisk,
-            (QStringList{u"windows_update"_s, u"delivery_optimization"_s, u"windows_search"_s}));
-        QCOMPARE(flat,
-                 (QStringList{u"prefetch"_s, u"thumbnails"_s, u"windows_update_log"_s,
-                              u"memory_dumps"_s, u"recent_files"_s}));
+        QVERIFY(place < cleaner.rules().size());
+        const JunkRule &rule = cleaner.rules().at(place);
+        QCOMPARE(rule.id, QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(rule.name, name);
+        QCOMPARE(rule.paths, paths.split(u"; "_s));
+        QCOMPARE(rule.patterns, patterns.split(u", "_s));
+        QCOMPARE(rule.recursive, recursive);
+        QCOMPARE(rule.defaultChecked, ticked);
+        QCOMPARE(rule.riskLevel, risk);
     }
 
     // --- loading

@@ -363,34 +363,104 @@ private Q_SLOTS:
             QDir::toNativeSeparators(platform::roamingDataFolder() + "/Norvak/Tencent/Logs"_L1));
     }
 
+    void unknownAndLowerCasePlaceholdersStay_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (const char *text :
+             {"%temp%", "%LocalAppData%", "%AppData%", "%UserProfile%", "%ProgramData%", "%WinDir%",
+              "%SystemRoot%", "%SystemDrive%", "%TMP%", "%FOO%", "%PROGRAMFILES%", "%HOMEPATH%",
+              "%TEMP", "TEMP%", "% TEMP%", "%LOCALAPPDATA", "%WINDIR1%", "%SYSTEM%ROOT", "%%"})
+            QTest::newRow(text) << QString::fromLatin1(text);
+    }
     void unknownAndLowerCasePlaceholdersStay()
     {
-        QCOMPARE(JunkCleaner::expandPath(u"%temp%"_s), u"%temp%"_s);
-        QCOMPARE(JunkCleaner::expandPath(u"%FOO%"_s), u"%FOO%"_s);
+        QFETCH(QString, text);
+        QCOMPARE(JunkCleaner::expandPath(text), text);
     }
 
-    void programDataIsEmptyWhenUnset()
+    void aPlaceholderStandsForItsVariable_data()
     {
-        const QByteArray old = qgetenv("PROGRAMDATA");
-        qunsetenv("PROGRAMDATA");
-        QCOMPARE(JunkCleaner::expandPath(u"%PROGRAMDATA%"_s), QString());
-        if (!old.isEmpty())
-            qputenv("PROGRAMDATA", old);
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArrayList>("variables"); // each as NAME=value
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *title, const char *text, const QByteArrayList &variables,
+                            const char *expected) {
+            QTest::newRow(title) << QString::fromLatin1(text) << variables
+                                 << QString::fromLatin1(expected);
+        };
+        row("PROGRAMDATA", "%PROGRAMDATA%\\x", {"PROGRAMDATA=D:/Data"}, "D:/Data/x");
+        row("PROGRAMDATA unset", "%PROGRAMDATA%\\x", {}, "/x");
+        row("PROGRAMDATA empty", "%PROGRAMDATA%", {"PROGRAMDATA="}, "");
+        row("WINDIR", "%WINDIR%\\x", {"WINDIR=D:/Win"}, "D:/Win/x");
+        row("WINDIR unset", "%WINDIR%\\x", {}, "C:/Windows/x");
+        row("WINDIR empty", "%WINDIR%", {"WINDIR="}, "C:/Windows");
+        row("SYSTEMROOT is WINDIR's", "%SYSTEMROOT%\\x", {"WINDIR=D:/Win", "SYSTEMROOT=E:/Root"},
+            "D:/Win/x");
+        row("SYSTEMROOT without WINDIR", "%SYSTEMROOT%\\x", {"SYSTEMROOT=E:/Root"}, "C:/Windows/x");
+        row("SYSTEMDRIVE", "%SYSTEMDRIVE%\\x", {"SYSTEMDRIVE=D:"}, "D:/x");
+        row("SYSTEMDRIVE unset", "%SYSTEMDRIVE%\\x", {}, "C:/x");
+        row("SYSTEMDRIVE empty", "%SYSTEMDRIVE%", {"SYSTEMDRIVE="}, "C:");
+        row("each occurrence", "%PROGRAMDATA%|%WINDIR%|%PROGRAMDATA%|%WINDIR%",
+            {"PROGRAMDATA=D:/Data", "WINDIR=D:/Win"}, "D:/Data|D:/Win|D:/Data|D:/Win");
+        row("each occurrence of the others",
+            "%SYSTEMROOT%|%SYSTEMDRIVE%|%SYSTEMROOT%|%SYSTEMDRIVE%",
+            {"WINDIR=D:/Win", "SYSTEMDRIVE=E:"}, "D:/Win|E:|D:/Win|E:");
+        // One after the other, so a value is searched only for the placeholders that are left.
+        row("a later one in a value", "%PROGRAMDATA%",
+            {"PROGRAMDATA=%WINDIR%/x", "WINDIR=%SYSTEMDRIVE%/y", "SYSTEMDRIVE=D:"}, "D:/y/x");
+        row("an earlier one in a value", "%SYSTEMDRIVE%|%WINDIR%",
+            {"WINDIR=%PROGRAMDATA%", "SYSTEMDRIVE=%WINDIR%", "PROGRAMDATA=D:/Data"},
+            "%WINDIR%|%PROGRAMDATA%");
+#ifdef Q_OS_UNIX
+        row("TEMP", "%TEMP%\\x|%TEMP%", {"TMPDIR=/one"}, "/one/x|/one");
+        row("LOCALAPPDATA", "%LOCALAPPDATA%\\x|%LOCALAPPDATA%", {"LOCALAPPDATA=/two"},
+            "/two/x|/two");
+        row("APPDATA ends in the organisation's folder", "%APPDATA%\\x|%APPDATA%",
+            {"APPDATA=/three"}, "/three/Norvak/x|/three/Norvak");
+        row("APPDATA loses the program's name everywhere", "%APPDATA%\\x",
+            {"APPDATA=/Sweepwise/three/Sweepwise"}, "/three/Norvak/x");
+        row("USERPROFILE", "%USERPROFILE%\\x|%USERPROFILE%", {"USERPROFILE=/four"},
+            "/four/x|/four");
+        row("later ones in values of the user", "%TEMP%",
+            {"TMPDIR=%LOCALAPPDATA%/a", "LOCALAPPDATA=%APPDATA%/b", "APPDATA=%USERPROFILE%/c",
+             "USERPROFILE=%PROGRAMDATA%/d", "PROGRAMDATA=/e"},
+            "/e/d/c/Norvak/b/a");
+        row("earlier ones in values of the user",
+            "%PROGRAMDATA%|%USERPROFILE%|%APPDATA%|%LOCALAPPDATA%",
+            {"LOCALAPPDATA=%TEMP%", "APPDATA=%LOCALAPPDATA%", "USERPROFILE=%APPDATA%",
+             "PROGRAMDATA=%USERPROFILE%", "TMPDIR=/one"},
+            "%USERPROFILE%|%APPDATA%|%LOCALAPPDATA%/Norvak|%TEMP%");
+#endif
+    }
+    void aPlaceholderStandsForItsVariable()
+    {
+        QFETCH(QString, text);
+        QFETCH(QByteArrayList, variables);
+        QFETCH(QString, expected);
+        QByteArrayList names{"PROGRAMDATA", "WINDIR", "SYSTEMROOT", "SYSTEMDRIVE"};
+#ifdef Q_OS_UNIX
+        names += {"TMPDIR", "LOCALAPPDATA", "APPDATA", "USERPROFILE"};
+#endif
+        QHash<QByteArray, QByteArray> before;
+        for (const QByteArray &name : std::as_const(names)) {
+            if (qEnvironmentVariableIsSet(name.constData()))
+                before.insert(name, qgetenv(name.constData()));
+            qunsetenv(name.constData());
+        }
+        for (const QByteArray &variable : std::as_const(variables)) {
+            const qsizetype equals = variable.indexOf('=');
+            qputenv(variable.first(equals).constData(), variable.sliced(equals + 1));
+        }
+        const QString expanded = JunkCleaner::expandPath(text);
+        for (const QByteArray &name : std::as_const(names)) {
+            if (before.contains(name))
+                qputenv(name.constData(), before.value(name));
+            else
+                qunsetenv(name.constData());
+        }
+        QCOMPARE(expanded, QDir::toNativeSeparators(expected));
     }
 
-    void windowsAndDriveHaveTheirDefaults()
-    {
-        const QByteArray windows = qgetenv("WINDIR");
-        const QByteArray drive = qgetenv("SYSTEMDRIVE");
-        qunsetenv("WINDIR");
-        qunsetenv("SYSTEMDRIVE");
-        QCOMPARE(JunkCleaner::expandPath(u"%WINDIR%"_s), QDir::toNativeSeparators(u"C:/Windows"_s));
-        QCOMPARE(JunkCleaner::expandPath(u"%SYSTEMDRIVE%"_s), u"C:"_s);
-        if (!windows.isEmpty())
-            qputenv("WINDIR", windows);
-        if (!drive.isEmpty())
-            qputenv("SYSTEMDRIVE", drive);
-    }
 
     // --- scanning
 

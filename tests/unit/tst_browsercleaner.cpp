@@ -219,33 +219,96 @@ private Q_SLOTS:
         const LogCapture log;
         cleaner.loadRules(shipped);
         QVERIFY(log.contains(u"[INFO] Loaded 23 browser rules"_s));
-        QStringList list;
-        QStringList unticked;
-        QStringList flat;
-        QString risks;
-        for (const BrowserRule &rule : cleaner.rules()) {
-            list.append(rule.id);
-            QVERIFY2(!rule.name.isEmpty() && !rule.description.isEmpty(), qPrintable(rule.id));
-            QVERIFY2(!rule.patterns.isEmpty(), qPrintable(rule.id));
-            QCOMPARE(rule.subPath.isEmpty(), rule.patterns != QStringList{u"*"_s});
-            if (!rule.defaultChecked)
-                unticked.append(rule.id);
-            if (rule.subPath.isEmpty())
-                flat.append(rule.id);
-            risks += QString::number(rule.riskLevel);
-        }
-        QCOMPARE(list,
-                 u"cache code_cache gpu_cache shader_cache service_worker media_cache "
-                 "network_cache jump_list blob_storage webrtc_logs crash_reports logs thumbnails "
-                 "favicons font_cache local_storage indexeddb cookies history downloads session "
-                 "form_data safe_browsing"_s.split(u' '));
-        QCOMPARE(unticked, list.mid(15));
-        QCOMPARE(flat, u"logs favicons cookies history downloads session form_data"_s.split(u' '));
-        QCOMPARE(risks, u"00000000000000011211222"_s);
-        QCOMPARE(cleaner.rules().at(6).subPath, u"Cache/Cache_Data"_s);
-        QCOMPARE(cleaner.rules().at(13).firefoxPatterns,
-                 (QStringList{u"favicons.sqlite"_s, u"favicons.sqlite-wal"_s}));
-        QVERIFY(cleaner.rules().at(19).patterns.contains(u"History"_s));
+        QCOMPARE(cleaner.rules().size(), 23);
+    }
+
+    void aShippedRuleSaysWhatItRemoves_data()
+    {
+        QTest::addColumn<int>("place"); // in the file
+        QTest::addColumn<QStringList>("texts"); // name and description
+        QTest::addColumn<QStringList>("chromium"); // folder and patterns
+        QTest::addColumn<QStringList>("firefox");
+        QTest::addColumn<bool>("ticked");
+        QTest::addColumn<int>("risk");
+        int place = 0;
+        const auto list = [](const char *first, const char *second) {
+            return QStringList{QString::fromLatin1(first), QString::fromLatin1(second)};
+        };
+        const auto row = [&](const char *id, const char *name, const char *description,
+                             const char *folder, const char *patterns, const char *firefoxFolder,
+                             const char *firefoxPatterns, bool ticked, int risk) {
+            QTest::newRow(id) << place++ << list(name, description) << list(folder, patterns)
+                              << list(firefoxFolder, firefoxPatterns) << ticked << risk;
+        };
+        row("cache", "Browser Cache", "Temporary web page cache files", "Cache", "*",
+            "cache2/entries", "", true, 0);
+        row("code_cache", "Code Cache", "JavaScript code cache", "Code Cache", "*", "", "", true,
+            0);
+        row("gpu_cache", "GPU Cache", "GPU rendering cache", "GPUCache", "*", "", "", true, 0);
+        row("shader_cache", "Shader Cache", "GPU shader compilation cache", "ShaderCache", "*",
+            "shader-cache", "", true, 0);
+        row("service_worker", "Service Workers", "Service Worker cache",
+            "Service Worker/CacheStorage", "*", "", "", true, 0);
+        row("media_cache", "Media Cache", "Media file cache", "Media Cache", "*", "", "", true, 0);
+        row("network_cache", "Network Cache", "HTTP network request cache", "Cache/Cache_Data", "*",
+            "", "", true, 0);
+        row("jump_list", "Jump List", "Taskbar Jump List icon cache", "JumpListIconsRecentClosed",
+            "*", "", "", true, 0);
+        row("blob_storage", "Blob Storage", "Temporary binary data storage", "blob_storage", "*",
+            "", "", true, 0);
+        row("webrtc_logs", "WebRTC Logs", "Video call debug logs", "WebRTC Logs", "*", "", "", true,
+            0);
+        row("crash_reports", "Crash Reports", "Browser crash report files", "Crashpad/reports", "*",
+            "Crash Reports", "", true, 0);
+        row("logs", "Browser Logs", "Browser debug and error logs", "",
+            "*.log, chrome_debug.log, debug.log", "", "update.log, install.log", true, 0);
+        row("thumbnails", "Website Thumbnails", "New Tab page website thumbnails", "Thumbnails",
+            "*", "", "", true, 0);
+        row("favicons", "Favicon Cache", "Website icon (favicon) cache", "",
+            "Favicons, Favicons-journal", "", "favicons.sqlite, favicons.sqlite-wal", true, 0);
+        row("font_cache", "Font Cache", "Web font cache files", "Font Cache", "*", "", "", true, 0);
+        row("local_storage", "Local Storage", "Website Local Storage (site settings may be lost)",
+            "Local Storage", "*", "storage/default", "", false, 1);
+        row("indexeddb", "IndexedDB", "Website database storage (offline data may be lost)",
+            "IndexedDB", "*", "", "", false, 1);
+        row("cookies", "Cookies", "Website Cookies (requires re-login to all sites)", "",
+            "Cookies, Cookies-journal", "",
+            "cookies.sqlite, cookies.sqlite-wal, cookies.sqlite-shm", false, 2);
+        row("history", "Browsing History", "Web browsing history records", "",
+            "History, History-journal, Visited Links, Top Sites", "",
+            "places.sqlite, places.sqlite-wal, places.sqlite-shm", false, 1);
+        row("downloads", "Download History",
+            "Download history records (downloaded files are not deleted)", "",
+            "DownloadMetadata, History", "", "downloads.sqlite", false, 1);
+        row("session", "Session Data", "Current and recent session data (tabs may be lost)", "",
+            "Current Session, Current Tabs, Last Session, Last Tabs", "",
+            "sessionstore.jsonlz4, sessionstore-backups", false, 2);
+        row("form_data", "Form Data", "Autofill form data (requires re-entry after cleaning)", "",
+            "Web Data, Web Data-journal", "", "formhistory.sqlite", false, 2);
+        row("safe_browsing", "Safe Browsing Data",
+            "Safe Browsing protection data (not recommended to clean)", "Safe Browsing", "*", "",
+            "", false, 2);
+    }
+
+    void aShippedRuleSaysWhatItRemoves()
+    {
+        QFETCH(int, place);
+        QFETCH(QStringList, texts);
+        QFETCH(QStringList, chromium);
+        QFETCH(QStringList, firefox);
+        QFETCH(bool, ticked);
+        QFETCH(int, risk);
+        const TestTree tree;
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        QVERIFY(place < cleaner.rules().size());
+        const BrowserRule &rule = cleaner.rules().at(place);
+        QCOMPARE(rule.id, QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE((QStringList{rule.name, rule.description}), texts);
+        QCOMPARE((QStringList{rule.subPath, rule.patterns.join(u", "_s)}), chromium);
+        QCOMPARE((QStringList{rule.firefoxSubPath, rule.firefoxPatterns.join(u", "_s)}), firefox);
+        QCOMPARE(rule.defaultChecked, ticked);
+        QCOMPARE(rule.riskLevel, risk);
     }
 
     void missingMembersGetTheirDefaults()

@@ -439,6 +439,51 @@ private Q_SLOTS:
         QVERIFY(cleaner.result().categories.isEmpty());
     }
 
+    void theNameInAnUninstallEntryTellsTheBrowser_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("type"); // -1 for none
+        const auto row = [](const char *name, int type) {
+            QTest::newRow(name) << QString::fromLatin1(name) << type;
+        };
+        row("Google Chrome", 0);
+        row("The GOOGLE CHROME, 1.2", 0);
+        row("Google Chromium", -1);
+        row("Google  Chrome", -1);
+        row("Chrome", -1);
+        row("Microsoft Edge", 1);
+        row("microsoft edge update", 1);
+        row("Microsoft Edg", -1);
+        row("Edge", -1);
+        row("Mozilla Firefox", 2);
+        row("mozilla FIREFOX (x64 en-US)", 2);
+        row("Mozilla", -1);
+        row("Firefox", -1);
+        row("Mozilla FireFo", -1);
+        row("Opera", 3);
+        row("operators", 3);
+        row("Oper A", -1);
+        row("Brave", 4);
+        row("A brAVE one", 4);
+        row("Brav", -1);
+        row("google_chrome", -1);
+    }
+    void theNameInAnUninstallEntryTellsTheBrowser()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, type);
+        RegistryFixture fixture(m_home);
+        fixture.addText(u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\"
+                        "Uninstall\\Sweepwise Test"_s,
+                        u"DisplayName"_s, name);
+        fixture.write();
+        const TestTree tree;
+        const BrowserCleaner cleaner(foldersOf(tree));
+        QCOMPARE(cleaner.browsers().size(), 5);
+        for (const Browser &browser : cleaner.browsers())
+            QCOMPARE(browser.installed, browser.type == type);
+    }
+
     void lookingForBrowsersChangesNothingInTheRegistry()
     {
         RegistryFixture fixture(m_home);

@@ -1085,6 +1085,102 @@ private Q_SLOTS:
         QCOMPARE(find(cleaner.result(), u"mozilla_firefox_cache"_s)->items.size(), 3 * 2 + 1);
     }
 
+    void firefoxHasItsOwnPlaceForEachRule_data()
+    {
+        QTest::addColumn<QStringList>("expected");
+        const auto row = [](const char *rule, const char *files = nullptr) {
+            QTest::newRow(rule) << QString::fromLatin1(files).split(u' ', Qt::SkipEmptyParts);
+        };
+        row("cache", "entries/cache2/entries/a newer/cache2/b older/Cache/c");
+        row("code_cache");
+        row("gpu_cache");
+        row("shader_cache", "p/shader-cache/a p/shader-cache/sub/b");
+        row("service_worker");
+        row("media_cache");
+        row("network_cache");
+        row("jump_list");
+        row("blob_storage");
+        row("webrtc_logs");
+        row("crash_reports", "Crash/a.dmp Crash/pending/b.extra");
+        row("logs", "install.log other.log update.log");
+        row("thumbnails", "p/thumbnails/a p/thumbnails/sub/b");
+        row("favicons", "p/favicons.sqlite p/favicons.sqlite-shm p/favicons.sqlite-wal");
+        row("font_cache");
+        row("local_storage", "p/storage/default/a p/storage/default/sub/b");
+        row("indexeddb", "p/storage/default/a p/storage/default/sub/b");
+        row("cookies", "p/cookies.sqlite p/cookies.sqlite-shm p/cookies.sqlite-wal");
+        row("history", "p/places.sqlite p/places.sqlite-shm p/places.sqlite-wal");
+        row("downloads", "p/downloads.sqlite p/downloads.sqlite-wal");
+        row("session",
+            "p/other.jsonlz4 p/sessionstore-backups/a.jsonlz4 "
+            "p/sessionstore-backups/sessionstore.jsonlz4 p/sessionstore.jsonlz4");
+        row("form_data", "p/formhistory.sqlite p/formhistory.sqlite-wal");
+        row("safe_browsing");
+    }
+    void firefoxHasItsOwnPlaceForEachRule()
+    {
+        QFETCH(QStringList, expected);
+        const TestTree tree;
+        const QString shared = u"Roaming/Mozilla/Firefox/"_s;
+        const QString profiles = shared + "Profiles/"_L1;
+        for (const char *name : {"Crash Reports/a.dmp", "Crash Reports/pending/b.extra",
+                                 "Crash Reports/c.txt", "Crash Reports/InstallTime", "update.log",
+                                 "install.log", "other.log", "other.txt", "a.dmp"})
+            tree.file(shared + QLatin1StringView(name));
+        // Of the three folders of the cache the first that exists is taken.
+        for (const char *name :
+             {"entries/cache2/entries/a", "entries/cache2/x", "entries/Cache/x", "newer/cache2/b",
+              "newer/Cache/x", "older/Cache/c", "older/cache3/x"})
+            tree.file(profiles + QLatin1StringView(name));
+        for (const char *database :
+             {"favicons", "cookies", "places", "downloads", "formhistory", "permissions"}) {
+            for (const char *end : {"", "-wal", "-shm", "-journal", ".bak"})
+                tree.file(profiles + "p/"_L1 + QLatin1StringView(database) + ".sqlite"_L1
+                          + QLatin1StringView(end));
+            tree.file(profiles + "p/sub/"_L1 + QLatin1StringView(database) + ".sqlite"_L1);
+        }
+        for (const char *name :
+             {"shader-cache/a", "shader-cache/sub/b", "thumbnails/a", "thumbnails/sub/b",
+              "storage/default/a", "storage/default/sub/b", "storage/permanent/x", "storage/x",
+              "sessionstore.jsonlz4", "other.jsonlz4", "sessionstore.js", "sub/other.jsonlz4",
+              "sessionstore-backups/sessionstore.jsonlz4", "sessionstore-backups/a.jsonlz4",
+              "sessionstore-backups/a.baklz4", "sessionstore-backups/sub/a.jsonlz4"})
+            tree.file(profiles + "p/"_L1 + QLatin1StringView(name));
+        // Where the other browsers keep their data.
+        for (const char *name : {"Code Cache/x",
+                                 "GPUCache/x",
+                                 "ShaderCache/x",
+                                 "Service Worker/CacheStorage/x",
+                                 "Media Cache/x",
+                                 "JumpListIconsRecentClosed/x",
+                                 "blob_storage/x",
+                                 "WebRTC Logs/x",
+                                 "Crashpad/reports/x.dmp",
+                                 "debug.log",
+                                 "Thumbnails.x/x",
+                                 "Favicons",
+                                 "Font Cache/x",
+                                 "Local Storage/x",
+                                 "IndexedDB/x",
+                                 "Cookies",
+                                 "History",
+                                 "DownloadMetadata",
+                                 "Last Session",
+                                 "Web Data",
+                                 "Safe Browsing/x"})
+            tree.file(profiles + "p/"_L1 + QLatin1StringView(name));
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const QString id = "mozilla_firefox_"_L1 + QLatin1StringView(QTest::currentDataTag());
+        QStringList found;
+        for (const QString &path : paths(cleaner.result(), id, tree.path(shared).chopped(1)))
+            found.append(QString(path).remove("Profiles/"_L1).remove(" Reports"_L1));
+        found.sort();
+        QCOMPARE(found, expected);
+        QCOMPARE(find(cleaner.result(), id) == nullptr, expected.isEmpty());
+    }
+
     // --- which browsers are scanned
 
     void untilAChoiceIsMadeEveryInstalledBrowserIsScanned()

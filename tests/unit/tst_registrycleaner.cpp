@@ -200,18 +200,79 @@ private Q_SLOTS:
 #ifdef Q_OS_WIN
         QSKIP("the types of the live registry are not to be touched");
 #else
-        const QString command = missing + " %1"_L1;
-        for (const QString &name : {u"Gone"_s, u"TxtFile"_s, u"InternetShortcut"_s})
-            m_fixture->addText(classes + name + "\\shell\\open\\command"_L1, {}, command);
-        for (const QString &extension : {u".TXT"_s, u".7z"_s, u".iqy"_s, u".bat"_s, u".x"_s})
-            m_fixture->addText(classes + extension, {}, u"Gone"_s);
-        m_fixture->addText(classes + ".y"_L1, {}, u"TXTFILE"_s);
-        m_fixture->addText(classes + ".z"_L1, {}, u"InternetShortcut"_s);
+        const QStringList extensions =
+            u".bat .cmd .com .exe .msi .msc .msp .msu .reg .scr .pif .lnk .url .ini .inf "
+            ".dll .sys .drv .cpl .ocx .txt .log .xml .htm .html .rtf .csv .bmp .ico .cur "
+            ".ani .jpg .jpeg .png .gif .tif .tiff .wav .mid .midi .mp3 .wma .avi .wmv .mp4 "
+            ".zip .cab .7z .rar .hlp .chm .ttf .otf .fon .js .vbs .ps1 .wsf .wsh .blg .dqy "
+            ".oqy .rqy .iqy"_s.split(u' ');
+        QCOMPARE(extensions.size(), 64);
+        m_fixture->addText(classes + "Gone\\shell\\open\\command"_L1, {}, missing);
+        QStringList expected;
+        for (const QString &extension : extensions) {
+            m_fixture->addText(classes
+                                   + (extension.size() % 2 == 0 ? extension : extension.toUpper()),
+                               {}, u"Gone"_s);
+            // Only whole names count.
+            for (const QString &other :
+                 {extension.chopped(1), extension + u'z', u".z"_s + extension.sliced(1)}) {
+                if (extensions.contains(other))
+                    continue;
+                m_fixture->addText(classes + other, {}, u"Gone"_s);
+                expected.append(other + " -> Gone"_L1);
+            }
+        }
         m_fixture->write();
         scan();
-        // The list has this class in mixed case, so it protects nothing.
-        QCOMPARE(names(find(m_cleaner->result(), u"invalid_file_assoc"_s)->items),
-                 (QStringList{u".x -> Gone"_s, u".z -> InternetShortcut"_s}));
+        const CleanCategory *category = find(m_cleaner->result(), u"invalid_file_assoc"_s);
+        QVERIFY(category);
+        QStringList found = names(category->items);
+        found.sort();
+        expected.sort();
+        expected.removeDuplicates();
+        QCOMPARE(found, expected);
+#endif
+    }
+
+    void typesOfAProtectedClassAreNeverReported()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("the types of the live registry are not to be touched");
+#else
+        const QStringList protectedClasses =
+            u"batfile cmdfile comfile exefile msipackage scrfile piffile lnkfile inifile "
+            "inffile regfile dllfile txtfile xmlfile htmlfile rtffile jpegfile pngfile "
+            "giffile bmpfile icofile wmafile wmvfile mp3file avifile zipfile cabfile "
+            "fonfile ttffile otffile jsfile vbsfile wshfile wsf_auto_file"_s.split(u' ');
+        QCOMPARE(protectedClasses.size(), 34);
+        QStringList expected;
+        int count = 0;
+        const auto add = [&](const QString &name, bool isListed) {
+            const QString extension = u".sweepwise%1"_s.arg(++count);
+            m_fixture->addText(classes + name + "\\shell\\open\\command"_L1, {}, missing);
+            m_fixture->addText(classes + extension, {}, name);
+            if (isListed)
+                expected.append(extension + " -> "_L1 + name);
+        };
+        for (const QString &name : protectedClasses) {
+            add(name, false);
+            add(name.toUpper(), false);
+            add(name.chopped(1), true);
+            add(name + u's', true);
+            add("my"_L1 + name, true);
+        }
+        // A class is looked up in small letters, so this one in mixed case protects nothing.
+        for (const QString &name :
+             {u"InternetShortcut"_s, u"internetshortcut"_s, u"INTERNETSHORTCUT"_s})
+            add(name, true);
+        m_fixture->write();
+        scan();
+        const CleanCategory *category = find(m_cleaner->result(), u"invalid_file_assoc"_s);
+        QVERIFY(category);
+        QStringList found = names(category->items);
+        found.sort();
+        expected.sort();
+        QCOMPARE(found, expected);
 #endif
     }
 

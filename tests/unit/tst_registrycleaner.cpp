@@ -133,6 +133,70 @@ private Q_SLOTS:
 
     // --- what is found
 
+    void theSevenCategoriesStandInTheirOrder()
+    {
+        m_fixture->addText(machine + appPaths + "\\Sweepwise.exe"_L1, {}, missing);
+        m_fixture->addText(classes + ".sweepwise"_L1, {}, u"SweepwiseType"_s);
+        m_fixture->addText(classes + "SweepwiseType\\shell\\open\\command"_L1, {}, missing);
+        m_fixture->addText(classes + "CLSID\\{!Sweepwise}\\InprocServer32"_L1, {}, missing);
+        m_fixture->addText(machine + fonts, u"Sweepwise"_s, missing);
+        m_fixture->addText(user + runKey, u"Sweepwise"_s, missing);
+        m_fixture->addText(machine + sharedDlls, u"sweepwise.dll"_s, u"1"_s);
+        m_fixture->addText(user + muiCache, u"Sweepwise.exe"_s, u"x"_s);
+        m_fixture->write();
+        scan();
+        QStringList categories;
+        QStringList items;
+        for (const CleanCategory &category : std::as_const(*m_cleaner).result().categories) {
+            categories.append(QStringList{category.id, category.name, category.description,
+                                          QString::number(category.riskLevel),
+                                          category.checked ? u"yes"_s : u"no"_s, category.icon}
+                                  .join(u'|'));
+            for (const CleanItem &item : ownItems(m_cleaner->result(), category.id))
+                items.append(QStringList{item.name, item.path, QString::number(item.size),
+                                         item.checked ? u"yes"_s : u"no"_s, item.description,
+                                         item.registryRoot, item.registryKey}
+                                 .join(u'|'));
+        }
+        QCOMPARE(categories,
+                 (QStringList{u"invalid_software|Invalid Software Paths|Registry entries pointing "
+                              "to non-existent locations|0|yes|"_s,
+                              u"invalid_file_assoc|Invalid File Associations|File associations "
+                              "pointing to missing programs|0|yes|"_s,
+                              u"invalid_com|Invalid COM/ActiveX|Invalid COM components and ActiveX "
+                              "controls|1|yes|"_s,
+                              u"invalid_fonts|Invalid Font References|Registry entries pointing to "
+                              "non-existent font files|0|yes|"_s,
+                              u"invalid_startup|Invalid Startup Items|Startup items pointing to "
+                              "non-existent programs|1|yes|"_s,
+                              u"invalid_shared_dll|Invalid Shared DLLs|References to non-existent "
+                              "shared DLL files|1|no|"_s,
+                              u"mui_cache|MUI Cache|Application MUI cache data|0|yes|"_s}));
+        QCOMPARE(
+            items,
+            (QStringList{
+                u"Sweepwise.exe|HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\"
+                "Sweepwise.exe|0|yes|Path: C:\\Sweepwise Missing\\app.exe|HKEY_LOCAL_MACHINE|"
+                "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\Sweepwise.exe"_s,
+                u".sweepwise -> SweepwiseType|HKCR\\.sweepwise|0|yes|Command: C:\\Sweepwise "
+                "Missing\\app.exe|HKEY_CLASSES_ROOT|.sweepwise"_s,
+                u"{!Sweepwise}|HKCR\\CLSID\\{!Sweepwise}|0|yes|DLL: C:\\Sweepwise "
+                "Missing\\app.exe|HKEY_CLASSES_ROOT|CLSID\\{!Sweepwise}"_s,
+                u"Sweepwise|HKLM\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts|0|yes|"
+                "Font file: C:\\Sweepwise Missing\\app.exe|HKEY_LOCAL_MACHINE|"
+                "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts\\Sweepwise"_s,
+                u"Sweepwise|HKCU\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run|0|yes|"
+                "Command: C:\\Sweepwise Missing\\app.exe|HKCU|"
+                "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\Sweepwise"_s,
+                u"sweepwise.dll|HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\SharedDLLs|0|"
+                "yes|DLL path: sweepwise.dll|HKEY_LOCAL_MACHINE|"
+                "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\SharedDLLs\\sweepwise.dll"_s,
+                u"Sweepwise.exe|HKCU\\SOFTWARE\\Classes\\Local Settings\\Software\\Microsoft\\"
+                "Windows\\Shell\\MuiCache|0|yes|Sweepwise.exe|HKEY_CURRENT_USER|"
+                "SOFTWARE\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache\\"
+                "Sweepwise.exe"_s}));
+    }
+
     void programPathsAndUninstallEntries()
     {
         const QString present = makeFile(u"present.exe"_s);

@@ -291,6 +291,50 @@ private Q_SLOTS:
         QVERIFY(isGone);
     }
 
+    void aPlaceholderStandsForItsVariable_data()
+    {
+        everyPlaceholderIsReplaced_data();
+        QTest::newRow("%HomePath%") << u"%HomePath%"_s << QByteArray("HOMEPATH") << QString();
+    }
+    // Elsewhere than on Windows the environment counts when there is no prefix.
+    void aPlaceholderStandsForItsVariable()
+    {
+        QFETCH(QString, placeholder);
+        QFETCH(QByteArray, variable);
+#ifndef Q_OS_WIN
+        const QByteArray prefix = qgetenv("WINEPREFIX");
+        qputenv("WINEPREFIX", m_home.folder(u"no prefix"_s).toUtf8());
+#endif
+        const bool wasSet = qEnvironmentVariableIsSet(variable.constData());
+        const QByteArray before = qgetenv(variable.constData());
+        const auto exists = [](const QString &text) {
+            return PathCheck(platform::Registry()).exists(text + "sweepwise missing"_L1);
+        };
+        qunsetenv(variable.constData());
+        const bool existsWhenUnset = exists(placeholder);
+        const bool existsTwiceWhenUnset = exists(placeholder + u'x' + placeholder);
+        const bool existsInCapitals = exists(placeholder.toUpper());
+        const bool existsInSmallLetters = exists(placeholder.toLower());
+        qputenv(variable.constData(), "sweepwise");
+        const bool existsByName = exists(placeholder);
+        // A path on the current drive counts as existing.
+        qputenv(variable.constData(), "\\Sweepwise Missing\\");
+        const bool existsOnCurrentDrive = exists(placeholder);
+        if (wasSet)
+            qputenv(variable.constData(), before);
+        else
+            qunsetenv(variable.constData());
+#ifndef Q_OS_WIN
+        qputenv("WINEPREFIX", prefix);
+#endif
+        QVERIFY(!existsWhenUnset);
+        QVERIFY(!existsTwiceWhenUnset);
+        QVERIFY(existsInCapitals);
+        QVERIFY(existsInSmallLetters);
+        QVERIFY(!existsByName);
+        QVERIFY(existsOnCurrentDrive);
+    }
+
     void homeDriveAndPathGoTogether()
     {
         const QString text = u"%HomeDrive%%HomePath%"_s;

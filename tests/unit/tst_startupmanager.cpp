@@ -90,16 +90,58 @@ private Q_SLOTS:
         QCOMPARE(names(manager), QStringList{u"Tool"_s});
     }
 
-    void systemPartsAndProductsWithoutAProgramAreNotListed()
+    void systemSoftwareIsLeftOutByItsName()
     {
-        const auto add = [this](const QString &name) {
-            product(userList, name, name, makeFile(name.simplified().remove(u' ') + "/x.exe"_L1));
-        };
-        for (const QString &name :
-             {u"Microsoft Visual C++ 2019"_s, u"Old Microsoft .NET Parts"_s, u"Windows Terminal"_s,
-              u"Update for Things"_s, u"A Hotfix"_s, u"The Security Update 3"_s, u"WindowsApp"_s,
-              u"microsoft visual c++"_s, u"My Windows Tool"_s})
-            add(name);
+        const QStringList leftOut{u"Microsoft Visual C++"_s,
+                                  u"Microsoft Visual C++ 2019"_s,
+                                  u"My Microsoft Visual C++Parts"_s,
+                                  u"Microsoft .NET"_s,
+                                  u"Old Microsoft .NETs Parts"_s,
+                                  u"Windows Terminal"_s,
+                                  u"Windows "_s,
+                                  u"Update for Things"_s,
+                                  u"An Update for Things"_s,
+                                  u"Hotfix 12"_s,
+                                  u"AHotfixes"_s,
+                                  u"Security Update"_s,
+                                  u"The Security Updates 3"_s};
+        QStringList listed{u"Microsoft Visual C+"_s,
+                           u"Microsoft  Visual C++"_s,
+                           u"Visual C++"_s,
+                           u"microsoft visual c++"_s,
+                           u"Microsoft NET"_s,
+                           u"Microsoft.NET"_s,
+                           u".NET"_s,
+                           u"microsoft .net"_s,
+                           u"Windows"_s,
+                           u"WindowsApp"_s,
+                           u"My Windows Tool"_s,
+                           u"windows terminal"_s,
+                           u" Windows Tool"_s,
+                           u"Updates for Things"_s,
+                           u"Update"_s,
+                           u"update for Things"_s,
+                           u"Hot fix"_s,
+                           u"Hotfi"_s,
+                           u"hotfix 12"_s,
+                           u"Security Updat"_s,
+                           u"SecurityUpdate"_s,
+                           u"security update"_s};
+        int count = 0;
+        for (const QString &name : leftOut + listed) {
+            const QString id = QString::number(++count);
+            product(userList, id, name, makeFile(id + "/x.exe"_L1));
+        }
+        m_fixture->write();
+        StartupManager manager;
+        QStringList found = names(manager);
+        found.sort();
+        listed.sort();
+        QCOMPARE(found, listed);
+    }
+
+    void partsOfProductsAndProductsWithoutAProgramAreNotListed()
+    {
         product(userList, u"component"_s, u"Component"_s, makeFile(u"component/x.exe"_s));
         m_fixture->addBytes(userList + "Sweepwise component"_L1, u"SystemComponent"_s, 4,
                             QByteArray("\1\0\0\0", 4));
@@ -112,11 +154,7 @@ private Q_SLOTS:
         product(userList, u"gone"_s, u"Gone"_s, u"C:\\Sweepwise Missing\\x.exe"_s);
         m_fixture->write();
         StartupManager manager;
-        QStringList found = names(manager);
-        found.sort();
-        QCOMPARE(found,
-                 (QStringList{u"My Windows Tool"_s, u"No Component"_s, u"WindowsApp"_s,
-                              u"microsoft visual c++"_s}));
+        QCOMPARE(names(manager), QStringList{u"No Component"_s});
     }
 
     void theExecutableComesFromTheIcon_data()
@@ -165,6 +203,13 @@ private Q_SLOTS:
         QTest::newRow("helpers are passed over")
             << u"Setup.exe photo-helper.exe RemovePhoto.exe photoUpdate.exe uninst.exe z.exe"_s
             << u"Photo"_s << u"z.exe"_s;
+        for (const char *helper : {"unins.exe", "MyUninstall.exe", "RemoveIt.exe", "asetup.exe",
+                                   "UPDATER.exe", "photo-helper.exe"})
+            QTest::addRow("%s alone", helper)
+                << QString::fromLatin1(helper) << u"Photo"_s << QString();
+        for (const char *program : {"unin.exe", "remov.exe", "set-up.exe", "updat.exe", "help.exe"})
+            QTest::addRow("%s is no helper", program)
+                << QString::fromLatin1(program) << u"Photo"_s << QString::fromLatin1(program);
         QTest::newRow("no program") << u"photo.dll"_s << u"Photo"_s << QString();
         QTest::newRow("name of other letters") << u"b.exe a.exe"_s << u"照片"_s << u"a.exe"_s;
         QTest::newRow("dots in the file's name")

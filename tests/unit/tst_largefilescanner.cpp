@@ -266,22 +266,32 @@ private Q_SLOTS:
         tree.file(u"$Recycle.Bin/S-1/deleted"_s);
         tree.file(u"System Volume Information/deep/er/point"_s);
         tree.file(u"sub/old $Recycle.Bin copy"_s);
-        const QStringList listed{tree.file(u"Other/$recycle.bin/lowercase"_s),
-                                 tree.file(u"Windows/Installer/package.msi"_s),
-                                 tree.file(u"Windows/WinSxS/component"_s)};
+        QStringList listed;
+        for (const char *name :
+             {"A/$RECYCLE.BIN/a", "$Recycle.Bi/a", "$RecycleXBin/a", "Other/$recycle.bin/a",
+              "Recycle.Bin/a", "System Volume Informatio/a", "A/SYSTEM VOLUME INFORMATION/b",
+              "System Volume/a", "Windows/Installer/package.msi", "Windows/WinSxS/component"})
+            listed.append(tree.file(QString::fromLatin1(name)));
+        int files = int(listed.size()) + 3;
 #ifdef Q_OS_UNIX
         // Only on this system can a name contain the other two excluded texts.
         tree.file(u"Windows\\WinSxS"_s);
-        tree.file(u"Windows\\Installer/package.msi"_s);
-        constexpr int files = 8;
-#else
-        constexpr int files = 6;
+        tree.file(u"Old Windows\\Installer/package.msi"_s);
+        for (const char *name :
+             {"Windows\\Install", "Windows\\WinSx", "windows\\Installer", "windows\\winsxs"})
+            listed.append(tree.file(QString::fromLatin1(name)));
+        files += 6;
 #endif
+        listed.sort();
         LargeFileScanner scanner;
         scan(scanner, {tree.path()});
         QCOMPARE(paths(scanner), listed);
         // Excluded files are counted all the same.
         QCOMPARE(scanner.filesScanned(), files);
+        // The path of the drive counts too.
+        scan(scanner, {tree.path(u"$Recycle.Bin"_s)});
+        QCOMPARE(paths(scanner), QStringList());
+        QCOMPARE(scanner.filesScanned(), 1);
     }
 
     void progressComesEveryHundredFiles_data()

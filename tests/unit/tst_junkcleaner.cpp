@@ -461,7 +461,6 @@ private Q_SLOTS:
         QCOMPARE(expanded, QDir::toNativeSeparators(expected));
     }
 
-
     // --- scanning
 
     void withoutRulesAScanFindsNothing()

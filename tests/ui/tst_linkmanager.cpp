@@ -102,7 +102,12 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(addresses.removeDuplicates(), 0);
-        QCOMPARE(table.size(), 4);
+        QCOMPARE(table.keys(), (QStringList{u"menu"_s, u"metadata"_s, u"support"_s, u"website"_s}));
+        for (const auto &[category, keys] : pages)
+            QCOMPARE(table[category].toObject().size(), keys.size());
+        const QJsonObject metadata = table["metadata"_L1].toObject();
+        QCOMPARE(metadata["fallback_language"_L1], QJsonValue(u"en"_s));
+        QVERIFY(QDate::fromString(metadata["last_updated"_L1].toString(), Qt::ISODate).isValid());
     }
 
     void theStoredLanguageWinsOverTheSystems_data()
@@ -110,9 +115,21 @@ private Q_SLOTS:
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("system");
         QTest::addColumn<QString>("expected");
+        for (const char *code : {"en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it"}) {
+            const QString language = QString::fromLatin1(code);
+            QTest::addRow("system %s", code) << QString() << language + "_XX"_L1 << language;
+            QTest::addRow("stored %s", code) << language << u"zh_TW"_s << language;
+        }
         QTest::newRow("Hong Kong") << QString() << u"zh_HK"_s << u"zh_TW"_s;
         QTest::newRow("Taiwan") << QString() << u"zh_TW"_s << u"zh_TW"_s;
         QTest::newRow("simplified Chinese gets English") << QString() << u"zh_CN"_s << u"en"_s;
+        QTest::newRow("Chinese of Singapore") << QString() << u"zh_SG"_s << u"en"_s;
+        QTest::newRow("Chinese alone") << QString() << u"zh"_s << u"en"_s;
+        QTest::newRow("Chinese in another case") << QString() << u"zh_tw"_s << u"en"_s;
+        QTest::newRow("Chinese with a hyphen") << QString() << u"zh-TW"_s << u"en"_s;
+        QTest::newRow("C") << QString() << u"C"_s << u"en"_s;
+        QTest::newRow("three letters") << QString() << u"deu_DE"_s << u"de"_s;
+        QTest::newRow("Filipino") << QString() << u"fil_PH"_s << u"en"_s;
         QTest::newRow("Brazilian") << QString() << u"pt_BR"_s << u"pt"_s;
         QTest::newRow("capitals") << QString() << u"DE_DE"_s << u"de"_s;
         QTest::newRow("Swedish") << QString() << u"sv_SE"_s << u"en"_s;
@@ -120,6 +137,8 @@ private Q_SLOTS:
         QTest::newRow("stored wins") << u"zh_TW"_s << u"fr_FR"_s << u"zh_TW"_s;
         QTest::newRow("stored but not in the table") << u"tlh"_s << u"sv_SE"_s << u"en"_s;
         QTest::newRow("stored in another case") << u"FR"_s << u"it_IT"_s << u"it"_s;
+        QTest::newRow("stored with its country") << u"fr_FR"_s << u"it_IT"_s << u"it"_s;
+        QTest::newRow("stored Chinese in another case") << u"zh_tw"_s << u"it_IT"_s << u"it"_s;
     }
 
     void theStoredLanguageWinsOverTheSystems()

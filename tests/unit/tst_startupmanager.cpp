@@ -159,22 +159,41 @@ private Q_SLOTS:
 
     void theExecutableComesFromTheIcon_data()
     {
-        QTest::addColumn<QString>("icon"); // %1 stands for the program
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("icon"); // %1 stands for the file
         QTest::addColumn<bool>("found");
-        QTest::newRow("plain") << u"%1"_s << true;
-        QTest::newRow("with an index") << u"%1,0"_s << true;
-        QTest::newRow("negative index") << u"%1,-101"_s << true;
-        QTest::newRow("quoted with an index") << u"\"%1\",0"_s << true;
-        QTest::newRow("quoted") << u"\"%1\""_s << true;
-        QTest::newRow("no program") << u"%1.ico"_s << false;
-        QTest::newRow("comma first") << u",0"_s << false;
-        QTest::newRow("empty") << QString() << false;
+        const auto row = [](const char *title, const QString &icon, bool found,
+                            const QString &file = u"App Folder/app.exe"_s) {
+            QTest::newRow(title) << file << icon << found;
+        };
+        row("plain", u"%1"_s, true);
+        row("with an index", u"%1,0"_s, true);
+        row("negative index", u"%1,-101"_s, true);
+        row("quoted with an index", u"\"%1\",0"_s, true);
+        row("quoted", u"\"%1\""_s, true);
+        row("quote in front only", u"\"%1"_s, true);
+        row("quote behind only", u"%1\""_s, true);
+        row("quote behind only, with an index", u"%1\",0"_s, true);
+        row("two quotes in front", u"\"\"%1"_s, false);
+        row("two quotes behind", u"%1\"\""_s, false);
+        row("two indexes", u"%1,0,0"_s, false);
+        row("comma in the path", u"%1"_s, false, u"App, Folder/app.exe"_s);
+        row("comma in the path, with an index", u"%1,0"_s, true, u"App, Folder/app.exe"_s);
+        row("comma in the path, quoted with an index", u"\"%1\",0"_s, true,
+            u"App, Folder/app.exe"_s);
+        row("in capitals", u"%1,0"_s, true, u"App Folder/APP.EXE"_s);
+        row("no program", u"%1.ico"_s, false);
+        row("another kind of program", u"%1"_s, false, u"App Folder/app.com"_s);
+        row("without the dot", u"%1"_s, false, u"App Folder/app-exe"_s);
+        row("comma first", u",0"_s, false);
+        row("empty", QString(), false);
     }
     void theExecutableComesFromTheIcon()
     {
+        QFETCH(QString, file);
         QFETCH(QString, icon);
         QFETCH(bool, found);
-        const QString path = makeFile(u"App Folder/app.exe"_s);
+        const QString path = makeFile(file);
         makeFile(u"App Folder/app.exe.ico"_s);
         product(userList, u"1"_s, u"App"_s, icon.replace("%1"_L1, path));
         m_fixture->write();
@@ -212,6 +231,9 @@ private Q_SLOTS:
                 << QString::fromLatin1(program) << u"Photo"_s << QString::fromLatin1(program);
         QTest::newRow("no program") << u"photo.dll"_s << u"Photo"_s << QString();
         QTest::newRow("name of other letters") << u"b.exe a.exe"_s << u"照片"_s << u"a.exe"_s;
+        QTest::newRow("letters of other alphabets are left out")
+            << u"a.exe phto.exe"_s << u"Phöto"_s << u"phto.exe"_s;
+        QTest::newRow("digits stay") << u"c.exe m4.exe"_s << u"M-4 (X)"_s << u"m4.exe"_s;
         QTest::newRow("dots in the file's name")
             << u"a.exe photo.x64.exe"_s << u"Photo"_s << u"photo.x64.exe"_s;
     }

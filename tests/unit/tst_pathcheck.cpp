@@ -210,21 +210,36 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("program");
-        QTest::newRow("quoted") << u"\"C:\\a b\\c.exe\" -x"_s << u"C:\\a b\\c.exe"_s;
-        QTest::newRow("plain") << u"C:\\c.exe -x"_s << u"C:\\c.exe"_s;
-        QTest::newRow("plain alone") << u"C:\\c.exe"_s << u"C:\\c.exe"_s;
-        QTest::newRow("unquoted with a blank is cut")
-            << u"C:\\Program Files\\App\\app.exe"_s << u"C:\\Program"_s;
-        QTest::newRow("open quote") << u"\"C:\\a b.exe -x"_s << u"\"C:\\a b.exe -x"_s;
-        QTest::newRow("blank in front") << u" C:\\a.exe"_s << u" C:\\a.exe"_s;
-        QTest::newRow("empty quotes") << u"\"\" x"_s << QString();
-        QTest::newRow("empty") << QString() << QString();
+        QTest::addColumn<QString>("quotedPart");
+        const auto row = [](const char *title, const QString &command, const QString &program,
+                            const QString &quotedPart) {
+            QTest::newRow(title) << command << program << quotedPart;
+        };
+        row("quoted", u"\"C:\\a b\\c.exe\" -x"_s, u"C:\\a b\\c.exe"_s, u"C:\\a b\\c.exe"_s);
+        row("quoted alone", u"\"C:\\c.exe\""_s, u"C:\\c.exe"_s, u"C:\\c.exe"_s);
+        row("quoted twice", u"\"C:\\c.exe\" \"D:\\d\""_s, u"C:\\c.exe"_s, u"C:\\c.exe"_s);
+        row("plain", u"C:\\c.exe -x"_s, u"C:\\c.exe"_s, u"C:\\c.exe -x"_s);
+        row("plain alone", u"C:\\c.exe"_s, u"C:\\c.exe"_s, u"C:\\c.exe"_s);
+        row("plain with a quoted argument", u"C:\\c.exe \"-x\""_s, u"C:\\c.exe"_s,
+            u"C:\\c.exe \"-x\""_s);
+        row("unquoted with a blank is cut", u"C:\\Program Files\\App\\app.exe -x"_s,
+            u"C:\\Program"_s, u"C:\\Program Files\\App\\app.exe -x"_s);
+        row("open quote", u"\"C:\\a b.exe -x"_s, u"\"C:\\a b.exe -x"_s, u"\"C:\\a b.exe -x"_s);
+        row("tabulator", u"C:\\c.exe\t-x"_s, u"C:\\c.exe\t-x"_s, u"C:\\c.exe\t-x"_s);
+        row("blank in front", u" C:\\a.exe -x"_s, u" C:\\a.exe -x"_s, u" C:\\a.exe -x"_s);
+        row("blank before a quote", u" \"C:\\a.exe\" -x"_s, u" \"C:\\a.exe\" -x"_s,
+            u" \"C:\\a.exe\" -x"_s);
+        row("empty quotes", u"\"\" x"_s, {}, {});
+        row("quote alone", u"\""_s, u"\""_s, u"\""_s);
+        row("empty", {}, {}, {});
     }
     void programOfACommandLine()
     {
         QFETCH(QString, command);
         QFETCH(QString, program);
+        QFETCH(QString, quotedPart);
         QCOMPARE(PathCheck::programPath(command), program);
+        QCOMPARE(PathCheck::quotedPart(command), quotedPart);
     }
 
     void everyPlaceholderIsReplaced_data()

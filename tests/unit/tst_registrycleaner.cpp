@@ -416,12 +416,14 @@ private Q_SLOTS:
         QCOMPARE(names(items),
                  (QStringList{u"Sweepwise a"_s, u"Sweepwise b"_s, u"Sweepwise c"_s,
                               u"Sweepwise f"_s, u"Sweepwise d"_s}));
-        QCOMPARE(items.at(0).registryRoot, u"HKLM"_s);
-        QCOMPARE(items.at(0).path, "HKLM\\"_L1 + runKey);
+        const QStringList keys{"HKLM\\"_L1 + runKey, "HKLM\\"_L1 + runOnceKey, "HKCU\\"_L1 + runKey,
+                               "HKCU\\"_L1 + runKey, "HKCU\\"_L1 + runOnceKey};
+        for (qsizetype i = 0; i < items.size(); ++i) {
+            QCOMPARE(items.at(i).path, keys.at(i));
+            QCOMPARE(items.at(i).registryRoot + u'\\' + items.at(i).registryKey,
+                     keys.at(i) + u'\\' + items.at(i).name);
+        }
         QCOMPARE(items.at(0).description, "Command: "_L1 + missing + " -x"_L1);
-        QCOMPARE(items.at(4).registryRoot, u"HKCU"_s);
-        QCOMPARE(items.at(4).path, "HKCU\\"_L1 + runOnceKey);
-        QCOMPARE(items.at(4).registryKey, runOnceKey + "\\Sweepwise d"_L1);
     }
 
     void sharedLibrariesStartUnchecked()

@@ -662,6 +662,48 @@ private Q_SLOTS:
         QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise b"_s));
     }
 
+    void aCleanThatIsCancelledBeforeItsBackupKeepsAnEarlierOne_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("hasEarlierOne");
+        for (const bool hasEarlierOne : {true, false}) {
+            const auto row = [hasEarlierOne](const char *when) -> QTestData & {
+                return QTest::addRow("%s, %s", when, hasEarlierOne ? "over another" : "new");
+            };
+            row("at once") << u"Starting registry clean..."_s << hasEarlierOne;
+            row("while it is made") << u"Creating registry backup to: "_s << hasEarlierOne;
+        }
+    }
+    void aCleanThatIsCancelledBeforeItsBackupKeepsAnEarlierOne()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, hasEarlierOne);
+        m_fixture->addText(user + runKey, u"Sweepwise"_s, missing);
+        m_fixture->write();
+        const QString path = m_home.folder(u"backup"_s) + "/cancelled.reg"_L1;
+        QFile backup(path);
+        QVERIFY(!backup.exists() || backup.remove());
+        if (hasEarlierOne) {
+            QVERIFY(backup.open(QIODevice::WriteOnly));
+            backup.write("earlier");
+            backup.close();
+        }
+        m_cleaner->setBackupPath(path);
+        scan();
+        keepOwnOnly();
+        QCOMPARE(m_cleaner->result().checkedCount(), 1);
+        cancelAtLine(line);
+        const SignalSpy &finished = clean();
+        cancelAtLine({});
+        QCOMPARE(finished.constFirst().at(1).toInt(), 0);
+        QCOMPARE(m_cleaner->state(), State::Cancelled);
+        QVERIFY(!m_cleaner->backupError());
+        QVERIFY(m_fixture->hasValue(user + runKey, u"Sweepwise"_s));
+        QCOMPARE(backup.exists(), hasEarlierOne);
+        QVERIFY(!hasEarlierOne || backup.open(QIODevice::ReadOnly));
+        QVERIFY(!hasEarlierOne || backup.readAll() == "earlier");
+    }
+
     void anEntryThatWasRepairedSinceTheScanStays()
     {
         const QString good = makeFile(u"good.exe"_s);
@@ -1283,6 +1325,25 @@ private:
             qFatal("the clean did not end");
         m_cleaner->stopAndWait();
         return *m_finished;
+    }
+
+    /// Cancels the run of the cleaner as soon as it logs @p line; empty ends that.
+    void cancelAtLine(const QString &line) const
+    {
+        static QtMessageHandler before = nullptr;
+        static QString awaited;
+        static CleanEngine *engine = nullptr;
+        awaited = line;
+        engine = m_cleaner.get();
+        if (line.isEmpty()) {
+            qInstallMessageHandler(before);
+            return;
+        }
+        before = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &message) {
+                if (message.contains(awaited))
+                    engine->cancel();
+            });
     }
 
     static void restore(const QString &path)

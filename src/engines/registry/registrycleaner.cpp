@@ -196,6 +196,11 @@ void RegistryCleaner::backUp(const ScanResult &toRemove, const Registry &registr
     }
     Logger::instance().info("Creating registry backup to: "_L1 + m_backupPath);
     const QString text = RegistryBackup::text(toRemove, registry, QDateTime::currentDateTime());
+    if (isStopRequested()) {
+        // Nothing will be removed, so the backup of an earlier clean must not be replaced.
+        Logger::instance().info(u"Registry backup skipped (cancelled)"_s);
+        return;
+    }
     QString error;
     if (RegistryBackup::write(m_backupPath, text, error)) {
         Logger::instance().info("Registry backup created: "_L1 + m_backupPath);

@@ -407,6 +407,7 @@ private Q_SLOTS:
             QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         bool exact = false;
         bool otherCase = false;
+        bool belowOtherCase = false;
         bool behindALock = false;
         bool missingElsewhere = true;
         {
@@ -414,11 +415,13 @@ private Q_SLOTS:
             PathCheck paths{platform::Registry()};
             exact = paths.exists(u"C:\\Closed\\Inside"_s);
             otherCase = paths.exists(u"C:\\Closed\\inside"_s);
+            belowOtherCase = paths.exists(u"C:\\Closed\\inside\\none.exe"_s);
             behindALock = paths.exists(u"C:\\Locked\\Inside"_s);
             missingElsewhere = paths.exists(missing);
         }
         QVERIFY(exact);
         QVERIFY(otherCase);
+        QVERIFY(belowOtherCase);
         QVERIFY(behindALock);
         QVERIFY(!missingElsewhere);
     }
@@ -432,6 +435,41 @@ private Q_SLOTS:
         QVERIFY(!paths.exists(u"C:\\Links\\broken"_s));
         QVERIFY(!paths.exists(u"C:\\Links\\BROKEN"_s));
         QVERIFY(paths.exists(u"C:\\Links\\GOOD"_s));
+    }
+
+    void aSeparatorBehindMeansAFolder()
+    {
+        const QString file = makeFile(u"present.exe"_s);
+        const QString folder = file.first(file.lastIndexOf(u'\\') + 1);
+        PathCheck paths{platform::Registry()};
+        QVERIFY(!paths.exists(file + u'\\'));
+        QVERIFY(!paths.exists(file.toUpper() + u'\\'));
+        QVERIFY(paths.exists(folder));
+        QVERIFY(paths.exists(folder.toUpper()));
+    }
+
+    // A check remembers that a folder is missing. This must not count for another path that has the
+    // same text in it.
+    void aMissingFolderHidesNothingElse()
+    {
+        const QString present = makeFile(u"present.exe"_s);
+        const QString elsewhere = m_home.folder(u"elsewhere/deep"_s);
+        m_home.folder(u"elsewhere/sub"_s);
+        QFile file(m_home.path() + "/elsewhere/sub/file.exe"_L1);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(QFile::link(elsewhere, m_home.folder(u"prefix/drive_c/Jumps"_s) + "/jump"_L1));
+        PathCheck paths{platform::Registry()};
+        QVERIFY(!paths.exists(u"C:\\None\\a.exe"_s));
+        QVERIFY(!paths.exists(u"C:\\None\\b.exe"_s));
+        QVERIFY(paths.exists(u"C:\\None\\.."_s + present.mid(2)));
+        QVERIFY(paths.exists(u"C:\\None\\.."_s));
+        QVERIFY(paths.exists(u"C:\\"_s));
+        QVERIFY(!paths.exists(u"C:\\Jumps\\sub\\file.exe"_s));
+        QVERIFY(paths.exists(u"C:\\Jumps\\jump\\..\\sub\\file.exe"_s));
+        // A folder in another case, and then a file in it.
+        QVERIFY(!paths.exists(present.toUpper() + ".none"_L1));
+        QVERIFY(paths.exists(present.toUpper()));
+        QVERIFY(paths.exists(present));
     }
 #endif
 

@@ -68,16 +68,6 @@ Presence presenceAt(const QString &path, ReadFailures &failures)
 class PathLookup::Private
 {
 public:
-    /// The names in a folder by their case-folded form. Nothing when the folder cannot be listed.
-    using Names = std::optional<QHash<QString, QString>>;
-
-    const Names &namesIn(const QString &folder, ReadFailures &failures)
-    {
-        auto listed = m_folders.find(folder);
-        if (listed == m_folders.end())
-            listed = m_folders.insert(folder, list(folder, failures));
-        return *listed;
-    }
     /// A drive's folder; empty without the drive. @p problem says why it cannot be determined.
     struct Drive {
         QString folder;
@@ -94,22 +84,91 @@ public:
         return *found;
     }
 
-private:
-    static Names list(const QString &folder, ReadFailures &failures)
+    /// What a path leads to. Names are found regardless of case.
+    struct Entry {
+        Presence presence = Presence::Missing;
+        QString path; ///< in this file system; only counts if it is present
+    };
+
+    /// The folder @p relative, a cleaned path, on the drive in @p driveFolder. It is looked for
+    /// once: a registry can name very many files in one folder.
+    const Entry &folderAt(const QString &driveFolder, const QString &relative,
+                          ReadFailures &failures)
     {
+        const QString key = driveFolder + relative;
+        auto found = m_folders.find(key);
+        if (found == m_folders.end()) {
+            Entry entry{Presence::Present, driveFolder};
+            const QStringList names = relative.split(u'/', Qt::SkipEmptyParts);
+            for (const QString &name : names) {
+                entry = entryIn(entry.path, name, failures);
+                if (entry.presence != Presence::Present)
+                    break;
+            }
+            found = m_folders.insert(key, entry);
+        }
+        return *found;
+    }
+    /// Whether folderAt() has been asked for this folder, and it is missing.
+    bool isKnownMissing(const QString &driveFolder, const QString &relative) const
+    {
+        const auto found = m_folders.constFind(driveFolder + relative);
+        return found != m_folders.cend() && found->presence == Presence::Missing;
+    }
+
+    /// The entry @p name in the folder @p folder. A link may lead nowhere.
+    Entry entryIn(const QString &folder, const QString &name, ReadFailures &failures)
+    {
+        const QString exact = folder + u'/' + name;
+        const Presence presence = presenceAt(exact, failures);
+        return presence == Presence::Missing ? entryInOtherCase(folder, name, failures)
+                                             : Entry{presence, exact};
+    }
+    /// The same for a name that is not there in exactly this case.
+    Entry entryInOtherCase(const QString &folder, const QString &name, ReadFailures &failures)
+    {
+        const Listing &listing = listingOf(folder, failures);
+        if (listing.presence != Presence::Present)
+            return {listing.presence, {}};
+        const auto found = listing.names.constFind(name.toCaseFolded());
+        if (found == listing.names.cend())
+            return {Presence::Missing, {}};
+        return {Presence::Present, folder + u'/' + *found};
+    }
+
+private:
+    struct Listing {
+        Presence presence = Presence::Missing;
+        QHash<QString, QString> names; ///< by their case-folded form
+    };
+
+    const Listing &listingOf(const QString &folder, ReadFailures &failures)
+    {
+        auto listed = m_listings.find(folder);
+        if (listed == m_listings.end())
+            listed = m_listings.insert(folder, list(folder, failures));
+        return *listed;
+    }
+    static Listing list(const QString &folder, ReadFailures &failures)
+    {
+        // With the separator, a file is not found.
+        if (const Presence presence = presenceAt(folder + u'/', failures);
+            presence != Presence::Present)
+            return {presence, {}};
         QString error;
         const std::optional<QStringList> entries = namesInFolder(folder, error);
         if (!entries) {
             failures.add(folder, error);
-            return {};
+            return {Presence::Unknown, {}};
         }
-        QHash<QString, QString> names;
+        Listing listing{Presence::Present, {}};
         for (const QString &entry : *entries)
-            names.insert(entry.toCaseFolded(), entry);
-        return names;
+            listing.names.insert(entry.toCaseFolded(), entry);
+        return listing;
     }
 
-    QHash<QString, Names> m_folders;
+    QHash<QString, Listing> m_listings;
+    QHash<QString, Entry> m_folders;
     QHash<QChar, Drive> m_drives;
 };
 
@@ -131,34 +190,26 @@ Presence PathLookup::presenceOf(const QString &path)
     }
     if (drive.folder.isEmpty())
         return Presence::Missing;
-    QString current = drive.folder;
-    const Presence exact = presenceAt(current + relative, m_readFailures);
-    if (exact != Presence::Missing)
-        return exact;
-    const QStringList names = QDir::cleanPath(relative).split(u'/', Qt::SkipEmptyParts);
-    for (const QString &name : names) {
-        const QString next = current + u'/' + name;
-        const Presence presence = presenceAt(next, m_readFailures);
-        if (presence == Presence::Unknown)
-            return presence;
-        if (presence == Presence::Present) {
-            current = next;
-            continue;
-        }
-        // With the separator, a file is not found.
-        if (const Presence folder = presenceAt(current + u'/', m_readFailures);
-            folder != Presence::Present)
-            return folder;
-        const Private::Names &listed = d->namesIn(current, m_readFailures);
-        if (!listed)
-            return Presence::Unknown;
-        const auto found = listed->constFind(name.toCaseFolded());
-        if (found == listed->cend())
-            return Presence::Missing;
-        current += u'/' + *found;
-    }
+    const QString cleaned = QDir::cleanPath(relative);
+    const qsizetype nameBegin = cleaned.lastIndexOf(u'/') + 1;
+    const QString folder = cleaned.first(nameBegin - 1);
+    // The system resolves ".." behind a link in another way than cleanPath().
+    if (cleaned == relative && d->isKnownMissing(drive.folder, folder))
+        return Presence::Missing;
+    const QString exact = drive.folder + relative;
+    if (const Presence presence = presenceAt(exact, m_readFailures); presence != Presence::Missing)
+        return presence;
+    const Private::Entry &parent = d->folderAt(drive.folder, folder, m_readFailures);
+    if (parent.presence != Presence::Present)
+        return parent.presence;
+    const QString name = cleaned.mid(nameBegin);
+    const Private::Entry entry = parent.path + u'/' + name == exact
+        ? d->entryInOtherCase(parent.path, name, m_readFailures)
+        : d->entryIn(parent.path, name, m_readFailures);
+    if (entry.presence != Presence::Present)
+        return entry.presence;
     // A path that ends in a separator can only name a folder. A link can be broken.
-    return presenceAt(relative.endsWith(u'/') ? current + u'/' : current, m_readFailures);
+    return presenceAt(relative.endsWith(u'/') ? entry.path + u'/' : entry.path, m_readFailures);
 }
 
 } // namespace platform

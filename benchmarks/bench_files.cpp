@@ -134,7 +134,7 @@ void cancelWalk(benchmark::State &state)
         std::atomic_bool stop = false;
         std::jthread walker([&] {
             while (!stop)
-                platform::walkFiles(root, {{}, true, &stop}, [](platform::WalkedFile &&) {});
+                platform::walkFiles(root, {{}, true, {&stop}}, [](platform::WalkedFile &&) {});
         });
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
         const auto stopTime = std::chrono::steady_clock::now();

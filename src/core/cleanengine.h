@@ -2,6 +2,7 @@
 
 #include "readfailures.h"
 #include "runsignals.h"
+#include "runwatch.h"
 #include "scanresult.h"
 #include "worker.h"
 
@@ -81,8 +82,8 @@ public:
     /// rule.
     [[nodiscard]] const platform::ReadFailures &incomplete() const { return m_readFailures; }
     /// Grows while a scan works, also within one step of scanProgress(). Tells that work goes on
-    /// and means nothing else. 0 for engines with short steps. Any thread.
-    [[nodiscard]] virtual qint64 activity() const { return 0; }
+    /// and means nothing else. Any thread.
+    [[nodiscard]] virtual qint64 activity() const { return m_activity; }
     /// What the last clean has reached. A clean of a million items emits as many signals, which
     /// would fill the event loop, so a page asks from time to time. Any thread.
     [[nodiscard]] CleanProgress latestProgress() const;
@@ -132,6 +133,8 @@ protected:
     void endClean(State end);
     [[nodiscard]] bool isStopRequested() const { return m_stopRequested.load(); }
     [[nodiscard]] const std::atomic_bool &stopFlag() const { return m_stopRequested; }
+    /// What the long readings of a scan get: they end with stopFlag() and move activity().
+    [[nodiscard]] platform::RunWatch watch() { return {&m_stopRequested, &m_activity}; }
     /// The checked items as they were when the clean was started.
     [[nodiscard]] const ScanResult &selection() const { return m_selection; }
 
@@ -174,6 +177,7 @@ private:
     std::atomic<State> m_state = State::Idle;
     ScanResult m_result;
     std::atomic_bool m_stopRequested = false;
+    std::atomic<qint64> m_activity = 0;
     mutable std::mutex m_progressMutex; ///< guards m_progress
     CleanProgress m_progress;
     ScanResult m_selection;

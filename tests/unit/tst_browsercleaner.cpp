@@ -607,6 +607,36 @@ private Q_SLOTS:
         QCOMPARE(folder.size, 5);
     }
 
+    // Whoever waits sees that work goes on.
+    void aScanTellsOfItsActivity_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("isTree");
+        const QString fox = u"Roaming/Mozilla/Firefox/Profiles/fox"_s;
+        QTest::newRow("Chrome") << chromeProfile() + "/Cache"_L1 << true;
+        QTest::newRow("Firefox, a tree") << fox + "/thumbnails"_L1 << true;
+        QTest::newRow("Firefox, one folder") << fox + "/sessionstore-backups"_L1 << false;
+    }
+    void aScanTellsOfItsActivity()
+    {
+        QFETCH(QString, folder);
+        QFETCH(bool, isTree);
+        const TestTree tree;
+        tree.file(folder + "/first"_L1);
+        BrowserCleaner cleaner(foldersOf(tree));
+        cleaner.loadRules(shipped);
+        scan(cleaner);
+        const qint64 before = cleaner.activity();
+        QVERIFY(before > 0);
+        scan(cleaner);
+        QCOMPARE(cleaner.activity(), 2 * before);
+        for (int i = 0; i < 10'000; ++i)
+            tree.file(folder + u"/f%1"_s.arg(i), {});
+        scan(cleaner);
+        // Two runs of entries are listed; in a tree they are then visited.
+        QCOMPARE(cleaner.activity(), 3 * before + (isTree ? 4 : 2));
+    }
+
     // --- databases
 
     void aFileMatchedByNameInADatabaseStartsUnticked()

@@ -60,7 +60,7 @@ public:
 
     platform::ReadFailures walk(const QString &root)
     {
-        return platform::walkEntries(root, *this, &stop);
+        return platform::walkEntries(root, *this, {&stop});
     }
 
     QStringList paths; ///< in the order of the calls
@@ -100,6 +100,35 @@ class TestEntryWalk : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    // Whoever waits sees that work goes on, also in one large folder.
+    void aWalkTellsOfItsActivity()
+    {
+        /// Notes how far the activity is at the first and the last entry.
+        class Watcher final : public platform::EntryVisitor
+        {
+        public:
+            void visitEntry(platform::WalkedEntry &&) override
+            {
+                if (first < 0)
+                    first = activity;
+                last = activity;
+            }
+            void leaveFolder(qint64, bool) override { }
+
+            std::atomic<qint64> activity = 0;
+            qint64 first = -1;
+            qint64 last = -1;
+        };
+        const TestTree tree;
+        for (int i = 0; i < 10'000; ++i)
+            tree.file(u"large/f%1"_s.arg(i), {});
+        Watcher watcher;
+        platform::walkEntries(tree.path(u"large"_s), watcher, {nullptr, &watcher.activity});
+        const int runs = 10'000 / 4096;
+        QCOMPARE(watcher.first, 1 + runs); // the folder, and while it was listed
+        QCOMPARE(watcher.last, 1 + runs + runs); // and while its entries were visited
+    }
+
     void aRandomTreeIsListedAsQtListsIt_data()
     {
         QTest::addColumn<quint32>("seed");

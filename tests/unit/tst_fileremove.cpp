@@ -38,7 +38,7 @@ public:
 void recordFolders(const QString &root, platform::ListedFolders &listed)
 {
     IgnoringVisitor visitor;
-    platform::walkEntries(root, visitor, nullptr, &listed);
+    platform::walkEntries(root, visitor, {}, &listed);
 }
 
 } // namespace

@@ -111,7 +111,7 @@ private Q_SLOTS:
             {u"b0"_s}};
         for (const QStringList &filter : filters) {
             for (const bool recursive : {true, false}) {
-                const WalkOptions options{filter, recursive, nullptr};
+                const WalkOptions options{filter, recursive};
                 QCOMPARE(walk(tree.path(), options), iterate(tree.path(), options));
             }
         }
@@ -144,7 +144,7 @@ private Q_SLOTS:
         tree.folder(u"large/empty"_s);
         std::atomic<qint64> activity = 0;
         platform::WalkOptions options;
-        options.activity = &activity;
+        options.watch.activity = &activity;
         platform::walkFiles(tree.path(), options, [](platform::WalkedFile &&) {});
         QCOMPARE(activity.load(), 3 + 10'000 / 4096); // folders and runs of entries
     }
@@ -245,7 +245,7 @@ private Q_SLOTS:
             tree.file(u"f%1"_s.arg(i));
         std::atomic_bool stop = false;
         int seen = 0;
-        platform::walkFiles(tree.path(), {{}, true, &stop}, [&](platform::WalkedFile &&) {
+        platform::walkFiles(tree.path(), {{}, true, {&stop}}, [&](platform::WalkedFile &&) {
             if (++seen == 3)
                 stop = true;
         });

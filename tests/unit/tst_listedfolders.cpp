@@ -67,7 +67,7 @@ private Q_SLOTS:
 
         ListedFolders ofEntries;
         IgnoringVisitor visitor;
-        platform::walkEntries(tree.path(), visitor, nullptr, &ofEntries);
+        platform::walkEntries(tree.path(), visitor, {}, &ofEntries);
         QCOMPARE(ofEntries.idOf(tree.path(u"a"_s)), listed.idOf(tree.path(u"a"_s)));
         QVERIFY(ofEntries.idOf(tree.path(u"b"_s)).isKnown());
         QVERIFY(ofEntries.idOf(tree.path()).isKnown());

@@ -507,6 +507,22 @@ private Q_SLOTS:
                               u"Scanning invalid shared DLLs..."_s, u"Scanning MUI cache..."_s}));
     }
 
+    // Whoever waits sees that work goes on, also when one key holds very many values.
+    void aScanTellsOfItsActivity()
+    {
+        constexpr int count = 300;
+        scan();
+        const qint64 before = m_cleaner->activity();
+        scan();
+        const qint64 other = m_cleaner->activity() - before;
+        for (int i = 0; i < count; ++i)
+            m_fixture->addText(user + runKey, u"Sweepwise %1"_s.arg(i), missing);
+        m_fixture->write();
+        const qint64 start = m_cleaner->activity();
+        scan();
+        QCOMPARE(m_cleaner->activity() - start, other + count);
+    }
+
     void aCancelledScanTellsAllStepsAndKeepsNothingOfTheStoppedOne()
     {
         m_fixture->addText(machine + fonts, u"Sweepwise"_s, missing);

@@ -63,7 +63,7 @@ QStringList walkEverywhere(const QString &root, int walkers, WalkReport *report 
     for (int i = 0; i < walkers; ++i)
         visitors.append(records.emplace_back(std::make_unique<Record>()).get());
     const WalkReport result =
-        platform::walkTree(root, {{}, true, nullptr, platform::Reach::Everywhere}, visitors);
+        platform::walkTree(root, {{}, true, {}, platform::Reach::Everywhere}, visitors);
     if (report)
         *report = result;
     QStringList found;
@@ -164,7 +164,7 @@ private Q_SLOTS:
         Record second;
         first.stop = &stop;
         second.stop = &stop;
-        platform::walkTree(tree.path(), {{}, true, &stop, platform::Reach::Everywhere},
+        platform::walkTree(tree.path(), {{}, true, {&stop}, platform::Reach::Everywhere},
                            {&first, &second});
         QVERIFY(stop);
         QVERIFY2(first.paths.size() + second.paths.size() < 20,
@@ -276,8 +276,7 @@ private Q_SLOTS:
         tree.link(outside.path(u"target"_s), u"link"_s);
         tree.link(u"nowhere"_s, u"broken"_s);
         Record record;
-        platform::walkTree(tree.path(), {{}, true, nullptr, platform::Reach::Everywhere},
-                           {&record});
+        platform::walkTree(tree.path(), {{}, true, {}, platform::Reach::Everywhere}, {&record});
         QCOMPARE(record.paths, QStringList{tree.path(u"link"_s)});
         // The size is that of the link itself, whose content is the path.
         QCOMPARE(record.sizes, QList<qint64>{outside.path(u"target"_s).size()});

@@ -198,13 +198,13 @@ void BrowserCleaner::scanFolder(const Browser &browser, FolderScan &scan,
                                 platform::ProtectedPlaces &places)
 {
     if (browser.type == Browser::Firefox) {
-        const FirefoxScan firefox(m_rules, places, m_listed, scan.failures, stopFlag());
+        const FirefoxScan firefox(m_rules, places, m_listed, scan.failures, watch());
         if (scan.isShared)
             firefox.scanShared(scan.folder, scan.found);
         else
             firefox.scanProfile(scan.folder, scan.found);
     } else {
-        ChromiumScan(m_rules, places, m_listed, scan.failures, stopFlag())
+        ChromiumScan(m_rules, places, m_listed, scan.failures, watch())
             .scanProfile(scan.folder, scan.found);
     }
     scan.failures.add(platform::folderFailures()); // those of this thread

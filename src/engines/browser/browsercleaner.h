@@ -43,7 +43,6 @@ public:
     /// has no rules.
     void loadRules(const QString &path) override;
     [[nodiscard]] const QList<BrowserRule> &rules() const { return m_rules; }
-    [[nodiscard]] qint64 activity() const override { return m_listed.count(); }
 
     /// Finds out which browsers are installed. The constructor calls it once.
     void detectBrowsers();

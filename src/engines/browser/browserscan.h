@@ -5,13 +5,13 @@
 #include "namefilter.h"
 #include "protectedplaces.h"
 #include "readfailures.h"
+#include "runwatch.h"
 #include "scanresult.h"
 
 #include <QHash>
 #include <QList>
 #include <QString>
 
-#include <atomic>
 #include <vector>
 
 /// The items of each rule, in the order of the rules.
@@ -25,11 +25,11 @@ class ChromiumScan final
 {
     Q_DISABLE_COPY_MOVE(ChromiumScan)
 public:
-    /// All five must outlive the object. It records the folders that it reads in @p listed, and
+    /// All must outlive the object. It records the folders that it reads in @p listed, and
     /// what it cannot read in @p failures.
     ChromiumScan(const QList<BrowserRule> &rules, platform::ProtectedPlaces &places,
                  platform::ListedFolders &listed, platform::ReadFailures &failures,
-                 const std::atomic_bool &stopRequested);
+                 const platform::RunWatch &watch);
 
     /// Appends the items of the folder @p profile to @p found. The path is absolute and contains no
     /// links. A rule's items have the order in which a walk of the rule's own folder lists them:
@@ -47,7 +47,7 @@ private:
     platform::ProtectedPlaces &m_places;
     platform::ListedFolders &m_listed;
     platform::ReadFailures &m_failures;
-    const std::atomic_bool &m_stopRequested;
+    const platform::RunWatch m_watch;
     std::vector<platform::NameFilter> m_filters; ///< one for each rule
 };
 
@@ -62,7 +62,7 @@ public:
     /// The parameters are those of ChromiumScan.
     FirefoxScan(const QList<BrowserRule> &rules, platform::ProtectedPlaces &places,
                 platform::ListedFolders &listed, platform::ReadFailures &failures,
-                const std::atomic_bool &stopRequested);
+                const platform::RunWatch &watch);
 
     /// Appends the items below @p root that belong to no profile.
     void scanShared(const QString &root, ItemsByRule &found) const;
@@ -82,5 +82,5 @@ private:
     platform::ProtectedPlaces &m_places;
     platform::ListedFolders &m_listed;
     platform::ReadFailures &m_failures;
-    const std::atomic_bool &m_stopRequested;
+    const platform::RunWatch m_watch;
 };

@@ -165,12 +165,12 @@ private:
 
 ChromiumScan::ChromiumScan(const QList<BrowserRule> &rules, platform::ProtectedPlaces &places,
                            platform::ListedFolders &listed, platform::ReadFailures &failures,
-                           const std::atomic_bool &stopRequested)
+                           const platform::RunWatch &watch)
     : m_rules(rules)
     , m_places(places)
     , m_listed(listed)
     , m_failures(failures)
-    , m_stopRequested(stopRequested)
+    , m_watch(watch)
 {
     m_filters.reserve(static_cast<std::size_t>(rules.size()));
     for (const BrowserRule &rule : rules)
@@ -199,15 +199,15 @@ ChromiumScan::RulesByFolder ChromiumScan::ruleFolders(const QString &profile) co
 // walked by itself.
 void ChromiumScan::scanProfile(const QString &profile, ItemsByRule &found) const
 {
-    if (m_stopRequested)
+    if (m_watch.isStopped())
         return;
     RulesByFolder remaining = ruleFolders(profile);
-    while (!remaining.isEmpty() && !m_stopRequested) {
+    while (!remaining.isEmpty() && !m_watch.isStopped()) {
         const QStringList folders = remaining.keys();
         const QString outermost = *std::min_element(
             folders.begin(), folders.end(),
             [](const QString &a, const QString &b) { return a.size() < b.size(); });
         Visitor visitor(*this, remaining.take(outermost), remaining, found);
-        m_failures.add(platform::walkEntries(outermost, visitor, &m_stopRequested, &m_listed));
+        m_failures.add(platform::walkEntries(outermost, visitor, m_watch, &m_listed));
     }
 }

@@ -102,12 +102,12 @@ const std::vector<FirefoxScan::Source> &FirefoxScan::sources()
 
 FirefoxScan::FirefoxScan(const QList<BrowserRule> &rules, platform::ProtectedPlaces &places,
                          platform::ListedFolders &listed, platform::ReadFailures &failures,
-                         const std::atomic_bool &stopRequested)
+                         const platform::RunWatch &watch)
     : m_rules(rules)
     , m_places(places)
     , m_listed(listed)
     , m_failures(failures)
-    , m_stopRequested(stopRequested)
+    , m_watch(watch)
 {
 }
 
@@ -123,7 +123,7 @@ void FirefoxScan::scanProfile(const QString &profile, ItemsByRule &found) const
 
 void FirefoxScan::scan(const QString &folder, bool isShared, ItemsByRule &found) const
 {
-    if (m_stopRequested)
+    if (m_watch.isStopped())
         return;
     /// A folder to read, and the rules that look into it.
     struct FolderJob {
@@ -152,7 +152,7 @@ void FirefoxScan::scan(const QString &folder, bool isShared, ItemsByRule &found)
         }
     }
     for (const FolderJob &job : jobs) {
-        if (m_stopRequested)
+        if (m_watch.isStopped())
             return;
         if (!job.ruleFilters.empty())
             scanFolder(job.folder, job.isTree, job.ruleFilters, found);
@@ -182,12 +182,12 @@ void FirefoxScan::scanFolder(const QString &folder, bool isTree,
         FilesOnly visitor([&addItems](const platform::WalkedEntry &entry) {
             addItems(entry.name, entry.path, entry.size);
         });
-        m_failures.add(platform::walkEntries(folder, visitor, &m_stopRequested, &m_listed));
+        m_failures.add(platform::walkEntries(folder, visitor, m_watch, &m_listed));
         return;
     }
     platform::WalkOptions options;
     options.recursive = false;
-    options.stopRequested = &m_stopRequested;
+    options.watch = m_watch;
     m_failures.add(platform::walkFiles(
         folder, options,
         [&addItems](platform::WalkedFile &&file) { addItems(file.name, file.path, file.size); },

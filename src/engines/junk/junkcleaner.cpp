@@ -200,10 +200,8 @@ void JunkCleaner::scanLocation(const QString &location, const JunkRule &rule,
 void JunkCleaner::scanDirectory(const QString &directory, const QStringList &patterns,
                                 QList<CleanItem> &items, bool recursive)
 {
-    platform::WalkOptions options{patterns, recursive, &stopFlag()};
-    options.activity = &m_activity;
     readFailures().add(platform::walkFiles(
-        directory, options,
+        directory, {patterns, recursive, watch()},
         [&items](platform::WalkedFile &&file) {
             items.emplaceBack(file.name, file.path, file.size);
         },

@@ -31,7 +31,6 @@ public:
     /// parsed or is not an object, an error is logged and the rules stay as they were.
     void loadRules(const QString &path) override;
     [[nodiscard]] const QList<JunkRule> &rules() const { return m_rules; }
-    [[nodiscard]] qint64 activity() const override { return m_activity; }
 
     /// @p text with every known placeholder replaced and with native separators.
     [[nodiscard]] static QString expandPath(const QString &text);
@@ -52,5 +51,4 @@ private:
 
     QList<JunkRule> m_rules;
     platform::ListedFolders m_listed; ///< of the last scan
-    std::atomic<qint64> m_activity = 0;
 };

@@ -248,7 +248,7 @@ void LargeFileScanner::scanDrive(const QString &drive)
     for (int i = 0; i < m_scanningWalkers; ++i)
         walkers.append(collectors.emplace_back(std::make_unique<FileCollector>(*this)).get());
 
-    const platform::WalkOptions options{{}, true, &m_isCancelled, platform::Reach::Everywhere};
+    const platform::WalkOptions options{{}, true, {&m_isCancelled}, platform::Reach::Everywhere};
     const platform::WalkReport report =
         platform::walkTree(QDir::cleanPath(QFileInfo(drive).absoluteFilePath()), options, walkers);
     for (const auto &collector : collectors)

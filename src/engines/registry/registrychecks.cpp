@@ -89,9 +89,9 @@ CleanItem makeValueItem(const QString &name, const QString &description, Hive hi
 
 } // namespace
 
-RegistryChecks::RegistryChecks(const Registry &registry, const std::atomic_bool &stopRequested)
+RegistryChecks::RegistryChecks(const Registry &registry, const platform::RunWatch &watch)
     : m_registry(registry)
-    , m_stopRequested(stopRequested)
+    , m_watch(watch)
     , m_paths(registry)
 {
 }
@@ -120,7 +120,7 @@ QList<CleanItem> RegistryChecks::findSoftware()
 void RegistryChecks::addAppPaths(QList<CleanItem> &items)
 {
     for (const QString &name : m_registry.subkeys(Hive::LocalMachine, appPaths)) {
-        if (m_stopRequested)
+        if (isStopped())
             return;
         const QString key = appPaths + u'\\' + name;
         const QString value = m_registry.text(Hive::LocalMachine, key, {});
@@ -132,7 +132,7 @@ void RegistryChecks::addAppPaths(QList<CleanItem> &items)
 void RegistryChecks::addUninstallKeys(QList<CleanItem> &items)
 {
     for (const QString &name : m_registry.subkeys(Hive::LocalMachine, uninstall)) {
-        if (m_stopRequested)
+        if (isStopped())
             return;
         const QString key = uninstall + u'\\' + name;
         const auto text = [&](const QString &value) {
@@ -154,7 +154,7 @@ QList<CleanItem> RegistryChecks::findFileAssociations()
 {
     QList<CleanItem> items;
     for (const QString &extension : m_registry.subkeys(Hive::ClassesRoot, {})) {
-        if (m_stopRequested)
+        if (isStopped())
             return items;
         if (!extension.startsWith(u'.') || isProtectedExtension(extension.toLower()))
             continue;
@@ -177,7 +177,7 @@ QList<CleanItem> RegistryChecks::findCom()
     QList<CleanItem> items;
     int count = 0;
     for (const QString &id : m_registry.subkeys(Hive::ClassesRoot, u"CLSID"_s)) {
-        if (m_stopRequested || ++count > maxExaminedClasses)
+        if (isStopped() || ++count > maxExaminedClasses)
             return items;
         const QString key = "CLSID\\"_L1 + id;
         const auto add = [&](const QString &description, Hive hive) {
@@ -201,7 +201,7 @@ QList<CleanItem> RegistryChecks::findFonts()
     QList<CleanItem> items;
     const std::optional<QString> windows = platform::windowsVariable(u"WINDIR"_s);
     for (const QString &name : m_registry.valueNames(Hive::LocalMachine, fonts)) {
-        if (m_stopRequested)
+        if (isStopped())
             return items;
         QString file = m_registry.text(Hive::LocalMachine, fonts, name);
         if (file.isEmpty())
@@ -224,7 +224,7 @@ QList<CleanItem> RegistryChecks::findStartup()
     for (const Hive hive : {Hive::LocalMachine, Hive::CurrentUser}) {
         for (const QString &key : {runKey, runOnceKey}) {
             for (const QString &name : m_registry.valueNames(hive, key)) {
-                if (m_stopRequested)
+                if (isStopped())
                     return items;
                 const QString command = m_registry.text(hive, key, name);
                 if (command.isEmpty() || m_paths.exists(PathCheck::programPath(command)))
@@ -241,7 +241,7 @@ QList<CleanItem> RegistryChecks::findSharedDlls()
 {
     QList<CleanItem> items;
     for (const QString &name : m_registry.valueNames(Hive::LocalMachine, sharedDlls)) {
-        if (m_stopRequested)
+        if (isStopped())
             return items;
         if (!m_paths.exists(name))
             items.append(makeValueItem(fileName(name), tr("DLL path: %1").arg(name),
@@ -254,7 +254,7 @@ QList<CleanItem> RegistryChecks::findMuiCache()
 {
     QList<CleanItem> items;
     for (const QString &name : m_registry.valueNames(Hive::CurrentUser, muiCache)) {
-        if (m_stopRequested)
+        if (isStopped())
             return items;
         const qsizetype dot = name.lastIndexOf(u'.');
         const bool hasSuffix =

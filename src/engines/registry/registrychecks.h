@@ -2,13 +2,12 @@
 
 #include "pathcheck.h"
 #include "registry.h"
+#include "runwatch.h"
 #include "scanresult.h"
 
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
-
-#include <atomic>
 
 /// Finds the registry entries that name missing files, one kind of entry a function.
 ///
@@ -19,8 +18,8 @@ class RegistryChecks final
     Q_DECLARE_TR_FUNCTIONS(RegistryChecks)
     Q_DISABLE_COPY_MOVE(RegistryChecks)
 public:
-    /// Both must outlive the object.
-    RegistryChecks(const platform::Registry &registry, const std::atomic_bool &stopRequested);
+    /// All must outlive the object.
+    RegistryChecks(const platform::Registry &registry, const platform::RunWatch &watch);
 
     [[nodiscard]] QList<CleanItem> findSoftware();
     [[nodiscard]] QList<CleanItem> findFileAssociations();
@@ -45,10 +44,16 @@ public:
     [[nodiscard]] static bool isBelowValueList(const QString &keyPath);
 
 private:
+    /// Called before each examined entry. Returns whether a stop was requested.
+    [[nodiscard]] bool isStopped() const
+    {
+        m_watch.noteActivity();
+        return m_watch.isStopped();
+    }
     void addAppPaths(QList<CleanItem> &items);
     void addUninstallKeys(QList<CleanItem> &items);
 
     const platform::Registry &m_registry;
-    const std::atomic_bool &m_stopRequested;
+    const platform::RunWatch m_watch;
     PathCheck m_paths;
 };

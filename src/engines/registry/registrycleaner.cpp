@@ -94,7 +94,7 @@ void RegistryCleaner::doScan()
 {
     Logger::instance().info(u"Starting registry scan..."_s);
     const Registry registry;
-    RegistryChecks checks(registry, stopFlag());
+    RegistryChecks checks(registry, watch());
     const int count = static_cast<int>(m_categories.size());
     for (int i = 0; i < count; ++i) {
         Q_EMIT scanProgress(i + 1, count, tr(m_categories.at(i).progressText));
@@ -165,7 +165,7 @@ void RegistryCleaner::doClean()
 QSet<RegistryCleaner::Place> RegistryCleaner::findCurrentPlaces(const Registry &registry)
 {
     QSet<Place> found;
-    RegistryChecks checks(registry, stopFlag());
+    RegistryChecks checks(registry, watch());
     const QList<CleanCategory> &chosen = selection().categories;
     for (const Category &category : std::as_const(m_categories)) {
         const auto isSame = [&category](const CleanCategory &other) {

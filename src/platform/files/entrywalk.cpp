@@ -18,9 +18,9 @@ namespace {
 class EntryWalk
 {
 public:
-    EntryWalk(EntryVisitor &visitor, const std::atomic_bool *stopRequested, ListedFolders *listed)
+    EntryWalk(EntryVisitor &visitor, const RunWatch &watch, ListedFolders *listed)
         : m_visitor(visitor)
-        , m_stopRequested(stopRequested)
+        , m_watch(watch)
         , m_listed(listed)
     {
     }
@@ -32,14 +32,14 @@ public:
             m_failures.add(root, entry.error);
         if (entry.kind != EntryKind::Folder)
             return std::move(m_failures);
-        FolderListing listing = m_lister.list(root, m_stopRequested);
+        FolderListing listing = m_lister.list(root, m_watch);
         noteFailure(root, listing);
         m_device = listing.device;
         record(root, listing);
         m_visitor.visitListing(listing.entries, true);
         m_open.push_back(
             {root.endsWith(u'/') ? root.chopped(1) : root, std::move(listing.entries), 0, 0, true});
-        while (!isStopped()) {
+        while (!m_watch.isStopped()) {
             if (m_open.back().next < m_open.back().entries.size())
                 step();
             else if (m_open.size() > 1)
@@ -60,11 +60,6 @@ private:
         bool isShown; ///< neither hidden itself nor inside a hidden folder
     };
 
-    bool isStopped() const
-    {
-        return m_stopRequested && m_stopRequested->load(std::memory_order_relaxed);
-    }
-
     void noteFailure(const QString &path, const FolderListing &listing)
     {
         // A folder that was removed after its parent was read is no failure.
@@ -83,6 +78,7 @@ private:
     {
         Folder &folder = m_open.back();
         ListedEntry entry = std::move(folder.entries[folder.next++]);
+        m_watch.noteEntry(static_cast<int>(folder.next));
         const bool isShown = folder.isShown && !entry.isHidden;
         if (entry.kind == ListedKind::File)
             folder.size += entry.size;
@@ -102,7 +98,7 @@ private:
     // Adds to m_open, which invalidates references into it.
     void enterFolder(const QString &path, bool isShown)
     {
-        FolderListing listing = m_lister.list(path, m_stopRequested);
+        FolderListing listing = m_lister.list(path, m_watch);
         noteFailure(path, listing);
         if (listing.isMissing || listing.device != m_device) {
             if (isShown)
@@ -126,7 +122,7 @@ private:
     }
 
     EntryVisitor &m_visitor;
-    const std::atomic_bool *m_stopRequested;
+    const RunWatch m_watch;
     ListedFolders *m_listed;
     const FolderLister m_lister;
     std::vector<Folder> m_open; ///< from the root down to the current folder
@@ -138,10 +134,10 @@ private:
 
 void EntryVisitor::visitListing(const std::vector<ListedEntry> &, bool) { }
 
-ReadFailures walkEntries(const QString &root, EntryVisitor &visitor,
-                         const std::atomic_bool *stopRequested, ListedFolders *listed)
+ReadFailures walkEntries(const QString &root, EntryVisitor &visitor, const RunWatch &watch,
+                         ListedFolders *listed)
 {
-    return EntryWalk(visitor, stopRequested, listed).run(root);
+    return EntryWalk(visitor, watch, listed).run(root);
 }
 
 } // namespace platform

@@ -2,10 +2,10 @@
 
 #include "listedfolders.h"
 #include "readfailures.h"
+#include "runwatch.h"
 
 #include <QString>
 
-#include <atomic>
 #include <vector>
 
 namespace platform {
@@ -47,11 +47,10 @@ public:
 /// @p root is absolute and passes through no link, see inspect(). The result equals QDirIterator's
 /// recursive QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot listing, order included, with two
 /// exceptions: mount points below the root are neither listed nor entered, and a junction counts as
-/// a link. Hidden folders are entered only for their size. When @p stopRequested is set the walk
-/// ends. It then makes no leaveFolder() calls for the open folders. @p listed receives each folder
-/// that is read and not hidden. Returns what could not be read; that does not end the walk.
-ReadFailures walkEntries(const QString &root, EntryVisitor &visitor,
-                         const std::atomic_bool *stopRequested = nullptr,
+/// a link. Hidden folders are entered only for their size. A stop ends the walk. It then makes no
+/// leaveFolder() calls for the open folders. @p listed receives each folder that is read and not
+/// hidden. Returns what could not be read; that does not end the walk.
+ReadFailures walkEntries(const QString &root, EntryVisitor &visitor, const RunWatch &watch = {},
                          ListedFolders *listed = nullptr);
 
 } // namespace platform

@@ -185,7 +185,7 @@ private:
 ReadFailures walkFiles(const QString &root, const WalkOptions &options, const FileVisitor &visit,
                        ListedFolders *listed)
 {
-    OrderedFiles files(visit, listed, options.stopRequested);
+    OrderedFiles files(visit, listed, options.watch.stopRequested);
     std::vector<std::unique_ptr<Lister>> listers;
     QList<TreeVisitor *> walkers;
     const int count = options.recursive ? usefulWalkers() : 1;

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "entry.h"
+#include "runwatch.h"
 
 #include <QString>
 
-#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -46,10 +46,8 @@ public:
     ///
     /// Left out are pipes, sockets and devices, names that cannot be decoded, and links whose
     /// target is neither a file nor a folder. On Linux mount points are left out, for folders and
-    /// for files. On Windows a mount point counts as a link. Ends early when @p stopRequested is
-    /// set.
-    [[nodiscard]] FolderListing list(const QString &path,
-                                     const std::atomic_bool *stopRequested = nullptr) const;
+    /// for files. On Windows a mount point counts as a link. Ends early after a stop.
+    [[nodiscard]] FolderListing list(const QString &path, const RunWatch &watch = {}) const;
 
 private:
     class Private;

@@ -32,12 +32,6 @@ EntryId ListedFolders::idOf(const QString &path) const
     return m_ids.value(keyOf(path));
 }
 
-qint64 ListedFolders::count() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_ids.size();
-}
-
 void ListedFolders::clear()
 {
     const std::lock_guard lock(m_mutex);

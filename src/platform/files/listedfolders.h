@@ -24,8 +24,6 @@ public:
     /// The id of the folder that was recorded at @p path, else an unknown id.
     [[nodiscard]] EntryId idOf(const QString &path) const;
     void clear();
-    /// The number of recorded folders.
-    [[nodiscard]] qint64 count() const;
 
 private:
     mutable std::mutex m_mutex;

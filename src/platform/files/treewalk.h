@@ -2,6 +2,7 @@
 
 #include "entry.h"
 #include "readfailures.h"
+#include "runwatch.h"
 
 #include <QAnyStringView>
 #include <QList>
@@ -42,10 +43,8 @@ enum class Reach {
 struct WalkOptions {
     QStringList nameFilters; ///< wildcards, ignoring case; an empty list matches every file
     bool recursive = true; ///< also walk the folders below
-    const std::atomic_bool *stopRequested = nullptr; ///< may be null; checked before each entry
+    RunWatch watch = {}; ///< a stop is looked for before each entry
     Reach reach = Reach::OwnDevice;
-    /// May be null. Grows with each folder, and while a large one is read.
-    std::atomic<qint64> *activity = nullptr;
 };
 
 /// What a visitor remembers of a folder that is read later, see TreeVisitor::addSubfolder(). The

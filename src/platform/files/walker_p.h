@@ -78,7 +78,7 @@ template<class System>
 struct Walk {
     Walk(const WalkOptions &walkOptions, qsizetype walkers)
         : options(walkOptions)
-        , queue(walkOptions.stopRequested)
+        , queue(walkOptions.watch.stopRequested)
         , system(walkOptions, report)
         , hasOneWalker(walkers == 1)
     {
@@ -134,7 +134,7 @@ public:
         : m_walk(walk)
         , m_filter(walk.options.nameFilters)
         , m_visitor(visitor)
-        , m_reader(walk.options.stopRequested)
+        , m_reader(walk.options.watch.stopRequested)
     {
     }
 
@@ -149,11 +149,10 @@ public:
     {
         m_folder = WalkedFolder(folder.path(), folder.id(), place);
         m_wanted = m_visitor.enterFolder(m_folder);
-        noteActivity();
+        m_walk.options.watch.noteActivity();
         m_reader.begin(folder.source());
         for (int count = 1; const auto *entry = m_reader.next(); ++count) {
-            if (count % entriesPerNote == 0)
-                noteActivity();
+            m_walk.options.watch.noteEntry(count);
             readEntry(folder, *entry);
             // Another walker may be waiting for these subfolders.
             if (!m_walk.hasOneWalker && folder.shouldShareSubfolders(m_reader, m_subfolders.size()))
@@ -166,14 +165,6 @@ public:
     }
 
 private:
-    static constexpr int entriesPerNote = 4096;
-
-    void noteActivity()
-    {
-        if (m_walk.options.activity)
-            ++*m_walk.options.activity;
-    }
-
     void open(const Waiting &waiting, Position position)
     {
         if (std::optional<OpenFolder> folder = m_walk.system.open(waiting.folder))

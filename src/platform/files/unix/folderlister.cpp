@@ -81,7 +81,7 @@ FolderLister::FolderLister()
 
 FolderLister::~FolderLister() = default;
 
-FolderListing FolderLister::list(const QString &path, const std::atomic_bool *stopRequested) const
+FolderListing FolderLister::list(const QString &path, const RunWatch &watch) const
 {
     FolderListing listing;
     const auto fail = [&listing](int error) {
@@ -97,10 +97,12 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
     listing.device = status.st_dev;
     listing.id = idOf(status);
     const bool canBeHidden = d->attributes.canApplyIn(path);
-    FolderReader reader(stopRequested);
+    watch.noteActivity();
+    FolderReader reader(watch.stopRequested);
     reader.begin(folder.get());
     int entryError = 0;
-    while (const dirent64 *entry = reader.next()) {
+    for (int count = 1; const dirent64 *entry = reader.next(); ++count) {
+        watch.noteEntry(count);
         if (std::optional<ListedEntry> found =
                 inspectEntry(folder.get(), *entry, canBeHidden, entryError))
             listing.entries.push_back(std::move(*found));

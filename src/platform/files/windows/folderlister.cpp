@@ -55,7 +55,7 @@ class FolderLister::Private
 FolderLister::FolderLister() = default;
 FolderLister::~FolderLister() = default;
 
-FolderListing FolderLister::list(const QString &path, const std::atomic_bool *stopRequested) const
+FolderListing FolderLister::list(const QString &path, const RunWatch &watch) const
 {
     FolderListing listing;
     const QString folder = path.endsWith(u'/') ? path.chopped(1) : path;
@@ -70,10 +70,12 @@ FolderListing FolderLister::list(const QString &path, const std::atomic_bool *st
     // The id is taken before the listing. A folder that comes to the path later then has another
     // id.
     listing.id = idOfFolder(absolute);
-    FolderReader reader(stopRequested);
+    watch.noteActivity();
+    FolderReader reader(watch.stopRequested);
     reader.begin(extended);
     DWORD entryError = ERROR_SUCCESS;
-    while (const WIN32_FIND_DATAW *entry = reader.next()) {
+    for (int count = 1; const WIN32_FIND_DATAW *entry = reader.next(); ++count) {
+        watch.noteEntry(count);
         if (std::optional<ListedEntry> found = inspectEntry(folder, *entry, entryError))
             listing.entries.push_back(std::move(*found));
     }

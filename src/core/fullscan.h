@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <QTimer>
 
 #include <array>
 #include <memory>
@@ -23,7 +25,7 @@ public:
     /// Junk, browser, registry. A null engine counts as done.
     using Engines = std::array<CleanEngine *, 3>;
 
-    using QObject::QObject;
+    explicit FullScan(QObject *parent = nullptr);
 
     /// Starts all of @p engines, which it does not own. A busy engine is stopped first. Late
     /// signals of its earlier run are dropped.
@@ -32,6 +34,9 @@ public:
 Q_SIGNALS:
     /// The mean of the three percentages, rounded down, and what the engine is looking at.
     void progressed(int percent, QString currentPath);
+    /// An engine goes on, perhaps within one long step of its progress. Emitted at most 20 times a
+    /// second.
+    void worked();
     /// Every engine has finished; sizes are in bytes. May be emitted twice: while a page shows one
     /// engine's result, the other engines may report.
     void finished(qint64 junkSize, qint64 browserSize, int registryCount);
@@ -39,8 +44,12 @@ Q_SIGNALS:
 private:
     void onProgress(std::size_t index, int current, int total, const QString &path);
     void onFinished(std::size_t index);
+    [[nodiscard]] qint64 activity() const; ///< of all engines
+    void lookForActivity();
 
-    Engines m_engines{};
+    std::array<QPointer<CleanEngine>, 3> m_engines;
     std::array<int, 3> m_percents{};
+    QTimer m_activityTimer; ///< runs while one of the engines scans
+    qint64 m_activity = 0; ///< when it was last looked at
     std::array<std::unique_ptr<QObject>, 3> m_receivers; ///< one for the signals of each engine
 };

@@ -5,6 +5,7 @@
 #include "browsercleaner.h"
 #include "browserprofiles.h"
 #include "circleprogresswidget.h"
+#include "fullscan.h"
 #include "junkcleaner.h"
 #include "mainwindow.h"
 #include "registrycleaner.h"
@@ -297,6 +298,55 @@ private Q_SLOTS:
             QVERIFY(button(page, name)->isEnabled());
         QCOMPARE(text(page, u"statusLabel"_s), u"Ready to scan"_s);
         QCOMPARE(dotStyle(page).toLower(), u"background: #10b981; border-radius: 5px;"_s);
+    }
+
+    // The percentage counts rules, and one rule may take long.
+    void aSignMovesWhileTheScanWorks_data()
+    {
+        QTest::addColumn<bool>("hasResults");
+        QTest::newRow("start panel") << false;
+        QTest::newRow("results panel") << true;
+    }
+    void aSignMovesWhileTheScanWorks()
+    {
+        QFETCH(bool, hasResults);
+        DashboardPage page;
+        page.resize(720, 560);
+        if (hasResults)
+            page.showResults(gibibyte, 0, 1);
+        page.setScanning(true);
+        const auto picture = [&page] { return page.grab().toImage(); };
+        const QImage still = picture();
+        QList<QImage> turn;
+        for (int step = 0; step < 12; ++step) {
+            page.showActivity();
+            turn.append(picture());
+            QVERIFY(turn.constLast() != still);
+            QCOMPARE(turn.count(turn.constLast()), 1);
+        }
+        page.showActivity();
+        QCOMPARE(picture(), turn.constFirst());
+        page.setScanning(true); // the next scan has not worked yet
+        QCOMPARE(picture(), still);
+        page.showActivity();
+        page.setScanning(false);
+        DashboardPage expected;
+        expected.resize(720, 560);
+        if (hasResults)
+            expected.showResults(gibibyte, 0, 1);
+        expected.setScanning(true);
+        expected.setScanning(false);
+        QCOMPARE(picture(), expected.grab().toImage());
+    }
+
+    void theSignOfTheWindowIsMovedByTheScan()
+    {
+        MainWindow window;
+        auto *page = window.findChild<DashboardPage *>();
+        page->setScanning(true);
+        const QImage still = page->grab().toImage();
+        Q_EMIT window.findChild<FullScan *>()->worked();
+        QVERIFY(page->grab().toImage() != still);
     }
 
     void aLongPathIsShownByItsEnd_data()

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 
 #include <atomic>
 #include <memory>
@@ -34,6 +35,7 @@ public:
     std::atomic_bool reported = false;
 
     void report(int current, int total) { Q_EMIT scanProgress(current, total, u"late"_s); }
+    void work() { watch().noteActivity(); }
 
 protected:
     void doScan() override
@@ -229,6 +231,81 @@ private Q_SLOTS:
         browser().startScan();
         QVERIFY(finished.wait(patience));
         QCOMPARE(finished.size(), 1);
+    }
+
+    // A percentage counts rules, and one rule may take long.
+    void workWithinOneStepIsReported()
+    {
+        for (const auto &engine : m_engines) {
+            engine->hold = true;
+            engine->work(); // of an earlier scan
+        }
+        const SignalSpy worked(m_scan.get(), &FullScan::worked);
+        start();
+        QTest::qWait(120);
+        QCOMPARE(worked.size(), 0);
+        for (int i = 0; i < 3; ++i) {
+            m_engines.at(static_cast<std::size_t>(i))->work();
+            QTRY_COMPARE_WITH_TIMEOUT(worked.size(), i + 1, patience);
+        }
+        // One engine goes on for longer than the others.
+        junk().hold = false;
+        registry().hold = false;
+        QTRY_COMPARE_WITH_TIMEOUT(junk().state(), State::Finished, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(registry().state(), State::Finished, patience);
+        QTest::qWait(120);
+        browser().work();
+        QTRY_COMPARE_WITH_TIMEOUT(worked.size(), 4, patience);
+        const auto *timer = m_scan->findChild<QTimer *>();
+        QVERIFY(timer->isActive());
+        // Its last work is not reported after the end.
+        const SignalSpy finished(m_scan.get(), &FullScan::finished);
+        browser().work();
+        browser().hold = false;
+        QTRY_COMPARE_WITH_TIMEOUT(browser().state(), State::Finished, patience);
+        QTest::qWait(120);
+        QCOMPARE(finished.size(), 1);
+        QVERIFY(!timer->isActive());
+        QCOMPARE(worked.size(), 4);
+    }
+
+    void theScanOfAPageAfterwardsIsNoWorkOfThisOne()
+    {
+        const SignalSpy worked(m_scan.get(), &FullScan::worked);
+        connect(m_scan.get(), &FullScan::finished, m_scan.get(), [this] {
+            browser().hold = true;
+            browser().startScan();
+            browser().work();
+        });
+        start();
+        QTRY_COMPARE_WITH_TIMEOUT(browser().scans.load(), 2, patience);
+        QTest::qWait(120);
+        QCOMPARE(worked.size(), 0);
+    }
+
+    void aCancelledScanIsNotLookedAtAnyMore()
+    {
+        for (const auto &engine : m_engines)
+            engine->hold = true;
+        const SignalSpy worked(m_scan.get(), &FullScan::worked);
+        start();
+        for (const auto &engine : m_engines) {
+            engine->cancel();
+            engine->work();
+        }
+        const auto *timer = m_scan->findChild<QTimer *>();
+        QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), patience);
+        QCOMPARE(worked.size(), 0);
+    }
+
+    void anEngineMayGoWhileItIsLookedAt()
+    {
+        browser().hold = true;
+        start();
+        m_engines[2].reset();
+        m_engines[1].reset();
+        const auto *timer = m_scan->findChild<QTimer *>();
+        QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), patience);
     }
 
     void anEngineOfAnEarlierStartIsDisconnected()

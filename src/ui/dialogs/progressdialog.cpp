@@ -14,12 +14,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int stepsPerTurn = 12; // of the sign that tells that work goes on
-
-} // namespace
-
 ProgressDialog::ProgressDialog(Mode mode, QWidget *parent)
     : FramelessDialog(parent)
     , m_mode(mode)
@@ -103,7 +97,7 @@ void ProgressDialog::showActivity()
 {
     if (m_isFinished)
         return;
-    m_activity = (m_activity + 1) % stepsPerTurn;
+    m_activity.step();
     update(activityRect());
 }
 
@@ -125,6 +119,7 @@ void ProgressDialog::setCleanedSize(qint64 bytes)
 void ProgressDialog::showResult(bool success, const QString &message)
 {
     m_isFinished = true;
+    m_activity.hide();
     m_title->setText(success ? tr("完成!") : tr("操作失败"));
     setWindowTitle(m_title->text());
     m_icon->setText(success ? u"✓"_s : u"✕"_s);
@@ -151,14 +146,6 @@ void ProgressDialog::reject()
 void ProgressDialog::paintEvent(QPaintEvent *)
 {
     paintBackground(theme::windowRadius);
-    if (m_activity < 0 || m_isFinished)
-        return;
-    // A short arc that goes round the icon.
-    constexpr int degree = 16; // the unit of drawArc()
-    constexpr int stepAngle = 360 / stepsPerTurn * degree;
-    constexpr int arcLength = 60 * degree;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(theme::color(theme::accent), 3, Qt::SolidLine, Qt::RoundCap));
-    painter.drawArc(activityRect().adjusted(2, 2, -2, -2), -m_activity * stepAngle, -arcLength);
+    m_activity.paint(painter, activityRect().adjusted(2, 2, -2, -2));
 }

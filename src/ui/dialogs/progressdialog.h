@@ -1,5 +1,6 @@
 #pragma once
 
+#include "activitysign.h"
 #include "framelessdialog.h"
 
 class QLabel;
@@ -50,7 +51,7 @@ private:
     Mode m_mode;
     bool m_isFinished = false;
     QString m_cleanedSize;
-    int m_activity = -1; ///< steps of the sign; negative: none yet
+    ActivitySign m_activity; ///< round the icon
     QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_subtitle;

@@ -59,6 +59,12 @@ void DashboardPage::updateProgress(int percent, const QString &currentPath)
     m_results->setProgress(percent);
 }
 
+void DashboardPage::showActivity()
+{
+    m_start->showActivity();
+    m_results->showActivity();
+}
+
 void DashboardPage::showResults(qint64 junkSize, qint64 browserSize, int registryCount)
 {
     m_hasResults = true;

@@ -22,6 +22,8 @@ public:
     void setScanning(bool scanning);
     /// Shows the progress of the scan. A value above 100 percent is shown unchanged.
     void updateProgress(int percent, const QString &currentPath);
+    /// Moves the sign that tells that the scan goes on.
+    void showActivity();
     /// Shows the results panel, which then stays. Sizes are in bytes.
     void showResults(qint64 junkSize, qint64 browserSize, int registryCount);
 

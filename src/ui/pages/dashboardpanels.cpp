@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -40,17 +41,17 @@ QString sizeText(qint64 bytes)
 
 DashboardStartPanel::DashboardStartPanel(QWidget *parent)
     : QWidget(parent)
+    , m_emblem(parts::centredLabel(u"🧹"_s, theme::emblem(), this))
     , m_startButton(parts::tabButton(u"startFullScanBtn"_s, tr("🔍  Start Full Scan"),
                                      theme::gradientButton({.radius = 12, .fontSize = 16}), this))
 {
     m_startButton->setFixedSize(200, 50);
-    QLabel *emblem = parts::centredLabel(u"🧹"_s, theme::emblem(), this);
-    emblem->setFixedSize(120, 120);
+    m_emblem->setFixedSize(120, 120);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 8, 28, 20);
     layout->setSpacing(0);
     layout->addStretch(3);
-    layout->addWidget(emblem, 0, Qt::AlignHCenter);
+    layout->addWidget(m_emblem, 0, Qt::AlignHCenter);
     layout->addSpacing(24);
     layout->addWidget(parts::centredLabel(tr("Ready to Clean Your PC"),
                                           theme::label(theme::text, 20, 600), this));
@@ -106,8 +107,27 @@ void DashboardStartPanel::setScanning(bool scanning)
     m_startButton->setEnabled(!scanning);
     m_startButton->setText(scanning ? tr("Scanning...") : tr("🔍  Start Full Scan"));
     m_progressArea->setVisible(scanning);
+    m_activity.hide();
+    update(activityRect());
     if (scanning)
         setProgress(0, tr("Preparing..."));
+}
+
+void DashboardStartPanel::showActivity()
+{
+    m_activity.step();
+    update(activityRect());
+}
+
+QRect DashboardStartPanel::activityRect() const
+{
+    return m_emblem->geometry().adjusted(-7, -7, 7, 7);
+}
+
+void DashboardStartPanel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    m_activity.paint(painter, activityRect().adjusted(2, 2, -2, -2));
 }
 
 void DashboardStartPanel::setProgress(int percent, const QString &path)
@@ -235,8 +255,14 @@ void DashboardResultsPanel::setScanning(bool scanning)
     m_cleanButton->setEnabled(!scanning);
     m_status->setText(scanning ? tr("Scanning...") : tr("Ready to scan"));
     m_dot->setStyleSheet(theme::statusDot(scanning ? theme::warning : theme::accent));
+    m_circle->hideActivity();
     if (scanning)
         setProgress(0);
+}
+
+void DashboardResultsPanel::showActivity()
+{
+    m_circle->showActivity();
 }
 
 void DashboardResultsPanel::setProgress(int percent)

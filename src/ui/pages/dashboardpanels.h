@@ -1,5 +1,7 @@
 #pragma once
 
+#include "activitysign.h"
+
 #include <QWidget>
 
 class CircleProgressWidget;
@@ -21,10 +23,18 @@ public:
 
     void setScanning(bool scanning);
     void setProgress(int percent, const QString &path);
+    /// Moves the sign that tells that the scan goes on while the percentage stands still.
+    void showActivity();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
+    [[nodiscard]] QRect activityRect() const;
     [[nodiscard]] QWidget *buildProgressArea();
 
+    QLabel *m_emblem;
+    ActivitySign m_activity; ///< round the emblem
     QPushButton *m_startButton;
     QWidget *m_progressArea = nullptr;
     QLabel *m_percent = nullptr;
@@ -49,6 +59,8 @@ public:
 
     void setScanning(bool scanning);
     void setProgress(int percent);
+    /// The same sign as in the other panel.
+    void showActivity();
     /// Sizes in bytes.
     void setResults(qint64 junkSize, qint64 browserSize, int registryCount);
 

@@ -23,6 +23,7 @@ CircleGeometry::CircleGeometry(QSizeF size, int progress)
     const double left = ring.center().x() - textWidth / 2;
     valueBox = QRectF(left, ring.center().y() - diameter * 0.22, textWidth, diameter * 0.28);
     captionBox = QRectF(left, valueBox.bottom(), textWidth, diameter * 0.16);
+    activityRing = ring.adjusted(penWidth, penWidth, -penWidth, -penWidth);
 }
 
 CircleProgressWidget::CircleProgressWidget(QWidget *parent)
@@ -55,6 +56,18 @@ void CircleProgressWidget::setCaption(const QString &caption)
 {
     m_caption = caption;
     refresh();
+}
+
+void CircleProgressWidget::showActivity()
+{
+    m_activity.step();
+    update();
+}
+
+void CircleProgressWidget::hideActivity()
+{
+    m_activity.hide();
+    update();
 }
 
 void CircleProgressWidget::refresh()
@@ -106,6 +119,7 @@ void CircleProgressWidget::paintEvent(QPaintEvent *)
         painter.setPen(pen);
         painter.drawArc(geometry.ring, geometry.startAngle, geometry.spanAngle);
     }
+    m_activity.paint(painter, geometry.activityRing);
     QFont bold = font();
     bold.setWeight(QFont::Bold);
     painter.setPen(theme::color(theme::text));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "activitysign.h"
+
 #include <QRectF>
 #include <QString>
 #include <QWidget>
@@ -18,6 +20,8 @@ struct CircleGeometry {
     /// The boxes of the two texts, within the ring.
     QRectF valueBox;
     QRectF captionBox;
+    /// For the sign of activity: between the ring and the texts.
+    QRectF activityRing;
 };
 
 /// A ring that fills clockwise from the top, with a number in its middle and a caption below the
@@ -40,6 +44,9 @@ public:
     void setValue(double value);
     void setUnit(const QString &unit);
     void setCaption(const QString &caption);
+    /// Moves the sign that tells that work goes on while the number stands still.
+    void showActivity();
+    void hideActivity();
 
     /// The number with its unit as the circle shows it: "50%", "0 GB", "0.25 GB", "12.5 GB".
     [[nodiscard]] static QString valueText(double value, const QString &unit);
@@ -54,4 +61,5 @@ private:
     double m_value = 0;
     QString m_unit;
     QString m_caption;
+    ActivitySign m_activity;
 };

@@ -224,6 +224,7 @@ void MainWindow::connectDashboard()
     connect(m_dashboardPage, &DashboardPage::navigateToPage, this,
             &MainWindow::onDashboardNavigate);
     connect(m_fullScan, &FullScan::progressed, m_dashboardPage, &DashboardPage::updateProgress);
+    connect(m_fullScan, &FullScan::worked, m_dashboardPage, &DashboardPage::showActivity);
     connect(m_fullScan, &FullScan::finished, this,
             [this](qint64 junkSize, qint64 browserSize, int registryCount) {
                 m_dashboardPage->setScanning(false);

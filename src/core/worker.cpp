@@ -16,21 +16,22 @@ bool Worker::start(const QString &name, const std::function<void()> &work,
                    const std::function<void()> &report)
 {
     wait();
-    m_isBusy = true;
+    m_stage = Stage::Working;
     m_thread.reset(QThread::create([this, work, report] {
         work();
-        m_isBusy = false;
+        m_stage = Stage::Reporting;
         if (report)
             report();
+        m_stage = Stage::Idle;
     }));
     m_thread->setObjectName(name);
     m_thread->setEventDispatcher(new IdleDispatcher); // the thread owns it
     m_thread->start();
     // A thread that was not made is not running. One that has ended already is not busy.
-    if (m_thread->isRunning() || !m_isBusy)
+    if (m_thread->isRunning() || !isBusy())
         return true;
     m_thread.reset();
-    m_isBusy = false;
+    m_stage = Stage::Idle;
     return false;
 }
 
@@ -45,5 +46,5 @@ bool Worker::wait(QDeadlineTimer deadline)
     if (m_thread && !m_thread->wait(deadline))
         return false;
     m_thread.reset();
-    return !m_isBusy;
+    return m_stage == Stage::Idle;
 }

@@ -32,9 +32,15 @@ public:
     /// whether that is so. Everything that the work wrote is then visible.
     bool wait(QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever));
     /// Whether the work is going on. Once it is false, everything that the work wrote is visible.
-    [[nodiscard]] bool isBusy() const { return m_isBusy; }
+    [[nodiscard]] bool isBusy() const { return m_stage == Stage::Working; }
 
 private:
+    enum class Stage {
+        Idle,
+        Working,
+        Reporting,
+    };
+
     std::unique_ptr<QThread> m_thread;
-    std::atomic_bool m_isBusy = false;
+    std::atomic<Stage> m_stage = Stage::Idle;
 };

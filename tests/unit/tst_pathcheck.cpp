@@ -5,9 +5,11 @@
 #include "registryfixture.h"
 #include "testhome.h"
 #include "testtree.h"
+#include "windowspaths.h"
 
 #include <QDir>
 #include <QFile>
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -446,6 +448,59 @@ private Q_SLOTS:
         QVERIFY(!paths.exists(file.toUpper() + u'\\'));
         QVERIFY(paths.exists(folder));
         QVERIFY(paths.exists(folder.toUpper()));
+    }
+
+    // What a lookup remembers must not change its answers.
+    void aLookupAnswersLikeANewOne_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 20; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+    void aLookupAnswersLikeANewOne()
+    {
+        QFETCH(quint32, seed);
+        QRandomGenerator random(seed);
+        const auto any = [&random](const QStringList &list) {
+            return list.at(random.bounded(static_cast<int>(list.size())));
+        };
+        const QString drive = m_home.folder(u"prefix/drive_c"_s);
+        const QString top = m_home.folder(u"prefix/drive_c/Random"_s);
+        QVERIFY(QDir(top).removeRecursively());
+        // Few names in each place, so that cases meet, and files stand where folders are asked for.
+        const QStringList names{u"a"_s, u"A"_s, u"b"_s, u"file.exe"_s, u"File.exe"_s};
+        QStringList folders{top};
+        QVERIFY(QDir().mkpath(top));
+        for (int i = 0; i < 40; ++i) {
+            const QString path = any(folders) + u'/' + any(names);
+            QFile file(path);
+            switch (random.bounded(4)) {
+            case 0:
+                (void)file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+                break;
+            case 1:
+                QFile::link(any(folders + QStringList{drive + "/none"_L1}), path);
+                break;
+            default:
+                if (QDir().mkpath(path))
+                    folders.append(path);
+            }
+        }
+        platform::PathLookup lookup;
+        int present = 0;
+        constexpr int questions = 1000;
+        for (int i = 0; i < questions; ++i) {
+            QString path = u"C:\\Random"_s;
+            for (int depth = random.bounded(1, 6); depth > 0; --depth)
+                path += any({u"\\"_s, u"\\"_s, u"/"_s, u"\\\\"_s})
+                    + any(names + QStringList{u"B"_s, u"FILE.EXE"_s, u"none"_s, u".."_s, u"."_s});
+            path += any({QString(), QString(), u"\\"_s});
+            const platform::Presence expected = platform::PathLookup().presenceOf(path);
+            QVERIFY2(lookup.presenceOf(path) == expected, qPrintable(path));
+            present += expected == platform::Presence::Present ? 1 : 0;
+        }
+        QVERIFY2(present > questions / 20 && present < questions * 19 / 20,
+                 qPrintable(QString::number(present)));
     }
 
     // A check remembers that a folder is missing. This must not count for another path that has the

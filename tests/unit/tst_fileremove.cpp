@@ -634,6 +634,36 @@ private Q_SLOTS:
         QVERIFY(!tree.has(u"d"_s));
     }
 
+    void aFolderThatStaysKeepsItsPermissions()
+    {
+        const OrdinaryUser user;
+        const TestTree tree;
+        const QStringList folders{u"d"_s, u"d/sub"_s, u"d/sub/below"_s};
+        for (const QString &folder : folders) {
+            tree.file(folder + "/f"_L1);
+            tree.file(folder + "/removed/f"_L1);
+        }
+        tree.file(u"d/sub/below/closed/f"_s);
+        const auto setMode = [&tree](const QString &path, mode_t mode) {
+            QCOMPARE(::chmod(QFile::encodeName(tree.path(path)).constData(), mode), 0);
+        };
+        setMode(u"d/sub/below/closed"_s, 0);
+        for (auto folder = folders.crbegin(); folder != folders.crend(); ++folder)
+            setMode(*folder, 0500);
+        const FileRemover::Outcome outcome = FileRemover().remove(tree.path(u"d"_s));
+        QCOMPARE(outcome.status, Status::Failed);
+        for (const QString &folder : folders) {
+            QVERIFY(!tree.has(folder + "/f"_L1) && !tree.has(folder + "/removed"_L1));
+            struct stat status {
+            };
+            QCOMPARE(::stat(QFile::encodeName(tree.path(folder)).constData(), &status), 0);
+            QVERIFY2((status.st_mode & 07777) == 0500, qPrintable(folder));
+        }
+        for (const QString &folder : folders)
+            setMode(folder, 0700);
+        setMode(u"d/sub/below/closed"_s, 0700);
+    }
+
     void aMountInsideARemovedFolderStays()
     {
         const TestTree tree;

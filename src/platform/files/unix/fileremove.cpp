@@ -106,6 +106,29 @@ public:
 
     Outcome run()
     {
+        const Outcome outcome = removeAll();
+        if (outcome.status != FileRemover::Status::Removed) {
+            restoreMode(m_top);
+            for (const Level &level : m_levels)
+                restoreMode(level);
+        }
+        return outcome;
+    }
+
+private:
+    static constexpr std::size_t maximumOpenLevels = 64;
+
+    /// A folder on the way down to the current one.
+    struct Level {
+        UniqueFd fd;
+        EntryId id;
+        QByteArray name; ///< its name in the parent level; empty for the removed folder itself
+        std::vector<QByteArray> subfolders; ///< still to be removed
+        std::optional<mode_t> mode; ///< its permissions before they were changed
+    };
+
+    Outcome removeAll()
+    {
         m_root = openFolderBelow(m_parent, m_name, Mounts::Stay);
         if (!m_root.isValid())
             return failure(errno, true);
@@ -129,17 +152,6 @@ public:
             m_folders.noteRemoved(id);
         return m_error == 0 ? Outcome{Status::Removed, true, {}} : failure(m_error, true);
     }
-
-private:
-    static constexpr std::size_t maximumOpenLevels = 64;
-
-    /// A folder on the way down to the current one.
-    struct Level {
-        UniqueFd fd;
-        EntryId id;
-        QByteArray name; ///< its name in the parent level; empty for the removed folder itself
-        std::vector<QByteArray> subfolders; ///< still to be removed
-    };
 
     bool isStopped() const { return m_stopRequested && m_stopRequested->load(); }
 
@@ -182,15 +194,17 @@ private:
             keepFirstError(errno);
             return false;
         }
-        Level level{std::move(fd), {}, name, {}};
+        Level level{std::move(fd), {}, name, {}, {}};
         level.id = idOf(level.fd.get());
         if (!name.isEmpty() && m_folders.hasListedFolders()
             && m_folders.differsFromListed(QFile::decodeName(pathOf(level)), level.id)) {
             m_hasReplacedFolder = true;
             return false;
         }
-        if (!removeEntries(level))
+        if (!removeEntries(level)) {
+            restoreMode(level);
             return false;
+        }
         m_levels.push_back(std::move(level));
         if (m_levels.size() > maximumOpenLevels)
             m_levels[m_levels.size() - maximumOpenLevels - 1].fd.reset();
@@ -215,16 +229,26 @@ private:
         } else if (isInPlace(level) && ::unlinkat(fd, entry.d_name, 0) != 0 && errno != ENOENT) {
             // When a whole folder is removed, a read-only folder inside does not keep its entries.
             const int error = errno;
-            if (error != EACCES || !makeWritable(fd) || ::unlinkat(fd, entry.d_name, 0) != 0)
+            if (error != EACCES || !makeWritable(level) || ::unlinkat(fd, entry.d_name, 0) != 0)
                 keepFirstError(error);
         }
     }
 
-    static bool makeWritable(int fd)
+    static bool makeWritable(Level &level)
     {
         FileStatus status{};
-        return ::fstat(fd, &status) == 0 && (status.st_mode & S_IWUSR) == 0
-            && ::fchmod(fd, (status.st_mode & 07777) | S_IRWXU) == 0;
+        if (::fstat(level.fd.get(), &status) != 0 || (status.st_mode & S_IWUSR) != 0
+            || ::fchmod(level.fd.get(), (status.st_mode & 07777) | S_IRWXU) != 0)
+            return false;
+        level.mode = status.st_mode & 07777;
+        return true;
+    }
+
+    // A folder that stays keeps its permissions.
+    static void restoreMode(const Level &level)
+    {
+        if (level.mode && level.fd.isValid())
+            ::fchmod(level.fd.get(), *level.mode);
     }
 
     void step()
@@ -257,27 +281,30 @@ private:
     // The deepest level is empty. Returns to its parent and removes it from there.
     void leaveLevel()
     {
-        const QByteArray name = m_levels.back().name;
-        const EntryId id = m_levels.back().id;
+        Level left = std::move(m_levels.back());
         m_levels.pop_back();
         if (m_levels.empty())
-            return;
-        Level &parent = m_levels.back();
+            m_top = std::move(left);
+        else if (!removeEmpty(left, m_levels.back()))
+            restoreMode(left);
+    }
+
+    bool removeEmpty(const Level &level, Level &parent)
+    {
         if ((!parent.fd.isValid() && !reopen()) || !isInPlace(parent))
-            return;
+            return false;
         const int fd = parent.fd.get();
-        if (::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0) {
-            m_folders.noteRemoved(id);
-            return;
-        }
-        const int error = errno;
-        if (error == ENOENT)
-            return;
-        if (error == EACCES && makeWritable(fd)
-            && ::unlinkat(fd, name.constData(), AT_REMOVEDIR) == 0)
-            m_folders.noteRemoved(id);
-        else
+        int error = 0;
+        if (::unlinkat(fd, level.name.constData(), AT_REMOVEDIR) != 0)
+            error = errno;
+        if (error == EACCES && makeWritable(parent)
+            && ::unlinkat(fd, level.name.constData(), AT_REMOVEDIR) == 0)
+            error = 0;
+        if (error == 0)
+            m_folders.noteRemoved(level.id);
+        else if (error != ENOENT)
             keepFirstError(error);
+        return error == 0 || error == ENOENT;
     }
 
     // Opens the deepest levels again, at most maximumOpenLevels. The first is opened from the
@@ -310,6 +337,7 @@ private:
     FolderReader m_reader;
     UniqueFd m_root;
     std::vector<Level> m_levels;
+    Level m_top; ///< the removed folder itself, once it is empty
     PlaceGuard m_guard;
     bool m_wasMoved = false;
     bool m_hasReplacedFolder = false; ///< a folder inside was replaced; the new one stays

@@ -9,7 +9,10 @@
 #include <QTest>
 
 #ifndef Q_OS_WIN
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -256,6 +259,25 @@ private Q_SLOTS:
         QVERIFY(m_fixture->hasValue(userKey, u"a"_s));
         QVERIFY(m_fixture->hasValue(userKey, u"b"_s));
         // After the failure the files are read again.
+        QVERIFY(registry.deleteValue(Hive::CurrentUser, software, u"a"_s));
+        QVERIFY(registry.save());
+        QVERIFY(!m_fixture->hasValue(userKey, u"a"_s));
+    }
+
+    // Two runs at once: the second would put its older content over what the first has saved.
+    void whileAnotherRunSavesNothingIsWritten()
+    {
+        m_fixture->addText(userKey, u"a"_s, u"x"_s);
+        m_fixture->write();
+        const QString prefix = m_home.folder(u"prefix"_s);
+        const int other = ::open(QFile::encodeName(prefix).constData(), O_RDONLY | O_DIRECTORY);
+        QCOMPARE(::flock(other, LOCK_EX), 0);
+        Registry registry;
+        QVERIFY(registry.deleteValue(Hive::CurrentUser, software, u"a"_s));
+        QVERIFY(!registry.save());
+        QVERIFY2(registry.errorString().contains(prefix), qPrintable(registry.errorString()));
+        QVERIFY(m_fixture->hasValue(userKey, u"a"_s));
+        ::close(other);
         QVERIFY(registry.deleteValue(Hive::CurrentUser, software, u"a"_s));
         QVERIFY(registry.save());
         QVERIFY(!m_fixture->hasValue(userKey, u"a"_s));

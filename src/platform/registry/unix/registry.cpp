@@ -10,11 +10,14 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QSet>
+#include <QThread>
 
 #include <algorithm>
 #include <cerrno>
 #include <utility>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +45,28 @@ Stamp stampOf(const QString &path, QString &error)
 {
     const std::optional<FileStatus> status = examineFile(path, error);
     return status ? Stamp{true, status->st_ino, status->st_size, status->st_mtim} : Stamp{};
+}
+
+/// Keeps other runs of this program from replacing the prefix's files between a look at them and
+/// their replacement. Such a run would undo what the other has just saved. The lock ends with the
+/// returned handle, also when the process is killed, and leaves no file behind. If another run
+/// holds it for too long, @p error says so. A file system without locks is used without.
+UniqueFd lockPrefix(const QString &prefix, QString &error)
+{
+    constexpr int pause = 10; // milliseconds
+    constexpr int attempts = 500;
+    UniqueFd folder(
+        ::open(QFile::encodeName(prefix).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isValid())
+        return folder; // what is read or written below it has its own error
+    for (int i = 0; i < attempts; ++i) {
+        if (::flock(folder.get(), LOCK_EX | LOCK_NB) == 0
+            || (errno != EWOULDBLOCK && errno != EINTR))
+            return folder;
+        QThread::msleep(pause);
+    }
+    error = qt_error_string(EWOULDBLOCK);
+    return folder;
 }
 
 /// One registry file of the prefix as it was read. The Registry owns it.
@@ -382,6 +407,9 @@ bool Registry::save()
     }
     const QString prefix = wineprefix::folder();
     QString problem;
+    const UniqueFd lock = lockPrefix(prefix, problem);
+    if (!problem.isEmpty())
+        return finish(RegistryTexts::tr("%1 cannot be written: %2").arg(prefix, problem));
     const std::optional<bool> isInUse = isPrefixInUse(prefix, problem);
     if (!isInUse)
         return finish(RegistryTexts::tr("%1 cannot be read: %2").arg(prefix, problem));

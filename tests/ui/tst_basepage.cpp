@@ -403,6 +403,27 @@ private Q_SLOTS:
         QCOMPARE(categories(page).size(), 1);
     }
 
+    // The worker is still at its last item. When that is done, the list is emptied.
+    void nothingIsAskedAboutAListThatIsAboutToVanish()
+    {
+        setConfirm(false);
+        ScriptedEngine engine;
+        engine.found = {scriptedCategory(u"a"_s, 3)};
+        BasePage page;
+        showAndScan(page, engine);
+        engine.hold = true;
+        click(page, u"cleanBtn"_s);
+        engine.canCancel = false;
+        page.cancelOperation();
+        setConfirm(true);
+        const MessageBoxes boxes(QMessageBox::No);
+        click(page, u"cleanBtn"_s);
+        engine.hold = false;
+        QTRY_VERIFY_WITH_TIMEOUT(categories(page).isEmpty(), patience);
+        QCOMPARE(boxes.seen(), QStringList());
+        QCOMPARE(engine.cleans.load(), 1);
+    }
+
     void theQuestionIsAskedByDefault()
     {
         Application::instance()->settings()->remove(u"clean/confirmClean"_s);

@@ -202,7 +202,8 @@ void BasePage::startScan()
 
 void BasePage::startClean()
 {
-    if (!m_engine || isEngineBusy())
+    // The list of a clean that was cancelled will be emptied: there is nothing to ask about.
+    if (!m_engine || isEngineBusy() || m_isCleanPending)
         return;
     const int count = chosenCount();
     if (count == 0) {

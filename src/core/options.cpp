@@ -47,7 +47,8 @@ bool save(const QSettings &settings)
     // old object does not tell how this attempt has ended.
     QSettings sameFile(settings.fileName(), settings.format());
     sameFile.sync();
-    return sameFile.status() == QSettings::NoError;
+    // A line that could not be read does not keep the toolkit from writing the others.
+    return sameFile.status() != QSettings::AccessError;
 }
 
 } // namespace options

@@ -154,6 +154,27 @@ private Q_SLOTS:
         QCOMPARE(modeOf(file.fileName()), 0666);
     }
 
+    // The toolkit reports a line that it cannot read, and saves all the same.
+    void settingsWithAnOddLineAreSaved()
+    {
+        const QString path = settingsPath();
+        QFile::remove(path);
+        {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("no group\n=\n[clean]\nconfirmClean=false\n");
+        }
+        Application::instance()->initialize();
+        QSettings &settings = *Application::instance()->settings();
+        QVERIFY(!options::isOn(settings, options::confirmClean));
+        options::set(settings, options::minimizeToTray, true);
+        QVERIFY(options::save(settings));
+        const QSettings saved(path, QSettings::IniFormat);
+        QVERIFY(saved.value("general/minimizeToTray"_L1).toBool());
+        QVERIFY(!saved.value("clean/confirmClean"_L1, true).toBool());
+        QFile::remove(path);
+    }
+
     void aLinkThatComesLaterIsNotFollowedEither()
     {
         const QString path = settingsPath();

@@ -94,18 +94,25 @@ const Command *findCommand(const QStringList &words)
     return command == commands().end() ? nullptr : &*command;
 }
 
-ExitStatus refuseCommand(const QStringList &words)
+ParsedLine refused(const QString &reason)
+{
+    ParsedLine line;
+    line.refusal = reason;
+    return line;
+}
+
+ParsedLine refuseCommand(const QStringList &words)
 {
     if (words.isEmpty())
-        return refuse(u"a command is missing, for example 'scan junk'"_s);
+        return refused(u"a command is missing, for example 'scan junk'"_s);
     const QStringList nextWords = wordsAfter(words.constFirst());
     if (nextWords.isEmpty())
-        return refuse(u"there is no command '%1'"_s.arg(words.constFirst()));
-    return refuse(
+        return refused(u"there is no command '%1'"_s.arg(words.constFirst()));
+    return refused(
         u"'%1' needs one of these words: %2"_s.arg(words.constFirst(), nextWords.join(", "_L1)));
 }
 
-ExitStatus runCommand(const QCommandLineParser &parser)
+ParsedLine parseCommand(const QCommandLineParser &parser)
 {
     const QStringList words = parser.positionalArguments();
     const Command *command = findCommand(words);
@@ -116,20 +123,23 @@ ExitStatus runCommand(const QCommandLineParser &parser)
         if (!parser.isSet(option.name))
             continue;
         if (!command->options.testFlag(option.option))
-            return refuse(u"--%1 goes with '%2'"_s.arg(
+            return refused(u"--%1 goes with '%2'"_s.arg(
                 option.name, commandsTaking(option.option).join("' and '"_L1)));
         givenOptions.insert(option.option, parser.values(option.name));
     }
     const QStringList arguments = words.sliced(wordsOf(*command).size());
     if (arguments.size() < command->arguments.minimum
         || arguments.size() > command->arguments.maximum)
-        return refuse(u"the command is used as '%1'"_s.arg(command->help.form));
-    return command->run({arguments, givenOptions});
+        return refused(u"the command is used as '%1'"_s.arg(command->help.form));
+    ParsedLine line;
+    line.command = command;
+    line.invocation = {arguments, givenOptions};
+    return line;
 }
 
 } // namespace
 
-ExitStatus runCommandLine(const QStringList &arguments)
+ParsedLine parseCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(programHelp());
@@ -141,18 +151,30 @@ ExitStatus runCommandLine(const QStringList &arguments)
     parser.addPositionalArgument(u"argument"_s, u"an engine, a file, folders, or what to do"_s);
 
     if (!parser.parse(arguments))
-        return refuse(parser.errorText());
+        return refused(parser.errorText());
     // The parser adds --help-all by itself and does nothing about it.
-    // What the parser prints itself goes to a message box on Windows, where there is no console.
+    ParsedLine line;
     if (parser.isSet(help) || parser.isSet(u"help-all"_s))
-        return printText(parser.helpText());
-    if (parser.isSet(version))
-        return printText(u"%1 %2\n"_s.arg(QCoreApplication::applicationName(),
-                                          QCoreApplication::applicationVersion()));
+        line.text = parser.helpText();
+    else if (parser.isSet(version))
+        line.text = u"%1 %2\n"_s.arg(QCoreApplication::applicationName(),
+                                     QCoreApplication::applicationVersion());
+    else
+        return parseCommand(parser);
+    return line;
+}
 
+ExitStatus runCommandLine(const QStringList &arguments)
+{
+    const ParsedLine line = parseCommandLine(arguments);
+    // What the parser prints itself goes to a message box on Windows, where there is no console.
+    if (line.text)
+        return printText(*line.text);
+    if (!line.command)
+        return refuse(line.refusal);
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     Logger::instance().init(dataFolder + "/logs"_L1);
-    return runCommand(parser);
+    return line.command->run(line.invocation);
 }
 
 } // namespace cli

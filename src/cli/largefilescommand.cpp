@@ -3,6 +3,7 @@
 #include "largefilescanner.h"
 #include "output.h"
 #include "scanresult.h"
+#include "sizetext.h"
 #include "text.h"
 #include "waiting.h"
 
@@ -11,7 +12,6 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -49,26 +49,6 @@ void writeFiles(QTextStream &out, const LargeFileScanner &scanner,
     out << "Found %1 large files, %2, among %3 files\n"_L1.arg(
         QString::number(files.size()), formatSize(scanner.totalSize()),
         QString::number(scanner.filesScanned()));
-}
-
-// Nothing when the text is not a size or is less than one byte.
-std::optional<qint64> parseSize(const QString &text)
-{
-    static constexpr QLatin1StringView units("KMG");
-    QString digits = text;
-    int shift = 0;
-    if (!text.isEmpty()) {
-        const qsizetype unit = units.indexOf(text.back().toUpper());
-        if (unit >= 0) {
-            shift = 10 * (static_cast<int>(unit) + 1);
-            digits.chop(1);
-        }
-    }
-    bool isNumber = false;
-    const qint64 value = digits.toLongLong(&isNumber);
-    if (!isNumber || value < 1 || value > (std::numeric_limits<qint64>::max() >> shift))
-        return {};
-    return value << shift;
 }
 
 } // namespace

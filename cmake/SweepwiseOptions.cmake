@@ -6,7 +6,10 @@ target_compile_features(sweepwise_options INTERFACE cxx_std_20)
 target_compile_options(sweepwise_options INTERFACE
     -Wall -Wextra -Wpedantic -Werror
     -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual
-    -Wnull-dereference -Wduplicated-cond -Wlogical-op -Wuseless-cast)
+    -Wnull-dereference)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(sweepwise_options INTERFACE -Wduplicated-cond -Wlogical-op -Wuseless-cast)
+endif()
 target_compile_definitions(sweepwise_options INTERFACE
     QT_NO_CAST_FROM_ASCII
     QT_NO_CAST_TO_ASCII
@@ -33,6 +36,11 @@ endif()
 # It needs an optimised build, as all presets are. A sanitizer checks the same calls itself.
 if(NOT SWEEPWISE_SANITIZE)
     target_compile_options(sweepwise_options INTERFACE -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+endif()
+
+# The fuzzers steer by the branches that an input takes.
+if(SWEEPWISE_BUILD_FUZZERS)
+    target_compile_options(sweepwise_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 if(SWEEPWISE_SANITIZE)

@@ -9,7 +9,7 @@ import stat
 import subprocess
 from dataclasses import dataclass
 
-patience = 30  # seconds that a program may take before it counts as hanging
+patience = 120  # seconds that a program may take before it counts as hanging
 canary_count = 10_000
 
 

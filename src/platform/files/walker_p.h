@@ -142,7 +142,7 @@ public:
     void run()
     {
         m_walk.queue.process(
-            [this](const auto &waiting, Position position) { open(waiting, position); });
+            [this](const auto &waiting, Position position) { this->open(waiting, position); });
     }
 
     void read(OpenFolder &folder, Position position, FolderPlace *place = nullptr)

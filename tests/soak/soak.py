@@ -7,6 +7,7 @@ round is played again with --only ROW --round NUMBER.
 
 import argparse
 import multiprocessing
+import multiprocessing.connection
 import os
 import pathlib
 import secrets

@@ -202,8 +202,7 @@ void BasePage::startScan()
 
 void BasePage::startClean()
 {
-    // The list of a clean that was cancelled will be emptied: there is nothing to ask about.
-    if (!m_engine || isEngineBusy() || m_isCleanPending)
+    if (!canAskToClean())
         return;
     const int count = chosenCount();
     if (count == 0) {
@@ -248,7 +247,12 @@ void BasePage::runClean()
 // arrives.
 bool BasePage::canClean() const
 {
-    return !isEngineBusy() && isResultShown() && !m_isCleanPending;
+    return canAskToClean() && isResultShown();
+}
+
+bool BasePage::canAskToClean() const
+{
+    return m_engine && !isEngineBusy() && !m_isCleanPending;
 }
 
 void BasePage::onStateChanged(CleanEngine::State state)

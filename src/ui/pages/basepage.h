@@ -87,6 +87,9 @@ protected:
     /// The number of items that a clean would take now. It is 0 while no result is listed: a
     /// cancelled scan leaves records that the user has not seen.
     [[nodiscard]] int chosenCount() const;
+    /// Whether the user may be asked to clean. Not while the engine works. After a cancelled clean
+    /// not before its list is emptied: that is not the list to ask about.
+    [[nodiscard]] bool canAskToClean() const;
     /// Whether the listed items may be cleaned now.
     [[nodiscard]] bool canClean() const;
     /// The last step of every clean: opens the progress dialog and starts the engine, if canClean()
@@ -94,7 +97,6 @@ protected:
     void runClean();
     /// Replaces any earlier progress dialog by one for a new run, and locks the buttons.
     ProgressDialog *openProgressDialog(ProgressDialog::Mode mode);
-    [[nodiscard]] bool isEngineBusy() const;
 
 private:
     void onStateChanged(CleanEngine::State state);
@@ -108,6 +110,7 @@ private:
     void orderFocus() const;
     /// What is checked of the listed records.
     [[nodiscard]] Selection shownSelection() const;
+    [[nodiscard]] bool isEngineBusy() const;
     [[nodiscard]] bool isResultShown() const { return !m_resultWidgets.isEmpty(); }
 
     CleanEngine *m_engine = nullptr;

@@ -30,7 +30,7 @@ void RegistryPage::retranslateUi()
 
 void RegistryPage::startClean()
 {
-    if (!engine() || isEngineBusy())
+    if (!canAskToClean())
         return;
     const int count = chosenCount();
     if (count == 0) {
